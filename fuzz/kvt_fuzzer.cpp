@@ -1,0 +1,47 @@
+// Any bytes as a parameter file: opened in each cone window, built, exported and saved again. What was saved must
+// load to the same file.
+#include <cstdlib>
+#include <string>
+
+#include "tests/support/test_shell.h"
+
+namespace {
+
+using namespace korvet;
+
+/// More segments only take more time: the reader's own limit is tested elsewhere.
+constexpr int MostSegs = 500;
+
+void LoadAndSave(const std::string& text, const std::string& category) {
+    TestShell shell;
+    AcceptExports(shell.ui);
+    const auto window = NewFitting(shell.context, category, nullptr);
+    shell.files.Write("in.Kvt", text, Flush::No);
+    if (!window->FillFromFile("in.Kvt") || window->settings.segs > MostSegs) {
+        return;
+    }
+    window->UpdateFitting();
+    window->ZoomExtents();
+    window->Export("out.dxf", ExportMode::Dxf);
+    if (!window->SaveFile("out.Kvt")) {
+        return;
+    }
+    const std::string saved = shell.files.Read("out.Kvt", std::string::npos);
+    const auto again = NewFitting(shell.context, category, nullptr);
+    if (!again->FillFromFile("out.Kvt")) {
+        std::abort();
+    }
+    again->UpdateFitting();
+    if (again->hasModel && again->SaveFile("again.Kvt") && shell.files.Read("again.Kvt", std::string::npos) != saved) {
+        std::abort();
+    }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string text(reinterpret_cast<const char*>(data), size);
+    LoadAndSave(text, "Right Cone");
+    LoadAndSave(text, "Truncated Right Cone");
+    return 0;
+}

@@ -1,0 +1,39 @@
+# Sourced by ./run and ./test: installs what a fresh Debian 12 lacks.
+
+BUILD_PACKAGES="g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev libcli11-dev fonts-liberation fonts-dejavu-core"
+TEST_PACKAGES="libgtest-dev libgmock-dev libbenchmark-dev python3 python3-ezdxf clang clang-format libclang-rt-14-dev"
+
+say() { printf '==> %s\n' "$*"; }
+
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
+}
+
+# install_missing PACKAGE...: installs those of the packages that are not there.
+install_missing() {
+    missing=""
+    for package in "$@"; do
+        dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing="$missing $package"
+    done
+    if [ -z "$missing" ]; then
+        say "All needed packages are installed."
+        return
+    fi
+    if [ "$(id -u)" -ne 0 ] && ! command -v sudo >/dev/null; then
+        say "These packages are missing, and only root or sudo can install them:$missing"
+        exit 1
+    fi
+    say "Installing with apt-get:$missing"
+    as_root apt-get -o DPkg::Lock::Timeout=600 update -qq
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get -o DPkg::Lock::Timeout=600 install -y -qq \
+        --no-install-recommends $missing >/dev/null
+}
+
+# build PRESET [OPTION...]: configures and builds one preset.
+build() {
+    preset=$1
+    shift
+    say "Building ($preset)"
+    cmake --preset "$preset" "$@" >/dev/null
+    cmake --build --preset "$preset" -- --quiet
+}

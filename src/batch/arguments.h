@@ -1,0 +1,61 @@
+// The command line of korvet-batch.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace korvet::batch {
+
+/// The command line asks for something that can't be; what() says what. Ends in exit status 2.
+class UsageError : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+enum class ViewChoice : std::uint8_t { AsSaved, Model, Pattern };
+
+struct PictureSize {
+    int width = 800;
+    int height = 600;
+};
+
+struct Arguments {
+    std::vector<std::string> inputs;  ///< parameter files
+    std::string newCategory;          ///< a new window instead of a file
+    int type = 0;                     ///< of the new window, from 1; 0 is the type it opens with
+    bool sample = false;              ///< fill the new window with the sample sizes of its type
+    int select = 0;                   ///< pattern option, from 1; 0 leaves it
+    std::vector<std::pair<std::string, std::string>> sets;
+    ViewChoice view = ViewChoice::AsSaved;
+    std::string settings;  ///< options file
+    bool list = false;
+
+    std::string json;  ///< "-" is standard output
+    std::string dxf;
+    std::string save;
+    std::string png;
+    std::string svg;
+    PictureSize size;
+
+    bool polylines = false;  ///< what goes into the DXF, beyond what the dialog would offer
+    bool mesh = false;
+    bool diagonals = false;
+    bool dimensions = false;
+    bool label = false;
+};
+
+/// Reads the command line. Nothing when it only asked for help, which has then been printed. Throws
+/// UsageError.
+std::optional<Arguments> ParseArguments(int argc, const char* const* argv);
+
+/// The path of an output for one input: `pattern` with each {name} replaced.
+std::string OutputPath(const std::string& pattern, const std::string& name);
+
+/// The name that {name} stands for: the file's name without folder and suffix, or the new window's category.
+std::string InputName(const Arguments& arguments, const std::string& input);
+
+}  // namespace korvet::batch

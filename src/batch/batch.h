@@ -1,0 +1,14 @@
+// The work of korvet-batch: the windows of the program, driven from the command line.
+#pragma once
+
+#include "batch/arguments.h"
+
+namespace korvet::batch {
+
+/// Exit statuses of the program.
+enum ExitStatus : int { Done = 0, Refused = 1, WrongUsage = 2 };
+
+/// Does what the command line asks for and returns the exit status. Messages go to the standard error.
+int Run(const Arguments& arguments);
+
+}  // namespace korvet::batch

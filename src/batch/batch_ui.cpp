@@ -1,0 +1,83 @@
+#include "batch/batch_ui.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <iostream>
+
+#include "core/number_text.h"
+#include "core/text_encoding.h"
+
+namespace korvet::batch {
+namespace {
+
+bool AreEqual(const MessageBox& a, const MessageBox& b) {
+    return a.text == b.text && a.title == b.title && a.box == b.box && a.detail == b.detail;
+}
+
+}  // namespace
+
+void BatchUi::BeginInput(const std::string& name) {
+    name_ = name;
+    messages_.clear();
+    firstOfOutputs_ = std::string::npos;
+}
+
+void BatchUi::ClearProgress() {
+    if (progressShown_) {
+        std::cerr << "\r\033[K" << std::flush;
+        progressShown_ = false;
+    }
+}
+
+void BatchUi::PrintLine(const std::string& text) {
+    ClearProgress();
+    std::cerr << text << '\n';
+}
+
+void BatchUi::ShowProgress(std::size_t number, std::size_t count, const std::string& name) {
+    if (count > 1 && isatty(STDERR_FILENO) != 0) {
+        std::cerr << "\r\033[K" << number << " of " << count << "  " << name << std::flush;
+        progressShown_ = true;
+    }
+}
+
+Answer BatchUi::Show(const MessageBox& message) {
+    if (message.style == InformationBox) {
+        return Answer::Ok;
+    }
+    const auto isRepeated = [&](const MessageBox& earlier) { return AreEqual(earlier, message); };
+    const std::size_t first = std::min(firstOfOutputs_, messages_.size());
+    if (std::any_of(messages_.begin() + static_cast<std::ptrdiff_t>(first), messages_.end(), isRepeated)) {
+        return Answer::Cancel;
+    }
+    // A bad number is told as it is typed and told again by the build; one line says it.
+    const bool saidJustNow = !messages_.empty() && isRepeated(messages_.back());
+    messages_.push_back(message);
+    if (!saidJustNow) {
+        const std::string about = message.box ? "box " + std::to_string(*message.box) : message.control;
+        const std::string detail = message.detail.empty() ? "" : ": " + message.detail;
+        PrintLine(name_ + ": " + (about.empty() ? "" : about + ": ") +
+                  OnOneLine(std::string(Trimmed(message.text)) + detail));
+    }
+    return Answer::Cancel;
+}
+
+void BatchUi::RunModal(DxfOptionsDialog& dialog) {
+    if (arguments_.polylines) {
+        dialog.optPolyMode.selected = 1;
+    }
+    dialog.chkSurfaceMesh.checked = arguments_.mesh;
+    const std::array<std::pair<std::size_t, bool>, 3> ticks = {
+        {{DxfOptionsDialog::Diagonals, arguments_.diagonals},
+         {DxfOptionsDialog::Dimensions, arguments_.dimensions},
+         {DxfOptionsDialog::Label, arguments_.label}}};
+    for (const auto& [index, ticked] : ticks) {
+        if (ticked) {
+            dialog.chkDXFOutput.at(index).checked = true;
+        }
+    }
+    dialog.lblStatus = "OK";
+}
+
+}  // namespace korvet::batch

@@ -1,0 +1,19 @@
+// The --set options: values that go into a window before it is built.
+#pragma once
+
+#include <string>
+#include <utility>
+
+#include "shell/fitting_window.h"
+
+namespace korvet::batch {
+
+/// Whether `name` can be set in some window. An unknown name is wrong usage whatever the input.
+bool IsSettableName(const std::string& name);
+
+/// Puts one value into the window: a box (box3), comment1, comment2, textsize, a pattern setting or an
+/// annotation request by its member name, an option group by index or "none". False after a message when the
+/// value is not one for its place. Throws UsageError when the window has no such place.
+bool SetValue(CFittingWindow& window, const std::string& name, const std::string& value);
+
+}  // namespace korvet::batch

@@ -1,0 +1,44 @@
+// Everything about a pattern that is not a dimension of the fitting: material, seam, laps, segments, kerf.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace korvet {
+
+/// Which laps a fitting has, bit by bit: 1 the List1 side, 2 the seam, 4 the List2 side.
+enum LapMask : std::int16_t { NoLaps = 0, SeamLapOnly = 2, AllLaps = 7 };
+
+/// The settings of one fitting window, with what the settings dialog may offer for its fitting.
+struct CPatternSettings {
+    double LapSize0 = 0;
+    double LapSize1 = 0;
+    double LapSize2 = 0;
+    bool HalfPatternDisable = false;    ///< the dialog forces and greys a full pattern
+    bool BranchMaterialEnable = false;  ///< the dialog shows the two-thickness frame
+    bool MaterialDisable = false;       ///< the single-material frame is greyed
+    bool TemplateTypeEnabled = false;   ///< template options are offered
+    std::int16_t TemplateType = 0;      ///< 0 mean thickness, 1 wraps around the outside diameter
+    std::string PositionString = "mean";
+    bool KerfEnabled = false;
+    double KerfSpacing = 0;
+    std::int16_t LapEnable = NoLaps;  ///< a LapMask
+    std::int16_t JoinType = 0;        ///< 0 butt, 1 lap
+    bool JoinAngleDisable = false;    ///< the seam angle is greyed
+    std::int16_t InOutMean = 0;       ///< a MaterialSide: 0 mean, 1 inside, 2 outside
+    bool HalfPattern = false;
+    std::int16_t NoOfSides = 0;  ///< sides of a polygonal section, 0 for round ones
+    double JoinAngle = 0;        ///< seam angle in degrees, as the user sees it
+    int segs = 24;               ///< number of fold lines of a full pattern
+    double Thickness = 0;
+    double ThicknessA = 0;  ///< thickness of the first section (the branch pipe)
+    double ThicknessB = 0;  ///< thickness of the second section (the trunk pipe)
+};
+
+/// The word for a MaterialSide: "mean", "inside" or "outside".
+const char* PositionWord(std::int16_t inOutMean);
+
+/// The line for the status bar: segments, thickness and join angle.
+std::string StatusString(const CPatternSettings& settings, char decimalMark);
+
+}  // namespace korvet

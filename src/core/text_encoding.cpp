@@ -1,0 +1,120 @@
+#include "core/text_encoding.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+namespace korvet {
+namespace {
+
+/// Code points of the bytes 0x80 to 0x9F in Windows-1252; the five bytes without a character stand for
+/// themselves.
+constexpr std::array<char32_t, 32> Windows1252 = {
+    0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x8D,   0x017D, 0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
+
+/// The code points of a UTF-8 text, or nothing when it is not valid (overlong forms and surrogates are not).
+std::optional<std::u32string> CodePoints(std::string_view text) {
+    std::u32string points;
+    for (std::size_t i = 0; i < text.size();) {
+        const auto lead = static_cast<unsigned char>(text[i]);
+        const std::size_t length = lead < 0x80   ? 1
+                                   : lead < 0xC2 ? 0
+                                   : lead < 0xE0 ? 2
+                                   : lead < 0xF0 ? 3
+                                   : lead < 0xF5 ? 4
+                                                 : 0;
+        if (length == 0 || i + length > text.size()) {
+            return std::nullopt;
+        }
+        char32_t point = length == 1 ? lead : lead & (0xFFU >> (length + 1));
+        for (std::size_t k = 1; k < length; ++k) {
+            const auto next = static_cast<unsigned char>(text[i + k]);
+            if ((next & 0xC0U) != 0x80) {
+                return std::nullopt;
+            }
+            point = (point << 6U) | (next & 0x3FU);
+        }
+        constexpr std::array<char32_t, 5> Lowest = {0, 0, 0x80, 0x800, 0x10000};
+        if (point < Lowest[length] || point > 0x10FFFF || (point >= 0xD800 && point <= 0xDFFF)) {
+            return std::nullopt;
+        }
+        points.push_back(point);
+        i += length;
+    }
+    return points;
+}
+
+/// Appends one code point below 0x10000 as UTF-8.
+void AppendUtf8(std::string& text, char32_t point) {
+    if (point < 0x80) {
+        text.push_back(static_cast<char>(point));
+    } else if (point < 0x800) {
+        text.push_back(static_cast<char>(0xC0U | (point >> 6U)));
+        text.push_back(static_cast<char>(0x80U | (point & 0x3FU)));
+    } else {
+        text.push_back(static_cast<char>(0xE0U | (point >> 12U)));
+        text.push_back(static_cast<char>(0x80U | ((point >> 6U) & 0x3FU)));
+        text.push_back(static_cast<char>(0x80U | (point & 0x3FU)));
+    }
+}
+
+std::optional<char> Windows1252Byte(char32_t point) {
+    if (point < 0x80 || (point >= 0xA0 && point <= 0xFF)) {
+        return static_cast<char>(point);
+    }
+    const auto* const found = std::find(Windows1252.begin(), Windows1252.end(), point);
+    if (found == Windows1252.end()) {
+        return std::nullopt;
+    }
+    return static_cast<char>(0x80 + (found - Windows1252.begin()));
+}
+
+bool IsAscii(std::string_view text) {
+    return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+}  // namespace
+
+std::string DecodeText(std::string_view bytes) {
+    constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+    if (IsAscii(bytes)) {
+        return std::string(bytes);
+    }
+    if (CodePoints(bytes)) {
+        return std::string(bytes.substr(bytes.substr(0, 3) == ByteOrderMark ? 3 : 0));
+    }
+    std::string text;
+    text.reserve(bytes.size() * 2);
+    for (const char c : bytes) {
+        const auto byte = static_cast<unsigned char>(c);
+        AppendUtf8(text, byte >= 0x80 && byte < 0xA0 ? Windows1252[byte - 0x80U] : byte);
+    }
+    return text;
+}
+
+std::string EncodeText(std::string_view text) {
+    const auto points = IsAscii(text) ? std::nullopt : CodePoints(text);
+    if (!points) {
+        return std::string(text);
+    }
+    std::string bytes;
+    for (const char32_t point : *points) {
+        const auto byte = Windows1252Byte(point);
+        if (!byte) {
+            return std::string(text);
+        }
+        bytes.push_back(*byte);
+    }
+    return CodePoints(bytes) ? std::string(text) : bytes;
+}
+
+std::string OnOneLine(std::string_view text) {
+    std::string line{text};
+    std::replace_if(
+        line.begin(), line.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; }, ' ');
+    return line;
+}
+
+}  // namespace korvet

@@ -1,0 +1,79 @@
+// Port: what the drawing code needs of a screen, a sheet of paper or a picture file.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+
+namespace korvet {
+
+/// A 24-bit colour, blue-green-red: red is v & 255, green v >> 8 & 255, blue v >> 16 & 255.
+using Color = std::int32_t;
+
+inline constexpr Color Black = 0;
+inline constexpr Color Yellow = 65535;
+inline constexpr Color Cyan = 16776960;
+inline constexpr Color Red = 255;
+inline constexpr Color Green = 65280;
+inline constexpr Color Magenta = 16711935;
+
+enum class DrawStyle : std::uint8_t { Solid = 0, Dotted = 2 };
+
+struct Pen {
+    Color ForeColor = Black;
+    DrawStyle Style = DrawStyle::Solid;
+    int DrawWidth = 1;  ///< pixels
+    bool operator==(const Pen&) const = default;
+};
+
+struct PixelPoint {
+    std::int32_t x = 0;
+    std::int32_t y = 0;  ///< downwards
+    bool operator==(const PixelPoint&) const = default;
+};
+
+struct PixelSize {
+    double width = 0;
+    double height = 0;
+};
+
+/// The font of drawn text: always Arial, upright, not bold.
+struct TextFont {
+    int lfHeight = 0;  ///< character height in pixels, negative as fonts are asked for by cell-less height
+    int lfEscapement = 0;  ///< turn counter-clockwise, tenths of a degree
+    bool operator==(const TextFont&) const = default;
+};
+
+class DrawingDevice {
+  public:
+    DrawingDevice() = default;
+    DrawingDevice(const DrawingDevice&) = delete;
+    DrawingDevice& operator=(const DrawingDevice&) = delete;
+    virtual ~DrawingDevice() = default;
+
+    /// Clears the whole device to its back colour.
+    virtual void Cls(Color backColor) = 0;
+
+    /// Begins a page, so that it exists before the first line; nothing on a screen.
+    virtual void StartPage() = 0;
+
+    /// Drawable size in pixels, what world windows are laid over.
+    [[nodiscard]] virtual PixelSize ScaleSize() const = 0;
+
+    /// Outer size, used only for its ratio of height to width.
+    [[nodiscard]] virtual PixelSize OuterSize() const = 0;
+
+    /// Pixels to a logical inch in y (96 on a screen).
+    [[nodiscard]] virtual double LogicalDpiY() const = 0;
+
+    /// Width and height in pixels of a text in Arial of the given size in points.
+    [[nodiscard]] virtual PixelSize TextExtent(const std::string& text, double points) const = 0;
+
+    /// One call for a whole line through the points; nothing for fewer than two.
+    virtual void Polyline(const Pen& pen, std::span<const PixelPoint> points) = 0;
+
+    /// A text with the upper left corner of its unrotated box at `corner`, turned about that corner.
+    virtual void TextOut(const std::string& text, PixelPoint corner, const TextFont& font, Color color) = 0;
+};
+
+}  // namespace korvet

@@ -1,0 +1,53 @@
+#include "display/extent_frame.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace korvet {
+namespace {
+
+struct Box {
+    double minX, minY, maxX, maxY;
+};
+
+void TakeIn(std::optional<Box>& box, const C3DPoint& point) {
+    if (!box) {
+        box = {point.x, point.y, point.x, point.y};
+    }
+    box->minX = std::min(box->minX, point.x);
+    box->minY = std::min(box->minY, point.y);
+    box->maxX = std::max(box->maxX, point.x);
+    box->maxY = std::max(box->maxY, point.y);
+}
+
+}  // namespace
+
+const C3DPoints& PointsOf(const PointList& list) {
+    static const C3DPoints none;
+    return list ? *list : none;
+}
+
+C3DPoints BuildExtentFrame(const CRuleSurfs& surfaces, const CRuleSurfs& screenSurfaces) {
+    std::optional<Box> box;
+    if (surfaces.Count() > 0 && PointsOf(surfaces.Item(1).List1).Count() > 0) {
+        TakeIn(box, surfaces.Item(1).List1->Item(1));
+    }
+    for (const CRuleSurf& surface : screenSurfaces) {
+        const C3DPoints& list1 = PointsOf(surface.List1);
+        for (std::size_t i = 1; i <= list1.Count(); ++i) {
+            TakeIn(box, list1.Item(i));
+            TakeIn(box, PointsOf(surface.List2).Item(i));
+        }
+    }
+    C3DPoints frame;
+    if (box) {
+        frame.Add({box->minX, box->minY, 0, PlainStation});
+        frame.Add({box->maxX, box->minY, 0, PlainStation});
+        frame.Add({box->maxX, box->maxY, 0, PlainStation});
+        frame.Add({box->minX, box->maxY, 0, PlainStation});
+        frame.Add({box->minX, box->minY, 0, PlainStation});
+    }
+    return frame;
+}
+
+}  // namespace korvet

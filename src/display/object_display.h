@@ -1,0 +1,115 @@
+// Turns the current fitting into a picture, on the screen or on paper.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "core/dimensions.h"
+#include "core/fitting.h"
+#include "core/points.h"
+#include "core/rule_surf.h"
+#include "display/display_colors.h"
+#include "display/drawing.h"
+#include "display/drawing_device.h"
+#include "display/picking.h"
+#include "display/view_point.h"
+
+namespace korvet {
+
+/// The display of one fitting window. The window sets the members and calls DisplayObject after every change;
+/// nothing drawn is kept. Lengths are in the user's unit, angles radians. Without a device, or with one of no
+/// size, the surfaces are made and nothing is drawn. What a fitting or the arithmetic throws
+/// (ArithmeticError, ListError) goes through to the caller; an empty ViewList or no NewObject is a ListError.
+class CObjectDisplay {
+  public:
+    float TextSize = 2;                      ///< height of drawn text
+    int Decimals = 1;                        ///< places of every number drawn
+    DrawingDevice* DisplayDevice = nullptr;  ///< the window's drawing area, not owned
+    DrawingDevice* PrintDevice = nullptr;    ///< the printer, not owned
+    DisplayColors Colors;
+    std::shared_ptr<CViewList> ViewList = std::make_shared<CViewList>();  ///< the last view is current
+    double RotationAngle = 0;                                             ///< of the pattern
+    C3DPoint RotationPoint;                                               ///< centre of that rotation
+    C3DPoint MovePoint1;                 ///< the pattern moves from here, after the rotation
+    C3DPoint MovePoint2;                 ///< to here
+    std::optional<C3DPoint> LabelPoint;  ///< where the label block stands, if anywhere
+    std::shared_ptr<CLabels> LabelList = std::make_shared<CLabels>();
+    std::shared_ptr<CDimensions> DimensionList = std::make_shared<CDimensions>();
+    std::optional<FittingHandle> NewObject;  ///< the fitting
+    bool CoordTableRequested = false;
+    bool DiagonalsRequested = false;
+    bool CoordGridRequested = false;
+    bool FrameRequested = false;
+    bool TrueLengthsRequested = false;
+    bool Multiple = false;        ///< the fitting has a list of surfaces, not one surface
+    bool PrintRequested = false;  ///< this pass draws on the printer
+
+    // What a pass leaves behind.
+    CRuleSurfs Surfaces;                   ///< true surfaces; empty when the build made none
+    CRuleSurf Surface;                     ///< the single one of a fitting that has one
+    CViewPoint ViewPoint;                  ///< view of the pass
+    double WorldExtents = 200;             ///< world size that fills the shorter side of the device at zoom 1
+    std::vector<FittingWarning> Warnings;  ///< of the builds of the last DisplayObject, in their order
+
+    /// Where a pass draws: PrintDevice while PrintRequested, else DisplayDevice.
+    [[nodiscard]] DrawingDevice* Device() const { return PrintRequested ? PrintDevice : DisplayDevice; }
+
+    /// A whole pass: clears the screen, draws the pattern with its annotations or the model, whichever the
+    /// current view shows, and the label block. A grid or frame has the pattern made and drawn once more, so
+    /// that its own lines lie on top.
+    void DisplayObject();
+
+    /// Makes Surfaces for the current view without drawing: the pattern rotated and moved, or the model as
+    /// built. The fitting's own surfaces are not turned. Appends to Warnings.
+    void PrepareSurfaces();
+
+    /// Makes and draws the pattern, or the model, under the current view.
+    void DisplayPattern();
+    void DisplayModel();
+
+    /// Draws the label block at LabelPoint, which must be set, line below line.
+    void AddLabel() const;
+
+    /// Removes the dimension whose middle lies nearest to the point; those without two ends are passed over.
+    /// False when there is none.
+    bool DimRemove(double x, double y);
+
+    /// The nearest drawn point, however far away (FindClosestPoint in picking.h); the corners of the frame
+    /// compete when FrameRequested. Nothing when no point is drawn.
+    [[nodiscard]] std::optional<CNearestPoint> FindClosestPoint(const C3DPoint& click) const;
+
+    /// Adds a view that shows all that was drawn last, or the given window of it (corners in any order), with
+    /// a margin of one part in a hundred. No view is added for an area without width or height.
+    void ZoomExtents();
+    void ZoomWindow(double x1, double y1, double x2, double y2);
+
+    /// The surfaces as drawn last: projected for a model, the true ones for a pattern.
+    [[nodiscard]] const CRuleSurfs& ScreenSurfaces() const { return screenSurfaces_; }
+
+    /// The world scale that DisplayDevice had in its last pass; of width 0 before.
+    [[nodiscard]] const WorldWindow& DisplayWindow() const { return displayWindow_; }
+
+  private:
+    void SelectDevice() const;
+    void PreparePattern();
+    void PrepareModel();
+    void RunFitting(void (FittingHandle::*operation)() const);
+    void PlacePattern(CRuleSurf& surface) const;
+    void KeepSingleSurface();
+    void PrepareView();
+    void ApplyFitScale();
+    void DisplayAnnotations();
+    void BuildExtentFrame();
+    void ZoomToCorners(const C3DPoint& a, const C3DPoint& b);
+    [[nodiscard]] const FittingHandle& Fitting() const;
+    [[nodiscard]] WorldWindow& DeviceWindow();
+    [[nodiscard]] Drawing NewDrawing() const;
+
+    CRuleSurfs screenSurfaces_;
+    C3DPoints extentFrame_;      ///< of the latest pass that needed it
+    WorldWindow displayWindow_;  ///< of DisplayDevice
+    WorldWindow printWindow_;    ///< of PrintDevice
+};
+
+}  // namespace korvet

@@ -1,0 +1,60 @@
+// The text of a drawing file: group pairs, the form of numbers, and the entities that are made of them.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "core/points.h"
+
+namespace korvet {
+
+/// Which end of a text stands at its point (group 72).
+enum class TextJustification : int { Left = 0, Centre = 1, Right = 2 };
+
+/// Builds the text of an ASCII drawing file that has an ENTITIES section and nothing else. A group pair is
+/// the code on one line and the value on the next, each ended by CR LF. Layer names and texts are UTF-8 and
+/// go out as they are, but a control character in them becomes a blank, since a line break would tear the
+/// pair apart. Numbers are in general form with a point, a blank in front unless negative, and one blank
+/// behind; coordinates, radii and arc angles are rounded to 6 places, halves to even.
+///
+/// Points are in the user's unit. All operations throw ArithmeticError for a number that is not finite.
+class DxfStream {
+  public:
+    /// A text without any entity. `textSize` is the height of every TEXT, in the user's unit, and goes out
+    /// unrounded; `expectedBytes` only makes room.
+    explicit DxfStream(double textSize, std::size_t expectedBytes = 0);
+
+    /// The whole file: closes the section. The stream is empty afterwards.
+    [[nodiscard]] std::string Finish();
+
+    /// LINE from a to b.
+    void WriteLine(const C3DPoint& a, const C3DPoint& b, std::string_view layer);
+
+    /// ARC counter-clockwise from `start` to `end`. Its radius is the distance from the centre to `start`.
+    void WriteArc(const C3DPoint& start, const C3DPoint& end, const C3DPoint& centre, std::string_view layer);
+
+    /// TEXT at `point`, turned counter-clockwise by `angle` (radians; written in degrees, unrounded).
+    void WriteText(std::string_view text, const C3DPoint& point, double angle, std::string_view layer,
+                   TextJustification justification);
+
+    /// POLYLINE through all points of the list.
+    void WritePolyline(const C3DPoints& list, std::string_view layer);
+
+    /// Polygon mesh of 2 by n vertices: the first n points of `list1`, then of `list2`, n being the smaller
+    /// count, which is List1's own wherever the lists are as a surface has them.
+    void WriteMesh(const C3DPoints& list1, const C3DPoints& list2, std::string_view layer);
+
+  private:
+    void WriteWord(int code, std::string_view word);
+    void WriteNumber(int code, double value);
+    void WriteRounded(int code, double value);
+    void WritePoint(int xCode, const C3DPoint& point);
+    void WriteEntity(std::string_view name, std::string_view layer);
+    void WriteVertex(const C3DPoint& point, std::string_view layer);
+
+    double textSize_;
+    std::string text_;
+};
+
+}  // namespace korvet

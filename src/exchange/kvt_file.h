@@ -1,0 +1,88 @@
+// The parameter file (*.Kvt): what the user typed, the settings and the view, never the model itself.
+#pragma once
+
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "core/dimensions.h"
+#include "core/file_store.h"
+#include "core/pattern_settings.h"
+#include "core/points.h"
+#include "display/view_point.h"
+
+namespace korvet {
+
+/// A parameter file that can't be read; what() names the line and says what is wrong with it.
+class ParameterFileError : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+/// The file was written by another product.
+class ForeignProductError : public ParameterFileError {
+  public:
+    using ParameterFileError::ParameterFileError;
+};
+
+/// The controls of a fitting window as a file holds them. Each list has the window's count of such controls.
+/// For saving every item is set; after loading an item is set where the file had a value for it.
+struct KvtControls {
+    std::vector<std::optional<std::string>> txtParameter;
+    std::vector<std::optional<bool>> optTopAngle;
+    std::vector<std::optional<bool>> optBaseAngle;
+    std::vector<std::optional<bool>> optPatternSelect;
+    std::vector<std::optional<bool>> optFlushSide;
+};
+
+struct CKvtFile {
+    std::string Comment1;
+    std::string Comment2;
+    std::string Version;  ///< of the file that was read, "3.3.3"
+    int VersionNo = 0;    ///< its three digits
+    int SubVersion = 0;
+    int SubVersionIndex = 0;
+    std::optional<CDimensions> DimensionList;  ///< stays unset when a file holds no dimension
+    bool TrueLengthsRequested = false;
+    bool CoordTableRequested = false;
+    bool CoordGridRequested = false;
+    bool DiagonalsRequested = false;
+    bool FrameRequested = false;
+    std::optional<C3DPoint> LabelPoint;
+    C3DPoint MovePoint1;
+    C3DPoint MovePoint2;
+    C3DPoint RotationPoint;
+    double RotationAngle = 0;  ///< radians
+    std::string Product;
+    std::string Category;  ///< catalogue name of the fitting
+    CPatternSettings PatternSettings;
+    CViewPoint ViewPoint;
+    int Dtype = 0;
+    std::string FileName;
+    KvtControls Controls;
+
+    /// The whole file as text, CR LF at the end of each line; numbers with the given decimal mark.
+    [[nodiscard]] std::string Compose(char decimalMark) const;
+
+    /// Composes the file and puts it in the place of FileName in one step, flushed to the disk. Throws
+    /// FileError.
+    void SaveFile(FileStore& files, char decimalMark) const;
+
+    /// Reads FileName from the header to the comments into the members; Controls must have the window's
+    /// counts. PatternSettings and ViewPoint start anew, with `defaultSegs` segments. After an error
+    /// everything that was read before it stands in the members. Throws FileError, ForeignProductError and
+    /// ParameterFileError.
+    void LoadFile(const FileStore& files, char decimalMark, int defaultSegs);
+
+    /// The same from the text of a file.
+    void Parse(const std::string& text, char decimalMark, int defaultSegs);
+
+    /// Reads only the header of FileName: Product, the version and Category. For choosing the window.
+    void ReadHeader(const FileStore& files);
+
+    /// The same from the text of a file.
+    void ParseHeader(const std::string& text);
+};
+
+}  // namespace korvet

@@ -1,0 +1,313 @@
+#include <algorithm>
+#include <array>
+
+#include "core/constants.h"
+#include "core/number_text.h"
+#include "core/text_encoding.h"
+#include "exchange/kvt_file.h"
+
+namespace korvet {
+namespace {
+
+/// No parameter file comes near this; what does is none.
+constexpr std::size_t LargestFile = 16U << 20U;
+
+/// A number whose 15 digits are those of one of the program's angles is that angle, to the last bit: a plan
+/// view is still a plan view after loading.
+double Snapped(double value) {
+    for (const double literal : AngleLiterals) {
+        for (const double angle : {literal, -literal}) {
+            // Most numbers are nowhere near, and are spared the comparison of texts.
+            if (std::abs(value - angle) < 1e-12 && NumberText(value) == NumberText(angle)) {
+                return angle;
+            }
+        }
+    }
+    return value;
+}
+
+/// The lines of a parameter file, with the number of the last one for messages.
+class KvtLines {
+  public:
+    KvtLines(std::string_view text, char decimalMark) : rest_(text), decimalMark_(decimalMark) {}
+
+    /// The next line without the blanks around it; an empty one at the end of the file.
+    std::string_view ReadLine() {
+        if (rest_.empty()) {
+            ended_ = true;
+            return {};
+        }
+        ++number_;
+        const std::size_t end = std::min(rest_.find('\n'), rest_.size());
+        const std::string_view line = rest_.substr(0, end);
+        rest_.remove_prefix(std::min(end + 1, rest_.size()));
+        return Trimmed(line);
+    }
+
+    /// Drops lines up to and with `marker`. False when the file ends before it.
+    bool SkipTo(std::string_view marker) {
+        while (!rest_.empty()) {
+            if (ReadLine() == marker) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    double ReadNumber() { return Number(ReadLine()); }
+
+    /// The number in a line that has been read.
+    double Number(std::string_view line) {
+        const auto value = ParseNumber(line, decimalMark_);
+        return value ? Snapped(*value) : Refuse<double>(line, "a number");
+    }
+
+    int ReadInteger(int lowest, int highest) { return Integer(ReadLine(), lowest, highest); }
+
+    int Integer(std::string_view line, int lowest, int highest) {
+        const auto value = ParseWholeNumber(line, lowest, highest);
+        return value ? *value
+                     : Refuse<int>(line, "a whole number from " + std::to_string(lowest) + " to " +
+                                             std::to_string(highest));
+    }
+
+    std::int16_t ReadShort(int lowest = -32768, int highest = 32767) {
+        return static_cast<std::int16_t>(ReadInteger(lowest, highest));
+    }
+
+    bool ReadBoolean() {
+        const std::string_view line = ReadLine();
+        const auto value = Boolean(line);
+        if (value) {
+            return *value;
+        }
+        // Some files hold the numbers behind the words.
+        const auto number = ParseWholeNumber(line, -1, 0);
+        return number ? *number != 0 : Refuse<bool>(line, "True or False");
+    }
+
+    /// True or False in any case, or nothing.
+    static std::optional<bool> Boolean(std::string_view line) {
+        if (EqualIgnoringCase(line, "True")) {
+            return true;
+        }
+        return EqualIgnoringCase(line, "False") ? std::optional<bool>(false) : std::nullopt;
+    }
+
+    C3DPoint ReadPoint() {
+        C3DPoint point;
+        point.x = ReadNumber();
+        point.y = ReadNumber();
+        point.z = ReadNumber();
+        return point;
+    }
+
+    /// Whether the decimal mark of the file makes the line a number.
+    [[nodiscard]] bool IsNumber(std::string_view line) const {
+        return ParseNumber(line, decimalMark_).has_value();
+    }
+
+    [[noreturn]] void RefuseEnd(std::string_view missing) const {
+        throw ParameterFileError("line " + std::to_string(number_ + 1) + ": the file ends before \"" +
+                                 std::string(missing) + "\"");
+    }
+
+  private:
+    template <typename T>
+    [[noreturn]] T Refuse(std::string_view line, const std::string& wanted) const {
+        if (ended_) {
+            throw ParameterFileError("line " + std::to_string(number_ + 1) + ": the file ends where " +
+                                     wanted + " should stand");
+        }
+        throw ParameterFileError("line " + std::to_string(number_) + ": \"" +
+                                 std::string(line.substr(0, 60)) + "\" is not " + wanted);
+    }
+
+    std::string_view rest_;
+    char decimalMark_;
+    int number_ = 0;
+    bool ended_ = false;
+};
+
+/// The digit at a position of the version, 0 when there is none.
+int VersionDigit(const std::string& version, std::size_t position) {
+    return position < version.size() && version[position] >= '0' && version[position] <= '9'
+               ? version[position] - '0'
+               : 0;
+}
+
+void ReadHeader(KvtLines& lines, CKvtFile& file) {
+    const std::string line{lines.ReadLine()};
+    file.Product = line.substr(0, ProductTitle.size());
+    file.Version = line.size() > ProductTitle.size() + 1 ? line.substr(ProductTitle.size() + 1) : "";
+    file.VersionNo = VersionDigit(file.Version, 0);
+    file.SubVersion = VersionDigit(file.Version, 2);
+    file.SubVersionIndex = VersionDigit(file.Version, 4);
+    if (file.Product != ProductTitle) {
+        throw ForeignProductError("line 1: \"" + line.substr(0, 60) + "\" does not begin with \"" +
+                                  std::string(ProductTitle) + "\"");
+    }
+    file.Category = lines.ReadLine();
+    file.Dtype = lines.ReadInteger(-32768, 32767);
+}
+
+void ReadView(KvtLines& lines, CKvtFile& file) {
+    lines.SkipTo("Start ViewPoint");
+    file.ViewPoint.AroundZ = lines.ReadNumber();
+    if (file.ViewPoint.AroundZ == 0.0) {
+        file.ViewPoint.AroundZ = -QuarterTurn;  // an old-style plan view
+    }
+    file.ViewPoint.FromXY = lines.ReadNumber();
+    file.ViewPoint.PanX = lines.ReadNumber();
+    file.ViewPoint.PanY = lines.ReadNumber();
+    file.ViewPoint.ZoomFactor = lines.ReadNumber();
+    file.ViewPoint.Patternview = lines.ReadBoolean();
+}
+
+void ReadSettings(KvtLines& lines, CKvtFile& file) {
+    CPatternSettings& settings = file.PatternSettings;
+    lines.SkipTo("Start Pattern Settings");
+    settings.Thickness = lines.ReadNumber();
+    settings.segs = lines.ReadInteger(MinSegs, MaxSegs);
+    settings.JoinAngle = lines.ReadNumber();
+    settings.JoinAngleDisable = lines.ReadBoolean();
+    settings.NoOfSides = lines.ReadShort();
+    settings.HalfPattern = lines.ReadBoolean();
+    settings.InOutMean = lines.ReadShort(0, 2);
+    for (int i = 0; i < 4; ++i) {
+        lines.ReadLine();  // 200, 150, the border and a blank: they carry nothing any more
+    }
+    settings.LapEnable = lines.ReadShort();
+    settings.JoinType = lines.ReadShort();
+    settings.LapSize0 = lines.ReadNumber();
+    // Each digit is asked for itself, so that a file of 4.0 counts as old.
+    const bool oneLap = file.SubVersion < 3 || file.VersionNo < 3;
+    settings.LapSize1 = oneLap ? settings.LapSize0 : lines.ReadNumber();
+    settings.LapSize2 = oneLap ? settings.LapSize0 : lines.ReadNumber();
+    settings.KerfSpacing = lines.ReadNumber();
+    settings.KerfEnabled = lines.ReadBoolean();
+    settings.PositionString = lines.ReadLine();
+    settings.TemplateType = lines.ReadShort();
+    settings.TemplateTypeEnabled = lines.ReadBoolean();
+}
+
+void ReadParameters(KvtLines& lines, CKvtFile& file) {
+    lines.SkipTo("Start Standard TextBoxes");
+    for (auto& text : file.Controls.txtParameter) {
+        text = std::string(lines.ReadLine());
+    }
+}
+
+/// Reads a section of option buttons, group after group. A line that is no Boolean ends its group, the end
+/// marker the whole section, so that no group eats the lines of the next section.
+void ReadOptions(KvtLines& lines, const std::string& name,
+                 std::initializer_list<std::vector<std::optional<bool>>*> groups) {
+    lines.SkipTo("Start " + name);
+    for (auto* group : groups) {
+        for (auto& value : *group) {
+            const std::string_view line = lines.ReadLine();
+            if (line == "End " + name) {
+                return;
+            }
+            value = KvtLines::Boolean(line);
+            if (!value) {
+                break;
+            }
+        }
+    }
+}
+
+void ReadPlacement(KvtLines& lines, CKvtFile& file) {
+    lines.SkipTo("Start Rotation");
+    file.RotationPoint = lines.ReadPoint();
+    file.RotationAngle = lines.ReadNumber();
+    lines.SkipTo("Start Move");
+    file.MovePoint1 = lines.ReadPoint();
+    file.MovePoint2 = lines.ReadPoint();
+}
+
+void ReadRequests(KvtLines& lines, CKvtFile& file) {
+    lines.SkipTo("Start Requests");
+    file.CoordGridRequested = lines.ReadBoolean();
+    file.CoordTableRequested = lines.ReadBoolean();
+    file.DiagonalsRequested = lines.ReadBoolean();
+    file.FrameRequested = lines.ReadBoolean();
+    file.TrueLengthsRequested = lines.ReadBoolean();
+}
+
+void ReadLabel(KvtLines& lines, CKvtFile& file) {
+    lines.SkipTo("Start LabelPoint");
+    const std::string_view first = lines.ReadLine();
+    if (lines.IsNumber(first)) {
+        C3DPoint point;
+        point.x = lines.Number(first);
+        point.y = lines.ReadNumber();
+        point.z = lines.ReadNumber();
+        file.LabelPoint = point;
+    }
+}
+
+void ReadDimensions(KvtLines& lines, CKvtFile& file) {
+    constexpr int Lowest = -1000000000;
+    constexpr int Highest = 1000000000;
+    lines.SkipTo("Start Dimensions");
+    CDimensions dimensions;
+    for (std::string_view line = lines.ReadLine(); line != "End Dimensions"; line = lines.ReadLine()) {
+        CDimension dimension;
+        dimension.PointNo1 = lines.Integer(line, Lowest, Highest);
+        for (int* part : {&dimension.PointNo2, &dimension.ListNo1, &dimension.ListNo2, &dimension.SurfaceNo1,
+                          &dimension.SurfaceNo2}) {
+            *part = lines.ReadInteger(Lowest, Highest);
+        }
+        dimensions.Add(dimension);
+    }
+    if (dimensions.Count() > 0) {
+        file.DimensionList = dimensions;
+    }
+}
+
+void ReadComments(KvtLines& lines, CKvtFile& file) {
+    lines.SkipTo("Start Comments");
+    file.Comment1 = lines.ReadLine();
+    file.Comment2 = lines.ReadLine();
+    // The last line of every file: without it the file has been cut short, and the comments with it.
+    if (!lines.SkipTo("End Comments")) {
+        lines.RefuseEnd("End Comments");
+    }
+}
+
+}  // namespace
+
+void CKvtFile::ParseHeader(const std::string& text) {
+    KvtLines lines(text, '.');
+    korvet::ReadHeader(lines, *this);
+}
+
+void CKvtFile::ReadHeader(const FileStore& files) {
+    ParseHeader(DecodeText(files.Read(FileName, LargestFile)));
+}
+
+void CKvtFile::Parse(const std::string& text, char decimalMark, int defaultSegs) {
+    KvtLines lines(text, decimalMark);
+    PatternSettings = CPatternSettings();
+    PatternSettings.segs = defaultSegs;
+    ViewPoint = CViewPoint();
+    korvet::ReadHeader(lines, *this);
+    ReadView(lines, *this);
+    ReadSettings(lines, *this);
+    ReadParameters(lines, *this);
+    ReadOptions(lines, "Angle Option Buttons", {&Controls.optTopAngle, &Controls.optBaseAngle});
+    ReadOptions(lines, "Pattern Select Option Buttons", {&Controls.optPatternSelect});
+    ReadOptions(lines, "Flush Side Option Buttons", {&Controls.optFlushSide});
+    ReadPlacement(lines, *this);
+    ReadRequests(lines, *this);
+    ReadLabel(lines, *this);
+    ReadDimensions(lines, *this);
+    ReadComments(lines, *this);
+}
+
+void CKvtFile::LoadFile(const FileStore& files, char decimalMark, int defaultSegs) {
+    Parse(DecodeText(files.Read(FileName, LargestFile)), decimalMark, defaultSegs);
+}
+
+}  // namespace korvet

@@ -1,0 +1,15 @@
+#include "form/message_boxes.h"
+
+#include "core/constants.h"
+
+namespace korvet {
+
+void ShowPlain(MessageBoxes& boxes, const std::string& text, const std::string& detail) {
+    boxes.Show({.text = text, .style = PlainBox, .title = std::string(ProductTitle), .detail = detail});
+}
+
+void ShowUserError(MessageBoxes& boxes, const std::string& text) {
+    boxes.Show({.text = text, .style = ExclamationBox, .title = "User Error"});
+}
+
+}  // namespace korvet

@@ -1,0 +1,76 @@
+// A fitting window is this table and one build function; everything else is the template that all windows
+// share.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+#include "core/fitting.h"
+#include "form/fitting_form.h"
+
+namespace korvet {
+
+/// One parameter box of a page.
+struct BoxEntry {
+    int index;                ///< in txtParameter; fixed, since files hold the boxes by it
+    std::string_view label;   ///< what the size means, with the unit where it is not a length
+    std::string_view sample;  ///< a realistic size; those of one page together make a valid fitting
+};
+
+/// One line of the text block: the label and then the text of the box as typed.
+struct LabelEntry {
+    std::string_view label;
+    int box;
+};
+
+/// The parameters of one type of a fitting. Page k is shown as Type k + 1.
+struct PageEntry {
+    std::span<const BoxEntry> boxes;
+    std::span<const LabelEntry> labels;  ///< in the order of the text block
+};
+
+struct WindowTable {
+    std::span<const PageEntry> pages;
+    FittingHandle (*newFitting)();
+
+    /// Checks the boxes of form.dtype in their fixed order and sets the fitting's own properties. False after
+    /// a failed check, which has shown its message.
+    bool (*buildFitting)(FittingForm& form, const FittingHandle& fitting);
+
+    /// What a change of type does to the settings; null when nothing.
+    void (*onTypeChanged)(std::int16_t dtype, CPatternSettings& settings) = nullptr;
+
+    std::int16_t firstDtype = 0;     ///< type shown at the start, from 0
+    bool multiple = false;           ///< the pattern consists of several pieces
+    std::int16_t miscellaneous = 0;  ///< selector handed to the fitting until an option is clicked
+    bool checksAllFields = true;     ///< every box of every type must hold a number before a build
+    bool positionLine = false;       ///< the text block says which line of the material sizes mean
+    bool joinAngleDisable = false;   ///< flags of the pattern settings at the start
+    bool halfPatternDisable = false;
+    bool templateTypeEnabled = false;
+    bool kerfEnabled = false;
+    bool materialDisable = false;
+    bool branchMaterialEnable = false;
+    std::int16_t inOutMean = MeanDimension;
+    bool angleOptions = false;                             ///< has optTopAngle and optBaseAngle
+    std::span<const std::string_view> patternSelect = {};  ///< captions of optPatternSelect
+    std::span<const std::string_view> flushSide = {};      ///< captions of optFlushSide
+
+    /// Number of parameter boxes of all pages together.
+    [[nodiscard]] constexpr std::size_t BoxCount() const {
+        std::size_t count = 0;
+        for (const PageEntry& page : pages) {
+            count += page.boxes.size();
+        }
+        return count;
+    }
+};
+
+/// The functions of a window's table for a fitting of class T, from a build function that knows the class.
+template <FittingClass T, bool (*Build)(FittingForm&, T&)>
+bool BuildAs(FittingForm& form, const FittingHandle& fitting) {
+    return Build(form, fitting.As<T>());
+}
+
+}  // namespace korvet

@@ -1,0 +1,21 @@
+// Lines cut to what a picture shows: a painter takes its time, or gives up, on points a million pixels away.
+#pragma once
+
+#include <span>
+#include <vector>
+
+#include "display/drawing_device.h"
+
+namespace korvet {
+
+struct PicturePoint {
+    double x = 0;
+    double y = 0;
+};
+
+/// The parts of the line through the points that lie within `margin` pixels about the rectangle from (0, 0)
+/// to the size, as lines of two or more points each.
+std::vector<std::vector<PicturePoint>> ClipLine(std::span<const PixelPoint> points, PixelSize size,
+                                                double margin);
+
+}  // namespace korvet

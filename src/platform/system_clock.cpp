@@ -1,0 +1,16 @@
+#include "platform/system_clock.h"
+
+#include <QDate>
+#include <QLocale>
+
+namespace korvet {
+
+std::string SystemClock::ShortDate() const {
+    return QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat).toStdString();
+}
+
+char SystemDecimalMark() {
+    return QLocale::system().decimalPoint() == QStringLiteral(",") ? ',' : '.';
+}
+
+}  // namespace korvet

@@ -1,0 +1,16 @@
+// The clock of the system the program runs on.
+#pragma once
+
+#include "shell/clock.h"
+
+namespace korvet {
+
+class SystemClock : public Clock {
+  public:
+    [[nodiscard]] std::string ShortDate() const override;
+};
+
+/// The decimal mark of the system's locale.
+char SystemDecimalMark();
+
+}  // namespace korvet

@@ -1,0 +1,66 @@
+// The small dialogs of a fitting window as plain models with their rules. A dialog was left with OK when its
+// lblStatus reads "OK"; any other text is Cancel.
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "core/dimensions.h"
+#include "form/controls.h"
+
+namespace korvet {
+
+/// Which annotations of a pattern are wanted.
+struct DimensionOptionsDialog {
+    enum Index : std::size_t { TrueLengths, Diagonals, CoordGrid, CoordTable, FrameAndArea };
+
+    std::array<CheckBox, 5> chkDimensions = {{{"True lengths "},
+                                              {"Diagonal distances"},
+                                              {"Coordinate grid"},
+                                              {"Coordinate table"},
+                                              {"Frame and area"}}};
+    std::string lblStatus;
+
+    /// A click on box `index`. Grid and table exclude each other: ticking one clears the other.
+    void Click(std::size_t index, bool checked);
+};
+
+/// The text block: its two comment lines, and whether it is shown on the drawing.
+struct LabelDialog {
+    static constexpr std::size_t EditableLines = 2;
+    static constexpr std::size_t FixedLines = 10;
+
+    std::string caption = "Label";
+    CheckBox chkDisplayLabel;
+    bool lblInstructionVisible = false;
+    std::array<TextBox, EditableLines> txtLabelItem;  ///< the comments, lines 1 and 2 of the block
+    std::vector<std::string> lblLabelItem;            ///< the lines behind them
+    int frame3Height = 0;                             ///< twips
+    std::string lblStatus;
+
+    /// Fills the dialog. The label is offered until it has been placed once; then its removal is. A block
+    /// longer than the dialog's lines shows its first ones.
+    void Load(const CLabels& labels, bool hasLabelPoint, bool labelSeen);
+};
+
+/// What goes into a DXF file.
+struct DxfOptionsDialog {
+    enum Index : std::size_t { Outlines, BendLines, Diagonals, Dimensions, Label };
+
+    std::string caption;        ///< "Exporting " and the file's name
+    std::string lblExportType;  ///< whether a pattern or a model goes out
+    OptionGroup optPolyMode{.captions = {"As arcs", "As polylines"}, .selected = 0};
+    std::array<CheckBox, 5> chkDXFOutput = {{{"Outlines", true, true},
+                                             {"Bend lines", true, true},
+                                             {"Diagonals", false, false},
+                                             {"Dimensions", false, false},
+                                             {"Label", false, false}}};
+    CheckBox chkSurfaceMesh{.caption = "Surface mesh"};
+    std::string lblStatus;
+
+    /// Ticks and enables box `index`, or clears and disables it.
+    void Offer(std::size_t index, bool offered);
+};
+
+}  // namespace korvet

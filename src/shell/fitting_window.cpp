@@ -1,0 +1,188 @@
+#include "shell/fitting_window.h"
+
+#include <cmath>
+
+#include "core/constants.h"
+#include "core/number_text.h"
+#include "shell/dialogs.h"
+#include "shell/form_services.h"
+#include "shell/views.h"
+
+namespace korvet {
+namespace {
+
+OptionGroup MakeOptions(std::span<const std::string_view> captions) {
+    return {std::vector<std::string>(captions.begin(), captions.end()), std::nullopt, true};
+}
+
+}  // namespace
+
+CFittingWindow::CFittingWindow(ShellContext& context, const CatalogueRow& row, DrawingDevice* drawingArea)
+    : dimensions(std::make_shared<CDimensions>()),
+      views(std::make_shared<CViewList>()),
+      category(row.category),
+      context_(context),
+      row_(&row),
+      goodTextSize_(context.options.DisplayTextSize) {
+    display.DisplayDevice = drawingArea;
+    InitialiseFitting();
+    SetupFittingWindow(*this);
+    edited = true;
+}
+
+/// The defaults of the window and the flags of its pattern settings.
+void CFittingWindow::InitialiseFitting() {
+    const WindowTable& table = Table();
+    settings.segs = context_.options.DefaultSegs;
+    settings.LapEnable = row_->lapEnable;
+    settings.JoinAngleDisable = table.joinAngleDisable;
+    settings.HalfPatternDisable = table.halfPatternDisable;
+    settings.TemplateTypeEnabled = table.templateTypeEnabled;
+    settings.KerfEnabled = table.kerfEnabled;
+    settings.MaterialDisable = table.materialDisable;
+    settings.BranchMaterialEnable = table.branchMaterialEnable;
+    settings.InOutMean = table.inOutMean;
+    settings.PositionString = PositionWord(table.inOutMean);
+    dtype = table.firstDtype;
+    miscellaneous = table.miscellaneous;
+    controls.Picture1.resize(table.pages.size());
+    controls.txtParameter.resize(table.BoxCount());
+    for (std::size_t i = 0; i < controls.txtParameter.size(); ++i) {
+        controls.txtParameter[i].name = "txtParameter_" + std::to_string(i);
+        controls.txtParameter[i].parameterIndex = static_cast<int>(i);
+    }
+    if (table.angleOptions) {
+        controls.optTopAngle = {{"X", "Y"}, 1, true};
+        controls.optBaseAngle = {{"X", "Y"}, 1, true};
+    }
+    controls.optPatternSelect = MakeOptions(table.patternSelect);
+    controls.optFlushSide = MakeOptions(table.flushSide);
+}
+
+FieldContext CFittingWindow::Fields() {
+    return {context_.ui, context_.options, context_.decimalMark, controls.focus};
+}
+
+void CFittingWindow::ChangeBox(std::size_t index, const std::string& text) {
+    TextBox& box = controls.txtParameter.at(index);
+    if (box.text == text) {
+        return;
+    }
+    box.text = text;
+    CheckFieldChange(Fields(), box);
+    box.textColor = Red;
+    edited = true;
+}
+
+void CFittingWindow::FocusBox(std::size_t index) {
+    TextBox& box = controls.txtParameter.at(index);
+    controls.focus = box.name;
+    SelectFieldText(box);
+}
+
+void CFittingWindow::ChangeTextSize(const std::string& text) {
+    controls.txtTextSize.text = text;
+    CheckFieldChange(Fields(), controls.txtTextSize);
+    controls.txtTextSize.textColor = Red;
+}
+
+void CFittingWindow::ClickView(int button) {
+    AddPresetView(button, *views);
+    UpdateFitting();
+    if (!hasModel) {
+        views->Remove(views->Count());
+    }
+}
+
+void CFittingWindow::ClickPoint(std::size_t index) {
+    if (!controls.btnPoint.at(index).enabled) {
+        return;
+    }
+    dtype = StepFittingType(*this, index, dtype);
+    if (Table().onTypeChanged != nullptr) {
+        Table().onTypeChanged(dtype, settings);
+    }
+}
+
+void CFittingWindow::ClickMore(std::size_t page) {
+    controls.Picture1.at(page).visible = false;
+    controls.pboxMore.at(page).visible = true;
+}
+
+void CFittingWindow::ClickBack(std::size_t page) {
+    controls.Picture1.at(page).visible = true;
+    controls.pboxMore.at(page).visible = false;
+}
+
+void CFittingWindow::SelectPattern(std::size_t index) {
+    controls.optPatternSelect.selected = index;
+    miscellaneous = static_cast<std::int16_t>(index + 1);
+}
+
+void CFittingWindow::PressKeyInDrawing() {
+    CancelMouseModes();
+    UpdateFitting();
+}
+
+void CFittingWindow::Resize(const Place& scale) {
+    controls.scale = scale;
+    ArrangeFittingWindow(*this);
+}
+
+void CFittingWindow::Activate() {
+    UpdateSettings(*this);
+}
+
+/// Clears every mouse mode but the removal of a dimension, which ends by itself.
+void CFittingWindow::CancelMouseModes() {
+    modes = MouseModes();
+    controls.pboxGraphicWindow.toolTip.clear();
+}
+
+bool CFittingWindow::CloseForm() {
+    if (ConfirmSave(*this) == static_cast<int>(Answer::Cancel)) {
+        return false;
+    }
+    context_.patternSettingsDialog = PatternSettingsDialog();
+    closed = true;
+    return true;
+}
+
+bool CFittingWindow::FillFromFile(const std::string& path) {
+    views = std::make_shared<CViewList>();
+    try {
+        const CKvtFile file = LoadFitting(*this, path);
+        comment1 = file.Comment1;
+        comment2 = file.Comment2;
+        return true;
+    } catch (const ForeignProductError& error) {
+        ShowPlain(context_.ui, context_.Message(NotAValidFile), error.what());
+        ShowPlain(context_.ui, context_.Message(ErrorLoading), error.what());
+    } catch (const std::exception& error) {
+        ShowPlain(context_.ui, context_.Message(ErrorLoading), error.what());
+    }
+    return false;
+}
+
+bool CFittingWindow::LoadFile(const std::string& path) {
+    if (!FillFromFile(path)) {
+        return false;
+    }
+    UpdateFitting();
+    ZoomExtents();
+    return true;
+}
+
+bool CFittingWindow::SaveFile(const std::string& path) {
+    if (RefuseWithoutModel()) {
+        return false;
+    }
+    UpdateFitting();
+    return SaveFitting(*this, path);
+}
+
+bool CFittingWindow::Export(const std::string& path, ExportMode mode) {
+    return !RefuseWithoutModel() && ExportFitting(*this, path, mode);
+}
+
+}  // namespace korvet

@@ -1,0 +1,39 @@
+#include "shell/frame_model.h"
+
+#include <array>
+#include <string_view>
+
+namespace korvet {
+namespace {
+
+constexpr std::array<std::string_view, 18> FittingMenus = {
+    "mnuZoomExtents", "mnuZoomOut",  "mnuZoomIn",     "mnuPan",       "mnuZoomWindow",  "mnuZoomPrevious",
+    "mnuProperties",  "mnuFileSave", "mnuFileSaveAs", "mnuFileClose", "mnuExportDXF",   "mnuExportHPGL",
+    "mnuDimension",   "mnuModify",   "mnuSendToAcad", "mnuFilePrint", "mnuPrintFrames", "mnuFilePageSetup"};
+
+constexpr std::array<int, 17> FittingTools = {3, 5, 6, 9, 11, 12, 13, 14, 16, 17, 19, 20, 21, 22, 23, 24, 27};
+
+constexpr int SelectFramesTool = 7;
+
+void SetFittingCommands(FrameModel& frame, bool enabled) {
+    for (const std::string_view menu : FittingMenus) {
+        frame.menuEnabled[std::string(menu)] = enabled;
+    }
+    for (const int tool : FittingTools) {
+        frame.toolEnabled[tool] = enabled;
+    }
+}
+
+}  // namespace
+
+void EnableFittingCommands(FrameModel& frame) {
+    SetFittingCommands(frame, true);
+}
+
+void DisableFittingCommands(FrameModel& frame) {
+    SetFittingCommands(frame, false);
+    frame.menuEnabled["mnuSelectFrames"] = false;
+    frame.toolEnabled[SelectFramesTool] = false;
+}
+
+}  // namespace korvet

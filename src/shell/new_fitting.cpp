@@ -1,0 +1,21 @@
+#include "shell/new_fitting.h"
+
+namespace korvet {
+
+std::unique_ptr<CFittingWindow> NewFitting(ShellContext& context, const std::string& category,
+                                           DrawingDevice* drawingArea) {
+    ++context.frame.documentCounter;
+    const CatalogueRow* row = FindCategory(category);
+    if (row == nullptr) {
+        return nullptr;
+    }
+    if (row->table == nullptr) {
+        ShowPlain(context.ui, "The fitting \"" + category + "\" is not built yet");
+        return nullptr;
+    }
+    auto window = std::make_unique<CFittingWindow>(context, *row, drawingArea);
+    window->controls.caption = "Development " + std::to_string(context.frame.documentCounter);
+    return window;
+}
+
+}  // namespace korvet

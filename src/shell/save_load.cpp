@@ -1,0 +1,168 @@
+#include "core/constants.h"
+#include "shell/form_services.h"
+
+namespace korvet {
+namespace {
+
+std::vector<std::optional<bool>> Values(const OptionGroup& group) {
+    std::vector<std::optional<bool>> values;
+    for (std::size_t i = 0; i < group.captions.size(); ++i) {
+        values.emplace_back(group.IsOn(i));
+    }
+    return values;
+}
+
+KvtControls ControlsOf(const WindowModel& controls) {
+    KvtControls kvt;
+    for (const TextBox& box : controls.txtParameter) {
+        kvt.txtParameter.emplace_back(box.text);
+    }
+    kvt.optTopAngle = Values(controls.optTopAngle);
+    kvt.optBaseAngle = Values(controls.optBaseAngle);
+    kvt.optPatternSelect = Values(controls.optPatternSelect);
+    kvt.optFlushSide = Values(controls.optFlushSide);
+    return kvt;
+}
+
+/// As many empty places as the window has controls, for a file to fill.
+KvtControls EmptyControls(const WindowModel& controls) {
+    KvtControls kvt;
+    kvt.txtParameter.resize(controls.txtParameter.size());
+    kvt.optTopAngle.resize(controls.optTopAngle.captions.size());
+    kvt.optBaseAngle.resize(controls.optBaseAngle.captions.size());
+    kvt.optPatternSelect.resize(controls.optPatternSelect.captions.size());
+    kvt.optFlushSide.resize(controls.optFlushSide.captions.size());
+    return kvt;
+}
+
+/// Turns a group's buttons on and off as the file says, in their order.
+template <typename Select>
+void SelectOptions(const std::vector<std::optional<bool>>& values, Select select) {
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        if (values[i].value_or(false)) {
+            select(i);
+        }
+    }
+}
+
+/// Fills the controls as if the user had typed and clicked.
+void FillControls(CFittingWindow& window, const KvtControls& kvt) {
+    for (std::size_t i = 0; i < kvt.txtParameter.size(); ++i) {
+        if (kvt.txtParameter[i]) {
+            window.ChangeBox(i, *kvt.txtParameter[i]);
+        }
+    }
+    SelectOptions(kvt.optTopAngle, [&](std::size_t i) { window.controls.optTopAngle.selected = i; });
+    SelectOptions(kvt.optBaseAngle, [&](std::size_t i) { window.controls.optBaseAngle.selected = i; });
+    SelectOptions(kvt.optPatternSelect, [&](std::size_t i) { window.SelectPattern(i); });
+    SelectOptions(kvt.optFlushSide, [&](std::size_t i) { window.controls.optFlushSide.selected = i; });
+}
+
+/// The settings of a file, with the flags that a file does not carry as the window sets them at its start.
+CPatternSettings WithWindowFlags(CPatternSettings settings, const WindowTable& table) {
+    settings.HalfPatternDisable = table.halfPatternDisable;
+    settings.MaterialDisable = table.materialDisable;
+    settings.BranchMaterialEnable = table.branchMaterialEnable;
+    return settings;
+}
+
+void TakeDisplayState(CFittingWindow& window, const CKvtFile& file) {
+    CObjectDisplay& display = window.display;
+    display.RotationAngle = file.RotationAngle;
+    display.RotationPoint = file.RotationPoint;
+    display.MovePoint1 = file.MovePoint1;
+    display.MovePoint2 = file.MovePoint2;
+    display.CoordGridRequested = file.CoordGridRequested;
+    display.CoordTableRequested = file.CoordTableRequested;
+    display.DiagonalsRequested = file.DiagonalsRequested;
+    display.FrameRequested = file.FrameRequested;
+    display.TrueLengthsRequested = file.TrueLengthsRequested;
+    display.LabelPoint = file.LabelPoint;
+    if (file.DimensionList) {
+        window.dimensions = std::make_shared<CDimensions>(*file.DimensionList);
+    }
+}
+
+void ShowPageOf(CFittingWindow& window, std::int16_t dtype) {
+    WindowModel& controls = window.controls;
+    for (std::size_t i = 0; i < controls.Picture1.size(); ++i) {
+        controls.Picture1[i].visible = controls.Picture1[i].enabled = static_cast<int>(i) == dtype;
+    }
+    controls.lblDtype.caption = std::to_string(dtype + 1);
+    EnableTypeButtons(window, dtype);
+}
+
+std::string LabelText(const std::shared_ptr<CLabels>& labels, std::size_t index) {
+    return labels && labels->Count() >= index ? labels->Item(index).LabelString : std::string();
+}
+
+}  // namespace
+
+bool SaveFitting(CFittingWindow& window, const std::string& path) {
+    const CObjectDisplay& display = window.display;
+    ShellContext& context = window.Context();
+    CKvtFile file;
+    file.FileName = path;
+    file.Category = window.category;
+    file.Dtype = window.dtype;
+    file.Controls = ControlsOf(window.controls);
+    file.PatternSettings = window.settings;
+    file.ViewPoint = window.views->Last();
+    file.RotationAngle = display.RotationAngle;
+    // The rotation point of a file is its first move point: readers of these files count on it.
+    file.RotationPoint = display.MovePoint1;
+    file.MovePoint1 = display.MovePoint1;
+    file.MovePoint2 = display.MovePoint2;
+    file.CoordGridRequested = display.CoordGridRequested;
+    file.CoordTableRequested = display.CoordTableRequested;
+    file.DiagonalsRequested = display.DiagonalsRequested;
+    file.FrameRequested = display.FrameRequested;
+    file.TrueLengthsRequested = display.TrueLengthsRequested;
+    file.LabelPoint = display.LabelPoint;
+    file.DimensionList = *window.dimensions;
+    file.Comment1 = LabelText(window.labels, 1);
+    file.Comment2 = LabelText(window.labels, 2);
+    try {
+        file.SaveFile(context.files, context.decimalMark);
+    } catch (const FileError& error) {
+        ShowPlain(context.ui, error.what());
+        return false;
+    }
+    window.controls.caption = path;
+    return true;
+}
+
+CKvtFile LoadFitting(CFittingWindow& window, const std::string& path) {
+    const ShellContext& context = window.Context();
+    CKvtFile file;
+    file.FileName = path;
+    file.Controls = EmptyControls(window.controls);
+    try {
+        file.LoadFile(context.files, context.decimalMark, context.options.DefaultSegs);
+    } catch (const ParameterFileError&) {
+        // What stood before the fault is not typed a second time.
+        FillControls(window, file.Controls);
+        throw;
+    }
+    const int types = static_cast<int>(window.controls.Picture1.size());
+    if (file.Dtype < 0 || file.Dtype >= types) {
+        throw ParameterFileError("line 3: type " + std::to_string(file.Dtype) +
+                                 " is none of this fitting's " + std::to_string(types));
+    }
+    FillControls(window, file.Controls);
+    window.dtype = static_cast<std::int16_t>(file.Dtype);
+    window.views->Add(file.ViewPoint);
+    window.settings = WithWindowFlags(file.PatternSettings, window.Table());
+    window.Context().patternSettingsDialog =
+        PatternSettingsDialog();  // it closes with the settings it showed
+    TakeDisplayState(window, file);
+    window.controls.caption = path;
+    UpdateSettings(window);
+    ShowPageOf(window, window.dtype);
+    if (window.Table().onTypeChanged != nullptr) {
+        window.Table().onTypeChanged(window.dtype, window.settings);
+    }
+    return file;
+}
+
+}  // namespace korvet

@@ -1,0 +1,39 @@
+// Port: everything a window asks of the user. The dialogs are plain models with their rules; the user
+// interface shows one, lets the user work on it and returns when it is closed.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "form/message_boxes.h"
+
+namespace korvet {
+
+struct DimensionOptionsDialog;
+struct DxfOptionsDialog;
+struct LabelDialog;
+struct OptionsDialog;
+struct PatternSettingsDialog;
+
+/// A file dialog.
+struct FileChoice {
+    std::string title;
+    std::string filter;  ///< description, an upright bar, and the pattern
+    bool save = false;   ///< asks for a name to write to, and before it replaces a file
+};
+
+class UserInterface : public MessageBoxes {
+  public:
+    /// The path chosen, or nothing after Cancel.
+    virtual std::optional<std::string> ChooseFile(const FileChoice& choice) = 0;
+
+    // Each shows its dialog modally. The dialog's lblStatus tells how it was left: "OK", or anything else for
+    // Cancel, Esc and the close box.
+    virtual void RunModal(PatternSettingsDialog& dialog) = 0;
+    virtual void RunModal(OptionsDialog& dialog) = 0;
+    virtual void RunModal(DimensionOptionsDialog& dialog) = 0;
+    virtual void RunModal(LabelDialog& dialog) = 0;
+    virtual void RunModal(DxfOptionsDialog& dialog) = 0;
+};
+
+}  // namespace korvet

@@ -1,0 +1,39 @@
+// The commands that manage the view history of a window.
+#pragma once
+
+#include "display/view_point.h"
+#include "form/message_boxes.h"
+#include "form/options.h"
+
+namespace korvet {
+
+/// Number of the pattern button among the view buttons; the others show the model.
+inline constexpr int PatternButton = 9;
+
+/// Appends the view of button 0 to 9: a copy of the last view (pan and zoom kept), or the default view when
+/// there is none, with the button's angles. Throws ListError for another number.
+void AddPresetView(int button, CViewList& views);
+
+/// A copy of the last view. Throws ListError when there is none.
+CViewPoint CopyCurrentView(const CViewList& views);
+
+/// Takes the last view away; the box "No Previous View" when it is the only one or there is none.
+void PreviousView(MessageBoxes& boxes, CViewList& views);
+
+/// Appends a copy of the last view with its zoom multiplied by `factor`. False, with message 81 shown, when
+/// the last zoom lies outside 0.0001 to 10000 as single precision.
+bool ZoomView(MessageBoxes& boxes, const COptions& options, double factor, CViewList& views);
+
+/// Whether a zoom window may be drawn on the last view, by the same limits and message as ZoomView.
+bool BeginZoomWindow(MessageBoxes& boxes, const COptions& options, const CViewList& views);
+
+/// Whether there is a view and the last one shows the pattern.
+bool InPatternView(const CViewList& views);
+
+/// InPatternView; a plain box with message 71 when not.
+bool RequirePatternView(MessageBoxes& boxes, const COptions& options, const CViewList& views);
+
+/// `value` in a pattern view; 0, with a plain box with message 71, otherwise.
+int RequirePatternViewValue(MessageBoxes& boxes, const COptions& options, const CViewList& views, int value);
+
+}  // namespace korvet

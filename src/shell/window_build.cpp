@@ -1,0 +1,124 @@
+// The update cycle of a fitting window: from typed text to a drawing.
+#include <algorithm>
+#include <cmath>
+
+#include "core/constants.h"
+#include "core/math_module.h"
+#include "core/number_text.h"
+#include "shell/fitting_window.h"
+#include "shell/form_services.h"
+
+namespace korvet {
+
+void CFittingWindow::UpdateFitting() {
+    if (views->Count() == 0) {
+        return;
+    }
+    try {
+        if (BuildFitting()) {
+            DevelopAndDisplay();
+        }
+    } catch (const std::exception& error) {
+        // A size so far out that the arithmetic ends: the window stays, with no model to save or print.
+        hasModel = false;
+        ShowPlain(context_.ui, "This fitting cannot be made with these sizes", error.what());
+    }
+}
+
+bool CFittingWindow::BuildFitting() {
+    hasModel = false;
+    if (Table().checksAllFields && !AllFieldsValid()) {
+        return false;
+    }
+    labels = std::make_shared<CLabels>();
+    labels->Add({comment1});
+    labels->Add({comment2});
+    if (!fitting) {
+        fitting = Table().newFitting();
+    }
+    FittingForm form(Fields(), controls.txtParameter, settings, dtype);
+    if (!Table().buildFitting(form, *fitting)) {
+        return false;
+    }
+    AddTextBlock();
+    fitting->Inputs().Dtype = dtype;
+    hasModel = true;
+    edited = false;
+    ResetFieldColours();
+    return true;
+}
+
+bool CFittingWindow::AllFieldsValid() {
+    const FieldContext fields = Fields();
+    return std::all_of(controls.txtParameter.begin(), controls.txtParameter.end(),
+                       [&](TextBox& box) { return IsNumericField(fields, box); }) &&
+           IsNumericField(fields, controls.txtTextSize);
+}
+
+/// The sizes as typed, then what the window's table asks for of the common lines.
+void CFittingWindow::AddTextBlock() {
+    for (const LabelEntry& line : Table().pages[static_cast<std::size_t>(dtype)].labels) {
+        labels->Add(
+            {std::string(line.label) + controls.txtParameter.at(static_cast<std::size_t>(line.box)).text});
+    }
+    labels->Add({context_.Message(ThicknessText) + NumberText(settings.Thickness, context_.decimalMark)});
+    if (Table().positionLine) {
+        labels->Add({context_.Message(DimensionsBasedOn) + settings.PositionString});
+    }
+    labels->Add({category + "  " +
+                 context_.Message(settings.HalfPattern ? HalfPatternText : FullPatternText) + "  " +
+                 context_.clock.ShortDate()});
+}
+
+void CFittingWindow::ResetFieldColours() {
+    for (TextBox& box : controls.txtParameter) {
+        box.textColor = Black;
+    }
+    controls.txtTextSize.textColor = Black;
+}
+
+void CFittingWindow::ApplySettings() {
+    FittingInputs& inputs = fitting->Inputs();
+    inputs.JoinAngle = DegToRad(settings.JoinAngle);
+    inputs.segs = settings.segs;
+    inputs.HalfPattern = settings.HalfPattern;
+    inputs.JoinType = settings.JoinType;
+    inputs.LapSize0 = settings.LapSize0;
+    inputs.LapSize1 = settings.LapSize1;
+    inputs.LapSize2 = settings.LapSize2;
+    inputs.Miscellaneous = miscellaneous;
+}
+
+/// Hands the fitting over to the display, which builds and draws it.
+void CFittingWindow::DevelopAndDisplay() {
+    const auto textSize = ParseNumber(controls.txtTextSize.text, context_.decimalMark);
+    if (textSize && std::isfinite(static_cast<float>(*textSize))) {
+        goodTextSize_ = *textSize;
+    }
+    controls.pboxGraphicWindow.backColor = context_.options.Colors.DisplayBackColor;
+    ApplySettings();
+    display.TextSize = static_cast<float>(goodTextSize_);
+    display.Decimals = context_.options.Decimals;
+    display.Colors = context_.options.Colors;
+    display.Multiple = Table().multiple;
+    display.NewObject = fitting;
+    display.DimensionList = dimensions;
+    display.LabelList = labels;
+    display.ViewList = views;
+    display.DisplayObject();
+    UpdateSettings(*this);
+    controls.btnPoint[0].enabled = controls.btnPoint[1].enabled = false;
+    ShowWarnings(display.Warnings);
+}
+
+void CFittingWindow::ShowWarnings(const std::vector<FittingWarning>& warnings) {
+    for (const FittingWarning& warning : warnings) {
+        if (warning.userError) {
+            ShowUserError(context_.ui, context_.Message(warning.messageId));
+        } else {
+            ShowPlain(context_.ui, context_.Message(warning.messageId));
+        }
+    }
+}
+
+}  // namespace korvet

@@ -1,0 +1,54 @@
+// The controls of one fitting window, under their names.
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "form/controls.h"
+
+namespace korvet {
+
+/// Mouse pointers by the numbers of the desktop's cursors.
+enum class Cursor : int { Default = 0, Arrow = 1, Cross = 2, Hourglass = 11 };
+
+/// State of a window on the desktop.
+enum WindowState : int { NormalWindow = 0, MinimisedWindow = 1, MaximisedWindow = 2 };
+
+struct DrawingArea {
+    Place place;
+    std::string toolTip;
+    Cursor mousePointer = Cursor::Default;
+    Color backColor = Black;
+};
+
+struct WindowModel {
+    std::string
+        caption;        ///< "Development " and a number until a save or load, then the path: the file's name
+    std::string focus;  ///< name of the control that has the focus
+    Cursor mousePointer = Cursor::Default;
+    int state = NormalWindow;
+    Place place;  ///< of the window in its frame
+    Place scale;  ///< its inner area
+    DrawingArea pboxGraphicWindow;
+    std::vector<Control> Picture1;  ///< parameter page of each type
+    std::vector<Control> pboxMore;  ///< second page of a type; no window has any yet
+    std::vector<TextBox> txtParameter;
+    TextBox txtTextSize{.name = "txtTextSize"};
+    Control lblTextSize;
+    std::array<Control, 2> btnPoint;  ///< next type, previous type
+    Control lblDtype;
+    Control fraControls1;
+    Control fraControls;
+    Control fraControls2;
+    std::array<Control, 10> btnView;  ///< nine model views and the large pattern button
+    Control btnRedraw;
+    Control btnSettings;
+    Control btnClose;
+    OptionGroup optTopAngle;
+    OptionGroup optBaseAngle;
+    OptionGroup optPatternSelect;
+    OptionGroup optFlushSide;
+};
+
+}  // namespace korvet

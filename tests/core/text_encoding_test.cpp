@@ -1,0 +1,48 @@
+#include "core/text_encoding.h"
+
+#include <gtest/gtest.h>
+
+namespace korvet {
+namespace {
+
+TEST(TextEncoding, AsciiIsItself) {
+    EXPECT_EQ(DecodeText("Base 300\r\n"), "Base 300\r\n");
+    EXPECT_EQ(EncodeText("Base 300\r\n"), "Base 300\r\n");
+    EXPECT_EQ(EncodeText(""), "");
+}
+
+TEST(TextEncoding, ReadsUtf8WhenValidElseWindows1252) {
+    EXPECT_EQ(DecodeText("\xC3\xBC"), "\xC3\xBC");
+    EXPECT_EQ(DecodeText("\xFC"), "\xC3\xBC");
+    EXPECT_EQ(DecodeText("\x80"), "\xE2\x82\xAC");              // euro sign
+    EXPECT_EQ(DecodeText("\xEF\xBB\xBF\xC3\xBC"), "\xC3\xBC");  // byte order mark
+    EXPECT_EQ(DecodeText("\x81"), "\xC2\x81");
+}
+
+TEST(TextEncoding, OverlongAndBrokenSequencesAreNotUtf8) {
+    EXPECT_EQ(DecodeText("\xC0\xAF"), "\xC3\x80\xC2\xAF");
+    EXPECT_EQ(DecodeText("\xE2\x82"), "\xC3\xA2\xE2\x80\x9A");
+    EXPECT_EQ(DecodeText("\xED\xA0\x80"), "\xC3\xAD\xC2\xA0\xE2\x82\xAC");  // a surrogate
+}
+
+TEST(TextEncoding, WritesWindows1252WhereEveryCharacterHasAPlace) {
+    EXPECT_EQ(EncodeText("\xC3\xBC"), "\xFC");
+    EXPECT_EQ(EncodeText("\xE2\x82\xAC"), "\x80");
+    EXPECT_EQ(EncodeText("\xC3\xBC\xE6\x9D\xBF"), "\xC3\xBC\xE6\x9D\xBF");
+    EXPECT_EQ(EncodeText("\xF0\x9F\x94\xA7"), "\xF0\x9F\x94\xA7");
+}
+
+TEST(TextEncoding, ComesBackAsItWas) {
+    // The second text in Windows-1252 would be the bytes of a valid UTF-8 letter, so it must stay UTF-8.
+    for (const std::string text : {"\xC3\xBC", "\xC3\x83\xC2\xBC", "a\xE2\x80\x93z", "\xE6\x9D\xBF"}) {
+        EXPECT_EQ(DecodeText(EncodeText(text)), text);
+    }
+}
+
+TEST(TextEncoding, OneLineHasNoControlCharacters) {
+    EXPECT_EQ(OnOneLine("a\r\nb\tc\x1F"), "a  b c ");
+    EXPECT_EQ(OnOneLine("\xC3\xBC"), "\xC3\xBC");
+}
+
+}  // namespace
+}  // namespace korvet

@@ -1,0 +1,474 @@
+#include "display/object_display.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "core/checked.h"
+#include "tests/display/display_log.h"
+
+namespace korvet {
+namespace {
+
+using Log = std::vector<std::string>;
+using Kind = RecordingDevice::Kind;
+using testing::ElementsAre;
+
+/// A display of a 30 by 40 sheet on 400 by 200 pixels. With text size 0 the first view lays a unit on a pixel
+/// and the world's origin on pixel 200, 100.
+class ObjectDisplay : public testing::Test {
+  protected:
+    ObjectDisplay() {
+        fitting->canned.PatternSurface = Sheet();
+        fitting->canned.ModelSurface = Sheet();
+        display.NewObject = FittingHandle(fitting);
+        display.DisplayDevice = &screen;
+        display.PrintDevice = &paper;
+        display.TextSize = 0;
+    }
+
+    void AddView(bool pattern) {
+        CViewPoint view = DefaultViewPoint();
+        view.Patternview = pattern;
+        display.ViewList->Add(view);
+    }
+
+    void AddDimension(int list1, int point1, int list2, int point2) {
+        display.DimensionList->Add({.SurfaceNo2 = 1,
+                                    .SurfaceNo1 = 1,
+                                    .ListNo2 = list2,
+                                    .ListNo1 = list1,
+                                    .PointNo2 = point2,
+                                    .PointNo1 = point1});
+    }
+
+    std::shared_ptr<CannedFitting> fitting = std::make_shared<CannedFitting>();
+    RecordingDevice screen{400, 200};
+    RecordingDevice paper{400, 200};
+    CObjectDisplay display;
+};
+
+const Log SheetLines = {"cut 200,60 200,100", "cut 230,60 230,100", "cut 200,60 230,60",
+                        "cut 200,100 230,100"};
+
+TEST_F(ObjectDisplay, PatternIsDrawnUnprojected) {
+    AddView(true);
+    display.DisplayObject();
+    EXPECT_EQ(LogOf(screen), (Log{"clear", SheetLines[0], SheetLines[1], SheetLines[2], SheetLines[3]}));
+    EXPECT_EQ(screen.calls[0].color, display.Colors.DisplayBackColor);
+    EXPECT_EQ(fitting->developed, 1);
+    EXPECT_EQ(fitting->constructed, 0);
+}
+
+TEST_F(ObjectDisplay, ModelIsDrawnAsTheViewShowsIt) {
+    AddView(false);
+    display.DisplayObject();
+    // Straight down, y runs downward.
+    EXPECT_EQ(LogOf(screen), (Log{"clear", "cut 200,140 200,100", "cut 230,140 230,100",
+                                  "cut 200,140 230,140", "cut 200,100 230,100"}));
+    EXPECT_EQ(fitting->constructed, 1);
+    EXPECT_EQ(fitting->developed, 0);
+    EXPECT_EQ(display.Surfaces.Item(1).List1->Item(1).y, 40);
+    EXPECT_EQ(display.ScreenSurfaces().Item(1).List1->Item(1).y, -40);
+}
+
+TEST_F(ObjectDisplay, WholeOrderOfAPattern) {
+    AddView(true);
+    AddDimension(FirstEdgeList, 1, SecondEdgeList, 2);
+    display.CoordGridRequested = true;
+    display.TrueLengthsRequested = true;
+    display.DiagonalsRequested = true;
+    display.CoordTableRequested = true;
+    display.FrameRequested = true;
+    display.LabelPoint = C3DPoint{};
+    display.LabelList->Add({"note"});
+    display.DisplayObject();
+
+    Log expected = {"clear"};
+    expected.insert(expected.end(), SheetLines.begin(), SheetLines.end());
+    const Log annotations = {"mark 200,100 230,100 230,60 200,60 200,100",  // grid
+                             "dotted 200,60 200,60",
+                             "text   40  ",
+                             "dotted 200,60 200,60",
+                             "text   0  ",  //
+                             "dotted 230,60 230,60",
+                             "text   40  ",
+                             "dotted 230,60 230,60",
+                             "text   30  ",  //
+                             "dotted 200,100 200,100",
+                             "text   0  ",
+                             "dotted 200,100 200,100",
+                             "text   0  ",  //
+                             "dotted 230,100 230,100",
+                             "text   0  ",
+                             "dotted 230,100 230,100",
+                             "text   30  ",  //
+                             "mark 200,60 230,100",
+                             "text 50",  // dimension
+                             "text 30",
+                             "text 30",
+                             "text 40",
+                             "text 40",  // true lengths
+                             "dotted 200,60 230,100",
+                             "text 50",  // diagonal
+                             "text A1",
+                             "text B1",
+                             "text A2",
+                             "text B2",  // coordinates
+                             "mark 200,100 230,100 230,60 200,60 200,100",
+                             "text 30",
+                             "text 40",
+                             "text Area = 1200"};
+    expected.insert(expected.end(), annotations.begin(), annotations.end());
+    expected.insert(expected.end(), SheetLines.begin(), SheetLines.end());
+    expected.emplace_back("text note");
+    EXPECT_EQ(LogOf(screen), expected);
+}
+
+TEST_F(ObjectDisplay, AModelHasNoAnnotationButItsLabel) {
+    AddView(false);
+    AddDimension(FirstEdgeList, 1, SecondEdgeList, 2);
+    display.CoordGridRequested = true;
+    display.TrueLengthsRequested = true;
+    display.DiagonalsRequested = true;
+    display.CoordTableRequested = true;
+    display.FrameRequested = true;
+    display.LabelPoint = C3DPoint{};
+    display.LabelList->Add({"note"});
+    display.DisplayObject();
+    EXPECT_EQ(screen.calls.size(), 6U);
+    EXPECT_THAT(screen.Strings(), ElementsAre("note"));
+    EXPECT_EQ(fitting->constructed, 1);
+}
+
+TEST_F(ObjectDisplay, GridOrFrameHasThePatternMadeAndDrawnTwice) {
+    AddView(true);
+    fitting->canned.warnings = {{28, false}, {25, true}};
+    const auto passes = [&](bool grid, bool frame) {
+        display.CoordGridRequested = grid;
+        display.FrameRequested = frame;
+        fitting->developed = 0;
+        display.DisplayObject();
+        return fitting->developed;
+    };
+    EXPECT_EQ(passes(false, false), 1);
+    EXPECT_EQ(display.Warnings.size(), 2U);
+    EXPECT_EQ(passes(true, false), 2);
+    EXPECT_EQ(passes(false, true), 2);
+    EXPECT_EQ(passes(true, true), 2);
+    ASSERT_EQ(display.Warnings.size(), 4U);
+    EXPECT_EQ(display.Warnings[0].messageId, 28);
+    EXPECT_EQ(display.Warnings[1].messageId, 25);
+    EXPECT_TRUE(display.Warnings[1].userError);
+    EXPECT_EQ(display.Warnings[2].messageId, 28);
+    EXPECT_EQ(display.ScreenSurfaces().Count(), 1U);
+}
+
+TEST_F(ObjectDisplay, AFailedBuildLeavesItsWarnings) {
+    AddView(true);
+    fitting->canned.warnings = {{28, false}};
+    fitting->fails = true;
+    EXPECT_THROW(display.DisplayObject(), ArithmeticError);
+    ASSERT_EQ(display.Warnings.size(), 1U);
+    EXPECT_EQ(display.Warnings[0].messageId, 28);
+}
+
+TEST_F(ObjectDisplay, FirstDisplayStartsWithTwoHundredUnits) {
+    AddView(true);
+    display.WorldExtents = 5;
+    display.DisplayObject();
+    EXPECT_EQ(display.WorldExtents, 200);
+    EXPECT_EQ(display.DisplayWindow(), (WorldWindow{-200, 100, 400, -200}));
+    AddView(true);
+    display.WorldExtents = 50;
+    display.DisplayObject();
+    EXPECT_EQ(display.WorldExtents, 50);
+    EXPECT_EQ(display.DisplayWindow(), (WorldWindow{-50, 25, 100, -50}));
+}
+
+TEST_F(ObjectDisplay, PictureSitsOneTextHeightOffCentre) {
+    AddView(true);
+    display.TextSize = 3;
+    display.DisplayObject();
+    EXPECT_EQ(display.DisplayWindow(), (WorldWindow{-197, 103, 400, -200}));
+    EXPECT_EQ(LogOf(screen)[1], "cut 197,63 197,103");
+}
+
+TEST_F(ObjectDisplay, RotationComesBeforeTheMoveAndLeavesTheFittingAlone) {
+    AddView(true);
+    display.RotationAngle = QuarterTurn;
+    display.RotationPoint = {30, 0, 0, 0};
+    display.MovePoint1 = {5, 5, 0, 0};
+    display.MovePoint2 = {15, 5, 0, 0};
+    display.DisplayObject();
+    // About its lower right corner, the upper left one comes to (-10, -30); moved by 10 in x, to (0, -30).
+    const C3DPoint& turned = display.Surfaces.Item(1).List1->Item(1);
+    EXPECT_NEAR(turned.x, 0, 1e-9);
+    EXPECT_NEAR(turned.y, -30, 1e-9);
+    EXPECT_NEAR(display.Surface.List1->Item(1).y, -30, 1e-9);
+    EXPECT_EQ(fitting->results.PatternSurface.List1->Item(1).x, 0);
+    EXPECT_EQ(fitting->results.PatternSurface.List1->Item(1).y, 40);
+}
+
+TEST_F(ObjectDisplay, EverySurfaceOfManyIsTurnedAndMoved) {
+    AddView(true);
+    fitting->canned.PatternSurfaceList.Add(Sheet());
+    fitting->canned.PatternSurfaceList.Add(Sheet(100));
+    display.Multiple = true;
+    display.MovePoint2 = {1, 2, 0, 0};
+    display.DisplayObject();
+    ASSERT_EQ(display.Surfaces.Count(), 2U);
+    EXPECT_NEAR(display.Surfaces.Item(1).List2->Item(1).x, 1, 1e-9);
+    EXPECT_NEAR(display.Surfaces.Item(2).List2->Item(1).x, 101, 1e-9);
+    EXPECT_NEAR(display.Surfaces.Item(2).List2->Item(1).y, 2, 1e-9);
+    EXPECT_EQ(fitting->results.PatternSurfaceList.Item(2).List2->Item(1).x, 100);
+    EXPECT_EQ(screen.Lines().size(), 8U);
+}
+
+TEST_F(ObjectDisplay, AModelIsNotTurned) {
+    AddView(false);
+    fitting->canned.ModelSurfaceList.Add(Sheet());
+    display.Multiple = true;
+    display.RotationAngle = 1;
+    display.MovePoint2 = {10, 0, 0, 0};
+    display.DisplayObject();
+    EXPECT_EQ(display.Surfaces.Item(1).List1->Item(1).x, 0);
+}
+
+TEST_F(ObjectDisplay, PrintingGoesToAPageInBlackWithWidths) {
+    AddView(true);
+    display.PrintRequested = true;
+    display.FrameRequested = true;
+    display.DisplayObject();
+    EXPECT_EQ(LogOf(screen), (Log{"clear"}));
+    EXPECT_EQ(paper.calls[0].kind, Kind::StartPage);
+    EXPECT_EQ(paper.Count(Kind::StartPage), 1U);
+    EXPECT_EQ(paper.Count(Kind::Cls), 0U);
+    EXPECT_EQ(paper.Lines()[0].pen, (Pen{Black, DrawStyle::Solid, 3}));
+    EXPECT_EQ(paper.Texts()[0].color, Black);
+    EXPECT_EQ(display.Device(), &paper);
+}
+
+TEST_F(ObjectDisplay, ScreenAndPaperKeepTheirOwnScales) {
+    AddView(true);
+    fitting->canned.PatternSurface.RefPoint = C3DPoint{};
+    fitting->canned.PatternSurface.RefPointDisplay = true;
+    display.DisplayObject();
+    paper.outerSize = paper.scaleSize = {800, 800};  // four pixels to a unit
+    display.PrintRequested = true;
+    display.DisplayObject();
+    EXPECT_EQ(display.DisplayWindow(), (WorldWindow{-200, 100, 400, -200}));
+    // The cross keeps the arm of the screen, 2 units; the first one goes left since that scale runs upward.
+    const std::vector<RecordingDevice::Call> lines = paper.Lines();
+    ASSERT_EQ(lines.size(), 8U);
+    EXPECT_EQ(lines[4].points, (std::vector<PixelPoint>{{400, 400}, {392, 400}}));
+    EXPECT_EQ(lines[7].points, (std::vector<PixelPoint>{{400, 400}, {400, 392}}));
+}
+
+TEST_F(ObjectDisplay, LabelLinesStandOneAndAHalfHeightsBelowEachOther) {
+    AddView(false);
+    display.TextSize = 10;
+    display.LabelPoint = C3DPoint{};
+    display.LabelList->Add({"one"});
+    display.LabelList->Add({"two"});
+    display.LabelList->Add({"three"});
+    display.DisplayObject();
+    const std::vector<RecordingDevice::Call> texts = screen.Texts();
+    ASSERT_EQ(texts.size(), 3U);
+    // The point is at pixel 190, 110; letters of 9.77154 points are 7.8172 by 15.6345 pixels. The corner is
+    // half a box left and up; the lines lie 23.4517 apart.
+    EXPECT_EQ(texts[0].points[0], (PixelPoint{178, 102}));
+    EXPECT_EQ(texts[1].points[0], (PixelPoint{178, 126}));
+    EXPECT_EQ(texts[2].points[0], (PixelPoint{170, 149}));
+    EXPECT_EQ(display.LabelPoint->y, 0);
+}
+
+TEST_F(ObjectDisplay, NoLabelWithoutAPoint) {
+    AddView(false);
+    display.LabelList->Add({"one"});
+    display.DisplayObject();
+    EXPECT_TRUE(screen.Texts().empty());
+}
+
+TEST_F(ObjectDisplay, AFittingWithoutSurfacesIsClearedAndLabelled) {
+    for (const bool pattern : {false, true}) {
+        for (const bool multiple : {false, true}) {
+            display.ViewList = std::make_shared<CViewList>();
+            AddView(pattern);
+            fitting->canned = {};
+            screen.calls.clear();
+            display.Multiple = multiple;
+            display.CoordGridRequested = true;
+            display.TrueLengthsRequested = true;
+            display.DiagonalsRequested = true;
+            display.CoordTableRequested = true;
+            display.FrameRequested = true;
+            display.LabelPoint = C3DPoint{};
+            display.LabelList = std::make_shared<CLabels>();
+            display.LabelList->Add({"note"});
+            display.DisplayObject();
+            EXPECT_EQ(LogOf(screen), (Log{"clear", "text note"}));
+            EXPECT_EQ(display.Surfaces.Count(), 0U);
+            EXPECT_FALSE(display.FindClosestPoint({}).has_value());
+            display.ZoomExtents();
+            EXPECT_EQ(display.ViewList->Count(), 1U);
+        }
+    }
+}
+
+TEST_F(ObjectDisplay, ADimensionToTheFrameIsDrawnWithoutTheFrame) {
+    AddView(true);
+    AddDimension(ExtentFrameList, 1, ExtentFrameList, 3);
+    display.DisplayObject();
+    EXPECT_THAT(screen.Strings(), ElementsAre("50"));
+}
+
+TEST_F(ObjectDisplay, ADeviceWithoutSizeMakesTheSurfacesAndDrawsNothing) {
+    AddView(true);
+    display.CoordGridRequested = true;
+    display.FrameRequested = true;
+    display.LabelPoint = C3DPoint{};
+    display.LabelList->Add({"note"});
+    screen.scaleSize = screen.outerSize = {0, 0};
+    display.DisplayObject();
+    EXPECT_EQ(LogOf(screen), (Log{"clear"}));
+    EXPECT_EQ(display.Surfaces.Count(), 1U);
+    EXPECT_EQ(display.FindClosestPoint({}).value().PointNo, 1);
+    display.ZoomExtents();  // no scale was ever laid over the device
+    EXPECT_EQ(display.ViewList->Count(), 1U);
+}
+
+TEST_F(ObjectDisplay, PrepareSurfacesNeedsNoDevice) {
+    display.DisplayDevice = nullptr;
+    display.PrintDevice = nullptr;
+    display.MovePoint2 = {7, 0, 0, 0};
+    AddView(true);
+    display.PrepareSurfaces();
+    EXPECT_NEAR(display.Surfaces.Item(1).List2->Item(1).x, 7, 1e-9);
+    EXPECT_EQ(fitting->developed, 1);
+    AddView(false);
+    display.PrepareSurfaces();
+    EXPECT_EQ(display.Surfaces.Item(1).List2->Item(1).x, 0);
+    EXPECT_EQ(fitting->constructed, 1);
+    EXPECT_TRUE(screen.calls.empty());
+    EXPECT_NO_THROW(display.DisplayObject());
+}
+
+TEST_F(ObjectDisplay, RefusesToGoWithoutAViewOrAFitting) {
+    EXPECT_THROW(display.DisplayObject(), ListError);
+    AddView(true);
+    display.NewObject.reset();
+    EXPECT_THROW(display.DisplayObject(), ListError);
+}
+
+TEST_F(ObjectDisplay, FrameCornersArePickedOnlyWhenTheFrameIsRequested) {
+    AddView(true);
+    fitting->canned.PatternSurface.List1 = Points({{0, 40, 0, 1}, {1, 40, 0, 1}});
+    display.FrameRequested = true;
+    display.DisplayObject();
+    EXPECT_EQ(display.FindClosestPoint({30, 40, 0, 0}).value().ListNo, ExtentFrameList);
+    display.FrameRequested = false;
+    EXPECT_EQ(display.FindClosestPoint({30, 40, 0, 0}).value().ListNo, FirstEdgeList);
+}
+
+TEST_F(ObjectDisplay, AModelPickGivesTheTruePoint) {
+    AddView(false);
+    display.DisplayObject();
+    const CNearestPoint nearest = display.FindClosestPoint({0, -40, 0, 0}).value();
+    EXPECT_EQ(nearest.ListNo, FirstEdgeList);
+    EXPECT_EQ(nearest.ScreenPoint.y, -40);
+    EXPECT_EQ(nearest.TruePoint.y, 40);
+}
+
+TEST_F(ObjectDisplay, TheDimensionWithTheNearestMiddleIsRemoved) {
+    AddView(true);
+    AddDimension(FirstEdgeList, 1, FirstEdgeList, 2);    // middle (15, 40)
+    AddDimension(SecondEdgeList, 1, SecondEdgeList, 9);  // no end
+    AddDimension(FirstEdgeList, 1, SecondEdgeList, 1);   // middle (0, 20)
+    AddDimension(FirstEdgeList, 2, SecondEdgeList, 2);   // middle (30, 20)
+    display.DisplayObject();
+    EXPECT_TRUE(display.DimRemove(15, 0));  // the last two are equally near: the earlier goes
+    ASSERT_EQ(display.DimensionList->Count(), 3U);
+    EXPECT_EQ(display.DimensionList->Item(3).PointNo1, 2);
+    // On the line of the upper edge, but nearest to the other's middle.
+    EXPECT_TRUE(display.DimRemove(30, 22));
+    EXPECT_EQ(display.DimensionList->Item(1).ListNo2, FirstEdgeList);
+    EXPECT_TRUE(display.DimRemove(0, 0));
+    EXPECT_FALSE(display.DimRemove(0, 0));  // the one that is left has no second end
+    EXPECT_EQ(display.DimensionList->Count(), 1U);
+    display.DimensionList->Remove(1);
+    EXPECT_FALSE(display.DimRemove(0, 0));
+}
+
+class Zoom : public ObjectDisplay {
+  protected:
+    Zoom() {
+        AddView(true);
+        display.DisplayObject();  // twice as wide as high, 200 units across the height
+    }
+
+    [[nodiscard]] const CViewPoint& Last() const { return display.ViewList->Last(); }
+};
+
+TEST_F(Zoom, ANarrowerAreaFillsTheHeight) {
+    display.ZoomWindow(0, 0, 100, 100);
+    EXPECT_EQ(display.ViewList->Count(), 2U);
+    EXPECT_DOUBLE_EQ(Last().ZoomFactor, 2 * 0.99);
+    EXPECT_EQ(Last().PanX, 50);
+    EXPECT_EQ(Last().PanY, 50);
+    EXPECT_TRUE(Last().Patternview);
+}
+
+TEST_F(Zoom, AWiderAreaIsMeasuredByItsWidth) {
+    display.ZoomWindow(0, 0, 400, 100);
+    EXPECT_DOUBLE_EQ(Last().ZoomFactor, 0.5 * 0.99);
+}
+
+TEST_F(Zoom, AnAreaOfTheWindowsShapeFillsIt) {
+    display.ZoomWindow(0, 0, 400, 200);
+    EXPECT_DOUBLE_EQ(Last().ZoomFactor, 0.5 * 0.99);
+}
+
+TEST_F(Zoom, CornersComeInAnyOrder) {
+    display.ZoomWindow(10, 70, -30, 20);
+    EXPECT_EQ(Last().PanX, -10);
+    EXPECT_EQ(Last().PanY, 45);
+    EXPECT_DOUBLE_EQ(Last().ZoomFactor, 4 * 0.99);
+}
+
+TEST_F(Zoom, AnAreaWithoutWidthOrHeightAddsNoView) {
+    display.ZoomWindow(10, 10, 10, 50);
+    display.ZoomWindow(10, 10, 50, 10);
+    display.ZoomWindow(10, 10, 10, 10);
+    EXPECT_EQ(display.ViewList->Count(), 1U);
+}
+
+TEST_F(Zoom, ExtentsFitTheSheet) {
+    display.ZoomExtents();
+    EXPECT_EQ(display.ViewList->Count(), 2U);
+    EXPECT_NEAR(Last().ZoomFactor, 5 * 0.99, 1e-9);
+    EXPECT_NEAR(Last().PanX, 15, 1e-9);
+    EXPECT_NEAR(Last().PanY, 20, 1e-9);
+    display.DisplayObject();
+    EXPECT_NEAR(display.DisplayWindow().ScaleHeight, -40 / 0.99, 1e-9);
+}
+
+TEST_F(Zoom, WithoutAnEarlierViewTheDefaultOneIsCopied) {
+    display.ViewList = std::make_shared<CViewList>();
+    display.ZoomWindow(0, 0, 100, 100);
+    ASSERT_EQ(display.ViewList->Count(), 1U);
+    EXPECT_EQ(Last().FromXY, QuarterTurn);
+    EXPECT_FALSE(Last().Patternview);
+}
+
+TEST_F(Zoom, WithoutADisplayThereIsNothingToFit) {
+    CObjectDisplay fresh;
+    fresh.ViewList->Add(DefaultViewPoint());
+    fresh.ZoomExtents();
+    fresh.ZoomWindow(0, 0, 100, 100);
+    EXPECT_EQ(fresh.ViewList->Count(), 1U);
+}
+
+}  // namespace
+}  // namespace korvet

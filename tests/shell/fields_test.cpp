@@ -1,0 +1,322 @@
+#include "form/fields.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "core/checked.h"
+#include "form/fitting_form.h"
+#include "tests/support/recording_ui.h"
+
+namespace korvet {
+namespace {
+
+class Fields : public ::testing::Test {
+  protected:
+    static TextBox Box(const std::string& text) {
+        TextBox box;
+        box.name = "txtParameter_3";
+        box.text = text;
+        box.parameterIndex = 3;
+        return box;
+    }
+
+    /// The one message of a failed check.
+    [[nodiscard]] std::string OnlyText() const {
+        return ui.messages.size() == 1 ? ui.messages[0].text
+                                       : std::to_string(ui.messages.size()) + " messages";
+    }
+
+    void ExpectUserError(const std::string& text) {
+        ASSERT_EQ(ui.messages.size(), 1U);
+        EXPECT_EQ(ui.messages[0].text, text);
+        EXPECT_EQ(ui.messages[0].title, "User Error");
+        EXPECT_EQ(ui.messages[0].style, 48);
+        EXPECT_EQ(ui.messages[0].box, 3);
+        EXPECT_EQ(focus, "txtParameter_3");
+    }
+
+    RecordingUi ui;
+    COptions options;
+    std::string focus = "before";
+    FieldContext context{ui, options, '.', focus};
+};
+
+TEST_F(Fields, SelectFieldTextSelectsAll) {
+    TextBox box = Box("12.5");
+    box.selectionStart = 2;
+    SelectFieldText(box);
+    EXPECT_EQ(box.selectionStart, 0U);
+    EXPECT_EQ(box.selectionLength, 4U);
+}
+
+TEST_F(Fields, WhileTypingABeginningIsTolerated) {
+    for (const char* text : {"", "-", ".", ",", "1", "1.", "-.5", " 7 "}) {
+        TextBox box = Box(text);
+        CheckFieldChange(context, box);
+        EXPECT_TRUE(ui.messages.empty()) << text;
+        EXPECT_EQ(box.selectionLength, 0U) << text;
+    }
+}
+
+TEST_F(Fields, WhileTypingAWordIsToldAtOnceAndTheFocusStays) {
+    for (const char* text : {"x", "--", "-.", "1,2", "..", "+", " ", "1 2"}) {
+        ui.messages.clear();
+        TextBox box = Box(text);
+        CheckFieldChange(context, box);
+        ASSERT_EQ(OnlyText(), "Not a valid number") << text;
+        EXPECT_EQ(ui.messages[0].style, 32);
+        EXPECT_EQ(ui.messages[0].title, "Korvet Development");
+        EXPECT_EQ(ui.messages[0].box, 3);
+        EXPECT_EQ(box.selectionLength, box.text.size());
+        EXPECT_EQ(focus, "before");
+    }
+}
+
+TEST_F(Fields, TheLocalesMarkIsPartOfANumber) {
+    context.decimalMark = ',';
+    TextBox box = Box("1,5");
+    CheckFieldChange(context, box);
+    EXPECT_TRUE(IsNumericField(context, box));
+    EXPECT_EQ(FieldValue(context, box), 1.5);
+    box.text = "1.5";
+    EXPECT_EQ(FieldValue(context, box), 1.5);
+    EXPECT_TRUE(ui.messages.empty());
+}
+
+TEST_F(Fields, TheStrictTestTakesNoBeginnings) {
+    for (const char* text : {"", "-", ".", ",", "abc", "inf"}) {
+        ui.messages.clear();
+        focus = "before";
+        TextBox box = Box(text);
+        EXPECT_FALSE(IsNumericField(context, box)) << text;
+        ASSERT_EQ(OnlyText(), "Not a valid number") << text;
+        EXPECT_EQ(ui.messages[0].style, 32);
+        EXPECT_EQ(ui.messages[0].title, "Korvet Development");
+        EXPECT_EQ(focus, "txtParameter_3");
+        EXPECT_EQ(box.selectionLength, box.text.size());
+    }
+    TextBox box = Box("7");
+    focus = "before";
+    EXPECT_TRUE(IsNumericField(context, box));
+    EXPECT_EQ(focus, "before");
+}
+
+TEST_F(Fields, TheValueOfAWordIsAnError) {
+    EXPECT_THROW(static_cast<void>(FieldValue(context, Box("abc"))), ArithmeticError);
+    EXPECT_THROW(static_cast<void>(FieldValue(context, Box(""))), ArithmeticError);
+}
+
+TEST_F(Fields, LimitsAreShownAtTheDecimalsOfTheOptions) {
+    EXPECT_EQ(FormatLimit(context, 12.96), "13");
+    EXPECT_EQ(FormatLimit(context, 12.34), "12.3");
+    options.Decimals = 3;
+    EXPECT_EQ(FormatLimit(context, 12.34567), "12.346");
+    options.Decimals = 0;
+    EXPECT_EQ(FormatLimit(context, 2.5), "2");
+    context.decimalMark = ',';
+    options.Decimals = 1;
+    EXPECT_EQ(FormatLimit(context, 0.25), "0,2");
+}
+
+using Verdict = std::function<bool(const FieldContext&, TextBox&)>;
+
+/// A check with a limit of 12.96, the last text that it lets through, the first that it does not, and what it
+/// says.
+struct LimitCase {
+    const char* name;
+    Verdict failed;
+    std::vector<const char*> good;
+    std::vector<const char*> bad;
+    std::string message;
+};
+
+TEST_F(Fields, EachCheckTurnsExactlyAtItsLimit) {
+    constexpr double Limit = 12.96;
+    const std::vector<LimitCase> cases = {
+        {"positive",
+         [](const auto& c, TextBox& b) { return CheckPositive(c, b); },
+         {"1e-300", "5"},
+         {"0", "-0", "-1e-300"},
+         "This dimension must be greater than 0"},
+        {"less",
+         [](const auto& c, TextBox& b) { return CheckLessThan(c, b, Limit); },
+         {"12.959999999999", "-5"},
+         {"12.96", "12.960000000001"},
+         "This dimension must be less than 13"},
+        {"greater",
+         [](const auto& c, TextBox& b) { return CheckGreaterThan(c, b, Limit); },
+         {"12.960000000001"},
+         {"12.96", "12.959999999999", "0"},
+         "This dimension must be greater than 13"},
+        {"at most",
+         [](const auto& c, TextBox& b) { return CheckAtMost(c, b, Limit); },
+         {"12.96", "12.9"},
+         {"12.960000000001"},
+         "This dimension must be equal to or less than 13"},
+        {"at least",
+         [](const auto& c, TextBox& b) { return CheckAtLeast(c, b, Limit); },
+         {"12.96", "13"},
+         {"12.959999999999"},
+         "This dimension must be equal to or greater than 13"},
+        {"not equal",
+         [](const auto& c, TextBox& b) { return CheckNotEqual(c, b, Limit); },
+         {"12.960000000001", "12.959999999999"},
+         {"12.96", "1296e-2"},
+         "This dimension cannot be equal to 13"},
+        {"integer",
+         [](const auto& c, TextBox& b) { return CheckInteger(c, b); },
+         {"0", "-7", "12", "1e3", "12.0"},
+         {"12.000000001", "-0.5"},
+         "This dimension must be an integer (whole number)"},
+        {"room for thickness",
+         [](const auto& c, TextBox& b) { return CheckBoxRoomForThickness(c, b, Limit); },
+         {"12.96", "13"},
+         {"12.959999999999", "-20"},
+         "This dimension must be increased to allow for material thickness"}};
+    for (const LimitCase& limit : cases) {
+        SCOPED_TRACE(limit.name);
+        for (const char* text : limit.good) {
+            TextBox box = Box(text);
+            EXPECT_FALSE(limit.failed(context, box)) << text;
+        }
+        EXPECT_TRUE(ui.messages.empty());
+        EXPECT_EQ(focus, "before");
+        for (const char* text : limit.bad) {
+            TextBox box = Box(text);
+            EXPECT_TRUE(limit.failed(context, box)) << text;
+            ExpectUserError(limit.message);
+            ui.messages.clear();
+            focus = "before";
+        }
+        TextBox word = Box("word");
+        EXPECT_TRUE(limit.failed(context, word));
+        EXPECT_EQ(OnlyText(), "Not a valid number");
+        EXPECT_EQ(focus, "txtParameter_3");
+        ui.messages.clear();
+        focus = "before";
+    }
+}
+
+TEST_F(Fields, RoomForThicknessComparesTheMeanSizeThatItIsGiven) {
+    TextBox box = Box("100");
+    EXPECT_FALSE(CheckRoomForThickness(context, box, 1.5, 1.5));
+    EXPECT_TRUE(ui.messages.empty());
+    EXPECT_TRUE(CheckRoomForThickness(context, box, 1.49, 1.5));
+    ExpectUserError("This dimension must be increased to allow for material thickness");
+}
+
+TEST_F(Fields, NotSmallerMovesTheFocusWithoutAWord) {
+    TextBox box = Box("100");
+    Control hide;
+    Control show;
+    show.visible = false;
+    EXPECT_FALSE(CheckNotSmaller(context, 2, 2, box, {&hide, &show}));
+    EXPECT_EQ(focus, "before");
+    EXPECT_TRUE(hide.visible);
+    EXPECT_TRUE(CheckNotSmaller(context, 1.999, 2, box, {&hide, &show}));
+    EXPECT_EQ(focus, "txtParameter_3");
+    EXPECT_FALSE(hide.visible);
+    EXPECT_TRUE(show.visible);
+    EXPECT_TRUE(ui.messages.empty());
+}
+
+TEST_F(Fields, AFailedCheckSwapsThePagesAndAGoodOneDoesNot) {
+    Control hide;
+    Control show;
+    show.visible = false;
+    TextBox box = Box("5");
+    EXPECT_FALSE(CheckPositive(context, box, {&hide, &show}));
+    EXPECT_TRUE(hide.visible);
+    EXPECT_FALSE(show.visible);
+    box.text = "0";
+    EXPECT_TRUE(CheckPositive(context, box, {&hide, &show}));
+    EXPECT_FALSE(hide.visible);
+    EXPECT_TRUE(show.visible);
+}
+
+TEST_F(Fields, PagesSwapOnlyWhenBothAreGiven) {
+    Control page;
+    TextBox box = Box("0");
+    EXPECT_TRUE(CheckPositive(context, box, {&page, nullptr}));
+    EXPECT_TRUE(page.visible);
+    page.visible = false;
+    EXPECT_TRUE(CheckPositive(context, box, {nullptr, &page}));
+    EXPECT_FALSE(page.visible);
+}
+
+TEST_F(Fields, AWordInABoxOfTheHiddenPageSwapsThePagesToo) {
+    const std::vector<std::function<bool(TextBox&, PageSwap)>> checks = {
+        [this](TextBox& box, PageSwap pages) { return CheckPositive(context, box, pages); },
+        [this](TextBox& box, PageSwap pages) { return CheckBoxRoomForThickness(context, box, 1, pages); }};
+    for (const auto& failed : checks) {
+        Control hide;
+        Control show;
+        show.visible = false;
+        TextBox box = Box("word");
+        EXPECT_TRUE(failed(box, {&hide, &show}));
+        EXPECT_FALSE(hide.visible);
+        EXPECT_TRUE(show.visible);
+    }
+}
+
+TEST_F(Fields, SegsAreAWholeNumberFromOneToAHundredThousand) {
+    for (const char* text : {"1", "24", "100000", "1e5", " 36 "}) {
+        TextBox box = Box(text);
+        EXPECT_FALSE(CheckSegs(context, box)) << text;
+    }
+    EXPECT_TRUE(ui.messages.empty());
+    const std::vector<std::pair<const char*, const char*>> bad = {
+        {"0", "This dimension must be greater than 0"},
+        {"-24", "This dimension must be greater than 0"},
+        {"0.5", "This dimension must be greater than 0"},
+        {"1.5", "This dimension must be an integer (whole number)"},
+        {"100000.5", "This dimension must be an integer (whole number)"},
+        {"100001", "This dimension must be equal to or less than 100000"},
+        {"1e300", "This dimension must be equal to or less than 100000"}};
+    for (const auto& [text, message] : bad) {
+        TextBox box = Box(text);
+        EXPECT_TRUE(CheckSegs(context, box)) << text;
+        ExpectUserError(message);
+        ui.messages.clear();
+    }
+    TextBox word = Box("many");
+    EXPECT_TRUE(CheckSegs(context, word));
+    EXPECT_EQ(OnlyText(), "Not a valid number");
+}
+
+TEST_F(Fields, MessagesFollowTheLanguage) {
+    options.Language = "French";
+    TextBox box = Box("20");
+    EXPECT_TRUE(CheckLessThan(context, box, 12.96));
+    EXPECT_EQ(OnlyText(), "13");
+    ui.messages.clear();
+    EXPECT_TRUE(CheckPositive(context, box = Box("0")));
+    EXPECT_EQ(OnlyText(), "");
+}
+
+TEST_F(Fields, AFormAddressesItsBoxesByIndex) {
+    std::vector<TextBox> boxes = {Box("10"), Box("0"), Box("-3"), Box("word")};
+    for (std::size_t i = 0; i < boxes.size(); ++i) {
+        boxes[i].name = "txtParameter_" + std::to_string(i);
+        boxes[i].parameterIndex = static_cast<int>(i);
+    }
+    CPatternSettings settings;
+    settings.Thickness = 2;
+    settings.InOutMean = InsideDimension;
+    FittingForm form(context, boxes, settings, 1);
+    EXPECT_EQ(form.Value(0), 10);
+    EXPECT_THROW(static_cast<void>(form.Value(3)), ArithmeticError);
+    EXPECT_EQ(form.Compensator(RoundWall).NewDistance(form.Value(0), 0, 0), 11);
+
+    EXPECT_FALSE(form.CheckPositive(0));
+    EXPECT_TRUE(form.CheckAllPositive(0, 2, 1)) << "stops at the first failure in the order given";
+    EXPECT_EQ(focus, "txtParameter_2");
+    ASSERT_EQ(ui.messages.size(), 1U);
+    EXPECT_EQ(ui.messages[0].box, 2);
+    EXPECT_TRUE(form.CheckNumber(3));
+    EXPECT_FALSE(form.CheckNumber(2));
+}
+
+}  // namespace
+}  // namespace korvet

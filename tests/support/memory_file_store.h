@@ -1,0 +1,52 @@
+// A file store in memory, for tests: what was written can be looked at, and paths can be made to fail.
+#pragma once
+
+#include <cstddef>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "core/file_store.h"
+
+namespace korvet {
+
+class MemoryFileStore final : public FileStore {
+  public:
+    /// One call of Write that succeeded.
+    struct Written {
+        std::string path;
+        Flush flush = Flush::No;
+    };
+
+    std::map<std::string, std::string> files;  ///< the bytes by path; a test may put files here itself
+    std::set<std::string> unreadable;          ///< paths at which Read throws though the file exists
+    std::set<std::string> unwritable;          ///< paths at which Write throws and changes nothing
+    std::vector<Written> writes;               ///< successful writes, in their order
+
+    [[nodiscard]] bool Exists(const std::string& path) const override { return files.contains(path); }
+
+    [[nodiscard]] std::string Read(const std::string& path, std::size_t limit) const override {
+        const auto file = files.find(path);
+        if (file == files.end()) {
+            throw FileError(path + ": no such file");
+        }
+        if (unreadable.contains(path)) {
+            throw FileError(path + ": cannot be read");
+        }
+        if (file->second.size() > limit) {
+            throw FileError(path + ": larger than " + std::to_string(limit) + " bytes");
+        }
+        return file->second;
+    }
+
+    void Write(const std::string& path, const std::string& contents, Flush flush) override {
+        if (unwritable.contains(path)) {
+            throw FileError(path + ": cannot be written");
+        }
+        files[path] = contents;
+        writes.push_back({path, flush});
+    }
+};
+
+}  // namespace korvet
