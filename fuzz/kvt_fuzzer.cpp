@@ -1,5 +1,5 @@
-// Any bytes as a parameter file: opened in each cone window, built, exported and saved again. What was saved must
-// load to the same file.
+// Any bytes as a parameter file: opened in each cone window, built, exported and saved again. What was saved
+// must load to the same file.
 #include <cstdlib>
 #include <string>
 
@@ -32,7 +32,8 @@ void LoadAndSave(const std::string& text, const std::string& category) {
         std::abort();
     }
     again->UpdateFitting();
-    if (again->hasModel && again->SaveFile("again.Kvt") && shell.files.Read("again.Kvt", std::string::npos) != saved) {
+    if (again->hasModel && again->SaveFile("again.Kvt") &&
+        shell.files.Read("again.Kvt", std::string::npos) != saved) {
         std::abort();
     }
 }

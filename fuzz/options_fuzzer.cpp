@@ -2,8 +2,8 @@
 #include <cstdlib>
 #include <string>
 
-#include "tests/support/test_shell.h"
 #include "shell/options_file.h"
+#include "tests/support/test_shell.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace korvet;

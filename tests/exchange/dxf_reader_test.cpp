@@ -18,7 +18,6 @@ namespace {
 
 using dxf_reading::List;
 
-
 /// A flat right cone: arcs of the two radii over `turn` radians in n stations, every other one a rule
 /// station.
 CDXF Cone(double small, double large, double turn, int n) {
