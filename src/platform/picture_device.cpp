@@ -44,7 +44,7 @@ void EnsureGraphicsApplication() {
     static char* arguments[] = {programName, nullptr};
     // What it says of a missing desktop at its start is no concern of a program that only makes pictures.
     const auto handler = qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-    new QGuiApplication(argumentCount, arguments);
+    static const QGuiApplication application(argumentCount, arguments);
     qInstallMessageHandler(handler);
     std::setlocale(LC_NUMERIC, "C");  // the application has taken over the user's decimal mark
 }

@@ -1,12 +1,9 @@
-#include "display/object_display.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "core/checked.h"
-#include "tests/display/display_log.h"
+#include "display/object_display.h"
+#include "tests/display/display_fixture.h"
 
 namespace korvet {
 namespace {
@@ -14,40 +11,6 @@ namespace {
 using Log = std::vector<std::string>;
 using Kind = RecordingDevice::Kind;
 using testing::ElementsAre;
-
-/// A display of a 30 by 40 sheet on 400 by 200 pixels. With text size 0 the first view lays a unit on a pixel
-/// and the world's origin on pixel 200, 100.
-class ObjectDisplay : public testing::Test {
-  protected:
-    ObjectDisplay() {
-        fitting->canned.PatternSurface = Sheet();
-        fitting->canned.ModelSurface = Sheet();
-        display.NewObject = FittingHandle(fitting);
-        display.DisplayDevice = &screen;
-        display.PrintDevice = &paper;
-        display.TextSize = 0;
-    }
-
-    void AddView(bool pattern) {
-        CViewPoint view = DefaultViewPoint();
-        view.Patternview = pattern;
-        display.ViewList->Add(view);
-    }
-
-    void AddDimension(int list1, int point1, int list2, int point2) {
-        display.DimensionList->Add({.SurfaceNo2 = 1,
-                                    .SurfaceNo1 = 1,
-                                    .ListNo2 = list2,
-                                    .ListNo1 = list1,
-                                    .PointNo2 = point2,
-                                    .PointNo1 = point1});
-    }
-
-    std::shared_ptr<CannedFitting> fitting = std::make_shared<CannedFitting>();
-    RecordingDevice screen{400, 200};
-    RecordingDevice paper{400, 200};
-    CObjectDisplay display;
-};
 
 const Log SheetLines = {"cut 200,60 200,100", "cut 230,60 230,100", "cut 200,60 230,60",
                         "cut 200,100 230,100"};
@@ -255,15 +218,15 @@ TEST_F(ObjectDisplay, ScreenAndPaperKeepTheirOwnScales) {
     fitting->canned.PatternSurface.RefPoint = C3DPoint{};
     fitting->canned.PatternSurface.RefPointDisplay = true;
     display.DisplayObject();
-    paper.outerSize = paper.scaleSize = {800, 800};  // four pixels to a unit
+    paper.outerSize = paper.scaleSize = {400, 800};  // 200 by 400 units, two pixels each
     display.PrintRequested = true;
     display.DisplayObject();
     EXPECT_EQ(display.DisplayWindow(), (WorldWindow{-200, 100, 400, -200}));
     // The cross keeps the arm of the screen, 2 units; the first one goes left since that scale runs upward.
     const std::vector<RecordingDevice::Call> lines = paper.Lines();
     ASSERT_EQ(lines.size(), 8U);
-    EXPECT_EQ(lines[4].points, (std::vector<PixelPoint>{{400, 400}, {392, 400}}));
-    EXPECT_EQ(lines[7].points, (std::vector<PixelPoint>{{400, 400}, {400, 392}}));
+    EXPECT_EQ(lines[4].points, (std::vector<PixelPoint>{{200, 400}, {196, 400}}));
+    EXPECT_EQ(lines[7].points, (std::vector<PixelPoint>{{200, 400}, {200, 396}}));
 }
 
 TEST_F(ObjectDisplay, LabelLinesStandOneAndAHalfHeightsBelowEachOther) {
@@ -360,114 +323,6 @@ TEST_F(ObjectDisplay, RefusesToGoWithoutAViewOrAFitting) {
     AddView(true);
     display.NewObject.reset();
     EXPECT_THROW(display.DisplayObject(), ListError);
-}
-
-TEST_F(ObjectDisplay, FrameCornersArePickedOnlyWhenTheFrameIsRequested) {
-    AddView(true);
-    fitting->canned.PatternSurface.List1 = Points({{0, 40, 0, 1}, {1, 40, 0, 1}});
-    display.FrameRequested = true;
-    display.DisplayObject();
-    EXPECT_EQ(display.FindClosestPoint({30, 40, 0, 0}).value().ListNo, ExtentFrameList);
-    display.FrameRequested = false;
-    EXPECT_EQ(display.FindClosestPoint({30, 40, 0, 0}).value().ListNo, FirstEdgeList);
-}
-
-TEST_F(ObjectDisplay, AModelPickGivesTheTruePoint) {
-    AddView(false);
-    display.DisplayObject();
-    const CNearestPoint nearest = display.FindClosestPoint({0, -40, 0, 0}).value();
-    EXPECT_EQ(nearest.ListNo, FirstEdgeList);
-    EXPECT_EQ(nearest.ScreenPoint.y, -40);
-    EXPECT_EQ(nearest.TruePoint.y, 40);
-}
-
-TEST_F(ObjectDisplay, TheDimensionWithTheNearestMiddleIsRemoved) {
-    AddView(true);
-    AddDimension(FirstEdgeList, 1, FirstEdgeList, 2);    // middle (15, 40)
-    AddDimension(SecondEdgeList, 1, SecondEdgeList, 9);  // no end
-    AddDimension(FirstEdgeList, 1, SecondEdgeList, 1);   // middle (0, 20)
-    AddDimension(FirstEdgeList, 2, SecondEdgeList, 2);   // middle (30, 20)
-    display.DisplayObject();
-    EXPECT_TRUE(display.DimRemove(15, 0));  // the last two are equally near: the earlier goes
-    ASSERT_EQ(display.DimensionList->Count(), 3U);
-    EXPECT_EQ(display.DimensionList->Item(3).PointNo1, 2);
-    // On the line of the upper edge, but nearest to the other's middle.
-    EXPECT_TRUE(display.DimRemove(30, 22));
-    EXPECT_EQ(display.DimensionList->Item(1).ListNo2, FirstEdgeList);
-    EXPECT_TRUE(display.DimRemove(0, 0));
-    EXPECT_FALSE(display.DimRemove(0, 0));  // the one that is left has no second end
-    EXPECT_EQ(display.DimensionList->Count(), 1U);
-    display.DimensionList->Remove(1);
-    EXPECT_FALSE(display.DimRemove(0, 0));
-}
-
-class Zoom : public ObjectDisplay {
-  protected:
-    Zoom() {
-        AddView(true);
-        display.DisplayObject();  // twice as wide as high, 200 units across the height
-    }
-
-    [[nodiscard]] const CViewPoint& Last() const { return display.ViewList->Last(); }
-};
-
-TEST_F(Zoom, ANarrowerAreaFillsTheHeight) {
-    display.ZoomWindow(0, 0, 100, 100);
-    EXPECT_EQ(display.ViewList->Count(), 2U);
-    EXPECT_DOUBLE_EQ(Last().ZoomFactor, 2 * 0.99);
-    EXPECT_EQ(Last().PanX, 50);
-    EXPECT_EQ(Last().PanY, 50);
-    EXPECT_TRUE(Last().Patternview);
-}
-
-TEST_F(Zoom, AWiderAreaIsMeasuredByItsWidth) {
-    display.ZoomWindow(0, 0, 400, 100);
-    EXPECT_DOUBLE_EQ(Last().ZoomFactor, 0.5 * 0.99);
-}
-
-TEST_F(Zoom, AnAreaOfTheWindowsShapeFillsIt) {
-    display.ZoomWindow(0, 0, 400, 200);
-    EXPECT_DOUBLE_EQ(Last().ZoomFactor, 0.5 * 0.99);
-}
-
-TEST_F(Zoom, CornersComeInAnyOrder) {
-    display.ZoomWindow(10, 70, -30, 20);
-    EXPECT_EQ(Last().PanX, -10);
-    EXPECT_EQ(Last().PanY, 45);
-    EXPECT_DOUBLE_EQ(Last().ZoomFactor, 4 * 0.99);
-}
-
-TEST_F(Zoom, AnAreaWithoutWidthOrHeightAddsNoView) {
-    display.ZoomWindow(10, 10, 10, 50);
-    display.ZoomWindow(10, 10, 50, 10);
-    display.ZoomWindow(10, 10, 10, 10);
-    EXPECT_EQ(display.ViewList->Count(), 1U);
-}
-
-TEST_F(Zoom, ExtentsFitTheSheet) {
-    display.ZoomExtents();
-    EXPECT_EQ(display.ViewList->Count(), 2U);
-    EXPECT_NEAR(Last().ZoomFactor, 5 * 0.99, 1e-9);
-    EXPECT_NEAR(Last().PanX, 15, 1e-9);
-    EXPECT_NEAR(Last().PanY, 20, 1e-9);
-    display.DisplayObject();
-    EXPECT_NEAR(display.DisplayWindow().ScaleHeight, -40 / 0.99, 1e-9);
-}
-
-TEST_F(Zoom, WithoutAnEarlierViewTheDefaultOneIsCopied) {
-    display.ViewList = std::make_shared<CViewList>();
-    display.ZoomWindow(0, 0, 100, 100);
-    ASSERT_EQ(display.ViewList->Count(), 1U);
-    EXPECT_EQ(Last().FromXY, QuarterTurn);
-    EXPECT_FALSE(Last().Patternview);
-}
-
-TEST_F(Zoom, WithoutADisplayThereIsNothingToFit) {
-    CObjectDisplay fresh;
-    fresh.ViewList->Add(DefaultViewPoint());
-    fresh.ZoomExtents();
-    fresh.ZoomWindow(0, 0, 100, 100);
-    EXPECT_EQ(fresh.ViewList->Count(), 1U);
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+
 #include "display/extent_frame.h"
 #include "tests/display/display_log.h"
 
@@ -156,6 +158,28 @@ TEST(DimensionEnds, TheSecondIsThatOfTheSecondNumbers) {
     EXPECT_EQ(DimensionPoint1(dimension, surfaces, {})->y, 40);
     EXPECT_EQ(DimensionPoint2(dimension, surfaces, {})->x, 130);
     EXPECT_EQ(DimensionPoint2(dimension, surfaces, {})->y, 0);
+}
+
+TEST(NearestDimension, IsTheOneWithTheNearestMiddleAndTheFirstOfEquals) {
+    const CRuleSurfs surfaces = SheetsAt({0});
+    const auto between = [](int list1, int point1, int list2, int point2) {
+        return CDimension{.SurfaceNo2 = 1,
+                          .SurfaceNo1 = 1,
+                          .ListNo2 = list2,
+                          .ListNo1 = list1,
+                          .PointNo2 = point2,
+                          .PointNo1 = point1};
+    };
+    CDimensions dimensions;
+    dimensions.Add(between(FirstEdgeList, 1, FirstEdgeList, 9));   // no second end
+    dimensions.Add(between(FirstEdgeList, 1, FirstEdgeList, 2));   // middle (15, 40)
+    dimensions.Add(between(FirstEdgeList, 1, SecondEdgeList, 1));  // middle (0, 20)
+    dimensions.Add(between(FirstEdgeList, 2, SecondEdgeList, 2));  // middle (30, 20)
+    EXPECT_EQ(NearestDimension({15, 0, 0, 0}, dimensions, surfaces, {}), 3U);
+    EXPECT_EQ(NearestDimension({16, 0, 0, 0}, dimensions, surfaces, {}), 4U);
+    EXPECT_EQ(NearestDimension({0, 40, 0, 0}, dimensions, surfaces, {}), 2U);
+    EXPECT_EQ(NearestDimension({}, {}, surfaces, {}), std::nullopt);
+    EXPECT_EQ(NearestDimension({}, dimensions, {}, {}), std::nullopt);
 }
 
 }  // namespace

@@ -175,13 +175,31 @@ TEST_F(DiskFilesTest, PermissionsStay) {
     EXPECT_EQ(ContentsOf(Path("file")), "new");
 }
 
-TEST_F(DiskFilesTest, AWriteProtectedFileIsNotReplaced) {
-    if (::geteuid() == 0) {
-        GTEST_SKIP() << "the superuser may write every file";
+/// The superuser may write every file, so for as long as this lives the process is nobody instead.
+class WithoutSuperuser {
+  public:
+    WithoutSuperuser() {
+        if (user_ == 0) {
+            EXPECT_EQ(::seteuid(Nobody), 0);
+        }
     }
+    ~WithoutSuperuser() { EXPECT_EQ(::seteuid(user_), 0); }
+    WithoutSuperuser(const WithoutSuperuser&) = delete;
+    WithoutSuperuser& operator=(const WithoutSuperuser&) = delete;
+
+  private:
+    static constexpr ::uid_t Nobody = 65534;
+    ::uid_t user_ = ::geteuid();
+};
+
+TEST_F(DiskFilesTest, AWriteProtectedFileIsNotReplaced) {
     Put(Path("file"), "old");
-    fs::permissions(Path("file"), fs::perms::owner_read);
-    EXPECT_THAT(WriteError(Path("file")), HasSubstr(" cannot be written: "));
+    fs::permissions(Path("file"), fs::perms::owner_read | fs::perms::others_read);
+    fs::permissions(folder, fs::perms::all);
+    {
+        const WithoutSuperuser nobody;
+        EXPECT_THAT(WriteError(Path("file")), HasSubstr(" cannot be written: "));
+    }
     EXPECT_EQ(ContentsOf(Path("file")), "old");
     EXPECT_EQ(Entries(), 1);
 }

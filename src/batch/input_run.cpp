@@ -1,0 +1,193 @@
+#include "batch/input_run.h"
+
+#include "batch/set_values.h"
+#include "shell/new_fitting.h"
+#include "shell/views.h"
+
+namespace korvet::batch {
+namespace {
+
+CRuleSurfs OneSurface(const CRuleSurf& surface) {
+    CRuleSurfs surfaces;
+    if (surface.List1) {
+        surfaces.Add(surface);
+    }
+    return surfaces;
+}
+
+}  // namespace
+
+InputRun::InputRun(const Arguments& arguments, ShellContext& context, BatchUi& ui, std::string input)
+    : arguments_(arguments), context_(context), ui_(ui), input_(std::move(input)) {}
+
+void InputRun::Run() {
+    try {
+        if (!OpenWindow() || !SetValues() || !BuildForReport()) {
+            return;
+        }
+        ui_.BeginOutputs();
+        ChooseView();
+        taken_ = window_->hasModel;
+        succeeded_ = taken_ && WriteOutputs();
+    } catch (const UsageError&) {
+        throw;
+    } catch (const std::exception& error) {
+        taken_ = false;
+        ShowPlain(ui_, error.what());
+    }
+}
+
+InputReport InputRun::Report() const {
+    const std::string none = "[]";
+    return {input_,
+            category_,
+            window_.get(),
+            ui_.Messages(),
+            !taken_,
+            taken_ ? model_ : none,
+            taken_ ? pattern_ : none};
+}
+
+/// The window of a parameter file, filled from it, or a new one.
+bool InputRun::OpenWindow() {
+    const bool isFile = !input_.empty();
+    category_ = isFile ? CategoryOfFile() : arguments_.newCategory;
+    if (category_.empty()) {
+        return false;
+    }
+    if (FindCategory(category_) == nullptr) {
+        if (!isFile) {
+            throw UsageError("there is no fitting \"" + category_ + "\"; --list prints the catalogue");
+        }
+        ShowPlain(ui_, "There is no fitting \"" + category_ + "\"", "line 2");
+        return false;
+    }
+    window_ = NewFitting(context_, category_, nullptr);
+    if (!window_) {
+        return false;
+    }
+    if (isFile) {
+        return window_->FillFromFile(input_);
+    }
+    PrepareNewWindow();
+    return true;
+}
+
+/// The category in the header of the file; empty, with a message, when it has none.
+std::string InputRun::CategoryOfFile() {
+    CKvtFile file;
+    file.FileName = input_;
+    try {
+        file.ReadHeader(context_.files);
+        if (file.Category.empty()) {
+            throw ParameterFileError("line 2: the fitting is missing");
+        }
+    } catch (const ForeignProductError& error) {
+        ShowPlain(ui_, context_.Message(NotAValidFile), error.what());
+        return {};
+    } catch (const std::exception& error) {
+        ShowPlain(ui_, context_.Message(ErrorLoading), error.what());
+        return {};
+    }
+    return file.Category;
+}
+
+/// Steps to the type asked for and types its sample sizes.
+void InputRun::PrepareNewWindow() {
+    const WindowTable& table = window_->Table();
+    const int types = static_cast<int>(table.pages.size());
+    if (arguments_.type > types) {
+        throw UsageError(category_ + " has " + std::to_string(types) + " types");
+    }
+    while (arguments_.type != 0 && window_->dtype != arguments_.type - 1) {
+        window_->ClickPoint(window_->dtype < arguments_.type - 1 ? 0 : 1);
+    }
+    if (arguments_.sample) {
+        for (const BoxEntry& box : table.pages[static_cast<std::size_t>(window_->dtype)].boxes) {
+            window_->ChangeBox(static_cast<std::size_t>(box.index), std::string(box.sample));
+        }
+    }
+}
+
+bool InputRun::SetValues() {
+    if (arguments_.select != 0) {
+        const auto index = static_cast<std::size_t>(arguments_.select - 1);
+        if (index >= window_->controls.optPatternSelect.captions.size()) {
+            throw UsageError(category_ + " has no pattern option " + std::to_string(arguments_.select));
+        }
+        window_->SelectPattern(index);
+    }
+    bool good = true;
+    for (const auto& [name, value] : arguments_.sets) {
+        good = SetValue(*window_, name, value) && good;
+    }
+    return good;
+}
+
+/// Model and pattern of a fresh fitting for the JSON output. False when the build refuses.
+bool InputRun::BuildForReport() {
+    if (arguments_.json.empty()) {
+        return true;
+    }
+    if (!window_->BuildFitting()) {
+        return false;
+    }
+    window_->ApplySettings();
+    const FittingHandle& fitting = *window_->fitting;
+    const FittingResults& results = fitting.Results();
+    const bool many = window_->Table().multiple;
+    fitting.ConstructModel();
+    model_ = SurfacesJson(many ? results.ModelSurfaceList : OneSurface(results.ModelSurface));
+    fitting.DevelopModel();
+    pattern_ = SurfacesJson(many ? results.PatternSurfaceList : OneSurface(results.PatternSurface));
+    window_->ShowWarnings(results.warnings);
+    return true;
+}
+
+/// Builds in the view of the file, or the one that the command line asks for; a new window shows its pattern.
+void InputRun::ChooseView() {
+    const bool hasView = window_->views->Count() > 0;
+    const bool asSaved = arguments_.view == ViewChoice::AsSaved;
+    const bool wantsPattern = arguments_.view == ViewChoice::Pattern || (asSaved && !hasView);
+    if (hasView && (asSaved || InPatternView(*window_->views) == wantsPattern)) {
+        window_->UpdateFitting();
+    } else {
+        window_->ClickView(wantsPattern ? PatternButton : 0);
+    }
+}
+
+bool InputRun::WriteOutputs() {
+    const std::string name = InputName(arguments_, input_);
+    bool written = true;
+    if (!arguments_.save.empty()) {
+        written = window_->SaveFile(OutputPath(arguments_.save, name)) && written;
+    }
+    if (!arguments_.dxf.empty()) {
+        written = window_->Export(OutputPath(arguments_.dxf, name), ExportMode::Dxf) && written;
+    }
+    if (!arguments_.png.empty()) {
+        written = WritePicture(OutputPath(arguments_.png, name), PictureFormat::Png) && written;
+    }
+    if (!arguments_.svg.empty()) {
+        written = WritePicture(OutputPath(arguments_.svg, name), PictureFormat::Svg) && written;
+    }
+    return written;
+}
+
+/// Draws the view as an opened window shows it: zoomed to the extents.
+bool InputRun::WritePicture(const std::string& path, PictureFormat format) {
+    PictureDevice picture(format, arguments_.size.width, arguments_.size.height);
+    window_->display.DisplayDevice = &picture;
+    window_->UpdateFitting();
+    window_->ZoomExtents();
+    window_->display.DisplayDevice = nullptr;
+    try {
+        picture.Save(path, context_.files);
+    } catch (const FileError& error) {
+        ShowPlain(ui_, error.what());
+        return false;
+    }
+    return window_->hasModel;
+}
+
+}  // namespace korvet::batch

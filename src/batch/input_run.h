@@ -1,0 +1,53 @@
+// The work on one input: its window opened, filled, built and written.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "batch/arguments.h"
+#include "batch/batch_ui.h"
+#include "batch/json_text.h"
+#include "platform/picture_device.h"
+#include "shell/fitting_window.h"
+
+namespace korvet::batch {
+
+class InputRun {
+  public:
+    /// `input` is the path of a parameter file, empty for the new window of the command line.
+    InputRun(const Arguments& arguments, ShellContext& context, BatchUi& ui, std::string input);
+
+    /// Does everything that the command line asks for, short of the JSON. Nothing goes further than a
+    /// refusal, which has then been said. Throws UsageError when the window lacks what the command line
+    /// names.
+    void Run();
+
+    /// What is told of the input after Run.
+    [[nodiscard]] InputReport Report() const;
+
+    /// Whether the input was taken and every output written.
+    [[nodiscard]] bool Succeeded() const { return succeeded_; }
+
+  private:
+    bool OpenWindow();
+    std::string CategoryOfFile();
+    void PrepareNewWindow();
+    bool SetValues();
+    bool BuildForReport();
+    void ChooseView();
+    bool WriteOutputs();
+    bool WritePicture(const std::string& path, PictureFormat format);
+
+    const Arguments& arguments_;
+    ShellContext& context_;
+    BatchUi& ui_;
+    std::string input_;
+    std::string category_;
+    std::unique_ptr<CFittingWindow> window_;
+    std::string model_ = "[]";
+    std::string pattern_ = "[]";
+    bool taken_ = false;
+    bool succeeded_ = false;
+};
+
+}  // namespace korvet::batch

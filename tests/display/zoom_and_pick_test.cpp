@@ -1,0 +1,120 @@
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "display/object_display.h"
+#include "tests/display/display_fixture.h"
+
+namespace korvet {
+namespace {
+
+TEST_F(ObjectDisplay, FrameCornersArePickedOnlyWhenTheFrameIsRequested) {
+    AddView(true);
+    fitting->canned.PatternSurface.List1 = Points({{0, 40, 0, 1}, {1, 40, 0, 1}});
+    display.FrameRequested = true;
+    display.DisplayObject();
+    EXPECT_EQ(display.FindClosestPoint({30, 40, 0, 0}).value().ListNo, ExtentFrameList);
+    display.FrameRequested = false;
+    EXPECT_EQ(display.FindClosestPoint({30, 40, 0, 0}).value().ListNo, FirstEdgeList);
+}
+
+TEST_F(ObjectDisplay, AModelPickGivesTheTruePoint) {
+    AddView(false);
+    display.DisplayObject();
+    const CNearestPoint nearest = display.FindClosestPoint({0, -40, 0, 0}).value();
+    EXPECT_EQ(nearest.ListNo, FirstEdgeList);
+    EXPECT_EQ(nearest.ScreenPoint.y, -40);
+    EXPECT_EQ(nearest.TruePoint.y, 40);
+}
+
+TEST_F(ObjectDisplay, TheDimensionWithTheNearestMiddleIsRemoved) {
+    AddView(true);
+    AddDimension(FirstEdgeList, 1, FirstEdgeList, 2);    // middle (15, 40)
+    AddDimension(SecondEdgeList, 1, SecondEdgeList, 9);  // no end
+    AddDimension(FirstEdgeList, 1, SecondEdgeList, 1);   // middle (0, 20)
+    AddDimension(FirstEdgeList, 2, SecondEdgeList, 2);   // middle (30, 20)
+    display.DisplayObject();
+    EXPECT_TRUE(display.DimRemove(14, 0));
+    ASSERT_EQ(display.DimensionList->Count(), 3U);
+    EXPECT_EQ(display.DimensionList->Item(3).PointNo1, 2);
+    // On the line of the upper edge, but nearest to the other's middle.
+    EXPECT_TRUE(display.DimRemove(30, 22));
+    EXPECT_EQ(display.DimensionList->Item(1).ListNo2, FirstEdgeList);
+    EXPECT_TRUE(display.DimRemove(0, 0));
+    EXPECT_FALSE(display.DimRemove(0, 0));  // the one that is left has no second end
+    EXPECT_EQ(display.DimensionList->Count(), 1U);
+    display.DimensionList->Remove(1);
+    EXPECT_FALSE(display.DimRemove(0, 0));
+}
+
+class Zoom : public ObjectDisplay {
+  protected:
+    Zoom() {
+        AddView(true);
+        display.DisplayObject();  // twice as wide as high, 200 units across the height
+    }
+
+    [[nodiscard]] const CViewPoint& Last() const { return display.ViewList->Last(); }
+};
+
+TEST_F(Zoom, ANarrowerAreaFillsTheHeight) {
+    display.ZoomWindow(0, 0, 100, 100);
+    EXPECT_EQ(display.ViewList->Count(), 2U);
+    EXPECT_DOUBLE_EQ(Last().ZoomFactor, 2 * 0.99);
+    EXPECT_EQ(Last().PanX, 50);
+    EXPECT_EQ(Last().PanY, 50);
+    EXPECT_TRUE(Last().Patternview);
+}
+
+TEST_F(Zoom, AWiderAreaIsMeasuredByItsWidth) {
+    display.ZoomWindow(0, 0, 400, 100);
+    EXPECT_DOUBLE_EQ(Last().ZoomFactor, 0.5 * 0.99);
+}
+
+TEST_F(Zoom, AnAreaOfTheWindowsShapeFillsIt) {
+    display.ZoomWindow(0, 0, 400, 200);
+    EXPECT_DOUBLE_EQ(Last().ZoomFactor, 0.5 * 0.99);
+}
+
+TEST_F(Zoom, CornersComeInAnyOrder) {
+    display.ZoomWindow(10, 70, -30, 20);
+    EXPECT_EQ(Last().PanX, -10);
+    EXPECT_EQ(Last().PanY, 45);
+    EXPECT_DOUBLE_EQ(Last().ZoomFactor, 4 * 0.99);
+}
+
+TEST_F(Zoom, AnAreaWithoutWidthOrHeightAddsNoView) {
+    display.ZoomWindow(10, 10, 10, 50);
+    display.ZoomWindow(10, 10, 50, 10);
+    display.ZoomWindow(10, 10, 10, 10);
+    EXPECT_EQ(display.ViewList->Count(), 1U);
+}
+
+TEST_F(Zoom, ExtentsFitTheSheet) {
+    display.ZoomExtents();
+    EXPECT_EQ(display.ViewList->Count(), 2U);
+    EXPECT_NEAR(Last().ZoomFactor, 5 * 0.99, 1e-9);
+    EXPECT_NEAR(Last().PanX, 15, 1e-9);
+    EXPECT_NEAR(Last().PanY, 20, 1e-9);
+    display.DisplayObject();
+    EXPECT_NEAR(display.DisplayWindow().ScaleHeight, -40 / 0.99, 1e-9);
+}
+
+TEST_F(Zoom, WithoutAnEarlierViewTheDefaultOneIsCopied) {
+    display.ViewList = std::make_shared<CViewList>();
+    display.ZoomWindow(0, 0, 100, 100);
+    ASSERT_EQ(display.ViewList->Count(), 1U);
+    EXPECT_EQ(Last().FromXY, QuarterTurn);
+    EXPECT_FALSE(Last().Patternview);
+}
+
+TEST_F(Zoom, WithoutADisplayThereIsNothingToFit) {
+    CObjectDisplay fresh;
+    fresh.ViewList->Add(DefaultViewPoint());
+    fresh.ZoomExtents();
+    fresh.ZoomWindow(0, 0, 100, 100);
+    EXPECT_EQ(fresh.ViewList->Count(), 1U);
+}
+
+}  // namespace
+}  // namespace korvet
