@@ -2,7 +2,8 @@
 
 #include <CLI/CLI.hpp>
 #include <filesystem>
-#include <set>
+#include <map>
+#include <system_error>
 
 #include "core/number_text.h"
 
@@ -38,26 +39,61 @@ ViewChoice ParseView(const std::string& text) {
     return text == "model" ? ViewChoice::Model : ViewChoice::Pattern;
 }
 
-/// Two inputs must not write one file.
-void CheckOutputs(const Arguments& arguments) {
-    if (arguments.inputs.size() < 2) {
-        return;
+/// Who reads or writes a file, so that no two do.
+class Claims {
+  public:
+    static constexpr std::size_t Reader = 0;  ///< in the place of the number of the output's input
+    static constexpr std::size_t Whole = std::string::npos;  ///< an output of all inputs together
+
+    /// Claims the file for `owner`, which belongs to the input with this number. What one reads it may write
+    /// too under the same name of owner. Throws UsageError when another has the file. Devices are for
+    /// everybody.
+    void Claim(const std::string& path, const std::string& owner, std::size_t input) {
+        std::error_code ignored;
+        const std::filesystem::path whole = std::filesystem::weakly_canonical(path, ignored);
+        if (std::filesystem::exists(whole, ignored) && !std::filesystem::is_regular_file(whole, ignored)) {
+            return;
+        }
+        const auto [place, isNew] = claims_.try_emplace(whole.string(), owner, input);
+        auto& [firstOwner, firstInput] = place->second;
+        if (firstOwner != owner || (firstInput != Reader && input != Reader && firstInput != input)) {
+            throw UsageError("\"" + path + "\" cannot be " + firstOwner + " and " + owner +
+                             "; {name} in the name of an output stands for the name of its input");
+        }
+        firstInput = input;
     }
-    const bool separateJson = arguments.json.find("{name}") != std::string::npos;
-    for (const std::string* output : {&arguments.dxf, &arguments.save, &arguments.png, &arguments.svg,
-                                      separateJson ? &arguments.json : nullptr}) {
-        if (output == nullptr || output->empty()) {
-            continue;
-        }
-        std::set<std::string> paths;
-        for (const std::string& input : arguments.inputs) {
-            const std::string path = OutputPath(*output, InputName(arguments, input));
-            if (!paths.insert(path).second) {
-                throw UsageError("\"" + path +
-                                 "\" would be written for more than one input: put {name} into the " +
-                                 "name of the output, and give each input a name of its own");
+
+  private:
+    std::map<std::string, std::pair<std::string, std::size_t>> claims_;
+};
+
+/// No output may fall on another, nor on an input, but for a parameter file that is saved under its own name.
+void CheckOutputs(const Arguments& arguments) {
+    Claims claims;
+    if (!arguments.settings.empty()) {
+        claims.Claim(arguments.settings, "the options file", Claims::Reader);
+    }
+    for (const std::string& input : arguments.inputs) {
+        claims.Claim(input, "the parameter file of " + input, Claims::Reader);
+    }
+    const std::vector<std::string> inputs =
+        arguments.newCategory.empty() ? arguments.inputs : std::vector<std::string>{""};
+    std::size_t number = 0;
+    for (const std::string& input : inputs) {
+        ++number;
+        const std::string of = " of " + (input.empty() ? arguments.newCategory : input);
+        const auto claim = [&](const std::string& pattern, const std::string& owner, std::size_t forInput) {
+            if (!pattern.empty()) {
+                claims.Claim(OutputPath(pattern, InputName(arguments, input)), owner, forInput);
             }
-        }
+        };
+        claim(arguments.save, "the parameter file" + of, number);
+        claim(arguments.dxf, "the DXF" + of, number);
+        claim(arguments.png, "the PNG" + of, number);
+        claim(arguments.svg, "the SVG" + of, number);
+        const bool oneJson = arguments.json.find("{name}") == std::string::npos;
+        claim(arguments.json == "-" ? "" : arguments.json, oneJson ? "the JSON" : "the JSON" + of,
+              oneJson ? Claims::Whole : number);
     }
 }
 
@@ -98,8 +134,12 @@ struct RawTexts {
 };
 
 void AddOptions(CLI::App& app, Arguments& arguments, RawTexts& raw, LaterOutputs& later) {
-    app.add_option("FILE", arguments.inputs, "parameter files (*.Kvt)");
-    app.add_option("--new", arguments.newCategory, "a new window of this category instead of a file");
+    // What a script leaves empty by mistake must not pass for what was left out.
+    const CLI::Validator notEmpty([](const std::string& text) { return text.empty() ? "it is empty" : ""; },
+                                  "");
+    app.add_option("FILE", arguments.inputs, "parameter files (*.Kvt)")->check(notEmpty);
+    app.add_option("--new", arguments.newCategory, "a new window of this category instead of a file")
+        ->check(notEmpty);
     app.add_option("--type", arguments.type, "its type, from 1")->check(CLI::Range(1, 99));
     app.add_flag("--sample", arguments.sample, "fill it with the sample sizes of its type");
     app.add_option("--select", arguments.select, "the N-th pattern option, from 1")->check(CLI::Range(1, 99));
@@ -107,19 +147,22 @@ void AddOptions(CLI::App& app, Arguments& arguments, RawTexts& raw, LaterOutputs
         ->allow_extra_args(false);
     app.add_option("--view", raw.view, "model or pattern; the default is the view saved in the file")
         ->check(CLI::IsMember({"model", "pattern"}));
-    app.add_option("--settings", arguments.settings, "options file; the default is the built-in options");
+    app.add_option("--settings", arguments.settings, "options file; the default is the built-in options")
+        ->check(notEmpty);
     app.add_flag("--list", arguments.list, "print the catalogue with windows, types and boxes");
-    app.add_option("--json", arguments.json, "surfaces, text block and messages; - is standard output");
-    app.add_option("--dxf", arguments.dxf, "DXF of the view");
+    app.add_option("--json", arguments.json, "surfaces, text block and messages; - is standard output")
+        ->check(notEmpty);
+    app.add_option("--dxf", arguments.dxf, "DXF of the view")->check(notEmpty);
     app.add_flag("--polylines", arguments.polylines, "DXF: edges as polylines instead of arcs");
     app.add_flag("--mesh", arguments.mesh, "DXF: surfaces as a mesh");
     app.add_flag("--diagonals", arguments.diagonals, "DXF: diagonals");
     app.add_flag("--dimensions", arguments.dimensions, "DXF: dimensions and what else is marked out");
     app.add_flag("--label", arguments.label, "DXF: the text block");
-    app.add_option("--save", arguments.save, "write the parameter file");
-    app.add_option("--png", arguments.png, "picture of the view");
-    app.add_option("--svg", arguments.svg, "picture of the view");
-    app.add_option("--size", raw.size, "WIDTHxHEIGHT of a picture in pixels, 800x600 by default");
+    app.add_option("--save", arguments.save, "write the parameter file")->check(notEmpty);
+    app.add_option("--png", arguments.png, "picture of the view")->check(notEmpty);
+    app.add_option("--svg", arguments.svg, "picture of the view")->check(notEmpty);
+    app.add_option("--size", raw.size, "WIDTHxHEIGHT of a picture in pixels, 800x600 by default")
+        ->check(notEmpty);
     app.add_option("--hpgl", later.hpgl, "plot file (not built yet)");
     app.add_option("--pdf", later.pdf, "full-size sheets (not built yet)");
     app.add_option("--table", later.table, "coordinate table (not built yet)");

@@ -120,7 +120,8 @@ class BatchRun {
     SystemClock clock_;
     FrameModel frame_;
     PatternSettingsDialog patternSettingsDialog_;
-    ShellContext context_ = {options_, ui_, files_, clock_, frame_, patternSettingsDialog_};
+    ShellContext context_ = {options_,           ui_, files_, clock_, frame_, patternSettingsDialog_,
+                             SystemDecimalMark()};
     std::string reports_;
     int status_ = Done;
 };

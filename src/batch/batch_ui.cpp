@@ -12,7 +12,8 @@ namespace korvet::batch {
 namespace {
 
 bool AreEqual(const MessageBox& a, const MessageBox& b) {
-    return a.text == b.text && a.title == b.title && a.box == b.box && a.detail == b.detail;
+    return a.text == b.text && a.title == b.title && a.detail == b.detail && a.box == b.box &&
+           a.control == b.control;
 }
 
 }  // namespace
@@ -20,7 +21,7 @@ bool AreEqual(const MessageBox& a, const MessageBox& b) {
 void BatchUi::BeginInput(const std::string& name) {
     name_ = name;
     messages_.clear();
-    firstOfOutputs_ = std::string::npos;
+    leaveOutRepeats_ = false;
 }
 
 void BatchUi::ClearProgress() {
@@ -47,8 +48,7 @@ Answer BatchUi::Show(const MessageBox& message) {
         return Answer::Ok;
     }
     const auto isRepeated = [&](const MessageBox& earlier) { return AreEqual(earlier, message); };
-    const std::size_t first = std::min(firstOfOutputs_, messages_.size());
-    if (std::any_of(messages_.begin() + static_cast<std::ptrdiff_t>(first), messages_.end(), isRepeated)) {
+    if (leaveOutRepeats_ && std::any_of(messages_.begin(), messages_.end(), isRepeated)) {
         return Answer::Cancel;
     }
     // A bad number is told as it is typed and told again by the build; one line says it.

@@ -20,7 +20,7 @@ class BatchUi : public UserInterface {
 
     /// From here to the end of the input a message that comes again is left out: what the window does next
     /// only repeats the build for another output.
-    void BeginOutputs() { firstOfOutputs_ = messages_.size(); }
+    void BeginOutputs() { leaveOutRepeats_ = true; }
 
     /// The messages of the input so far, in their order. News of success are not among them.
     [[nodiscard]] const std::vector<MessageBox>& Messages() const { return messages_; }
@@ -48,7 +48,7 @@ class BatchUi : public UserInterface {
     const Arguments& arguments_;
     std::string name_;
     std::vector<MessageBox> messages_;
-    std::size_t firstOfOutputs_ = std::string::npos;
+    bool leaveOutRepeats_ = false;
     bool progressShown_ = false;
 };
 

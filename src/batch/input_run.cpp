@@ -129,19 +129,23 @@ bool InputRun::BuildForReport() {
     if (arguments_.json.empty()) {
         return true;
     }
-    if (!window_->BuildFitting()) {
-        return false;
+    try {
+        if (!window_->BuildFitting()) {
+            return false;
+        }
+        window_->ApplySettings();
+        const FittingHandle& fitting = *window_->fitting;
+        const FittingResults& results = fitting.Results();
+        const bool many = window_->Table().multiple;
+        fitting.ConstructModel();
+        model_ = SurfacesJson(many ? results.ModelSurfaceList : OneSurface(results.ModelSurface));
+        fitting.DevelopModel();
+        pattern_ = SurfacesJson(many ? results.PatternSurfaceList : OneSurface(results.PatternSurface));
+        window_->ShowWarnings(results.warnings);
+    } catch (const std::exception& error) {
+        window_->RefuseBuild(error);
     }
-    window_->ApplySettings();
-    const FittingHandle& fitting = *window_->fitting;
-    const FittingResults& results = fitting.Results();
-    const bool many = window_->Table().multiple;
-    fitting.ConstructModel();
-    model_ = SurfacesJson(many ? results.ModelSurfaceList : OneSurface(results.ModelSurface));
-    fitting.DevelopModel();
-    pattern_ = SurfacesJson(many ? results.PatternSurfaceList : OneSurface(results.PatternSurface));
-    window_->ShowWarnings(results.warnings);
-    return true;
+    return window_->hasModel;
 }
 
 /// Builds in the view of the file, or the one that the command line asks for; a new window shows its pattern.
@@ -181,13 +185,16 @@ bool InputRun::WritePicture(const std::string& path, PictureFormat format) {
     window_->UpdateFitting();
     window_->ZoomExtents();
     window_->display.DisplayDevice = nullptr;
+    if (!window_->hasModel) {
+        return false;
+    }
     try {
         picture.Save(path, context_.files);
     } catch (const FileError& error) {
         ShowPlain(ui_, error.what());
         return false;
     }
-    return window_->hasModel;
+    return true;
 }
 
 }  // namespace korvet::batch

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "core/number_text.h"
+#include "core/text_encoding.h"
 
 namespace korvet::batch {
 namespace {
@@ -94,7 +95,7 @@ std::string SurfacesJson(const CRuleSurfs& surfaces) {
 
 std::string ReportJson(const InputReport& report) {
     const CFittingWindow* window = report.window;
-    std::string text = "{\"file\": " + QuotedOrNull(report.file);
+    std::string text = "{\"file\": " + QuotedOrNull(DecodeText(report.file));
     text += ",\n\"category\": " + QuotedOrNull(report.category);
     text += ",\n\"window\": " + (window != nullptr ? Quoted(window->Row().window) : "null");
     text += ",\n\"type\": " + (window != nullptr ? std::to_string(window->dtype + 1) : "null");

@@ -111,7 +111,7 @@ bool SetMember(CFittingWindow& window, const std::string& name, const std::strin
 
 void SetOption(CFittingWindow& window, const std::string& name, const std::string& value) {
     OptionGroup& group = window.controls.*Groups().at(name);
-    if (value == "none") {
+    if (value == "none" && !group.captions.empty()) {
         group.selected.reset();
         return;
     }

@@ -82,6 +82,10 @@ std::optional<double> ParseNumber(std::string_view text, char decimalMark) {
     return error == std::errc() ? std::optional<double>(value) : std::nullopt;
 }
 
+std::optional<double> ParseFileNumber(std::string_view text) {
+    return ParseNumber(text, ',');
+}
+
 std::optional<int> ParseWholeNumber(std::string_view text, int lowest, int highest) {
     text = Trimmed(text);
     if (text.size() > 1 && text[0] == '+' && text[1] != '-') {

@@ -25,6 +25,10 @@ std::string ShortestText(double value);
 /// an exponent is allowed, group separators are not. Nothing when it is no number, or not a finite one.
 std::optional<double> ParseNumber(std::string_view text, char decimalMark = '.');
 
+/// The number on a line of a file, which may have been written in any country: a point or a comma is its
+/// decimal mark. Nothing when it is no number, or not a finite one.
+std::optional<double> ParseFileNumber(std::string_view text);
+
 /// A whole number in decimal digits with an optional sign, blanks around it dropped. Nothing when it is none
 /// or does not lie in the given range.
 std::optional<int> ParseWholeNumber(std::string_view text, int lowest, int highest);

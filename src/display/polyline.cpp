@@ -1,5 +1,8 @@
 #include "display/polyline.h"
 
+#include <array>
+#include <span>
+
 namespace korvet {
 namespace {
 
@@ -46,6 +49,19 @@ void CPolyline::Point(float x, float y) {
 void CPolyline::Draw(const DisplayColors& colors) {
     device_.Polyline(PenFor(Type, colors, PrintRequested), pixels_);
     pixels_.clear();
+}
+
+void DrawBox(DrawingDevice& device, const WorldWindow& window, const C3DPoint& corner1,
+             const C3DPoint& corner2, Color color) {
+    const PixelMap map(window, device.ScaleSize());
+    const std::int32_t x1 = map.ToPixelX(static_cast<float>(corner1.x));
+    const std::int32_t y1 = map.ToPixelY(static_cast<float>(corner1.y));
+    const std::int32_t x2 = map.ToPixelX(static_cast<float>(corner2.x));
+    const std::int32_t y2 = map.ToPixelY(static_cast<float>(corner2.y));
+    const std::array<PixelPoint, 5> corners = {{{x1, y1}, {x2, y1}, {x2, y2}, {x1, y2}, {x1, y1}}};
+    for (std::size_t side = 0; side < 4; ++side) {
+        device.Polyline({color, DrawStyle::Solid, 1}, std::span(corners).subspan(side, 2));
+    }
 }
 
 }  // namespace korvet

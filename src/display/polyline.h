@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "core/points.h"
 #include "display/display_colors.h"
 #include "display/world_window.h"
 
@@ -44,5 +45,10 @@ class CPolyline {
     PixelMap map_;
     std::vector<PixelPoint> pixels_;
 };
+
+/// The outline of the box between two corners, in world units: four lines of one pixel in the given colour,
+/// from (x1, y1) along x first and back to it. Throws ArithmeticError as CPolyline does.
+void DrawBox(DrawingDevice& device, const WorldWindow& window, const C3DPoint& corner1,
+             const C3DPoint& corner2, Color color);
 
 }  // namespace korvet

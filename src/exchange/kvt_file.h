@@ -73,10 +73,10 @@ struct CKvtFile {
     /// counts. PatternSettings and ViewPoint start anew, with `defaultSegs` segments. After an error
     /// everything that was read before it stands in the members. Throws FileError, ForeignProductError and
     /// ParameterFileError.
-    void LoadFile(const FileStore& files, char decimalMark, int defaultSegs);
+    void LoadFile(const FileStore& files, int defaultSegs);
 
     /// The same from the text of a file.
-    void Parse(const std::string& text, char decimalMark, int defaultSegs);
+    void Parse(const std::string& text, int defaultSegs);
 
     /// Reads only the header of FileName: Product, the version and Category. For choosing the window.
     void ReadHeader(const FileStore& files);

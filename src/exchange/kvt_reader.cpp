@@ -29,7 +29,7 @@ double Snapped(double value) {
 /// The lines of a parameter file, with the number of the last one for messages.
 class KvtLines {
   public:
-    KvtLines(std::string_view text, char decimalMark) : rest_(text), decimalMark_(decimalMark) {}
+    explicit KvtLines(std::string_view text) : rest_(text) {}
 
     /// The next line without the blanks around it; an empty one at the end of the file.
     std::string_view ReadLine() {
@@ -58,7 +58,7 @@ class KvtLines {
 
     /// The number in a line that has been read.
     double Number(std::string_view line) {
-        const auto value = ParseNumber(line, decimalMark_);
+        const auto value = ParseFileNumber(line);
         return value ? Snapped(*value) : Refuse<double>(line, "a number");
     }
 
@@ -102,10 +102,7 @@ class KvtLines {
         return point;
     }
 
-    /// Whether the decimal mark of the file makes the line a number.
-    [[nodiscard]] bool IsNumber(std::string_view line) const {
-        return ParseNumber(line, decimalMark_).has_value();
-    }
+    static bool IsNumber(std::string_view line) { return ParseFileNumber(line).has_value(); }
 
     [[noreturn]] void RefuseEnd(std::string_view missing) const {
         throw ParameterFileError("line " + std::to_string(number_ + 1) + ": the file ends before \"" +
@@ -124,7 +121,6 @@ class KvtLines {
     }
 
     std::string_view rest_;
-    char decimalMark_;
     int number_ = 0;
     bool ended_ = false;
 };
@@ -279,7 +275,7 @@ void ReadComments(KvtLines& lines, CKvtFile& file) {
 }  // namespace
 
 void CKvtFile::ParseHeader(const std::string& text) {
-    KvtLines lines(text, '.');
+    KvtLines lines(text);
     korvet::ReadHeader(lines, *this);
 }
 
@@ -287,8 +283,8 @@ void CKvtFile::ReadHeader(const FileStore& files) {
     ParseHeader(DecodeText(files.Read(FileName, LargestFile)));
 }
 
-void CKvtFile::Parse(const std::string& text, char decimalMark, int defaultSegs) {
-    KvtLines lines(text, decimalMark);
+void CKvtFile::Parse(const std::string& text, int defaultSegs) {
+    KvtLines lines(text);
     PatternSettings = CPatternSettings();
     PatternSettings.segs = defaultSegs;
     ViewPoint = CViewPoint();
@@ -306,8 +302,8 @@ void CKvtFile::Parse(const std::string& text, char decimalMark, int defaultSegs)
     ReadComments(lines, *this);
 }
 
-void CKvtFile::LoadFile(const FileStore& files, char decimalMark, int defaultSegs) {
-    Parse(DecodeText(files.Read(FileName, LargestFile)), decimalMark, defaultSegs);
+void CKvtFile::LoadFile(const FileStore& files, int defaultSegs) {
+    Parse(DecodeText(files.Read(FileName, LargestFile)), defaultSegs);
 }
 
 }  // namespace korvet

@@ -99,6 +99,9 @@ class CFittingWindow {
     /// The one path by which anything is rebuilt or redrawn; nothing happens before the first view.
     void UpdateFitting();
 
+    /// Says that the sizes led to no shape and leaves the window without a model.
+    void RefuseBuild(const std::exception& error);
+
     /// Shows what a fitting class had to say while it was built, in its order.
     void ShowWarnings(const std::vector<FittingWarning>& warnings);
 

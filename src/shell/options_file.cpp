@@ -58,8 +58,7 @@ std::vector<std::string_view> LinesOf(std::string_view text) {
 /// Hands out the lines one by one, and says where it stopped when one can't be used.
 class LineReader {
   public:
-    LineReader(std::string_view text, std::string file, char decimalMark)
-        : lines_(LinesOf(text)), file_(std::move(file)), decimalMark_(decimalMark) {}
+    LineReader(std::string_view text, std::string file) : lines_(LinesOf(text)), file_(std::move(file)) {}
 
     [[nodiscard]] bool AtEnd() const { return next_ == lines_.size(); }
 
@@ -74,9 +73,7 @@ class LineReader {
     std::string TrimmedText() { return std::string(Trimmed(Text())); }
 
     /// The line that was read last, when it is a number.
-    [[nodiscard]] std::optional<double> LastAsNumber() const {
-        return ParseNumber(lines_[next_ - 1], decimalMark_);
-    }
+    [[nodiscard]] std::optional<double> LastAsNumber() const { return ParseFileNumber(lines_[next_ - 1]); }
 
     double Number() {
         Text();
@@ -144,7 +141,6 @@ class LineReader {
   private:
     std::vector<std::string_view> lines_;
     std::string file_;
-    char decimalMark_;
     std::size_t next_ = 0;
 };
 
@@ -248,7 +244,7 @@ void ReadIniFile(COptions& options, FileStore& files, MessageBoxes& boxes, char 
         return;
     }
     const std::string text = ReadText(options, files);
-    LineReader reader(text, options.IniFileName, decimalMark);
+    LineReader reader(text, options.IniFileName);
     reader.Text();
     COptions read = options;
     ReadDrawingOptions(reader, read);

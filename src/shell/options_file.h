@@ -26,7 +26,7 @@ void WriteIniFile(const COptions& options, FileStore& files, char decimalMark);
 /// Reads options.IniFileName into `options`. A missing file is first written from the values that `options`
 /// has; one of another version too, after message 116, and the old one is kept under its name with ".bak"
 /// behind. When that can't be done, a plain box says why and `options` keeps its values for this run. Numbers
-/// may have a point or `decimalMark`, lines may end in CR LF or LF. Throws OptionsFileError for a line that
+/// may have a point or a comma, lines may end in CR LF or LF. Throws OptionsFileError for a line that
 /// can't be used and FileError for a file that can't be read or has more than 64 KiB; `options` and the file
 /// then stay as they are.
 void ReadIniFile(COptions& options, FileStore& files, MessageBoxes& boxes, char decimalMark);

@@ -138,7 +138,7 @@ CKvtFile LoadFitting(CFittingWindow& window, const std::string& path) {
     file.FileName = path;
     file.Controls = EmptyControls(window.controls);
     try {
-        file.LoadFile(context.files, context.decimalMark, context.options.DefaultSegs);
+        file.LoadFile(context.files, context.options.DefaultSegs);
     } catch (const ParameterFileError&) {
         // What stood before the fault is not typed a second time.
         FillControls(window, file.Controls);

@@ -1,6 +1,7 @@
 // The update cycle of a fitting window: from typed text to a drawing.
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "core/constants.h"
 #include "core/math_module.h"
@@ -19,10 +20,14 @@ void CFittingWindow::UpdateFitting() {
             DevelopAndDisplay();
         }
     } catch (const std::exception& error) {
-        // A size so far out that the arithmetic ends: the window stays, with no model to save or print.
-        hasModel = false;
-        ShowPlain(context_.ui, "This fitting cannot be made with these sizes", error.what());
+        RefuseBuild(error);
     }
+}
+
+/// A size so far out that the arithmetic ends: the window stays, with no model to save or print.
+void CFittingWindow::RefuseBuild(const std::exception& error) {
+    hasModel = false;
+    ShowPlain(context_.ui, "This fitting cannot be made with these sizes", error.what());
 }
 
 bool CFittingWindow::BuildFitting() {
@@ -92,7 +97,10 @@ void CFittingWindow::ApplySettings() {
 /// Hands the fitting over to the display, which builds and draws it.
 void CFittingWindow::DevelopAndDisplay() {
     const auto textSize = ParseNumber(controls.txtTextSize.text, context_.decimalMark);
-    if (textSize && std::isfinite(static_cast<float>(*textSize))) {
+    if (textSize) {
+        if (std::fabs(*textSize) > std::numeric_limits<float>::max()) {
+            throw ArithmeticError("the text size is too large");
+        }
         goodTextSize_ = *textSize;
     }
     controls.pboxGraphicWindow.backColor = context_.options.Colors.DisplayBackColor;

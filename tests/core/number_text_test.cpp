@@ -220,5 +220,12 @@ TEST(EqualIgnoringCase, IsAboutAsciiLettersOnly) {
     EXPECT_FALSE(EqualIgnoringCase("\xC3\x84", "\xC3\xA4"));
 }
 
+TEST(ParseFileNumber, TakesThePointAndTheCommaOfAnyCountry) {
+    EXPECT_EQ(ParseFileNumber("1.5"), 1.5);
+    EXPECT_EQ(ParseFileNumber(" 1,5 "), 1.5);
+    EXPECT_FALSE(ParseFileNumber("1,234.5"));
+    EXPECT_FALSE(ParseFileNumber("nan"));
+}
+
 }  // namespace
 }  // namespace korvet

@@ -86,5 +86,18 @@ TEST(Polyline, RefusesAWindowWithoutSize) {
     EXPECT_THROW(CPolyline(device, {0, 0, 0, 0}), ArithmeticError);
 }
 
+TEST(Box, HasFourSidesInTheirOrder) {
+    RecordingDevice device(400, 200);
+    DrawBox(device, OnePixelToAUnit, {10, 20, 5, 0}, {40, 60, 7, 0}, Green);
+    ASSERT_EQ(device.calls.size(), 4U);
+    // y runs upward in the world and downward on the device: 200 - 20 = 180, 200 - 60 = 140.
+    const std::vector<std::vector<PixelPoint>> sides = {
+        {{10, 180}, {40, 180}}, {{40, 180}, {40, 140}}, {{40, 140}, {10, 140}}, {{10, 140}, {10, 180}}};
+    for (std::size_t i = 0; i < sides.size(); ++i) {
+        EXPECT_EQ(device.calls[i].points, sides[i]);
+        EXPECT_EQ(device.calls[i].pen, (Pen{Green, DrawStyle::Solid, 1}));
+    }
+}
+
 }  // namespace
 }  // namespace korvet

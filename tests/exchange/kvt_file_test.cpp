@@ -172,7 +172,7 @@ CKvtFile Reader() {
 
 CKvtFile Parsed(const Lines& lines) {
     CKvtFile file = Reader();
-    file.Parse(Joined(lines), '.', 24);
+    file.Parse(Joined(lines), 24);
     return file;
 }
 
@@ -215,12 +215,12 @@ TEST(KvtWriter, KeepsTypedTextOnItsLine) {
     EXPECT_EQ(lines[FullFileLines.size() - 4], "two  lines");
 }
 
-TEST(KvtWriter, UsesTheDecimalMarkOfTheLocale) {
+TEST(KvtWriter, UsesTheDecimalMarkOfTheLocaleAndReadsBoth) {
     EXPECT_EQ(SplitLines(FullFile().Compose(','))[15], "1,2");
     CKvtFile file = Reader();
-    file.Parse(FullFile().Compose(','), ',', 24);
+    file.Parse(FullFile().Compose(','), 24);
     EXPECT_EQ(file.PatternSettings.Thickness, 1.2);
-    file.Parse(Joined(FullFileLines), ',', 24);  // a file from a country with a point
+    file.Parse(Joined(FullFileLines), 24);
     EXPECT_EQ(file.PatternSettings.Thickness, 1.2);
 }
 
@@ -284,7 +284,7 @@ TEST(KvtReader, VersionDigitsAreSingle) {
 TEST(KvtReader, AForeignProductIsTold) {
     EXPECT_THROW(Parsed(WithLine(1, "Another Program-3.3.3")), ForeignProductError);
     CKvtFile file = Reader();
-    EXPECT_THROW(file.Parse("", '.', 24), ForeignProductError);
+    EXPECT_THROW(file.Parse("", 24), ForeignProductError);
     EXPECT_THROW(file.ParseHeader("Korvet\r\n"), ForeignProductError);
 }
 
@@ -307,7 +307,7 @@ TEST(KvtReader, AnEndMarkerEndsTheWholeOptionSection) {
     CKvtFile file = Reader();
     file.Controls.optTopAngle.resize(2);
     file.Controls.optBaseAngle.resize(2);
-    file.Parse(Joined(FullFileLines), '.', 24);
+    file.Parse(Joined(FullFileLines), 24);
     EXPECT_FALSE(file.Controls.optTopAngle[0]);
     EXPECT_FALSE(file.Controls.optBaseAngle[0]);
     EXPECT_EQ(file.Controls.optPatternSelect[0], true);
@@ -321,7 +321,7 @@ TEST(KvtReader, AWordThatIsNoBooleanEndsItsGroupOnly) {
     CKvtFile file = Reader();
     file.Controls.optTopAngle.resize(2);
     file.Controls.optBaseAngle.resize(2);
-    file.Parse(Joined(lines), '.', 24);
+    file.Parse(Joined(lines), 24);
     EXPECT_FALSE(file.Controls.optTopAngle[0]);
     EXPECT_EQ(file.Controls.optBaseAngle[0], false);
     EXPECT_EQ(file.Controls.optBaseAngle[1], true);
@@ -331,7 +331,7 @@ TEST(KvtReader, FewerBoxesTakeTheEndMarkerAsText) {
     CKvtFile file;
     file.Controls.txtParameter.resize(4);
     file.Controls.optPatternSelect.resize(2);
-    file.Parse(Joined(FullFileLines), '.', 24);
+    file.Parse(Joined(FullFileLines), 24);
     EXPECT_EQ(file.Controls.txtParameter[3], "End Standard TextBoxes");
 }
 
@@ -341,7 +341,7 @@ TEST(KvtReader, TrimsBlanksAndTakesBareLineFeeds) {
         text += "  " + line + "\t\n";
     }
     CKvtFile file = Reader();
-    file.Parse(text, '.', 24);
+    file.Parse(text, 24);
     EXPECT_EQ(file.Comment1, "first comment");
 }
 
@@ -353,10 +353,10 @@ TEST(KvtReader, BooleansMayBeNumbers) {
 
 TEST(KvtReader, NamesTheLineOfAFault) {
     const std::vector<std::pair<std::size_t, std::string>> faults = {
-        {3, "one"},  {7, "nan"},    {8, "inf"},    {11, "1e400"}, {12, "yes"},      {16, ""},
-        {17, "0"},   {17, "-4"},    {17, "2.5"},   {17, "abc"},   {17, "10000000"}, {17, "100001"},
-        {18, "1,5"}, {22, "3"},     {27, "99999"}, {28, "x"},     {29, "0x10"},     {33, "maybe"},
-        {57, "--1"}, {60, "Start"}, {73, ""},      {82, "1 2"},   {87, "2.0"},      {88, "1e3"}};
+        {3, "one"},      {7, "nan"},    {8, "inf"},    {11, "1e400"}, {12, "yes"},      {16, ""},
+        {17, "0"},       {17, "-4"},    {17, "2.5"},   {17, "abc"},   {17, "10000000"}, {17, "100001"},
+        {18, "1,234.5"}, {22, "3"},     {27, "99999"}, {28, "x"},     {29, "0x10"},     {33, "maybe"},
+        {57, "--1"},     {60, "Start"}, {73, ""},      {82, "1 2"},   {87, "2.0"},      {88, "1e3"}};
     for (const auto& [number, text] : faults) {
         try {
             Parsed(WithLine(number, text));
@@ -374,16 +374,16 @@ TEST(KvtReader, ATruncatedFileIsRefusedWhereverItIsCut) {
     for (std::size_t length = 0; length < whole.size(); ++length) {
         CKvtFile file = Reader();
         if (length < contentEnd) {
-            EXPECT_THROW(file.Parse(whole.substr(0, length), '.', 24), ParameterFileError) << length;
+            EXPECT_THROW(file.Parse(whole.substr(0, length), 24), ParameterFileError) << length;
         } else {
-            EXPECT_NO_THROW(file.Parse(whole.substr(0, length), '.', 24)) << length;
+            EXPECT_NO_THROW(file.Parse(whole.substr(0, length), 24)) << length;
         }
     }
 }
 
 TEST(KvtReader, WhatStoodBeforeAFaultIsKept) {
     CKvtFile file = Reader();
-    EXPECT_THROW(file.Parse(Joined(WithLine(57, "x")), '.', 24), ParameterFileError);
+    EXPECT_THROW(file.Parse(Joined(WithLine(57, "x")), 24), ParameterFileError);
     EXPECT_EQ(file.Controls.txtParameter[2], "1e2");
 }
 
@@ -396,7 +396,7 @@ TEST(KvtReader, ReadsWindows1252AndUtf8) {
         files.files["a.Kvt"] = Joined(WithLine(FullFileLines.size() - 3, bytes));
         CKvtFile file = Reader();
         file.FileName = "a.Kvt";
-        file.LoadFile(files, '.', 24);
+        file.LoadFile(files, 24);
         EXPECT_EQ(file.Comment1,
                   "Stra\xC3\x9F"
                   "e");

@@ -128,7 +128,8 @@ void CRightCone::DevelopModel() {
     for (std::size_t i = 1; i <= upper.Count(); ++i) {
         const double prev = a;
         a = PlanAngle(baseCentre_, baseRing_.Item(i));
-        if (a < prev) {
+        // The angle runs on past a full turn; a seam at 360 degrees takes its last station past two.
+        while (a < prev) {
             a += FullTurn;
         }
         // Arc of the base circle over the slant height.
