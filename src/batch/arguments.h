@@ -41,7 +41,7 @@ struct Arguments {
     std::string svg;
     PictureSize size;
 
-    bool polylines = false;  ///< what goes into the DXF, beyond what the dialog would offer
+    bool polylines = false;  ///< boxes of the export dialog to tick
     bool mesh = false;
     bool diagonals = false;
     bool dimensions = false;

@@ -1,12 +1,11 @@
 #include "batch/batch_ui.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <iostream>
 
 #include "core/number_text.h"
 #include "core/text_encoding.h"
+#include "platform/terminal.h"
 
 namespace korvet::batch {
 namespace {
@@ -37,7 +36,7 @@ void BatchUi::PrintLine(const std::string& text) {
 }
 
 void BatchUi::ShowProgress(std::size_t number, std::size_t count, const std::string& name) {
-    if (count > 1 && isatty(STDERR_FILENO) != 0) {
+    if (count > 1 && IsStandardErrorATerminal()) {
         std::cerr << "\r\033[K" << number << " of " << count << "  " << name << std::flush;
         progressShown_ = true;
     }
@@ -67,17 +66,21 @@ void BatchUi::RunModal(DxfOptionsDialog& dialog) {
     if (arguments_.polylines) {
         dialog.optPolyMode.selected = 1;
     }
-    dialog.chkSurfaceMesh.checked = arguments_.mesh;
-    const std::array<std::pair<std::size_t, bool>, 3> ticks = {
-        {{DxfOptionsDialog::Diagonals, arguments_.diagonals},
-         {DxfOptionsDialog::Dimensions, arguments_.dimensions},
-         {DxfOptionsDialog::Label, arguments_.label}}};
-    for (const auto& [index, ticked] : ticks) {
-        if (ticked) {
-            dialog.chkDXFOutput.at(index).checked = true;
-        }
-    }
+    Tick(dialog.chkSurfaceMesh, arguments_.mesh);
+    Tick(dialog.chkDXFOutput[DxfOptionsDialog::Diagonals], arguments_.diagonals);
+    Tick(dialog.chkDXFOutput[DxfOptionsDialog::Dimensions], arguments_.dimensions);
+    Tick(dialog.chkDXFOutput[DxfOptionsDialog::Label], arguments_.label);
     dialog.lblStatus = "OK";
+}
+
+/// Ticks a box that the command line asks for. One that the dialog has greyed stays as it is, with a word
+/// about it.
+void BatchUi::Tick(CheckBox& box, bool wanted) {
+    if (wanted && box.enabled) {
+        box.checked = true;
+    } else if (wanted) {
+        PrintLine(name_ + ": there is nothing for \"" + box.caption + "\" in this view");
+    }
 }
 
 }  // namespace korvet::batch

@@ -45,6 +45,8 @@ class BatchUi : public UserInterface {
     void RunModal(LabelDialog&) override {}
 
   private:
+    void Tick(CheckBox& box, bool wanted);
+
     const Arguments& arguments_;
     std::string name_;
     std::vector<MessageBox> messages_;

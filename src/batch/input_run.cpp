@@ -1,6 +1,7 @@
 #include "batch/input_run.h"
 
 #include "batch/set_values.h"
+#include "shell/form_services.h"
 #include "shell/new_fitting.h"
 #include "shell/views.h"
 
@@ -83,10 +84,11 @@ std::string InputRun::CategoryOfFile() {
             throw ParameterFileError("line 2: the fitting is missing");
         }
     } catch (const ForeignProductError& error) {
+        // No window is opened for it, so nothing fails to load.
         ShowPlain(ui_, context_.Message(NotAValidFile), error.what());
         return {};
     } catch (const std::exception& error) {
-        ShowPlain(ui_, context_.Message(ErrorLoading), error.what());
+        ShowLoadError(context_, error);
         return {};
     }
     return file.Category;
@@ -167,7 +169,7 @@ bool InputRun::WriteOutputs() {
         written = window_->SaveFile(OutputPath(arguments_.save, name)) && written;
     }
     if (!arguments_.dxf.empty()) {
-        written = window_->Export(OutputPath(arguments_.dxf, name), ExportMode::Dxf) && written;
+        written = ExportDxf(OutputPath(arguments_.dxf, name)) && written;
     }
     if (!arguments_.png.empty()) {
         written = WritePicture(OutputPath(arguments_.png, name), PictureFormat::Png) && written;
@@ -175,6 +177,16 @@ bool InputRun::WriteOutputs() {
     if (!arguments_.svg.empty()) {
         written = WritePicture(OutputPath(arguments_.svg, name), PictureFormat::Svg) && written;
     }
+    return written;
+}
+
+/// Exports the view. Diagonals that the command line asks for are shown for as long as this takes, so that
+/// the export has them to offer.
+bool InputRun::ExportDxf(const std::string& path) {
+    const bool shown = window_->display.DiagonalsRequested;
+    window_->display.DiagonalsRequested = shown || arguments_.diagonals;
+    const bool written = window_->Export(path, ExportMode::Dxf);
+    window_->display.DiagonalsRequested = shown;
     return written;
 }
 

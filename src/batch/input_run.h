@@ -36,6 +36,7 @@ class InputRun {
     bool BuildForReport();
     void ChooseView();
     bool WriteOutputs();
+    bool ExportDxf(const std::string& path);
     bool WritePicture(const std::string& path, PictureFormat format);
 
     const Arguments& arguments_;

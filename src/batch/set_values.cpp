@@ -41,6 +41,11 @@ const std::map<std::string, Member, std::less<>>& Members() {
         {"LapSize2", &CPatternSettings::LapSize2},
         {"KerfSpacing", &CPatternSettings::KerfSpacing},
         {"HalfPattern", &CPatternSettings::HalfPattern},
+        {"JoinAngleDisable", &CPatternSettings::JoinAngleDisable},
+        {"KerfEnabled", &CPatternSettings::KerfEnabled},
+        {"TemplateTypeEnabled", &CPatternSettings::TemplateTypeEnabled},
+        {"NoOfSides", ShortMember{&CPatternSettings::NoOfSides, 32767}},
+        {"LapEnable", ShortMember{&CPatternSettings::LapEnable, AllLaps}},
         {"InOutMean", ShortMember{&CPatternSettings::InOutMean, OutsideDimension}},
         {"JoinType", ShortMember{&CPatternSettings::JoinType, 1}},
         {"TemplateType", ShortMember{&CPatternSettings::TemplateType, 1}},
@@ -104,7 +109,9 @@ bool SetMember(CFittingWindow& window, const std::string& name, const std::strin
                              "\"");
         }
         window.settings.*choice.member = static_cast<std::int16_t>(*index);
-        window.settings.PositionString = PositionWord(window.settings.InOutMean);
+        if (choice.member == &CPatternSettings::InOutMean) {
+            window.settings.PositionString = PositionWord(window.settings.InOutMean);
+        }
     }
     return true;
 }

@@ -13,7 +13,7 @@ enum ListNumber : int {
     FirstEdgeList = 1,       ///< List1
     SecondEdgeList = 2,      ///< List2
     ThirdLineList = 3,       ///< List3
-    SpareListNumber = 4,     ///< the display's SpareList, which nothing fills
+    SpareList = 4,           ///< kept free: no point has this number
     ExtentFrameList = 5      ///< the display's extent frame; the surface number has no meaning
 };
 

@@ -41,7 +41,7 @@ struct FittingResults {
     CRuleSurf PatternSurface;
     CRuleSurfs ModelSurfaceList;
     CRuleSurfs PatternSurfaceList;
-    std::vector<FittingWarning> warnings;  ///< of the last operation, in their order
+    std::vector<FittingWarning> warnings;  ///< in their order; a handle starts each operation with none
 };
 
 /// A fitting class: plain members, no base class. ConstructModel builds the model from the properties;

@@ -22,7 +22,7 @@ double PlanAngleOf(double dx, double dy) {
     return dy >= 0 ? slope : slope + FullTurn;
 }
 
-/// Whether t lies strictly within 1e-08 of the given angle, by the limits as they have always been compared.
+/// Whether low < t < high.
 bool IsStrictlyBetween(double t, double low, double high) {
     return t > low && t < high;
 }

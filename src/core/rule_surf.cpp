@@ -79,9 +79,7 @@ PointList CRuleSurf::MoveList(const C3DPoints& list, const C3DPoint& from, const
 
 void CRuleSurf::Rotate(Axis axis, const C3DPoint& centre, double angle) {
     for (int number = 1; number <= 5; ++number) {
-        if (*ListByNumber(*this, number)) {
-            RotateList(number, axis, centre, angle);
-        }
+        RotateList(number, axis, centre, angle);
     }
     if (RefPoint) {
         RefPoint = RotatePoint(axis, *RefPoint, centre, angle);
@@ -90,11 +88,11 @@ void CRuleSurf::Rotate(Axis axis, const C3DPoint& centre, double angle) {
 
 void CRuleSurf::RotateList(int listNumber, Axis axis, const C3DPoint& centre, double angle) {
     PointList* list = ListByNumber(*this, listNumber);
-    if (list == nullptr) {
+    if (list == nullptr || !*list) {
         return;
     }
     auto rotated = std::make_shared<C3DPoints>();
-    rotated->Reserve(Required(*list).Count());
+    rotated->Reserve((*list)->Count());
     for (const C3DPoint& point : **list) {
         rotated->Add(RotatePoint(axis, point, centre, angle));
     }

@@ -38,7 +38,7 @@ struct CRuleSurf {
     void Rotate(Axis axis, const C3DPoint& centre, double angle);
 
     /// Rotates one list: 1 to 3 are List1 to List3, 4 and 5 are LapList1 and LapList2, another number does
-    /// nothing. Throws ListError when the list is absent.
+    /// nothing, and so does an absent list.
     void RotateList(int listNumber, Axis axis, const C3DPoint& centre, double angle);
 };
 

@@ -30,7 +30,7 @@ struct Stations {
 };
 
 std::string SpacedNumber(const Drawing& drawing, double value) {
-    return "  " + RoundedText(value, drawing.Decimals) + "  ";
+    return "  " + RoundedText(value, drawing.Decimals, drawing.DecimalMark) + "  ";
 }
 
 void DisplayGridLines(const Drawing& drawing, const C3DPoints& stations, const C3DPoints& extentFrame) {
@@ -150,7 +150,7 @@ void DrawExtentFrame(const Drawing& drawing, const C3DPoints& extentFrame, bool 
     drawing.DrawLength(corner4, corner3, Justification::BottomCentre);
     drawing.DrawLength(corner1, corner4, Justification::BottomCentre);
     const double area = Distance3D(corner1, corner4) * Distance3D(corner1, extentFrame.Item(2));
-    drawing.DrawHorizontalText(corner3, "Area = " + RoundedText(area, drawing.Decimals),
+    drawing.DrawHorizontalText(corner3, "Area = " + RoundedText(area, drawing.Decimals, drawing.DecimalMark),
                                Justification::BottomRight);
 }
 

@@ -102,6 +102,7 @@ void Drawing::DrawSurface(const CRuleSurf& surface) const {
 CText Drawing::NewText(const std::string& text) const {
     CText drawn(*Device, Window);
     drawn.Decimals = Decimals;
+    drawn.DecimalMark = DecimalMark;
     drawn.Printing = PrintRequested;
     drawn.TextColor = Colors.DisplayTextColor;
     drawn.TextSize = static_cast<float>(ScaledFontSize());

@@ -33,8 +33,9 @@ struct Drawing {
     WorldWindow Window;
     DisplayColors Colors;
     bool PrintRequested = false;
-    float TextSize = 0;   ///< height of text in the user's unit
-    int Decimals = 0;     ///< places of every number drawn
+    float TextSize = 0;  ///< height of text in the user's unit
+    int Decimals = 0;    ///< places of every number drawn
+    char DecimalMark = '.';
     double CrossArm = 0;  ///< of a reference cross, in the user's unit, of either sign
 
     /// Whether there is a surface to draw on.

@@ -39,7 +39,8 @@ struct PixelSize {
 
 /// The font of drawn text: always Arial, upright, not bold.
 struct TextFont {
-    int lfHeight = 0;  ///< character height in pixels, negative as fonts are asked for by cell-less height
+    int lfHeight =
+        0;  ///< character height in pixels, negative: the height of the characters without their leading
     int lfEscapement = 0;  ///< turn counter-clockwise, tenths of a degree
     bool operator==(const TextFont&) const = default;
 };

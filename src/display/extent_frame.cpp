@@ -34,9 +34,10 @@ C3DPoints BuildExtentFrame(const CRuleSurfs& surfaces, const CRuleSurfs& screenS
     }
     for (const CRuleSurf& surface : screenSurfaces) {
         const C3DPoints& list1 = PointsOf(surface.List1);
-        for (std::size_t i = 1; i <= list1.Count(); ++i) {
+        const C3DPoints& list2 = PointsOf(surface.List2);
+        for (std::size_t i = 1; i <= std::min(list1.Count(), list2.Count()); ++i) {
             TakeIn(box, list1.Item(i));
-            TakeIn(box, PointsOf(surface.List2).Item(i));
+            TakeIn(box, list2.Item(i));
         }
     }
     C3DPoints frame;

@@ -59,14 +59,6 @@ void CObjectDisplay::SelectDevice() const {
     }
 }
 
-void CObjectDisplay::PrepareSurfaces() {
-    if (ViewList->Last().Patternview) {
-        PreparePattern();
-    } else {
-        PrepareModel();
-    }
-}
-
 void CObjectDisplay::PreparePattern() {
     RunFitting(&FittingHandle::DevelopModel);
     if (Multiple) {
@@ -169,7 +161,8 @@ void CObjectDisplay::ApplyFitScale() {
 
 Drawing CObjectDisplay::NewDrawing() const {
     const WorldWindow& window = Device() == DisplayDevice ? displayWindow_ : printWindow_;
-    return {Device(), window, Colors, PrintRequested, TextSize, Decimals, displayWindow_.ScaleHeight / 100};
+    return {Device(), window,   Colors,      PrintRequested,
+            TextSize, Decimals, DecimalMark, displayWindow_.ScaleHeight / 100};
 }
 
 void CObjectDisplay::DisplayAnnotations() {
@@ -241,7 +234,7 @@ void CObjectDisplay::ZoomWindow(double x1, double y1, double x2, double y2) {
 }
 
 void CObjectDisplay::ZoomToCorners(const C3DPoint& a, const C3DPoint& b) {
-    CViewPoint view = ViewList->Count() > 0 ? ViewList->Last() : DefaultViewPoint();
+    CViewPoint view = CurrentOrDefaultView(*ViewList);
     const double dx = b.x - a.x;
     const double dy = b.y - a.y;
     view.PanX = dx / 2 + a.x;

@@ -25,6 +25,7 @@ class CObjectDisplay {
   public:
     float TextSize = 2;                      ///< height of drawn text
     int Decimals = 1;                        ///< places of every number drawn
+    char DecimalMark = '.';                  ///< of every number drawn
     DrawingDevice* DisplayDevice = nullptr;  ///< the window's drawing area, not owned
     DrawingDevice* PrintDevice = nullptr;    ///< the printer, not owned
     DisplayColors Colors;
@@ -59,10 +60,6 @@ class CObjectDisplay {
     /// current view shows, and the label block. A grid or frame has the pattern made and drawn once more, so
     /// that its own lines lie on top.
     void DisplayObject();
-
-    /// Makes Surfaces for the current view without drawing: the pattern rotated and moved, or the model as
-    /// built. The fitting's own surfaces are not turned. Appends to Warnings.
-    void PrepareSurfaces();
 
     /// Makes and draws the pattern, or the model, under the current view.
     void DisplayPattern();

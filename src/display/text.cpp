@@ -64,7 +64,7 @@ void CText::VerticalText(const C3DPoint& point, Justification justification) con
 void CText::AlignedText(const C3DPoint& a, const C3DPoint& b, Justification justification) {
     const double length = Distance3D(a, b);
     const double angle = PlanAngle(a, b);
-    TextString = RoundedText(length, Decimals);
+    TextString = RoundedText(length, Decimals, DecimalMark);
     DrawRotatedText(PolarPoint(a, angle, length / 2), angle, justification);
 }
 

@@ -37,6 +37,7 @@ class CText {
     Color TextColor = Black;  ///< on the screen
     bool Printing = false;    ///< in black
     int Decimals = 0;         ///< of an aligned length
+    char DecimalMark = '.';   ///< of an aligned length
 
     /// Left to right.
     void HorizontalText(const C3DPoint& point, Justification justification) const;

@@ -24,4 +24,9 @@ inline CViewPoint DefaultViewPoint() {
     return {false, 1, 0, 0, QuarterTurn, QuarterTurn};
 }
 
+/// The current view; the default one before the first.
+inline CViewPoint CurrentOrDefaultView(const CViewList& views) {
+    return views.Count() > 0 ? views.Last() : DefaultViewPoint();
+}
+
 }  // namespace korvet

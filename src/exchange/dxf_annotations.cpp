@@ -1,12 +1,12 @@
 #include "exchange/dxf_annotations.h"
 
 #include <algorithm>
-#include <limits>
 #include <string>
 
 #include "core/constants.h"
 #include "core/math_module.h"
 #include "core/number_text.h"
+#include "display/extent_frame.h"
 
 namespace korvet {
 namespace {
@@ -233,26 +233,17 @@ std::size_t StationCount(const CRuleSurf& surface) {
 }
 
 std::optional<DrawingFrame> BuildDXFFrame(const CRuleSurfs& surfaces) {
-    double left = std::numeric_limits<double>::max();
-    double bottom = left;
-    double right = -left;
-    double top = right;
+    CRuleSurfs drawn;
     for (const CRuleSurf& surface : surfaces) {
-        const std::size_t n = StationCount(surface);
-        for (std::size_t i = 1; i <= n; ++i) {
-            for (const C3DPoint* p : {&surface.List1->Item(i), &surface.List2->Item(i)}) {
-                left = std::min(left, p->x);
-                right = std::max(right, p->x);
-                bottom = std::min(bottom, p->y);
-                top = std::max(top, p->y);
-            }
+        if (StationCount(surface) > 0) {
+            drawn.Add(surface);
         }
     }
-    if (left > right) {
+    const C3DPoints frame = BuildExtentFrame(drawn, drawn);
+    if (frame.Count() == 0) {
         return std::nullopt;
     }
-    const C3DPoint corner{left, bottom};
-    return DrawingFrame{corner, {right, bottom}, {right, top}, {left, top}, corner};
+    return DrawingFrame{frame.Item(1), frame.Item(2), frame.Item(3), frame.Item(4), frame.Item(5)};
 }
 
 void WriteAnnotations(DxfStream& out, const CDXF& dxf) {

@@ -20,6 +20,12 @@ class ParameterFileError : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
+/// The header of the file is at fault behind its first line.
+class HeaderError : public ParameterFileError {
+  public:
+    using ParameterFileError::ParameterFileError;
+};
+
 /// The file was written by another product.
 class ForeignProductError : public ParameterFileError {
   public:
@@ -71,8 +77,8 @@ struct CKvtFile {
 
     /// Reads FileName from the header to the comments into the members; Controls must have the window's
     /// counts. PatternSettings and ViewPoint start anew, with `defaultSegs` segments. After an error
-    /// everything that was read before it stands in the members. Throws FileError, ForeignProductError and
-    /// ParameterFileError.
+    /// everything that was read before it stands in the members. Throws FileError, ForeignProductError,
+    /// HeaderError and ParameterFileError.
     void LoadFile(const FileStore& files, int defaultSegs);
 
     /// The same from the text of a file.

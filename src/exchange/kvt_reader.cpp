@@ -1,5 +1,5 @@
 #include <algorithm>
-#include <array>
+#include <cmath>
 
 #include "core/constants.h"
 #include "core/number_text.h"
@@ -18,7 +18,7 @@ double Snapped(double value) {
     for (const double literal : AngleLiterals) {
         for (const double angle : {literal, -literal}) {
             // Most numbers are nowhere near, and are spared the comparison of texts.
-            if (std::abs(value - angle) < 1e-12 && NumberText(value) == NumberText(angle)) {
+            if (std::fabs(value - angle) < 1e-12 && NumberText(value) == NumberText(angle)) {
                 return angle;
             }
         }
@@ -144,7 +144,11 @@ void ReadHeader(KvtLines& lines, CKvtFile& file) {
                                   std::string(ProductTitle) + "\"");
     }
     file.Category = lines.ReadLine();
-    file.Dtype = lines.ReadInteger(-32768, 32767);
+    try {
+        file.Dtype = lines.ReadInteger(-32768, 32767);
+    } catch (const ParameterFileError& error) {
+        throw HeaderError(error.what());
+    }
 }
 
 void ReadView(KvtLines& lines, CKvtFile& file) {
@@ -234,7 +238,7 @@ void ReadRequests(KvtLines& lines, CKvtFile& file) {
 void ReadLabel(KvtLines& lines, CKvtFile& file) {
     lines.SkipTo("Start LabelPoint");
     const std::string_view first = lines.ReadLine();
-    if (lines.IsNumber(first)) {
+    if (KvtLines::IsNumber(first)) {
         C3DPoint point;
         point.x = lines.Number(first);
         point.y = lines.ReadNumber();

@@ -8,11 +8,11 @@ namespace korvet {
 namespace {
 
 struct Segment {
-    PicturePoint from;
-    PicturePoint to;
+    ClippedPoint from;
+    ClippedPoint to;
 };
 
-PicturePoint PointAt(const Segment& segment, double t) {
+ClippedPoint PointAt(const Segment& segment, double t) {
     if (t == 0) {
         return segment.from;
     }
@@ -24,7 +24,7 @@ PicturePoint PointAt(const Segment& segment, double t) {
 }
 
 /// The part of a segment in the rectangle (Liang and Barsky): each side allows a range of the parameter.
-std::optional<Segment> ClipSegment(const Segment& segment, PicturePoint low, PicturePoint high) {
+std::optional<Segment> ClipSegment(const Segment& segment, ClippedPoint low, ClippedPoint high) {
     const double dx = segment.to.x - segment.from.x;
     const double dy = segment.to.y - segment.from.y;
     /// How far a step goes towards a side, and how far the side is from the start.
@@ -51,17 +51,17 @@ std::optional<Segment> ClipSegment(const Segment& segment, PicturePoint low, Pic
     return Segment{PointAt(segment, first), PointAt(segment, last)};
 }
 
-bool Same(PicturePoint a, PicturePoint b) {
+bool Same(ClippedPoint a, ClippedPoint b) {
     return a.x == b.x && a.y == b.y;
 }
 
 }  // namespace
 
-std::vector<std::vector<PicturePoint>> ClipLine(std::span<const PixelPoint> points, PixelSize size,
+std::vector<std::vector<ClippedPoint>> ClipLine(std::span<const PixelPoint> points, PixelSize size,
                                                 double margin) {
-    const PicturePoint low = {-margin, -margin};
-    const PicturePoint high = {size.width + margin, size.height + margin};
-    std::vector<std::vector<PicturePoint>> parts;
+    const ClippedPoint low = {-margin, -margin};
+    const ClippedPoint high = {size.width + margin, size.height + margin};
+    std::vector<std::vector<ClippedPoint>> parts;
     for (std::size_t i = 1; i < points.size(); ++i) {
         const Segment whole = {{static_cast<double>(points[i - 1].x), static_cast<double>(points[i - 1].y)},
                                {static_cast<double>(points[i].x), static_cast<double>(points[i].y)}};

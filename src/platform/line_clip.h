@@ -8,14 +8,14 @@
 
 namespace korvet {
 
-struct PicturePoint {
+struct ClippedPoint {
     double x = 0;
     double y = 0;
 };
 
 /// The parts of the line through the points that lie within `margin` pixels about the rectangle from (0, 0)
 /// to the size, as lines of two or more points each.
-std::vector<std::vector<PicturePoint>> ClipLine(std::span<const PixelPoint> points, PixelSize size,
+std::vector<std::vector<ClippedPoint>> ClipLine(std::span<const PixelPoint> points, PixelSize size,
                                                 double margin);
 
 }  // namespace korvet

@@ -177,9 +177,9 @@ void PictureDevice::Polyline(const Pen& pen, std::span<const PixelPoint> points)
         return;
     }
     painter->setPen(PenOf(pen));
-    for (const std::vector<PicturePoint>& part : ClipLine(points, ScaleSize(), ClipMargin)) {
+    for (const std::vector<ClippedPoint>& part : ClipLine(points, ScaleSize(), ClipMargin)) {
         QPolygonF line;
-        for (const PicturePoint& point : part) {
+        for (const ClippedPoint& point : part) {
             line.append(QPointF(point.x + 0.5, point.y + 0.5));  // the middle of the pixel
         }
         painter->drawPolyline(line);

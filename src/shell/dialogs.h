@@ -29,7 +29,7 @@ struct DimensionOptionsDialog {
 /// The text block: its two comment lines, and whether it is shown on the drawing.
 struct LabelDialog {
     static constexpr std::size_t EditableLines = 2;
-    static constexpr std::size_t FixedLines = 10;
+    static constexpr std::size_t FixedLines = 20;
 
     std::string caption = "Label";
     CheckBox chkDisplayLabel;

@@ -91,6 +91,10 @@ bool RunExport(CFittingWindow& window, const std::string& path, ExportMode mode,
     if (dialog.lblStatus != "OK") {
         return false;
     }
+    if (mode != ExportMode::Dxf) {
+        ShowPlain(context.ui, "This version writes DXF files only");
+        return false;
+    }
     DxfOf(window, dialog, path).WriteDXF(context.files);
     context.ui.Show(
         {context.Message(DxfSaved) + path, InformationBox, std::string(ProductTitle), {}, std::nullopt});
@@ -101,21 +105,14 @@ bool RunExport(CFittingWindow& window, const std::string& path, ExportMode mode,
 
 bool ExportFitting(CFittingWindow& window, const std::string& path, ExportMode mode) {
     ShellContext& context = window.Context();
-    if (mode != ExportMode::Dxf) {
-        ShowPlain(context.ui, "This version writes DXF files only");
-        return false;
-    }
-    const Cursor pointer = window.controls.mousePointer;
-    window.controls.mousePointer = Cursor::Hourglass;
+    const HourglassWhile working(window.controls);
     ExportStep step = AtStart;
-    bool written = false;
     try {
-        written = RunExport(window, path, mode, step);
+        return RunExport(window, path, mode, step);
     } catch (const std::exception& error) {
         ShowPlain(context.ui, context.Message(DxfProblem) + " " + std::to_string(step), error.what());
+        return false;
     }
-    window.controls.mousePointer = pointer;
-    return written;
 }
 
 }  // namespace korvet

@@ -129,8 +129,9 @@ void CFittingWindow::Resize(const Place& scale) {
     ArrangeFittingWindow(*this);
 }
 
+/// The line is not composed anew: it tells of the settings that the drawing was made with.
 void CFittingWindow::Activate() {
-    UpdateSettings(*this);
+    context_.frame.statusText = statusString;
 }
 
 /// Clears every mouse mode but the removal of a dimension, which ends by itself.
@@ -150,18 +151,16 @@ bool CFittingWindow::CloseForm() {
 
 bool CFittingWindow::FillFromFile(const std::string& path) {
     views = std::make_shared<CViewList>();
+    hasModel = false;  // no view, no model: there is nothing to save until the next build
     try {
         const CKvtFile file = LoadFitting(*this, path);
         comment1 = file.Comment1;
         comment2 = file.Comment2;
         return true;
-    } catch (const ForeignProductError& error) {
-        ShowPlain(context_.ui, context_.Message(NotAValidFile), error.what());
-        ShowPlain(context_.ui, context_.Message(ErrorLoading), error.what());
     } catch (const std::exception& error) {
-        ShowPlain(context_.ui, context_.Message(ErrorLoading), error.what());
+        ShowLoadError(context_, error);
+        return false;
     }
-    return false;
 }
 
 bool CFittingWindow::LoadFile(const std::string& path) {
@@ -169,7 +168,12 @@ bool CFittingWindow::LoadFile(const std::string& path) {
         return false;
     }
     UpdateFitting();
-    ZoomExtents();
+    try {
+        ShowExtents();
+    } catch (const std::exception& error) {
+        ShowPlain(context_.ui, context_.Message(ErrorLoading), error.what());
+        return false;
+    }
     return true;
 }
 

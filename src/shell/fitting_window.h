@@ -133,14 +133,17 @@ class CFittingWindow {
     bool labelSeen = false;
     bool closed = false;
     std::optional<FittingHandle> fitting;
+    std::string statusString;  ///< line for the status bar, as it was last composed
 
   private:
     void InitialiseFitting();
     bool RefuseWithoutModel();
+    void ShowExtents();
     bool AllFieldsValid();
     void AddTextBlock();
     void ResetFieldColours();
     void DevelopAndDisplay();
+    float DrawnTextSize();
 
     ShellContext& context_;
     const CatalogueRow* row_;

@@ -139,7 +139,8 @@ int ConfirmSave(CFittingWindow& window) {
 
 void UpdateSettings(CFittingWindow& window) {
     ShellContext& context = window.Context();
-    context.frame.statusText = StatusString(window.settings, context.decimalMark);
+    window.statusString = StatusString(window.settings, context.decimalMark);
+    context.frame.statusText = window.statusString;
 }
 
 }  // namespace korvet

@@ -24,7 +24,7 @@ void EnableTypeButtons(CFittingWindow& window, std::int16_t dtype);
 /// open: Cancel, in the question or the file dialog, or a save that failed.
 int ConfirmSave(CFittingWindow& window);
 
-/// Puts the status line of the window's settings into the frame.
+/// Composes the status line of the window's settings and puts it into the frame.
 void UpdateSettings(CFittingWindow& window);
 
 /// Saves the window's boxes, settings, view and annotations to `path`, which becomes its caption. False, with
@@ -34,6 +34,10 @@ bool SaveFitting(CFittingWindow& window, const std::string& path);
 /// Fills the window from a parameter file. Throws FileError and ParameterFileError; what was read before the
 /// fault stays in the controls.
 CKvtFile LoadFitting(CFittingWindow& window, const std::string& path);
+
+/// Says what is wrong with a parameter file that could not be read: a box of its own for a foreign product or
+/// a faulty header, before message 109.
+void ShowLoadError(ShellContext& context, const std::exception& error);
 
 /// Asks what goes out and writes it. True when the file was written.
 bool ExportFitting(CFittingWindow& window, const std::string& path, ExportMode mode);

@@ -20,7 +20,7 @@ struct ColorSwatch {
 };
 
 struct OptionsDialog {
-    enum Tab : int { GeneralTab = 1, DisplayTab, DxfTab, PrintTab };
+    enum Tab : int { GeneralTab = 1, DisplayTab, PrintTab, DxfTab };
     enum ScaleOption : std::size_t { FitPage, FullSize, UserScale };
 
     /// The dialog filled from `options`, with one tab open. The objects must outlive it.

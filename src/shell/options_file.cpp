@@ -197,7 +197,7 @@ void ReadOutputOptions(LineReader& reader, COptions& options) {
     reader.Text();
     reader.Text();
     // Files that end after line 19, or have a word in line 20, are older than the setting. The line at hand
-    // is then still line 19; line 21 fails in any case.
+    // is then still line 19; the lines behind it fail in any case.
     if (!reader.AtEnd()) {
         reader.Text();
     }

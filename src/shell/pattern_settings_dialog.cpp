@@ -51,7 +51,7 @@ void ShowMaterial(PatternSettingsDialog& dialog, const CPatternSettings& setting
     dialog.fraMaterial.enabled = enabled;
     dialog.txtThickness.enabled = enabled;
     dialog.optInOutMean.enabled = enabled;
-    const bool branch = enabled && settings.BranchMaterialEnable;
+    const bool branch = settings.BranchMaterialEnable;
     dialog.fraMaterial.visible = !branch;
     dialog.fraBranchMaterial.visible = branch;
     if (enabled) {

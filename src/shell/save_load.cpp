@@ -98,6 +98,16 @@ std::string LabelText(const std::shared_ptr<CLabels>& labels, std::size_t index)
 
 }  // namespace
 
+void ShowLoadError(ShellContext& context, const std::exception& error) {
+    if (dynamic_cast<const ForeignProductError*>(&error) != nullptr) {
+        ShowPlain(context.ui, context.Message(NotAValidFile), error.what());
+    }
+    if (dynamic_cast<const HeaderError*>(&error) != nullptr) {
+        ShowPlain(context.ui, std::string("Error in CKVTFile:ReadHeader  ") + error.what());
+    }
+    ShowPlain(context.ui, context.Message(ErrorLoading), error.what());
+}
+
 bool SaveFitting(CFittingWindow& window, const std::string& path) {
     const CObjectDisplay& display = window.display;
     ShellContext& context = window.Context();
@@ -124,7 +134,7 @@ bool SaveFitting(CFittingWindow& window, const std::string& path) {
     file.Comment2 = LabelText(window.labels, 2);
     try {
         file.SaveFile(context.files, context.decimalMark);
-    } catch (const FileError& error) {
+    } catch (const std::exception& error) {
         ShowPlain(context.ui, error.what());
         return false;
     }
@@ -157,11 +167,11 @@ CKvtFile LoadFitting(CFittingWindow& window, const std::string& path) {
         PatternSettingsDialog();  // it closes with the settings it showed
     TakeDisplayState(window, file);
     window.controls.caption = path;
-    UpdateSettings(window);
     ShowPageOf(window, window.dtype);
     if (window.Table().onTypeChanged != nullptr) {
         window.Table().onTypeChanged(window.dtype, window.settings);
     }
+    UpdateSettings(window);
     return file;
 }
 

@@ -45,7 +45,7 @@ bool IsZoomWithinLimits(MessageBoxes& boxes, const COptions& options, const CVie
 
 void AddPresetView(int button, CViewList& views) {
     const PresetAngles angles = AnglesOfButton(button);
-    CViewPoint view = views.Count() == 0 ? DefaultViewPoint() : CopyCurrentView(views);
+    CViewPoint view = CurrentOrDefaultView(views);
     view.FromXY = angles.fromXY;
     view.AroundZ = angles.aroundZ;
     view.Patternview = button == PatternButton;

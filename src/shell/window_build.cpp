@@ -94,26 +94,38 @@ void CFittingWindow::ApplySettings() {
     inputs.Miscellaneous = miscellaneous;
 }
 
-/// Hands the fitting over to the display, which builds and draws it.
-void CFittingWindow::DevelopAndDisplay() {
-    const auto textSize = ParseNumber(controls.txtTextSize.text, context_.decimalMark);
-    if (textSize) {
-        if (std::fabs(*textSize) > std::numeric_limits<float>::max()) {
+/// The number in the text size box, or the last one that was good while it holds none.
+float CFittingWindow::DrawnTextSize() {
+    const auto typed = ParseNumber(controls.txtTextSize.text, context_.decimalMark);
+    if (typed) {
+        if (std::fabs(*typed) > std::numeric_limits<float>::max()) {
             throw ArithmeticError("the text size is too large");
         }
-        goodTextSize_ = *textSize;
+        goodTextSize_ = *typed;
     }
+    return static_cast<float>(goodTextSize_);
+}
+
+/// Hands the fitting over to the display, which builds and draws it.
+void CFittingWindow::DevelopAndDisplay() {
+    const HourglassWhile working(controls);
     controls.pboxGraphicWindow.backColor = context_.options.Colors.DisplayBackColor;
     ApplySettings();
-    display.TextSize = static_cast<float>(goodTextSize_);
+    display.TextSize = DrawnTextSize();
     display.Decimals = context_.options.Decimals;
+    display.DecimalMark = context_.decimalMark;
     display.Colors = context_.options.Colors;
     display.Multiple = Table().multiple;
     display.NewObject = fitting;
     display.DimensionList = dimensions;
     display.LabelList = labels;
     display.ViewList = views;
-    display.DisplayObject();
+    try {
+        display.DisplayObject();
+    } catch (const std::exception&) {
+        ShowWarnings(display.Warnings);  // they came before what ended the build
+        throw;
+    }
     UpdateSettings(*this);
     controls.btnPoint[0].enabled = controls.btnPoint[1].enabled = false;
     ShowWarnings(display.Warnings);

@@ -99,6 +99,16 @@ void CFittingWindow::PlaceLabel() {
 }
 
 void CFittingWindow::ZoomExtents() {
+    try {
+        ShowExtents();
+    } catch (const std::exception& error) {
+        ShowPlain(context_.ui, context_.Message(NoExtents), error.what());
+    }
+}
+
+/// Adds the view of the extents and draws it. Throws ArithmeticError when they are too small or too large for
+/// one.
+void CFittingWindow::ShowExtents() {
     if (!hasModel) {
         ShowPlain(context_.ui, context_.Message(NoExtents));
         return;

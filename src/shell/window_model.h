@@ -13,7 +13,7 @@ namespace korvet {
 enum class Cursor : int { Default = 0, Arrow = 1, Cross = 2, Hourglass = 11 };
 
 /// State of a window on the desktop.
-enum WindowState : int { NormalWindow = 0, MinimisedWindow = 1, MaximisedWindow = 2 };
+enum WindowShape : int { NormalWindow = 0, MinimisedWindow = 1, MaximisedWindow = 2 };
 
 struct DrawingArea {
     Place place;
@@ -49,6 +49,29 @@ struct WindowModel {
     OptionGroup optBaseAngle;
     OptionGroup optPatternSelect;
     OptionGroup optFlushSide;
+};
+
+/// Shows the hourglass over window and drawing for as long as it lives, and then the pointers that were
+/// there.
+class HourglassWhile {
+  public:
+    explicit HourglassWhile(WindowModel& controls)
+        : controls_(controls),
+          window_(controls.mousePointer),
+          drawing_(controls.pboxGraphicWindow.mousePointer) {
+        controls.mousePointer = controls.pboxGraphicWindow.mousePointer = Cursor::Hourglass;
+    }
+    ~HourglassWhile() {
+        controls_.mousePointer = window_;
+        controls_.pboxGraphicWindow.mousePointer = drawing_;
+    }
+    HourglassWhile(const HourglassWhile&) = delete;
+    HourglassWhile& operator=(const HourglassWhile&) = delete;
+
+  private:
+    WindowModel& controls_;
+    Cursor window_;
+    Cursor drawing_;
 };
 
 }  // namespace korvet

@@ -74,9 +74,15 @@ class BadFileTest(FolderTest):
                 results.append((report["refused"], [message["text"] for message in report["messages"]]))
         return results
 
-    def load_error(self, text, what):
-        refused, messages = self.outcome([text])[0]
+    def load_error(self, text, what, in_header=False):
+        self.refused_at_load(self.outcome([text])[0], what, in_header)
+
+    def refused_at_load(self, outcome, what, in_header):
+        """A fault of the header has a box of its own before the one that every load ends with."""
+        refused, messages = outcome
         self.assertTrue(refused, what)
+        if in_header:
+            self.assertRegex(messages.pop(0), "^Error in CKVTFile:ReadHeader  line 3: ", what)
         self.assertEqual(messages, ["Error loading parameter file"], what)
 
     def test_cut_short_at_every_byte(self):
@@ -118,7 +124,7 @@ class BadFileTest(FolderTest):
         files += [(f"Label {k}", text, cone_file(Label=["0"] * k + [text] + ["0"] * (2 - k)))
                   for k in range(1, 3) for text in bad]
         for (name, text, _), outcome in zip(files, self.outcome([contents for _, _, contents in files])):
-            self.assertEqual(outcome, (True, ["Error loading parameter file"]), f"{name} {text!r}")
+            self.refused_at_load(outcome, f"{name} {text!r}", name == "Dtype")
 
     def test_label_point_that_is_none(self):
         """A label point is taken only when its first line is a number."""
@@ -147,7 +153,7 @@ class BadFileTest(FolderTest):
                       {"FrameRequested": "maybe"}, {"TemplateTypeEnabled": "nan"}, {"JoinAngleDisable": "-2"}):
             self.load_error(cone_file(**lines), lines)
         for dtype in ("-1", "3", "5", "99", "40000", "1.5"):
-            self.load_error(cone_file(dtype=dtype), f"Dtype {dtype}")
+            self.load_error(cone_file(dtype=dtype), f"Dtype {dtype}", dtype in ("40000", "1.5"))
         self.load_error(cone_file(["0"] * 27, 5, "Truncated Right Cone"), "Dtype 5")
 
     def test_fault_is_located(self):

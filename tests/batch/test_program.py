@@ -140,8 +140,8 @@ class WrongUsageTest(FolderTest):
         self.wrong(path, "--select", "1", says="no pattern option", prefix=f"{path}: ")
 
     def test_unknown_names(self):
-        for name in ("Box3", "box", "boxx", "box-1", "box1000", "thickness", "Segs", "LapSize", "LapSize3", "LapEnable",
-                     "PositionString", "NoOfSides", "comment3", "Comment1", "TextSize", " box3", "chkNone"):
+        for name in ("Box3", "box", "boxx", "box-1", "box1000", "thickness", "Segs", "LapSize", "LapSize3",
+                     "PositionString", "comment3", "Comment1", "TextSize", " box3", "chkNone"):
             self.wrong(*CONE, "--set", f"{name}=1", says=name)
         for name in ("box9", "box27", "box999"):
             self.wrong(*CONE, "--set", f"{name}=1", says=name)

@@ -106,9 +106,15 @@ TEST_F(PatternSettings, OneOfTheTwoMaterialFramesIsShown) {
     EXPECT_TRUE(shown.fraBranchMaterial.visible);
     EXPECT_EQ(shown.fraBranchMaterial.place, place);
 
+    // The windows of branches grey the single material and ask for the two thicknesses.
     settings.MaterialDisable = true;
     shown = Shown(settings);
-    EXPECT_TRUE(shown.fraMaterial.visible);
+    EXPECT_FALSE(shown.fraMaterial.visible);
+    EXPECT_TRUE(shown.fraBranchMaterial.visible);
+    EXPECT_EQ(shown.fraBranchMaterial.place, place);
+
+    settings.BranchMaterialEnable = false;
+    shown = Shown(settings);
     EXPECT_FALSE(shown.fraMaterial.enabled);
     EXPECT_FALSE(shown.txtThickness.enabled);
     EXPECT_FALSE(shown.optInOutMean.enabled);

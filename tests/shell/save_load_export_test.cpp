@@ -219,6 +219,30 @@ TEST_F(ExportTest, OffersWhatThePatternShows) {
     EXPECT_TRUE(Shown(*window).optPolyMode.IsOn(1));
 }
 
+TEST_F(ExportTest, APlotterTakesNeitherPolylinesNorText) {
+    const auto window = shell.OpenSample("Right Cone", 2);
+    window->display.FrameRequested = window->display.DiagonalsRequested = true;
+    window->display.LabelPoint = C3DPoint{};
+    shell.options.PolyMode = 1;
+    for (const int button : {PatternButton, 0}) {
+        window->ClickView(button);
+        const DxfOptionsDialog dialog = Shown(*window, ExportMode::Plotter);
+        EXPECT_TRUE(dialog.optPolyMode.IsOn(0));
+        EXPECT_FALSE(dialog.optPolyMode.enabled);
+        EXPECT_EQ(IsOffered(dialog, DxfOptionsDialog::Diagonals), button == PatternButton);
+        EXPECT_FALSE(IsOffered(dialog, DxfOptionsDialog::Dimensions));
+        EXPECT_FALSE(IsOffered(dialog, DxfOptionsDialog::Label));
+    }
+}
+
+TEST_F(ExportTest, OtherTargetsThanDxfAreRefusedForNow) {
+    const auto window = shell.OpenSample("Right Cone", 2);
+    window->ClickView(PatternButton);
+    EXPECT_FALSE(window->Export("plot", ExportMode::Plotter));
+    EXPECT_EQ(shell.ui.Texts(), (std::vector<std::string>{"This version writes DXF files only"}));
+    EXPECT_TRUE(shell.files.files.empty());
+}
+
 TEST_F(ExportTest, OffersAMeshForAModel) {
     const auto window = shell.OpenSample("Right Cone", 2);
     window->ClickView(0);

@@ -11,8 +11,7 @@
 namespace korvet {
 namespace {
 
-/// The steepest tilt, in degrees, of a plane at height y that does not leave the cone through its base:
-/// atan(y / x) with x the radius on that side.
+/// The angle, in degrees, up to a point y high and x away: the steepest tilt of a plane that ends there.
 double ConeLimit(double y, double x) {
     return RadToDeg(std::atan(y / x));
 }
