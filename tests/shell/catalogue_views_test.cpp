@@ -52,33 +52,33 @@ TEST(CatalogueRows, AreFoundByTheExactName) {
     EXPECT_EQ(FindCategory("Category"), nullptr);
 }
 
-TEST(CatalogueOrder, ShowsEveryTileOnce) {
-    const std::set<int> tiles(DisplayOrder.begin(), DisplayOrder.end());
-    EXPECT_EQ(tiles.size(), CatalogueSize);
-    EXPECT_EQ(*tiles.begin(), 0);
-    EXPECT_EQ(*tiles.rbegin(), 38);
-    EXPECT_EQ(DisplayOrder[1], 8);
-    EXPECT_EQ(DisplayOrder[34], 37);
-    EXPECT_EQ(DisplayOrder[38], 38);
+TEST(CatalogueOrder, IsTheOneOfTheMenu) {
+    const std::vector<int> expected = {0,  8,  7,  14, 2,  11, 19, 4,  16, 6,  25, 26, 28,
+                                       12, 17, 18, 29, 22, 21, 13, 1,  27, 20, 3,  9,  10,
+                                       30, 31, 5,  23, 15, 32, 33, 34, 37, 24, 35, 36, 38};
+    EXPECT_EQ(std::vector<int>(DisplayOrder.begin(), DisplayOrder.end()), expected);
 }
 
 TEST(PresetViews, TurnTheEye) {
+    // Elevation and turn in degrees; the right angles and the straight one are the program's own digits.
+    constexpr double Right = 1.570796326794895;
+    const std::array<std::pair<double, double>, 10> angles = {{{DegToRad(35), DegToRad(135)},
+                                                               {0, Right},
+                                                               {DegToRad(35), DegToRad(45)},
+                                                               {0, 3.14159265358979},
+                                                               {Right, 0},
+                                                               {0, 0},
+                                                               {DegToRad(35), DegToRad(225)},
+                                                               {0, DegToRad(270)},
+                                                               {DegToRad(35), DegToRad(315)},
+                                                               {Right, Right}}};
     CViewList views;
-    AddPresetView(0, views);
-    EXPECT_EQ(views.Last().FromXY, DegToRad(35));
-    EXPECT_EQ(views.Last().AroundZ, DegToRad(135));
-    EXPECT_FALSE(views.Last().Patternview);
-    AddPresetView(4, views);
-    EXPECT_EQ(views.Last().FromXY, 1.570796326794895);
-    EXPECT_EQ(views.Last().AroundZ, 0);
-    AddPresetView(3, views);
-    EXPECT_EQ(views.Last().AroundZ, 3.14159265358979);
-    AddPresetView(9, views);
-    EXPECT_EQ(views.Last().FromXY, 1.570796326794895);
-    EXPECT_EQ(views.Last().AroundZ, 1.570796326794895);
-    EXPECT_TRUE(views.Last().Patternview);
-    AddPresetView(7, views);
-    EXPECT_FALSE(views.Last().Patternview);
+    for (int button = 0; button <= PatternButton; ++button) {
+        AddPresetView(button, views);
+        EXPECT_EQ(views.Last().FromXY, angles[static_cast<std::size_t>(button)].first) << button;
+        EXPECT_EQ(views.Last().AroundZ, angles[static_cast<std::size_t>(button)].second) << button;
+        EXPECT_EQ(views.Last().Patternview, button == PatternButton);
+    }
     EXPECT_THROW(AddPresetView(10, views), ListError);
 }
 
