@@ -3,7 +3,9 @@
 
     bench/batch_files.py [PROGRAM]      the default is build/release/bin/korvet-batch
 
-Each count of files is run in a process of its own, so that memory that grows with the count would show.
+Each count of files is run in a process of its own, so that memory that grows with the count would show. The first
+run on a disk is the fair one: file systems take longer where many files have just been removed. TMPDIR=/dev/shm
+takes the disk out.
 """
 import os
 import pathlib
