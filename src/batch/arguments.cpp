@@ -76,10 +76,8 @@ void CheckOutputs(const Arguments& arguments) {
     for (const std::string& input : arguments.inputs) {
         claims.Claim(input, "the parameter file of " + input, Claims::Reader);
     }
-    const std::vector<std::string> inputs =
-        arguments.newCategory.empty() ? arguments.inputs : std::vector<std::string>{""};
     std::size_t number = 0;
-    for (const std::string& input : inputs) {
+    for (const std::string& input : InputsOf(arguments)) {
         ++number;
         const std::string of = " of " + (input.empty() ? arguments.newCategory : input);
         const auto claim = [&](const std::string& pattern, const std::string& owner, std::size_t forInput) {
@@ -198,6 +196,10 @@ std::optional<Arguments> ParseArguments(int argc, const char* const* argv) {
     arguments.view = ParseView(raw.view);
     CheckTogether(arguments);
     return arguments;
+}
+
+std::vector<std::string> InputsOf(const Arguments& arguments) {
+    return arguments.newCategory.empty() ? arguments.inputs : std::vector<std::string>{""};
 }
 
 std::string OutputPath(const std::string& pattern, const std::string& name) {

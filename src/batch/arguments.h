@@ -52,6 +52,9 @@ struct Arguments {
 /// UsageError.
 std::optional<Arguments> ParseArguments(int argc, const char* const* argv);
 
+/// What there is to work on: the parameter files, or an empty name for the new window.
+std::vector<std::string> InputsOf(const Arguments& arguments);
+
 /// The path of an output for one input: `pattern` with each {name} replaced.
 std::string OutputPath(const std::string& pattern, const std::string& name);
 

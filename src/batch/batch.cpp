@@ -27,8 +27,7 @@ class BatchRun {
         if (!ReadOptions()) {
             return Refused;
         }
-        const std::vector<std::string> inputs =
-            arguments_.newCategory.empty() ? arguments_.inputs : std::vector<std::string>{""};
+        const std::vector<std::string> inputs = InputsOf(arguments_);
         for (std::size_t i = 0; i < inputs.size(); ++i) {
             ui_.ShowProgress(i + 1, inputs.size(), inputs[i]);
             RunInput(inputs[i]);

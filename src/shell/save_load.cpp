@@ -150,7 +150,7 @@ CKvtFile LoadFitting(CFittingWindow& window, const std::string& path) {
     try {
         file.LoadFile(context.files, context.options.DefaultSegs);
     } catch (const ParameterFileError&) {
-        // What stood before the fault is not typed a second time.
+        // What stood before the fault is kept, so that it need not be typed again.
         FillControls(window, file.Controls);
         throw;
     }
