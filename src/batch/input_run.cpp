@@ -8,6 +8,9 @@
 namespace korvet::batch {
 namespace {
 
+/// The factor of the Zoom Out command.
+constexpr double ZoomOutStep = 0.9;
+
 CRuleSurfs OneSurface(const CRuleSurf& surface) {
     CRuleSurfs surfaces;
     if (surface.List1) {
@@ -190,12 +193,14 @@ bool InputRun::ExportDxf(const std::string& path) {
     return written;
 }
 
-/// Draws the view as an opened window shows it: zoomed to the extents.
+/// Draws the view as an opened window shows it, zoomed to the extents; then out by one step, since a drawing
+/// sits one text height off the centre and a picture has nobody to pan it.
 bool InputRun::WritePicture(const std::string& path, PictureFormat format) {
     PictureDevice picture(format, arguments_.size.width, arguments_.size.height);
     window_->display.DisplayDevice = &picture;
     window_->UpdateFitting();
     window_->ZoomExtents();
+    window_->ZoomX(ZoomOutStep);
     window_->display.DisplayDevice = nullptr;
     if (!window_->hasModel) {
         return false;

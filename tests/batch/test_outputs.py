@@ -165,6 +165,20 @@ class PictureTest(FolderTest):
         shapes = [item for item in root.iter() if item.tag.split("}")[1] in ("polyline", "path", "line", "polygon")]
         return root, shapes
 
+    def test_nothing_is_cut_off(self):
+        """The whole pattern is on the picture, though the drawing sits a text height off its centre."""
+        path = self.folder / "whole.svg"
+        for kind in ("1", "2", "3", "4", "5"):
+            result = run("--new", "Truncated Right Cone", "--type", kind, "--sample", "--set", "textsize=7",
+                         "--svg", path, "--size", "800x600")
+            self.assertEqual((result.status, result.errors), (DONE, ""))
+            _, shapes = self.svg(path)
+            points = [tuple(map(float, point.split(","))) for shape in shapes
+                      for point in shape.get("points", "").split()]
+            self.assertGreater(len(points), 50)
+            for x, y in points:
+                self.assertTrue(0 < x < 800 and 0 < y < 600, (kind, x, y))
+
     def test_sizes(self):
         for option, size in (((), (800, 600)), (("--size", "200x100"), (200, 100)), (("--size", "1x1"), (1, 1)),
                              (("--size", "1000x31"), (1000, 31))):
