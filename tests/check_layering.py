@@ -12,7 +12,9 @@ MAY_USE = {
     "exchange": {"core", "display"},
     "fittings": {"core", "form"},
     "shell": {"core", "display", "form", "exchange", "fittings"},
+    "sketch": {"core", "form"},
     "platform": {"core", "display", "form", "shell", "Qt"},
+    "desktop": {"core", "display", "form", "exchange", "fittings", "shell", "sketch", "platform", "Qt"},
     "batch": {"core", "display", "form", "exchange", "fittings", "shell", "platform", "CLI"},
 }
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)

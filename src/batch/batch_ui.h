@@ -43,6 +43,7 @@ class BatchUi : public UserInterface {
     void RunModal(OptionsDialog&) override {}
     void RunModal(DimensionOptionsDialog&) override {}
     void RunModal(LabelDialog&) override {}
+    void RunModal(RotateDialog&) override {}
 
   private:
     void Tick(CheckBox& box, bool wanted);

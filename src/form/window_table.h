@@ -8,14 +8,16 @@
 
 #include "core/fitting.h"
 #include "form/fitting_form.h"
+#include "form/sketch_entry.h"
 
 namespace korvet {
 
 /// One parameter box of a page.
 struct BoxEntry {
-    int index;                ///< in txtParameter; fixed, since files hold the boxes by it
-    std::string_view label;   ///< what the size means, with the unit where it is not a length
-    std::string_view sample;  ///< a realistic size; those of one page together make a valid fitting
+    int index;                       ///< in txtParameter; fixed, since files hold the boxes by it
+    std::string_view label;          ///< what the size means, with the unit where it is not a length
+    std::string_view sample;         ///< a realistic size; those of one page together make a valid fitting
+    SketchDimension dimension = {};  ///< what the box measures on the page's sketch
 };
 
 /// One line of the text block: the label and then the text of the box as typed.
@@ -24,10 +26,14 @@ struct LabelEntry {
     int box;
 };
 
+/// The views of a sketch that shows the shape once, from the front.
+inline constexpr SketchView FrontView[] = {{}};
+
 /// The parameters of one type of a fitting. Page k is shown as Type k + 1.
 struct PageEntry {
     std::span<const BoxEntry> boxes;
-    std::span<const LabelEntry> labels;  ///< in the order of the text block
+    std::span<const LabelEntry> labels;             ///< in the order of the text block
+    std::span<const SketchView> views = FrontView;  ///< of the sketch, one above the other
 };
 
 struct WindowTable {

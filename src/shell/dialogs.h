@@ -8,6 +8,7 @@
 
 #include "core/dimensions.h"
 #include "form/controls.h"
+#include "shell/context.h"
 
 namespace korvet {
 
@@ -61,6 +62,38 @@ struct DxfOptionsDialog {
 
     /// Ticks and enables box `index`, or clears and disables it.
     void Offer(std::size_t index, bool offered);
+};
+
+/// Turns the pattern: to an angle of the picked line, or by an angle.
+struct RotateDialog {
+    enum Move : std::size_t { ToAngle, ByAmount };
+
+    /// The dialog for a line that was picked at `measured` radians. The context must outlive it.
+    RotateDialog(const ShellContext& context, double measured);
+
+    std::string caption = "Rotate Pattern";
+    static constexpr int HelpContextID = 2936;
+    std::string lblAngle = "Current Angle:";
+    std::array<TextBox, 2>
+        txtAngle;  ///< 0 the angle of the picked line, which is not edited; 1 the wanted one
+    OptionGroup optMove{.captions = {"Rotate to this angle", "Rotate by this amount"}, .selected = ToAngle};
+    std::string lblStatus;
+    std::string focus;
+    bool visible = true;  ///< false ends the modal run
+
+    // Events.
+    void Change(const std::string& text);  ///< of txtAngle(1)
+
+    /// Closes the dialog with "OK" when the angle is a number, else says so and stays.
+    void ClickOK();
+
+    /// Also for Esc and the close box.
+    void ClickCancel();
+
+  private:
+    [[nodiscard]] FieldContext Fields();
+
+    const ShellContext& context_;
 };
 
 }  // namespace korvet

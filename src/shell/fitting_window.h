@@ -20,6 +20,9 @@ namespace korvet {
 /// Where an export goes.
 enum class ExportMode : int { Dxf = 1, Plotter = 2, CadLink = 3 };
 
+/// The button of a mouse event; in a move, the one that is held.
+enum class MouseButton : int { None = 0, Left = 1, Right = 2 };
+
 /// The mouse mode that is armed; the commands that arm one clear the others first.
 struct MouseModes {
     bool panMode = false;
@@ -28,8 +31,12 @@ struct MouseModes {
     bool labelMode = false;
     bool selectFramesMode = false;
     bool rotateMode = false;
-    int dimensionMode = 0;  ///< above 0: a user dimension of that kind is being added
-    bool mouseDown = false;
+    int dimensionMode = 0;   ///< above 0: a user dimension of that kind is being added
+    bool mouseDown = false;  ///< the left button went down in the drawing area while the mode is armed
+    float startX = 0;        ///< ends of the rubber band in the drawing plane
+    float startY = 0;
+    float currentX = 0;
+    float currentY = 0;
 };
 
 class CFittingWindow {
@@ -82,6 +89,13 @@ class CFittingWindow {
     void ClickBack(std::size_t page);
     void SelectPattern(std::size_t index);
     void PressKeyInDrawing();
+
+    /// The mouse over the drawing area, at a point of the drawing plane. MouseDown gives true when the View
+    /// menu is to pop up.
+    [[nodiscard]] bool MouseDown(MouseButton button, float x, float y);
+    void MouseMove(MouseButton button, float x, float y);
+    void MouseUp(MouseButton button, float x, float y);
+
     void Resize(const Place& scale);
     void Activate();
 
@@ -132,6 +146,8 @@ class CFittingWindow {
     bool removeDimensionMode = false;
     bool labelSeen = false;
     bool closed = false;
+    std::optional<CNearestPoint> nearest1;  ///< points picked last for a measurement, dimension or rotation
+    std::optional<CNearestPoint> nearest2;
     std::optional<FittingHandle> fitting;
     std::string statusString;  ///< line for the status bar, as it was last composed
 
@@ -144,6 +160,12 @@ class CFittingWindow {
     void ResetFieldColours();
     void DevelopAndDisplay();
     float DrawnTextSize();
+    bool FinishMouseOperation(MouseButton button, float x, float y);
+    void PanByRubberBand();
+    void MeasureAt();
+    void AddDimensionAt();
+    void PlaceLabelAt(float x, float y);
+    void RotateAt();
 
     ShellContext& context_;
     const CatalogueRow* row_;

@@ -14,6 +14,7 @@ struct DxfOptionsDialog;
 struct LabelDialog;
 struct OptionsDialog;
 struct PatternSettingsDialog;
+struct RotateDialog;
 
 /// A file dialog.
 struct FileChoice {
@@ -34,6 +35,7 @@ class UserInterface : public MessageBoxes {
     virtual void RunModal(DimensionOptionsDialog& dialog) = 0;
     virtual void RunModal(LabelDialog& dialog) = 0;
     virtual void RunModal(DxfOptionsDialog& dialog) = 0;
+    virtual void RunModal(RotateDialog& dialog) = 0;
 };
 
 }  // namespace korvet

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -15,11 +16,23 @@ enum class Cursor : int { Default = 0, Arrow = 1, Cross = 2, Hourglass = 11 };
 /// State of a window on the desktop.
 enum WindowShape : int { NormalWindow = 0, MinimisedWindow = 1, MaximisedWindow = 2 };
 
+/// A line or box between two points of the drawing plane.
+struct DrawnBand {
+    bool box = false;
+    float startX = 0;
+    float startY = 0;
+    float endX = 0;
+    float endY = 0;
+    bool operator==(const DrawnBand&) const = default;
+};
+
 struct DrawingArea {
     Place place;
     std::string toolTip;
     Cursor mousePointer = Cursor::Default;
     Color backColor = Black;
+    std::optional<DrawnBand> rubberBand;  ///< dotted and inverted over the drawing while the mouse is dragged
+    std::optional<DrawnBand> pickedLine;  ///< in the text colour, while a box tells about it
 };
 
 struct WindowModel {

@@ -25,6 +25,7 @@ class RecordingUi final : public UserInterface {
     std::function<void(DimensionOptionsDialog&)> onDimensionOptions;
     std::function<void(LabelDialog&)> onLabel;
     std::function<void(DxfOptionsDialog&)> onDxfOptions;
+    std::function<void(RotateDialog&)> onRotate;
 
     /// A box without a choice is always answered with Ok. One with a choice takes the next queued answer, or
     /// Cancel when none is left.
@@ -47,6 +48,7 @@ class RecordingUi final : public UserInterface {
     void RunModal(DimensionOptionsDialog& dialog) override { Run(onDimensionOptions, dialog); }
     void RunModal(LabelDialog& dialog) override { Run(onLabel, dialog); }
     void RunModal(DxfOptionsDialog& dialog) override { Run(onDxfOptions, dialog); }
+    void RunModal(RotateDialog& dialog) override { Run(onRotate, dialog); }
 
     /// The texts of the messages so far, for a comparison in one line.
     [[nodiscard]] std::vector<std::string> Texts() const {

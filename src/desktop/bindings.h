@@ -1,0 +1,45 @@
+// The small steps from the plain models of the windows to widgets and back.
+#pragma once
+
+#include <QString>
+#include <string>
+
+#include "form/controls.h"
+
+class QAbstractButton;
+class QLineEdit;
+class QWidget;
+
+namespace korvet::desktop {
+
+/// Twips to pixels, at 96 to the inch, of every layout of the program.
+inline constexpr int TwipsToPixel = 10;
+inline constexpr int Pixels(int twips) {
+    return twips / TwipsToPixel;
+}
+
+inline QString Text(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+/// Gives a widget its control name, by which tests find it, and the name that a screen reader says.
+void NameWidget(QWidget& widget, const std::string& controlName, const QString& accessibleName);
+
+/// Text, enabled state and text colour of a box on its widget. Its signals stay silent.
+void ShowBox(QLineEdit& edit, const TextBox& box);
+
+/// The selection of a box on its widget.
+void ShowSelection(QLineEdit& edit, const TextBox& box);
+
+/// The user's edit into the selection of the box: the cursor alone.
+void TakeCursor(const QLineEdit& edit, TextBox& box);
+
+/// Enabled state, visibility and tool tip of a control on its widget.
+void ShowControl(QWidget& widget, const Control& control);
+
+/// Which button of a group is on, and whether the group can be used, on one of its buttons.
+void ShowOption(QAbstractButton& button, const OptionGroup& group, std::size_t index);
+
+void ShowCheck(QAbstractButton& button, const CheckBox& box);
+
+}  // namespace korvet::desktop

@@ -1,0 +1,4 @@
+// korvet: the desktop program.
+int main() {
+    return 0;
+}

@@ -1,0 +1,15 @@
+// The model that the sample sizes of a parameter page make: what sketches and tiles are drawn from.
+#pragma once
+
+#include <cstddef>
+
+#include "core/rule_surf.h"
+#include "form/window_table.h"
+
+namespace korvet {
+
+/// The surfaces of page `page` (from 0) at its sample sizes, without thickness, in enough segments to look
+/// round. Throws std::logic_error when the samples are refused: a table's samples are always valid.
+CRuleSurfs SampleModel(const WindowTable& table, std::size_t page);
+
+}  // namespace korvet

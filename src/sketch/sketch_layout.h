@@ -1,0 +1,80 @@
+// A parameter page's sketch laid out: the shape, its dimension lines, and the boxes and labels beside them,
+// nothing over anything else. Lengths are pixels here, y downward.
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include "form/window_table.h"
+#include "sketch/solid.h"
+
+namespace korvet {
+
+struct SketchRect {
+    double x = 0;
+    double y = 0;
+    double width = 0;
+    double height = 0;
+};
+
+/// Sizes of a page's texts in the font it will be shown in.
+struct SketchMetrics {
+    SketchXY box;                  ///< width and height of a text box
+    std::vector<SketchXY> labels;  ///< of each label, in the order of the page's boxes
+    double gap = 6;                ///< between neighbours
+    double arrow = 8;              ///< length of an arrow head
+};
+
+enum class SketchLineKind { Extension, Dimension, Centre };
+
+struct SketchLine {
+    SketchLineKind kind = SketchLineKind::Dimension;
+    std::vector<SketchXY> points;
+    bool arrowAtStart = false;
+    bool arrowAtEnd = false;
+};
+
+/// One view of the shape on the page: a point (x, y) of the picture stands at originX + x * scale,
+/// originY - y * scale.
+struct PlacedSolid {
+    SolidPicture picture;
+    double scale = 1;
+    double originX = 0;
+    double originY = 0;
+};
+
+struct SketchLayout {
+    double width = 0;
+    double height = 0;
+    std::vector<PlacedSolid> solids;
+    std::vector<SketchLine> lines;
+    std::vector<SketchRect> boxes;   ///< in the order of the page's boxes
+    std::vector<SketchRect> labels;  ///< likewise
+};
+
+/// What a page's sketch shows, before it has a size: made once per page, laid out at every change of size.
+struct PageSketch {
+    struct Dimension {
+        DimensionKind kind = DimensionKind::Note;
+        Side side = Side::Below;
+        std::size_t view = 0;
+        SketchXY a;  ///< on the picture of the view
+        SketchXY b;
+        SketchXY vertex;
+    };
+
+    std::vector<SolidPicture> pictures;  ///< one per view of the page
+    std::vector<Dimension> dimensions;   ///< in the order of the page's boxes
+};
+
+PageSketch MakePageSketch(const WindowTable& table, std::size_t page);
+
+/// The smallest page on which the sketch is easy to read and nothing lies over anything else.
+SketchXY SmallestSketch(const PageSketch& sketch, const SketchMetrics& metrics);
+
+/// The sketch in a page of width by height pixels, at least SmallestSketch: the shape as large as its boxes
+/// leave room for.
+SketchLayout LayoutSketch(const PageSketch& sketch, const SketchMetrics& metrics, double width,
+                          double height);
+
+}  // namespace korvet
