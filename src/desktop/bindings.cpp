@@ -1,6 +1,9 @@
 #include "desktop/bindings.h"
 
 #include <QAbstractButton>
+#include <QButtonGroup>
+#include <QColor>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QPalette>
 #include <QSignalBlocker>
@@ -14,7 +17,39 @@ QColor ReadableRed(const QPalette& palette) {
     return dark ? QColor(255, 110, 110) : QColor(200, 0, 0);
 }
 
+QStringList Entries(const ComboBox& box) {
+    QStringList entries;
+    for (const std::string& entry : box.list) {
+        entries.append(Text(entry));
+    }
+    return entries;
+}
+
+QStringList Entries(const QComboBox& combo) {
+    QStringList entries;
+    for (int i = 0; i < combo.count(); ++i) {
+        entries.append(combo.itemText(i));
+    }
+    return entries;
+}
+
 }  // namespace
+
+QString WithMnemonic(const std::string& caption, char letter) {
+    QString text = Text(caption);
+    const auto at = text.indexOf(QLatin1Char(letter));
+    if (at < 0) {
+        return text.replace(QLatin1Char('&'), QLatin1String("&&"));
+    }
+    const auto plain = [&](const QString& part) {
+        return QString(part).replace(QLatin1Char('&'), QLatin1String("&&"));
+    };
+    return plain(text.left(at)) + QLatin1Char('&') + plain(text.mid(at));
+}
+
+Color ColorFrom(const QColor& color) {
+    return color.red() | color.green() << 8 | color.blue() << 16;
+}
 
 void NameWidget(QWidget& widget, const std::string& controlName, const QString& accessibleName) {
     widget.setObjectName(Text(controlName));
@@ -35,6 +70,31 @@ void ShowBox(QLineEdit& edit, const TextBox& box) {
     edit.setPalette(palette);
 }
 
+void ShowCombo(QComboBox& combo, const ComboBox& box) {
+    const QSignalBlocker silent(combo);
+    const QString text = Text(box.edit.text);
+    const QStringList entries = Entries(box);
+    if (Entries(combo) != entries) {
+        combo.clear();
+        combo.addItems(entries);
+    }
+    const int index = static_cast<int>(entries.indexOf(text));
+    if (combo.isEditable()) {
+        const QSignalBlocker silentEdit(combo.lineEdit());
+        if (combo.currentIndex() != index) {
+            const int cursor = combo.lineEdit()->cursorPosition();
+            combo.setCurrentIndex(index);
+            combo.setEditText(text);
+            combo.lineEdit()->setCursorPosition(cursor);
+        }
+        ShowBox(*combo.lineEdit(), box.edit);
+    } else {
+        combo.setPlaceholderText(text);
+        combo.setCurrentIndex(index);
+    }
+    combo.setEnabled(box.edit.enabled);
+}
+
 void ShowSelection(QLineEdit& edit, const TextBox& box) {
     edit.setSelection(static_cast<int>(box.selectionStart), static_cast<int>(box.selectionLength));
 }
@@ -52,7 +112,15 @@ void ShowControl(QWidget& widget, const Control& control) {
 
 void ShowOption(QAbstractButton& button, const OptionGroup& group, std::size_t index) {
     const QSignalBlocker silent(button);
-    button.setChecked(group.IsOn(index));
+    QButtonGroup* const others = button.group();
+    if (others != nullptr && !group.selected) {
+        // An exclusive group would keep its last button on.
+        others->setExclusive(false);
+        button.setChecked(false);
+        others->setExclusive(true);
+    } else {
+        button.setChecked(group.IsOn(index));
+    }
     button.setEnabled(group.enabled);
 }
 

@@ -5,8 +5,11 @@
 #include <string>
 
 #include "form/controls.h"
+#include "shell/dialog_controls.h"
 
 class QAbstractButton;
+class QColor;
+class QComboBox;
 class QLineEdit;
 class QWidget;
 
@@ -22,11 +25,21 @@ inline QString Text(const std::string& text) {
     return QString::fromStdString(text);
 }
 
+/// The caption with the mnemonic on the first `letter` in it; without one where it has no such letter.
+QString WithMnemonic(const std::string& caption, char letter);
+
+/// A colour of the toolkit as the models have it.
+Color ColorFrom(const QColor& color);
+
 /// Gives a widget its control name, by which tests find it, and the name that a screen reader says.
 void NameWidget(QWidget& widget, const std::string& controlName, const QString& accessibleName);
 
 /// Text, enabled state and text colour of a box on its widget. Its signals stay silent.
 void ShowBox(QLineEdit& edit, const TextBox& box);
+
+/// The same for a box with a list; the entry that reads as the text is the list's current one. In a box that
+/// can't be edited a text that is not in the list still shows. The box's signals stay silent.
+void ShowCombo(QComboBox& combo, const ComboBox& box);
 
 /// The selection of a box on its widget.
 void ShowSelection(QLineEdit& edit, const TextBox& box);

@@ -1,4 +1,14 @@
-// korvet: the desktop program.
-int main() {
-    return 0;
+// korvet: the desktop program. Files named on the command line are opened.
+#include <QApplication>
+
+#include "core/constants.h"
+#include "desktop/application.h"
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(
+        QString::fromUtf8(korvet::ProductTitle.data(), korvet::ProductTitle.size()));
+    QApplication::setApplicationVersion(
+        QString::fromUtf8(korvet::ProgramVersion.data(), korvet::ProgramVersion.size()));
+    return korvet::desktop::RunApplication(QCoreApplication::arguments().mid(1));
 }

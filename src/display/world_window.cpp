@@ -1,5 +1,9 @@
 #include "display/world_window.h"
 
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
 #include "core/checked.h"
 
 namespace korvet {
@@ -13,6 +17,14 @@ std::int32_t ToPixel(float value, float start, float factor) {
 float PixelFactor(double pixels, float start, double extent) {
     const double end = start + extent;
     return static_cast<float>(Quotient(pixels, end - start));
+}
+
+/// Where a pixel lies between the two edges of the window.
+float FromPixel(double pixel, double pixels, double start, double extent) {
+    constexpr double Largest = std::numeric_limits<float>::max();
+    const double step = extent / pixels;
+    const double value = std::isfinite(step) ? start + pixel * step : start;
+    return std::isnan(value) ? 0 : static_cast<float>(std::clamp(value, -Largest, Largest));
 }
 
 }  // namespace
@@ -29,6 +41,11 @@ std::int32_t PixelMap::ToPixelX(float x) const {
 
 std::int32_t PixelMap::ToPixelY(float y) const {
     return ToPixel(y, top_, ky_);
+}
+
+WorldPoint ToWorld(const WorldWindow& window, PixelSize pixels, double x, double y) {
+    return {FromPixel(x, pixels.width, window.ScaleLeft, window.ScaleWidth),
+            FromPixel(y, pixels.height, window.ScaleTop, window.ScaleHeight)};
 }
 
 double TextWidth(const DrawingDevice& device, const WorldWindow& window, const std::string& text,

@@ -1,4 +1,4 @@
-// The stretch of the drawing plane that lies over a device, and the way from it to pixels.
+// The stretch of the drawing plane that lies over a device, and the way from it to pixels and back.
 #pragma once
 
 #include <cstdint>
@@ -34,6 +34,18 @@ class PixelMap {
     float kx_;
     float ky_;
 };
+
+/// A point of the drawing plane in the precision of the mouse, in the user's length unit.
+struct WorldPoint {
+    float x = 0;
+    float y = 0;
+    bool operator==(const WorldPoint&) const = default;
+};
+
+/// The way back from a place on the device: x and y in pixels from its upper left corner, parts of a pixel
+/// allowed; `pixels` is the drawable size. Always finite: a device or window without size gives the window's
+/// corner, and what single precision can't hold its largest number.
+WorldPoint ToWorld(const WorldWindow& window, PixelSize pixels, double x, double y);
 
 /// Width and height of a text in Arial of `points` points, in world units, each with the sign of the scale's
 /// direction: TextHeight is negative where y runs upward. Throws ArithmeticError for a device without size.

@@ -9,7 +9,8 @@ namespace korvet {
 enum class Spot { Centre, MinX, MaxX, MinY, MaxY, MinZ, MaxZ };
 
 /// A point that a dimension line refers to: a point of the sample model, or the model's origin, and from
-/// there an offset in the user's unit.
+/// there an offset in the user's unit. A height is measured off the middle of a line of the model, and its
+/// extension line starts where it leaves the shape; from every other point the extension line starts there.
 struct SketchPoint {
     int list = 0;  ///< 1 to 3: List1 to List3 of the surface; 0: the origin
     Spot spot = Spot::Centre;
@@ -38,6 +39,17 @@ struct SketchDimension {
     SketchPoint b = {};
     SketchPoint vertex = {};
     int view = 0;  ///< which view of the page it belongs to, from 0
+
+    /// Of an angle: how far from the vertex its arc stands, as a multiple of the distance to a.
+    double reach = 1.15;
+};
+
+/// A thin line that the shape itself does not show: an axis, or walls drawn on to a virtual apex or base.
+struct SketchConstruction {
+    SketchPoint a = {};
+    SketchPoint b = {};
+    bool centre = false;  ///< an axis, drawn dash-dotted and a little beyond both ends
+    int view = 0;
 };
 
 /// One drawing of a sketch: the model turned about z and seen from this height, both in degrees. 0 and 0 is
@@ -46,5 +58,64 @@ struct SketchView {
     double turn = 0;
     double tilt = 12;
 };
+
+// How a window's table writes its sketch.
+
+/// A point of a line of the first surface, moved by an offset.
+constexpr SketchPoint SpotOf(int list, Spot spot, double dx = 0, double dy = 0, double dz = 0) {
+    return {.list = list, .spot = spot, .dx = dx, .dy = dy, .dz = dz};
+}
+
+/// The middle of a line of the first surface.
+constexpr SketchPoint MiddleOf(int list, double dx = 0) {
+    return SpotOf(list, Spot::Centre, dx);
+}
+
+/// A point in the plane of the elevation, told from the model's origin: x to the right, z upward.
+constexpr SketchPoint AtXZ(double x, double z) {
+    return {.dx = x, .dz = z};
+}
+
+/// A point on the axis of a model that stands about the origin.
+constexpr SketchPoint OnAxis(double z) {
+    return AtXZ(0, z);
+}
+
+constexpr SketchDimension LinearSize(Side side, const SketchPoint& a, const SketchPoint& b, int view = 0) {
+    return {.kind = DimensionKind::Linear, .side = side, .a = a, .b = b, .view = view};
+}
+
+constexpr SketchDimension AlignedSize(Side side, const SketchPoint& a, const SketchPoint& b, int view = 0) {
+    return {.kind = DimensionKind::Aligned, .side = side, .a = a, .b = b, .view = view};
+}
+
+constexpr SketchDimension RadiusSize(Side side, const SketchPoint& onArc, const SketchPoint& centre,
+                                     int view = 0) {
+    return {.kind = DimensionKind::Radius, .side = side, .a = onArc, .b = centre, .view = view};
+}
+
+constexpr SketchDimension AngleSize(Side side, const SketchPoint& vertex, const SketchPoint& a,
+                                    const SketchPoint& b, double reach = 1.15, int view = 0) {
+    return {.kind = DimensionKind::Angle,
+            .side = side,
+            .a = a,
+            .b = b,
+            .vertex = vertex,
+            .view = view,
+            .reach = reach};
+}
+
+/// The diameter of a level round line that is centred on the axis, from side to side.
+constexpr SketchDimension DiameterSize(Side side, int list, int view = 0) {
+    return LinearSize(side, SpotOf(list, Spot::MinX), SpotOf(list, Spot::MaxX), view);
+}
+
+constexpr SketchConstruction ThinLine(const SketchPoint& a, const SketchPoint& b, int view = 0) {
+    return {.a = a, .b = b, .centre = false, .view = view};
+}
+
+constexpr SketchConstruction CentreLine(const SketchPoint& a, const SketchPoint& b, int view = 0) {
+    return {.a = a, .b = b, .centre = true, .view = view};
+}
 
 }  // namespace korvet

@@ -34,6 +34,7 @@ struct PageEntry {
     std::span<const BoxEntry> boxes;
     std::span<const LabelEntry> labels;             ///< in the order of the text block
     std::span<const SketchView> views = FrontView;  ///< of the sketch, one above the other
+    std::span<const SketchConstruction> construction = {};
 };
 
 struct WindowTable {

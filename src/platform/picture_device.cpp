@@ -1,29 +1,20 @@
 #include "platform/picture_device.h"
 
 #include <QBuffer>
-#include <QFont>
-#include <QFontMetricsF>
+#include <QColor>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
-#include <QPolygonF>
 #include <QSvgGenerator>
-#include <algorithm>
-#include <clocale>
-#include <cmath>
-#include <cstdlib>
 #include <stdexcept>
 
 #include "core/constants.h"
-#include "platform/line_clip.h"
+#include "platform/system_clock.h"
 
 namespace korvet {
 namespace {
 
 constexpr int DotsPerInch = 96;
-constexpr int PointsPerInch = 72;
-constexpr int LargestFont = 20000;  // pixels
-constexpr double ClipMargin = 32;   // pixels, beyond the width of every pen
 
 /// Fonts live in a graphics application. A program without one gets one that needs no screen, and keeps it to
 /// its end.
@@ -46,30 +37,7 @@ void EnsureGraphicsApplication() {
     const auto handler = qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     static const QGuiApplication application(argumentCount, arguments);
     qInstallMessageHandler(handler);
-    std::setlocale(LC_NUMERIC, "C");  // the application has taken over the user's decimal mark
-}
-
-QColor ColorOf(Color color) {
-    return {color & 255, (color >> 8) & 255, (color >> 16) & 255};
-}
-
-QPen PenOf(const Pen& pen) {
-    QPen drawn(ColorOf(pen.ForeColor), std::max(pen.DrawWidth, 1));
-    if (pen.Style == DrawStyle::Dotted) {
-        drawn.setStyle(Qt::DotLine);
-        drawn.setCapStyle(Qt::FlatCap);
-    } else {
-        drawn.setCapStyle(Qt::RoundCap);
-        drawn.setJoinStyle(Qt::RoundJoin);
-    }
-    return drawn;
-}
-
-QFont FontOf(int pixels) {
-    QFont font(QStringLiteral("Arial"));
-    font.setPixelSize(std::clamp(pixels, 1, LargestFont));
-    font.setHintingPreference(QFont::PreferNoHinting);
-    return font;
+    HoldNumericLocale();
 }
 
 }  // namespace
@@ -99,7 +67,7 @@ class PictureDevice::Canvas {
             BeginVectors();
             painter_ = std::make_unique<QPainter>(generator_.get());
         }
-        painter_->setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+        PrepareDrawing(*painter_);
         painter_->fillRect(QRect(QPoint(0, 0), size_), ColorOf(backColor));
     }
 
@@ -161,44 +129,8 @@ PixelSize PictureDevice::ScaleSize() const {
     return canvas_->Size();
 }
 
-double PictureDevice::LogicalDpiY() const {
-    return DotsPerInch;
-}
-
-PixelSize PictureDevice::TextExtent(const std::string& text, double points) const {
-    const double pixels = std::min(std::fabs(points) * DotsPerInch / PointsPerInch, double{LargestFont});
-    const QFontMetricsF metrics(FontOf(static_cast<int>(pixels)));
-    return {metrics.horizontalAdvance(QString::fromStdString(text)), metrics.height()};
-}
-
-void PictureDevice::Polyline(const Pen& pen, std::span<const PixelPoint> points) {
-    QPainter* painter = canvas_->Painter();
-    if (painter == nullptr) {
-        return;
-    }
-    painter->setPen(PenOf(pen));
-    for (const std::vector<ClippedPoint>& part : ClipLine(points, ScaleSize(), ClipMargin)) {
-        QPolygonF line;
-        for (const ClippedPoint& point : part) {
-            line.append(QPointF(point.x + 0.5, point.y + 0.5));  // the middle of the pixel
-        }
-        painter->drawPolyline(line);
-    }
-}
-
-void PictureDevice::TextOut(const std::string& text, PixelPoint corner, const TextFont& font, Color color) {
-    QPainter* painter = canvas_->Painter();
-    if (painter == nullptr) {
-        return;
-    }
-    const QFont drawn = FontOf(static_cast<int>(std::min(std::labs(font.lfHeight), long{LargestFont})));
-    painter->save();
-    painter->setFont(drawn);
-    painter->setPen(ColorOf(color));
-    painter->translate(corner.x, corner.y);
-    painter->rotate(-font.lfEscapement / 10.0);
-    painter->drawText(QPointF(0, QFontMetricsF(drawn).ascent()), QString::fromStdString(text));
-    painter->restore();
+QPainter* PictureDevice::Painter() {
+    return canvas_->Painter();
 }
 
 std::string PictureDevice::Bytes() {

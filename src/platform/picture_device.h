@@ -2,11 +2,10 @@
 #pragma once
 
 #include <memory>
-#include <span>
 #include <string>
 
 #include "core/file_store.h"
-#include "display/drawing_device.h"
+#include "platform/painter_device.h"
 
 namespace korvet {
 
@@ -14,7 +13,7 @@ enum class PictureFormat { Png, Svg };
 
 /// A drawing surface of whole pixels, 96 to the inch, that becomes a file. Nothing of the picture needs a
 /// screen. A surface too large for the memory counts as one of no size, and saving it fails.
-class PictureDevice final : public DrawingDevice {
+class PictureDevice final : public PainterDevice {
   public:
     /// Width and height in pixels. The first picture of a program without a graphics application starts one
     /// of its own, for the fonts.
@@ -22,13 +21,7 @@ class PictureDevice final : public DrawingDevice {
     ~PictureDevice() override;
 
     void Cls(Color backColor) override;
-    void StartPage() override {}
     [[nodiscard]] PixelSize ScaleSize() const override;
-    [[nodiscard]] PixelSize OuterSize() const override { return ScaleSize(); }
-    [[nodiscard]] double LogicalDpiY() const override;
-    [[nodiscard]] PixelSize TextExtent(const std::string& text, double points) const override;
-    void Polyline(const Pen& pen, std::span<const PixelPoint> points) override;
-    void TextOut(const std::string& text, PixelPoint corner, const TextFont& font, Color color) override;
 
     /// The picture as the bytes of a file. That ends it: drawing goes on with the next Cls. Throws FileError
     /// when there is no picture.
@@ -36,6 +29,9 @@ class PictureDevice final : public DrawingDevice {
 
     /// Writes Bytes to a file. Throws FileError.
     void Save(const std::string& path, FileStore& files);
+
+  protected:
+    [[nodiscard]] QPainter* Painter() override;
 
   private:
     class Canvas;

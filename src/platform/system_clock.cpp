@@ -2,6 +2,7 @@
 
 #include <QDate>
 #include <QLocale>
+#include <clocale>
 
 namespace korvet {
 
@@ -11,6 +12,10 @@ std::string SystemClock::ShortDate() const {
 
 char SystemDecimalMark() {
     return QLocale::system().decimalPoint() == QStringLiteral(",") ? ',' : '.';
+}
+
+void HoldNumericLocale() {
+    std::setlocale(LC_NUMERIC, "C");
 }
 
 }  // namespace korvet

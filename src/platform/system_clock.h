@@ -13,4 +13,7 @@ class SystemClock : public Clock {
 /// The decimal mark of the system's locale.
 char SystemDecimalMark();
 
+/// Gives the C library its decimal point back: a graphics application takes over the user's mark for it.
+void HoldNumericLocale();
+
 }  // namespace korvet

@@ -2,7 +2,20 @@
 
 #include <algorithm>
 
+#include "core/math_module.h"
+#include "core/number_text.h"
+
 namespace korvet {
+namespace {
+
+/// Ends the modal run of a dialog with the word that its caller reads.
+template <typename Dialog>
+void Leave(Dialog& dialog, const char* status) {
+    dialog.lblStatus = status;
+    dialog.visible = false;
+}
+
+}  // namespace
 
 void DimensionOptionsDialog::Click(std::size_t index, bool checked) {
     chkDimensions.at(index).checked = checked;
@@ -12,6 +25,14 @@ void DimensionOptionsDialog::Click(std::size_t index, bool checked) {
     if (checked && index == CoordTable) {
         chkDimensions[CoordGrid].checked = false;
     }
+}
+
+void DimensionOptionsDialog::ClickOK() {
+    Leave(*this, "OK");
+}
+
+void DimensionOptionsDialog::ClickCancel() {
+    Leave(*this, "Cancel");
 }
 
 void LabelDialog::Load(const CLabels& labels, bool hasLabelPoint, bool labelSeen) {
@@ -30,9 +51,61 @@ void LabelDialog::Load(const CLabels& labels, bool hasLabelPoint, bool labelSeen
     frame3Height = static_cast<int>(EditableLines + lblLabelItem.size()) * 300 + 500;
 }
 
+void LabelDialog::ClickOK() {
+    Leave(*this, "OK");
+}
+
+void LabelDialog::ClickCancel() {
+    Leave(*this, "Cancel");
+}
+
 void DxfOptionsDialog::Offer(std::size_t index, bool offered) {
     chkDXFOutput.at(index).checked = offered;
     chkDXFOutput.at(index).enabled = offered;
+}
+
+void DxfOptionsDialog::ClickOK() {
+    Leave(*this, "OK");
+}
+
+void DxfOptionsDialog::ClickCancel() {
+    Leave(*this, "Cancel");
+}
+
+RotateDialog::RotateDialog(const ShellContext& context, double measured)
+    : context_(context), measured_(measured) {
+    for (std::size_t i = 0; i < txtAngle.size(); ++i) {
+        txtAngle[i].name = "txtAngle_" + std::to_string(i);
+    }
+    txtAngle[0].text = NumberText(RadToDeg(measured), context.decimalMark);
+    txtAngle[0].enabled = txtAngle[0].tabStop = false;
+    focus = txtAngle[1].name;
+    SelectFieldText(txtAngle[1]);
+}
+
+FieldContext RotateDialog::Fields() {
+    return {context_.ui, context_.options, context_.decimalMark, focus};
+}
+
+void RotateDialog::Change(const std::string& text) {
+    txtAngle[1].text = text;
+}
+
+void RotateDialog::ClickOK() {
+    if (IsNumericField(Fields(), txtAngle[1])) {
+        lblStatus = "OK";
+        visible = false;
+    }
+}
+
+void RotateDialog::ClickCancel() {
+    lblStatus = "Cancel";
+    visible = false;
+}
+
+double RotateDialog::Turn() {
+    const double angle = DegToRad(FieldValue(Fields(), txtAngle[1]));
+    return optMove.IsOn(ToAngle) ? angle - measured_ : angle;
 }
 
 }  // namespace korvet

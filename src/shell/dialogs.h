@@ -22,9 +22,12 @@ struct DimensionOptionsDialog {
                                               {"Coordinate table"},
                                               {"Frame and area"}}};
     std::string lblStatus;
+    bool visible = true;  ///< false ends the modal run
 
     /// A click on box `index`. Grid and table exclude each other: ticking one clears the other.
     void Click(std::size_t index, bool checked);
+    void ClickOK();
+    void ClickCancel();  ///< also for Esc and the close box
 };
 
 /// The text block: its two comment lines, and whether it is shown on the drawing.
@@ -39,10 +42,13 @@ struct LabelDialog {
     std::vector<std::string> lblLabelItem;            ///< the lines behind them
     int frame3Height = 0;                             ///< twips
     std::string lblStatus;
+    bool visible = true;  ///< false ends the modal run
 
     /// Fills the dialog. The label is offered until it has been placed once; then its removal is. A block
     /// longer than the dialog's lines shows its first ones.
     void Load(const CLabels& labels, bool hasLabelPoint, bool labelSeen);
+    void ClickOK();
+    void ClickCancel();  ///< also for Esc and the close box
 };
 
 /// What goes into a DXF file.
@@ -59,9 +65,12 @@ struct DxfOptionsDialog {
                                              {"Label", false, false}}};
     CheckBox chkSurfaceMesh{.caption = "Surface mesh"};
     std::string lblStatus;
+    bool visible = true;  ///< false ends the modal run
 
     /// Ticks and enables box `index`, or clears and disables it.
     void Offer(std::size_t index, bool offered);
+    void ClickOK();
+    void ClickCancel();  ///< also for Esc and the close box
 };
 
 /// Turns the pattern: to an angle of the picked line, or by an angle.
@@ -72,13 +81,14 @@ struct RotateDialog {
     RotateDialog(const ShellContext& context, double measured);
 
     std::string caption = "Rotate Pattern";
+    Place place = {0, 0, 5340, 1935};
     static constexpr int HelpContextID = 2936;
     std::string lblAngle = "Current Angle:";
     std::array<TextBox, 2>
-        txtAngle;  ///< 0 the angle of the picked line, which is not edited; 1 the wanted one
+        txtAngle;  ///< degrees: 0 the angle of the picked line, which is not edited; 1 the wanted one
     OptionGroup optMove{.captions = {"Rotate to this angle", "Rotate by this amount"}, .selected = ToAngle};
     std::string lblStatus;
-    std::string focus;
+    std::string focus;    ///< name of the control that has the focus
     bool visible = true;  ///< false ends the modal run
 
     // Events.
@@ -90,10 +100,14 @@ struct RotateDialog {
     /// Also for Esc and the close box.
     void ClickCancel();
 
+    /// By how much the pattern is to turn, radians. Throws ArithmeticError when the angle is no number.
+    [[nodiscard]] double Turn();
+
   private:
     [[nodiscard]] FieldContext Fields();
 
     const ShellContext& context_;
+    double measured_;  ///< radians
 };
 
 }  // namespace korvet

@@ -137,6 +137,7 @@ void CFittingWindow::Activate() {
 /// Clears every mouse mode but the removal of a dimension, which ends by itself.
 void CFittingWindow::CancelMouseModes() {
     modes = MouseModes();
+    controls.pboxGraphicWindow.rubberBand.reset();
     controls.pboxGraphicWindow.toolTip.clear();
 }
 

@@ -160,7 +160,13 @@ class CFittingWindow {
     void ResetFieldColours();
     void DevelopAndDisplay();
     float DrawnTextSize();
-    bool FinishMouseOperation(MouseButton button, float x, float y);
+    template <typename Step>
+    bool RunMouseStep(Step step);
+    void BeginMouseOperation(float x, float y);
+    bool EndRubberBand();
+    bool FinishMouseOperation(float x, float y);
+    void FinishDrag();
+    bool RemoveDimensionAt(float x, float y);
     void PanByRubberBand();
     void MeasureAt();
     void AddDimensionAt();

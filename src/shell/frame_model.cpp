@@ -15,6 +15,9 @@ constexpr std::array<int, 17> FittingTools = {3, 5, 6, 9, 11, 12, 13, 14, 16, 17
 
 constexpr int SelectFramesTool = 7;
 
+/// Older versions of the CAD program are not spoken to.
+constexpr int LastSilentAutoCad = 14;
+
 void SetFittingCommands(FrameModel& frame, bool enabled) {
     for (const std::string_view menu : FittingMenus) {
         frame.menuEnabled[std::string(menu)] = enabled;
@@ -26,14 +29,29 @@ void SetFittingCommands(FrameModel& frame, bool enabled) {
 
 }  // namespace
 
+bool IsTicked(const FrameModel& frame, std::string_view menu) {
+    return (menu == "mnuPrintFrames" && frame.printFramesTicked) ||
+           (menu == "mnuViewToolbar" && frame.toolBarVisible) ||
+           (menu == "mnuViewStatusBar" && frame.statusBarVisible);
+}
+
 void EnableFittingCommands(FrameModel& frame) {
     SetFittingCommands(frame, true);
+    ShowCadLink(frame);
 }
 
 void DisableFittingCommands(FrameModel& frame) {
     SetFittingCommands(frame, false);
     frame.menuEnabled["mnuSelectFrames"] = false;
     frame.toolEnabled[SelectFramesTool] = false;
+}
+
+void ShowCadLink(FrameModel& frame) {
+    frame.menuVisible["mnuSendToAcad"] = AutoCadVersion > LastSilentAutoCad;
+}
+
+void EnableSelectFramesTool(FrameModel& frame) {
+    frame.toolEnabled[SelectFramesTool] = frame.printFramesTicked;
 }
 
 }  // namespace korvet

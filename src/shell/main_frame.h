@@ -1,7 +1,10 @@
 // The main frame: it holds the fitting windows and forwards each command of its menus to the active one.
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,9 +15,6 @@
 #include "shell/settings_store.h"
 
 namespace korvet {
-
-/// The version of the CAD program that the link speaks to.
-inline constexpr int AutoCadVersion = 15;
 
 class CMainFrame {
   public:
@@ -54,7 +54,52 @@ class CMainFrame {
     Place place;  ///< of the frame as Load found it, twips
 
   private:
-    bool NewFitting(bool fromFile);
+    struct Command;
+    static std::span<const Command> Commands();
+
+    void RunCommand(std::string_view name);
+    void Refuse(int message);
+    void Guarded(const std::function<void()>& work);
+
+    // Windows.
+    CFittingWindow* NewFitting(bool fromFile);
+    void LoadInto(CFittingWindow& child, const std::string& path);
+    bool ReadCategory(const std::string& path);
+    bool AskAllToClose();
+    void Remove(CFittingWindow& window);
+    void SavePlace(const Place& last);
+    [[nodiscard]] int StoredTwips(const std::string& key, int otherwise, int lowest) const;
+
+    // Commands that do without a fitting window.
+    void FileNew();
+    void FileOpen();
+    void FilePrintPreview();
+    void FileExit();
+    void ViewToolbar();
+    void ViewStatusBar();
+    void ToolsOptions();
+    void WindowCascade();
+    void WindowTileHorizontal();
+    void WindowTileVertical();
+    void WindowArrangeIcons();
+    void HelpContents();
+    void HelpSearch();
+    void Disclaimer();
+    void HelpAbout();
+
+    // Commands on the active fitting window that are more than a call of its member.
+    void FileClose(CFittingWindow& child);
+    void FileSave(CFittingWindow& child);
+    void FileSaveAs(CFittingWindow& child);
+    void ExportDxf(CFittingWindow& child);
+    void ExportHpgl(CFittingWindow& child);
+    void SendToAcad(CFittingWindow& child);
+    void PrintFrames(CFittingWindow& child);
+    void ZoomIn(CFittingWindow& child);
+    void ZoomOut(CFittingWindow& child);
+    void AlignedDimension(CFittingWindow& child);
+    void MovePattern(CFittingWindow& child);
+    std::optional<std::string> ChooseSaveName();
 
     ShellContext& context_;
     FrameDesktop& desktop_;

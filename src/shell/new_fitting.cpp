@@ -2,6 +2,10 @@
 
 namespace korvet {
 
+bool HasNoFile(const CFittingWindow& window) {
+    return window.controls.caption.starts_with(NewWindowCaption);
+}
+
 std::unique_ptr<CFittingWindow> NewFitting(ShellContext& context, const std::string& category,
                                            DrawingDevice* drawingArea) {
     ++context.frame.documentCounter;
@@ -14,7 +18,8 @@ std::unique_ptr<CFittingWindow> NewFitting(ShellContext& context, const std::str
         return nullptr;
     }
     auto window = std::make_unique<CFittingWindow>(context, *row, drawingArea);
-    window->controls.caption = "Development " + std::to_string(context.frame.documentCounter);
+    window->controls.caption =
+        std::string(NewWindowCaption) + " " + std::to_string(context.frame.documentCounter);
     return window;
 }
 

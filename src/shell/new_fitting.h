@@ -3,10 +3,17 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "shell/fitting_window.h"
 
 namespace korvet {
+
+/// How the caption of a window begins that has no file yet.
+inline constexpr std::string_view NewWindowCaption = "Development";
+
+/// Whether the window has no file yet, by its caption.
+bool HasNoFile(const CFittingWindow& window);
 
 /// A new window of a category, captioned "Development " and its number. Null, with nothing said, for a
 /// category that the catalogue does not have; null, with a plain box that says so, for one whose window is

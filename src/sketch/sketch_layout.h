@@ -58,18 +58,33 @@ struct PageSketch {
         DimensionKind kind = DimensionKind::Note;
         Side side = Side::Below;
         std::size_t view = 0;
-        SketchXY a;  ///< on the picture of the view
+        SketchXY a;  ///< where the extension line starts, on the picture of the view
         SketchXY b;
         SketchXY vertex;
+        bool aDrawn = false;  ///< the shape shows the ray to a up to there
+        bool bDrawn = false;
+        double reach = 1;  ///< of an angle's arc, times the distance from the vertex to a
     };
 
-    std::vector<SolidPicture> pictures;  ///< one per view of the page
-    std::vector<Dimension> dimensions;   ///< in the order of the page's boxes
+    struct Construction {
+        std::size_t view = 0;
+        SketchXY a;
+        SketchXY b;
+        bool centre = false;
+    };
+
+    std::vector<SolidPicture> pictures;            ///< one per view of the page
+    std::vector<std::vector<SolidBounds>> strips;  ///< the same cut into level strips that hold it closely
+    std::vector<Dimension> dimensions;             ///< in the order of the page's boxes
+    std::vector<Construction> construction;
 };
 
+/// Throws std::logic_error for samples that are refused and ListError for a dimension on a line that the
+/// model does not have.
 PageSketch MakePageSketch(const WindowTable& table, std::size_t page);
 
-/// The smallest page on which the sketch is easy to read and nothing lies over anything else.
+/// Width and height of the smallest page on which the sketch is easy to read and nothing lies over anything
+/// else.
 SketchXY SmallestSketch(const PageSketch& sketch, const SketchMetrics& metrics);
 
 /// The sketch in a page of width by height pixels, at least SmallestSketch: the shape as large as its boxes

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstdint>
 #include <limits>
 
@@ -58,6 +59,37 @@ TEST(PixelMap, RefusesAWindowWithoutSize) {
     EXPECT_THROW(PixelMap({0, 0, 1, 0}, {400, 200}), ArithmeticError);
     // So small beside its place that both edges are the same number.
     EXPECT_THROW(PixelMap({1e20, 0, 1e-3, -1}, {400, 200}), ArithmeticError);
+}
+
+TEST(ToWorld, GivesThePointUnderAPixel) {
+    const WorldWindow window = {-200, 100, 400, -200};
+    EXPECT_EQ(ToWorld(window, {800, 400}, 0, 0), (WorldPoint{-200, 100}));
+    EXPECT_EQ(ToWorld(window, {800, 400}, 800, 400), (WorldPoint{200, -100}));
+    EXPECT_EQ(ToWorld(window, {800, 400}, 400.5, 50), (WorldPoint{0.25F, 75}));
+}
+
+TEST(ToWorld, UndoesThePixelMapToHalfAPixel) {
+    for (const WorldWindow& window :
+         {WorldWindow{-198, 102, 400, -200}, {12.5, -3.75, 0.03, -0.02}, {-70000, 9000, 123456, -98765}}) {
+        const PixelSize pixels = {731, 517};
+        const PixelMap map(window, pixels);
+        const double unitsToPixel = window.ScaleWidth / pixels.width;
+        for (int i = 0; i <= 500; i += 7) {
+            const WorldPoint point = ToWorld(window, pixels, i, i);
+            EXPECT_EQ(map.ToPixelX(point.x), i);
+            EXPECT_EQ(map.ToPixelY(point.y), i);
+            const auto x = static_cast<float>(window.ScaleLeft + window.ScaleWidth * i / 501);
+            const WorldPoint back = ToWorld(window, pixels, map.ToPixelX(x), 0);
+            EXPECT_LE(std::fabs(back.x - x), 0.51 * unitsToPixel);
+        }
+    }
+}
+
+TEST(ToWorld, StaysFinite) {
+    EXPECT_EQ(ToWorld({}, {400, 200}, 10, 20), (WorldPoint{0, 0}));  // no scale applied yet
+    EXPECT_EQ(ToWorld({3, 4, 400, -200}, {0, 0}, 10, 20), (WorldPoint{3, 4}));
+    const float largest = std::numeric_limits<float>::max();
+    EXPECT_EQ(ToWorld({0, 0, 1e300, -1e300}, {400, 200}, 10, 20), (WorldPoint{largest, -largest}));
 }
 
 TEST(TextSizes, AreInWorldUnitsWithTheSignOfTheScale) {

@@ -93,12 +93,31 @@ bool Build(FittingForm& form, CRightCone& cone) {
     }
 }
 
+// The top is List1, the base List2.
+constexpr SketchPoint ApexByHeight = OnAxis(400);
+constexpr SketchPoint ApexByAngle = OnAxis(259.8076211353316);  // 150 / tan 30 degrees
+
 constexpr std::array<BoxEntry, 3> ApexHeightBoxes = {
-    {{0, "Base diameter", "300"}, {1, "Top diameter", "120"}, {2, "Apex height", "400"}}};
+    {{0, "Base diameter", "300", DiameterSize(Side::Below, 2)},
+     {1, "Top diameter", "120", DiameterSize(Side::Above, 1)},
+     {2, "Apex height", "400", LinearSize(Side::Right, MiddleOf(2), ApexByHeight)}}};
 constexpr std::array<BoxEntry, 3> HeightBoxes = {
-    {{3, "Base diameter", "300"}, {4, "Top diameter", "120"}, {5, "Cutting plane height", "250"}}};
+    {{3, "Base diameter", "300", DiameterSize(Side::Below, 2)},
+     {4, "Top diameter", "120", DiameterSize(Side::Above, 1)},
+     {5, "Cutting plane height", "250", LinearSize(Side::Right, MiddleOf(2), MiddleOf(1))}}};
 constexpr std::array<BoxEntry, 3> ConeAngleBoxes = {
-    {{6, "Base diameter", "300"}, {7, "Top diameter", "120"}, {8, "Cone angle (degrees, included)", "60"}}};
+    {{6, "Base diameter", "300", DiameterSize(Side::Below, 2)},
+     {7, "Top diameter", "120", DiameterSize(Side::Above, 1)},
+     {8, "Cone angle (degrees, included)", "60",
+      AngleSize(Side::Right, ApexByAngle, SpotOf(2, Spot::MinX), SpotOf(2, Spot::MaxX), 0.2)}}};
+
+constexpr std::array<SketchConstruction, 3> ApexHeightLines = {{ThinLine(SpotOf(1, Spot::MinX), ApexByHeight),
+                                                                ThinLine(SpotOf(1, Spot::MaxX), ApexByHeight),
+                                                                CentreLine(OnAxis(0), ApexByHeight)}};
+constexpr std::array<SketchConstruction, 1> HeightLines = {{CentreLine(MiddleOf(2), MiddleOf(1))}};
+constexpr std::array<SketchConstruction, 3> ConeAngleLines = {{ThinLine(SpotOf(1, Spot::MinX), ApexByAngle),
+                                                               ThinLine(SpotOf(1, Spot::MaxX), ApexByAngle),
+                                                               CentreLine(OnAxis(0), ApexByAngle)}};
 
 constexpr std::array<LabelEntry, 3> ApexHeightLabels = {
     {{"Base diameter = ", 0}, {"Top diameter = ", 1}, {"Apex height = ", 2}}};
@@ -107,8 +126,9 @@ constexpr std::array<LabelEntry, 3> HeightLabels = {
 constexpr std::array<LabelEntry, 3> ConeAngleLabels = {
     {{"Base diameter = ", 6}, {"Top diameter = ", 7}, {"Cone angle = ", 8}}};
 
-constexpr std::array<PageEntry, 3> Pages = {
-    {{ApexHeightBoxes, ApexHeightLabels}, {HeightBoxes, HeightLabels}, {ConeAngleBoxes, ConeAngleLabels}}};
+constexpr std::array<PageEntry, 3> Pages = {{{ApexHeightBoxes, ApexHeightLabels, FrontView, ApexHeightLines},
+                                             {HeightBoxes, HeightLabels, FrontView, HeightLines},
+                                             {ConeAngleBoxes, ConeAngleLabels, FrontView, ConeAngleLines}}};
 
 }  // namespace
 

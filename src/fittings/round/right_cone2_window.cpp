@@ -199,33 +199,89 @@ bool Build(FittingForm& form, CRightCone& cone) {
     }
 }
 
-constexpr std::array<BoxEntry, 4> ConeAngleBoxes = {{{0, "Base diameter", "300"},
-                                                     {1, "Cutting plane height", "150"},
-                                                     {2, "Cone angle (degrees, included)", "50"},
-                                                     {3, "Cutting plane angle (degrees)", "20"}}};
-constexpr std::array<BoxEntry, 4> ApexHeightBoxes = {{{4, "Base diameter", "300"},
-                                                      {5, "Cutting plane angle (degrees)", "25"},
-                                                      {6, "Apex height", "400"},
-                                                      {7, "Cutting plane height", "200"}}};
-constexpr std::array<BoxEntry, 6> TwoPlaneBoxes = {{{8, "Base diameter", "400"},
-                                                    {9, "Cutting plane height 1", "320"},
-                                                    {10, "Cutting plane angle 2 (degrees)", "15"},
-                                                    {11, "Cutting plane height 2", "80"},
-                                                    {12, "Cutting plane angle 1 (degrees)", "20"},
-                                                    {13, "Apex height", "600"}}};
-constexpr std::array<BoxEntry, 6> UpperRoofBoxes = {{{14, "Cutting plane angle 1 (degrees)", "25"},
-                                                     {15, "Offset", "15"},
-                                                     {16, "Cutting plane angle 2 (degrees)", "35"},
-                                                     {17, "Apex height", "600"},
-                                                     {18, "Cutting plane height 1", "320"},
-                                                     {19, "Base diameter", "400"}}};
-constexpr std::array<BoxEntry, 7> LowerRoofBoxes = {{{20, "Base diameter", "400"},
-                                                     {21, "Top diameter", "160"},
-                                                     {22, "Cutting plane height 1", "350"},
-                                                     {23, "Cutting plane height 2", "120"},
-                                                     {24, "Offset", "20"},
-                                                     {25, "Cutting plane angle 1 (degrees)", "25"},
-                                                     {26, "Cutting plane angle 2 (degrees)", "30"}}};
+// The top is List1, the bottom List2. Planes are measured on the axis, a roof at its ridge, and every tilt
+// against the level in the elevation.
+constexpr SketchPoint BaseLeft = AtXZ(-200, 0);
+constexpr SketchPoint BaseRight = AtXZ(200, 0);
+
+/// A level ray to the right of the left end of a line.
+constexpr SketchPoint LevelFromLeft(int list) {
+    return SpotOf(list, Spot::MinX, 100);
+}
+
+/// The tilt of a plane between its left and its right end.
+constexpr SketchDimension TiltSize(int list) {
+    return AngleSize(Side::Right, SpotOf(list, Spot::MinX), SpotOf(list, Spot::MaxX), LevelFromLeft(list));
+}
+
+/// The tilt of one side of a roof, away from the ridge to the end of the roof given.
+constexpr SketchDimension RoofTiltSize(Side side, const SketchPoint& ridge, int list) {
+    const bool left = side == Side::Left;
+    return AngleSize(side, ridge, SpotOf(list, left ? Spot::MinX : Spot::MaxX),
+                     AtXZ(ridge.dx + (left ? -100 : 100), ridge.dz));
+}
+
+constexpr SketchPoint ConeAngleApex = OnAxis(321.6760380764337);  // 150 / tan 25 degrees
+constexpr std::array<BoxEntry, 4> ConeAngleBoxes = {
+    {{0, "Base diameter", "300", DiameterSize(Side::Below, 2)},
+     {1, "Cutting plane height", "150", LinearSize(Side::Left, MiddleOf(2), OnAxis(150))},
+     {2, "Cone angle (degrees, included)", "50",
+      AngleSize(Side::Left, ConeAngleApex, SpotOf(2, Spot::MinX), SpotOf(2, Spot::MaxX), 0.2)},
+     {3, "Cutting plane angle (degrees)", "20", TiltSize(1)}}};
+constexpr std::array<SketchConstruction, 3> ConeAngleLines = {{ThinLine(SpotOf(1, Spot::MinX), ConeAngleApex),
+                                                               ThinLine(SpotOf(1, Spot::MaxX), ConeAngleApex),
+                                                               CentreLine(OnAxis(0), ConeAngleApex)}};
+
+constexpr SketchPoint ApexHeightApex = OnAxis(400);
+constexpr std::array<BoxEntry, 4> ApexHeightBoxes = {
+    {{4, "Base diameter", "300", DiameterSize(Side::Below, 2)},
+     {5, "Cutting plane angle (degrees)", "25", TiltSize(1)},
+     {6, "Apex height", "400", LinearSize(Side::Right, MiddleOf(2), ApexHeightApex)},
+     {7, "Cutting plane height", "200", LinearSize(Side::Left, MiddleOf(2), OnAxis(200))}}};
+constexpr std::array<SketchConstruction, 3> ApexHeightLines = {
+    {ThinLine(SpotOf(1, Spot::MinX), ApexHeightApex), ThinLine(SpotOf(1, Spot::MaxX), ApexHeightApex),
+     CentreLine(OnAxis(0), ApexHeightApex)}};
+
+constexpr SketchPoint TwoPlaneApex = OnAxis(600);
+constexpr std::array<BoxEntry, 6> TwoPlaneBoxes = {
+    {{8, "Base diameter", "400", LinearSize(Side::Below, BaseLeft, BaseRight)},
+     {9, "Cutting plane height 1", "320", LinearSize(Side::Left, OnAxis(0), OnAxis(320))},
+     {10, "Cutting plane angle 2 (degrees)", "15", TiltSize(2)},
+     {11, "Cutting plane height 2", "80", LinearSize(Side::Left, OnAxis(0), OnAxis(80))},
+     {12, "Cutting plane angle 1 (degrees)", "20", TiltSize(1)},
+     {13, "Apex height", "600", LinearSize(Side::Right, OnAxis(0), TwoPlaneApex)}}};
+constexpr std::array<SketchConstruction, 6> TwoPlaneLines = {
+    {ThinLine(SpotOf(1, Spot::MinX), TwoPlaneApex), ThinLine(SpotOf(1, Spot::MaxX), TwoPlaneApex),
+     ThinLine(SpotOf(2, Spot::MinX), BaseLeft), ThinLine(SpotOf(2, Spot::MaxX), BaseRight),
+     ThinLine(BaseLeft, BaseRight), CentreLine(OnAxis(0), TwoPlaneApex)}};
+
+constexpr SketchPoint UpperRoofApex = OnAxis(600);
+constexpr SketchPoint UpperRidge = AtXZ(15, 320);
+constexpr std::array<BoxEntry, 6> UpperRoofBoxes = {
+    {{14, "Cutting plane angle 1 (degrees)", "25", RoofTiltSize(Side::Left, UpperRidge, 1)},
+     {15, "Offset", "15", LinearSize(Side::Above, OnAxis(320), UpperRidge)},
+     {16, "Cutting plane angle 2 (degrees)", "35", RoofTiltSize(Side::Right, UpperRidge, 1)},
+     {17, "Apex height", "600", LinearSize(Side::Left, MiddleOf(2), UpperRoofApex)},
+     {18, "Cutting plane height 1", "320", LinearSize(Side::Right, MiddleOf(2, 15), UpperRidge)},
+     {19, "Base diameter", "400", DiameterSize(Side::Below, 2)}}};
+constexpr std::array<SketchConstruction, 3> UpperRoofLines = {{ThinLine(SpotOf(1, Spot::MinX), UpperRoofApex),
+                                                               ThinLine(SpotOf(1, Spot::MaxX), UpperRoofApex),
+                                                               CentreLine(OnAxis(0), UpperRoofApex)}};
+
+// The lower roof is seen level: from above, the near wall would hang over the ridge and its tilts.
+constexpr std::array<SketchView, 1> LevelView = {{{.turn = 0, .tilt = 0}}};
+constexpr SketchPoint LowerRidge = AtXZ(20, 120);
+constexpr std::array<BoxEntry, 7> LowerRoofBoxes = {
+    {{20, "Base diameter", "400", LinearSize(Side::Below, BaseLeft, BaseRight)},
+     {21, "Top diameter", "160", DiameterSize(Side::Above, 1)},
+     {22, "Cutting plane height 1", "350", LinearSize(Side::Left, OnAxis(0), MiddleOf(1))},
+     {23, "Cutting plane height 2", "120", LinearSize(Side::Right, AtXZ(20, 0), LowerRidge)},
+     {24, "Offset", "20", LinearSize(Side::Below, OnAxis(120), LowerRidge)},
+     {25, "Cutting plane angle 1 (degrees)", "25", RoofTiltSize(Side::Left, LowerRidge, 2)},
+     {26, "Cutting plane angle 2 (degrees)", "30", RoofTiltSize(Side::Right, LowerRidge, 2)}}};
+constexpr std::array<SketchConstruction, 4> LowerRoofLines = {
+    {ThinLine(SpotOf(2, Spot::MinX), BaseLeft), ThinLine(SpotOf(2, Spot::MaxX), BaseRight),
+     ThinLine(BaseLeft, BaseRight), CentreLine(OnAxis(0), MiddleOf(1))}};
 
 // The two angle boxes stand the other way round here than in the sizes: files and drawings made so far have
 // it so.
@@ -257,11 +313,11 @@ constexpr std::array<LabelEntry, 7> LowerRoofLabels = {{{"Base diameter = ", 20}
                                                         {"Cutting plane height 2 = ", 23},
                                                         {"Offset = ", 24}}};
 
-constexpr std::array<PageEntry, 5> Pages = {{{ConeAngleBoxes, ConeAngleLabels},
-                                             {ApexHeightBoxes, ApexHeightLabels},
-                                             {TwoPlaneBoxes, TwoPlaneLabels},
-                                             {UpperRoofBoxes, UpperRoofLabels},
-                                             {LowerRoofBoxes, LowerRoofLabels}}};
+constexpr std::array<PageEntry, 5> Pages = {{{ConeAngleBoxes, ConeAngleLabels, FrontView, ConeAngleLines},
+                                             {ApexHeightBoxes, ApexHeightLabels, FrontView, ApexHeightLines},
+                                             {TwoPlaneBoxes, TwoPlaneLabels, FrontView, TwoPlaneLines},
+                                             {UpperRoofBoxes, UpperRoofLabels, FrontView, UpperRoofLines},
+                                             {LowerRoofBoxes, LowerRoofLabels, LevelView, LowerRoofLines}}};
 
 }  // namespace
 

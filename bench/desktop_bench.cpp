@@ -1,0 +1,57 @@
+// How long the desktop takes to rebuild and redraw a cone, at one and two device pixels to the pixel, and to make
+// and show a fitting window.
+//     QT_QPA_PLATFORM=offscreen build/release/bin/desktop_bench
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QtGlobal>
+
+#include "desktop/fitting_view.h"
+#include "shell/views.h"
+#include "tests/support/test_shell.h"
+
+namespace korvet::desktop {
+namespace {
+
+constexpr QSize AreaSize = {1400, 900};
+
+/// Pattern or model of a tilted cone, rebuilt from its boxes and drawn: what Redraw does.
+void Redraw(benchmark::State& state, int viewButton) {
+    TestShell shell;
+    const auto window = shell.OpenSample("Truncated Right Cone", 2);
+    window->settings.segs = static_cast<int>(state.range(0));
+    DrawingArea area(*window, nullptr);
+    area.resize(AreaSize);
+    window->ClickView(viewButton);
+    window->ZoomExtents();
+    if (!window->hasModel) {
+        state.SkipWithError("the cone was refused");
+    }
+    for (auto _ : state) {
+        window->Redraw();
+    }
+}
+BENCHMARK_CAPTURE(Redraw, pattern, PatternButton)->Arg(24)->Arg(144)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Redraw, model, 0)->Arg(24)->Arg(144)->Unit(benchmark::kMillisecond);
+
+/// From the choice in the menu to the window as it is first painted.
+void NewFittingToWindowShown(benchmark::State& state) {
+    TestShell shell;
+    for (auto _ : state) {
+        const auto window = shell.Open("Right Cone");
+        FittingView view(*window, nullptr);
+        view.resize(AreaSize);
+        benchmark::DoNotOptimize(view.grab());
+    }
+}
+BENCHMARK(NewFittingToWindowShown)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace korvet::desktop
+
+int main(int argc, char** argv) {
+    const QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

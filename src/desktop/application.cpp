@@ -1,0 +1,75 @@
+#include "desktop/application.h"
+
+#include <QApplication>
+#include <QPrinterInfo>
+#include <QTimer>
+
+#include "core/constants.h"
+#include "desktop/help_window.h"
+#include "desktop/icons.h"
+#include "desktop/main_window.h"
+#include "desktop/qt_ui.h"
+#include "desktop/sketch_painter.h"
+#include "platform/disk_files.h"
+#include "platform/registry_settings.h"
+#include "platform/system_clock.h"
+#include "shell/start_up.h"
+
+namespace korvet::desktop {
+namespace {
+
+/// A sketch for the help pages; none for a fitting or page that there isn't.
+QImage SketchOfPage(const QString& category, int page, QSize size, const QPalette& palette) {
+    const CatalogueRow* row = FindCategory(category.toStdString());
+    if (row == nullptr || row->table == nullptr || page < 1 ||
+        static_cast<std::size_t>(page) > row->table->pages.size()) {
+        return {};
+    }
+    return SketchImage(*row->table, static_cast<std::size_t>(page - 1), size, qApp->devicePixelRatio(),
+                       palette, QApplication::font());
+}
+
+/// Everything that lives as long as the run, in the order in which it is needed.
+struct Application {
+    COptions options;
+    DiskFiles files;
+    SystemClock clock;
+    FrameModel frame;
+    PatternSettingsDialog patternSettingsDialog;
+    RegistrySettings settings;
+    QtUi ui{nullptr};
+    ShellContext context{options, ui, files, clock, frame, patternSettingsDialog, SystemDecimalMark()};
+    HelpWindow help{HelpWindow::FileBesideProgram(), SketchOfPage};
+};
+
+void OpenFiles(MainWindow& window, const QStringList& files) {
+    for (const QString& file : files) {
+        window.Frame().OpenFile(file.toStdString());
+        window.Project();
+    }
+}
+
+}  // namespace
+
+int RunApplication(const QStringList& files) {
+    HoldNumericLocale();
+    QApplication::setWindowIcon(ApplicationIcon());
+    Application application;
+    application.ui.context = &application.context;
+    if (!SetupStartup(application.context, QPrinterInfo::defaultPrinterName().toStdString())) {
+        return 1;
+    }
+    MainWindow window(application.context, application.help, application.settings);
+    application.ui.SetParent(&window);
+    application.ui.beforeModal = [&window] { window.Project(); };
+    application.ui.showHelp = window.HelpByContext();
+    window.Place(application.settings.Get("MainWidth").has_value());
+    window.show();
+    QTimer::singleShot(0, &window, [&] {
+        window.Frame().Activate();
+        OpenFiles(window, files);
+    });
+    return QApplication::exec();
+}
+
+}  // namespace korvet::desktop

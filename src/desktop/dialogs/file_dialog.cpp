@@ -1,0 +1,98 @@
+#include "desktop/dialogs/file_dialog.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+
+#include "desktop/bindings.h"
+
+namespace korvet::desktop {
+namespace {
+
+struct Filter {
+    QString description;
+    QString suffix;  ///< of "*.Kvt": "Kvt"
+};
+
+Filter FilterOf(const std::string& filter) {
+    const QStringList parts = Text(filter).split(QLatin1Char('|'));
+    return {parts.value(0), parts.value(1).section(QLatin1Char('.'), -1)};
+}
+
+/// The pattern that takes the suffix in any case, also where the desktop's own dialog heeds it.
+QString AnyCase(const QString& suffix) {
+    QString pattern = QStringLiteral("*.");
+    for (const QChar letter : suffix) {
+        pattern += letter.isLetter() ? QStringLiteral("[%1%2]").arg(letter.toUpper()).arg(letter.toLower())
+                                     : QString(letter);
+    }
+    return pattern;
+}
+
+void SetUp(QFileDialog& dialog, const FileChoice& choice, const Filter& filter) {
+    const bool dxf = filter.suffix.compare(QLatin1String("DXF"), Qt::CaseInsensitive) == 0;
+    NameWidget(dialog, dxf ? "dlgCommonDialogDXF" : "dlgCommonDialog", Text(choice.title));
+    dialog.setWindowTitle(Text(choice.title));
+    dialog.setAcceptMode(choice.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(choice.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialog.setNameFilter(filter.description + QStringLiteral(" (") + AnyCase(filter.suffix) +
+                         QLatin1Char(')'));
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    // The name may still get a suffix, so the question comes after the dialog.
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+}
+
+/// The name with the suffix of the filter when it was typed without one.
+QString WithSuffix(const QString& path, const QString& suffix) {
+    const QString name = QFileInfo(path).fileName();
+    if (suffix.isEmpty() || (name.contains(QLatin1Char('.')) && !name.endsWith(QLatin1Char('.')))) {
+        return path;
+    }
+    return path + (name.endsWith(QLatin1Char('.')) ? QString() : QStringLiteral(".")) + suffix;
+}
+
+/// Whether a file may be written at that path; the box that says why not, or asks.
+bool MayWrite(QWidget& parent, const QString& path) {
+    const QFileInfo file(path);
+    QMessageBox box(&parent);
+    NameWidget(box, "msgBox", parent.windowTitle());
+    box.setWindowTitle(parent.windowTitle());
+    box.setIcon(QMessageBox::Warning);
+    box.setTextFormat(Qt::PlainText);
+    if (!file.dir().exists()) {
+        box.setText(QStringLiteral("The folder %1 does not exist.").arg(file.absolutePath()));
+        box.exec();
+        return false;
+    }
+    if (!file.exists()) {
+        return true;
+    }
+    box.setText(QStringLiteral("%1 already exists.\nDo you want to replace it?").arg(file.fileName()));
+    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
+}
+
+}  // namespace
+
+std::optional<std::string> RunFileDialog(QWidget* parent, const FileChoice& choice, QString& folder) {
+    const Filter filter = FilterOf(choice.filter);
+    QFileDialog dialog(parent);
+    SetUp(dialog, choice, filter);
+    dialog.setDirectory(folder.isEmpty() ? QDir::currentPath() : folder);
+    while (dialog.exec() == QDialog::Accepted) {
+        QString path = dialog.selectedFiles().value(0);
+        if (choice.save) {
+            path = WithSuffix(path, filter.suffix);
+        }
+        if (!choice.save || MayWrite(dialog, path)) {
+            folder = QFileInfo(path).absolutePath();
+            return path.toStdString();
+        }
+        dialog.selectFile(path);
+    }
+    return std::nullopt;
+}
+
+}  // namespace korvet::desktop

@@ -1,0 +1,83 @@
+#include "desktop/dialogs/message_box.h"
+
+#include <QLabel>
+#include <QMessageBox>
+
+#include "desktop/bindings.h"
+
+namespace korvet::desktop {
+namespace {
+
+// A style is the sum of an icon and a set of buttons.
+constexpr int ButtonBits = 7;
+constexpr int IconBits = 112;
+constexpr int OkCancelButtons = 1;
+constexpr int YesNoCancelButtons = 3;
+
+QMessageBox::Icon IconOf(BoxStyle style) {
+    switch (style & IconBits) {
+        case CriticalBox:
+            return QMessageBox::Critical;
+        case QuestionBox:
+            return QMessageBox::Question;
+        case ExclamationBox:
+            return QMessageBox::Warning;
+        case InformationBox:
+            return QMessageBox::Information;
+        default:
+            return QMessageBox::NoIcon;
+    }
+}
+
+void AddButtons(QMessageBox& box, BoxStyle style) {
+    switch (style & ButtonBits) {
+        case OkCancelButtons:
+            box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
+            break;
+        case YesNoCancelButtons:
+            box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+            break;
+        default:
+            box.setStandardButtons(QMessageBox::Ok);
+            break;
+    }
+    const bool canCancel = (box.standardButtons() & QMessageBox::Cancel) != 0;
+    box.setEscapeButton(canCancel ? QMessageBox::Cancel : QMessageBox::Ok);
+}
+
+Answer AnswerOf(int button) {
+    switch (button) {
+        case QMessageBox::Yes:
+            return Answer::Yes;
+        case QMessageBox::No:
+            return Answer::No;
+        case QMessageBox::Cancel:
+            return Answer::Cancel;
+        default:
+            return Answer::Ok;
+    }
+}
+
+/// A text with the line breaks of the toolkit.
+QString Lines(const std::string& text) {
+    return Text(text).replace(QLatin1String("\r\n"), QLatin1String("\n"));
+}
+
+}  // namespace
+
+Answer RunMessageBox(QWidget* parent, const MessageBox& message) {
+    QMessageBox box(parent);
+    NameWidget(box, "msgBox", Text(message.title));
+    box.setWindowTitle(Text(message.title));
+    box.setIcon(IconOf(message.style));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(Lines(message.text));
+    box.setInformativeText(Lines(message.detail));
+    for (QLabel* label : box.findChildren<QLabel*>()) {
+        label->setTextFormat(Qt::PlainText);
+    }
+    AddButtons(box, message.style);
+    return AnswerOf(box.exec());
+}
+
+}  // namespace korvet::desktop

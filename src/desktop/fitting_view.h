@@ -1,0 +1,87 @@
+// A fitting window on the desktop: a projection of its plain model, in both directions.
+#pragma once
+
+#include <QWidget>
+#include <array>
+#include <functional>
+#include <vector>
+
+#include "desktop/drawing_area.h"
+#include "desktop/sketch_page.h"
+#include "shell/fitting_window.h"
+
+class QFrame;
+class QGridLayout;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QScrollArea;
+class QStackedLayout;
+class QToolButton;
+
+namespace korvet::desktop {
+
+class FittingView : public QWidget {
+    Q_OBJECT
+  public:
+    /// Builds the widgets of the window's table. The window must outlive the view or be taken away by Detach.
+    FittingView(CFittingWindow& window, QWidget* parent);
+
+    /// Cuts the view off its window, which is about to go.
+    void Detach();
+
+    [[nodiscard]] CFittingWindow* Window() const { return window_; }
+
+    /// Shows what the model says, focus and selection included.
+    void Project();
+
+    /// The sizes and the state of the view into the model.
+    void TakeShape(int state);
+
+    std::function<void()> afterEvent;  ///< a command or an edit has run
+    std::function<void()> closeWindow;
+    std::function<void(const QPoint&)> popUpMenu;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+  private:
+    QWidget* MakePanel();
+    QWidget* MakePages();
+    QWidget* MakeControls();
+    QWidget* MakePatternControls();
+    QGridLayout* MakeViewButtons(QWidget* parent);
+    QWidget* MakeTextSize(QWidget* parent);
+    QToolButton* MakeViewButton(int button, QWidget* parent);
+    QToolButton* MakeButton(const std::string& name, const QString& accessibleName, QWidget* parent);
+    void AddShortcuts();
+    void ConnectBox(QLineEdit* edit, std::size_t index);
+    void ConnectTextSize();
+    void ShowIcons();
+    void ProjectFocus();
+    void After();
+
+    template <typename Action>
+    void Do(Action action);
+
+    CFittingWindow* window_;
+    DrawingArea* drawing_ = nullptr;
+    QScrollArea* panel_ = nullptr;
+    std::vector<SketchPage*> pages_;
+    std::vector<QLineEdit*> boxes_;  ///< by their index in txtParameter
+    QStackedLayout* pageStack_ = nullptr;
+    std::array<QToolButton*, 10> viewButtons_ = {};
+    std::array<QToolButton*, 2> typeButtons_ = {};
+    QLabel* typeLabel_ = nullptr;
+    QLabel* textSizeLabel_ = nullptr;
+    QLineEdit* textSize_ = nullptr;
+    QToolButton* redraw_ = nullptr;
+    QToolButton* settings_ = nullptr;
+    QToolButton* close_ = nullptr;
+    QGroupBox* patternFrame_ = nullptr;
+    std::string shownFocus_;
+};
+
+}  // namespace korvet::desktop

@@ -1,0 +1,281 @@
+#include "desktop/main_window.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QMenu>
+#include <QMimeData>
+#include <QScreen>
+#include <QStatusBar>
+#include <QTimer>
+#include <QToolBar>
+#include <QUrl>
+#include <algorithm>
+
+#include "desktop/bindings.h"
+#include "desktop/category_menu_window.h"
+#include "desktop/dialogs/about_dialogs.h"
+#include "desktop/icons.h"
+#include "platform/file_lock.h"
+
+namespace korvet::desktop {
+namespace {
+
+/// The stored place of the frame counts the twips of a 96 dpi screen.
+constexpr int PlaceTwips = 15;
+
+/// Large enough for a fitting window with a fair drawing beside its panel.
+constexpr QSize ComfortableSize = {1180, 860};
+
+/// A caption is shown as it stands: the toolkit's mark for unsaved windows is no part of it.
+QString Title(const std::string& caption) {
+    return Text(caption).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
+}
+
+int ShapeOf(Qt::WindowStates states) {
+    if (states.testFlag(Qt::WindowMinimized)) {
+        return MinimisedWindow;
+    }
+    return states.testFlag(Qt::WindowMaximized) ? MaximisedWindow : NormalWindow;
+}
+
+}  // namespace
+
+ChildWindow::ChildWindow(CFittingWindow& window, QWidget* parent)
+    : QMdiSubWindow(parent), view_(new FittingView(window, this)) {
+    setWidget(view_);
+    setWindowIcon(ApplicationIcon());
+    setAttribute(Qt::WA_DeleteOnClose, false);
+    connect(this, &QMdiSubWindow::windowStateChanged, this, [this] { TakeShape(); });
+    view_->closeWindow = [this] { close(); };
+}
+
+void ChildWindow::TakeShape() {
+    view_->TakeShape(ShapeOf(windowState()));
+}
+
+void ChildWindow::Project() {
+    if (view_->Window() != nullptr) {
+        setWindowTitle(Title(view_->Window()->controls.caption));
+        view_->Project();
+    }
+}
+
+void ChildWindow::closeEvent(QCloseEvent* event) {
+    CFittingWindow* window = view_->Window();
+    const bool may = window == nullptr || mayClose(*window);
+    event->setAccepted(may);
+}
+
+MainWindow::MainWindow(ShellContext& context, HelpViewer& help, SettingsStore& settings)
+    : frame_(context, *this, help, settings),
+      showHelp_([&context, &help](int contextId) { ShowHelp(context.ui, context.options, help, contextId); }),
+      area_(new QMdiArea(this)) {
+    NameWidget(*this, "frmMain", tr("Main window"));
+    setWindowIcon(ApplicationIcon());
+    setAcceptDrops(true);
+    NameWidget(*area_, "mdiArea", tr("Fitting windows"));
+    area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setCentralWidget(area_);
+    connect(area_, &QMdiArea::subWindowActivated, this, &MainWindow::TakeActive);
+    MakeMenus();
+    MakeToolBar();
+    MakeStatusBar();
+    frame_.Load();
+    Project();
+}
+
+MainWindow::~MainWindow() {
+    for (QMdiSubWindow* child : area_->subWindowList()) {
+        static_cast<ChildWindow*>(child)->View().Detach();
+    }
+}
+
+korvet::Place MainWindow::OuterPlace() const {
+    const QRect outer = isMaximized() || isMinimized() ? normalGeometry() : geometry();
+    return {outer.x() * PlaceTwips, outer.y() * PlaceTwips, outer.width() * PlaceTwips,
+            outer.height() * PlaceTwips};
+}
+
+void MainWindow::Place(bool remembered) {
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    QRect place(frame_.place.left / PlaceTwips, frame_.place.top / PlaceTwips,
+                frame_.place.width / PlaceTwips, frame_.place.height / PlaceTwips);
+    if (!remembered) {
+        place.setSize(place.size().expandedTo(ComfortableSize));
+    }
+    // A frame left on a screen that is gone comes back on one that is there.
+    place.setSize(place.size().boundedTo(screen.size()));
+    place.moveLeft(std::clamp(place.left(), screen.left(), screen.right() + 1 - place.width()));
+    place.moveTop(std::clamp(place.top(), screen.top(), screen.bottom() + 1 - place.height()));
+    setGeometry(place);
+}
+
+void MainWindow::Project() {
+    if (closing_) {
+        return;
+    }
+    ProjectMenus();
+    ProjectToolBar();
+    const FrameModel& model = frame_.Context().frame;
+    setWindowTitle(Title(model.caption));
+    statusText_->setText(Text(model.statusText));
+    toolBar_->setVisible(model.toolBarVisible);
+    statusBar()->setVisible(model.statusBarVisible);
+    for (QMdiSubWindow* child : area_->subWindowList()) {
+        static_cast<ChildWindow*>(child)->Project();
+    }
+}
+
+ChildWindow* MainWindow::ChildOf(const CFittingWindow& window) const {
+    for (QMdiSubWindow* child : area_->subWindowList()) {
+        auto* candidate = static_cast<ChildWindow*>(child);
+        if (candidate->View().Window() == &window) {
+            return candidate;
+        }
+    }
+    return nullptr;
+}
+
+void MainWindow::ShowWindow(CFittingWindow& window) {
+    auto* child = new ChildWindow(window, area_);
+    child->mayClose = [this](CFittingWindow& closing) {
+        const bool closed = frame_.CloseChild(closing);
+        Project();
+        return closed;
+    };
+    child->View().afterEvent = [this] { Project(); };
+    child->View().popUpMenu = [this](const QPoint& position) { viewMenu_->popup(position); };
+    area_->addSubWindow(child);
+    child->Project();
+    if (window.controls.state == MaximisedWindow) {
+        child->showMaximized();
+    } else {
+        child->setGeometry(0, 0, area_->viewport()->width(), area_->viewport()->height());
+        child->showNormal();
+    }
+    area_->setActiveSubWindow(child);
+    frame_.ActivateChild(&window);
+}
+
+void MainWindow::RemoveWindow(CFittingWindow& window) {
+    ChildWindow* child = ChildOf(window);
+    if (child == nullptr) {
+        return;
+    }
+    child->View().Detach();
+    child->hide();
+    area_->removeSubWindow(child);
+    child->deleteLater();
+    TakeActive(area_->activeSubWindow());
+}
+
+void MainWindow::TakeActive(QMdiSubWindow* child) {
+    // The area says "none" too when another program comes to the front.
+    if (child == nullptr && !area_->subWindowList().isEmpty()) {
+        return;
+    }
+    CFittingWindow* window = child != nullptr ? static_cast<ChildWindow*>(child)->View().Window() : nullptr;
+    frame_.ActivateChild(window);
+    if (statusText_ != nullptr) {
+        statusText_->setText(Text(frame_.Context().frame.statusText));
+    }
+}
+
+void MainWindow::Arrange(Arrangement arrangement) {
+    switch (arrangement) {
+        case Arrangement::Cascade:
+            area_->cascadeSubWindows();
+            break;
+        case Arrangement::TileHorizontally:
+        case Arrangement::TileVertically:
+            TileWindows(arrangement == Arrangement::TileVertically);
+            break;
+        case Arrangement::ArrangeIcons:
+            ArrangeIcons();
+            break;
+    }
+}
+
+void MainWindow::Close() {
+    close();
+}
+
+DialogHost MainWindow::Host() {
+    Project();
+    return {this, frame_.Context().ui, &frame_.Context(), showHelp_};
+}
+
+void MainWindow::RunModal(CategoryMenuDialog& dialog) {
+    RunCategoryMenu(dialog, this, showHelp_);
+}
+
+void MainWindow::RunModal(SplashDialog& dialog) {
+    RunDialog(Host(), dialog);
+}
+
+void MainWindow::RunModal(AboutDialog& dialog) {
+    RunDialog(Host(), dialog);
+}
+
+void MainWindow::RunModal(DisclaimerDialog& dialog) {
+    RunDialog(Host(), dialog);
+}
+
+bool MainWindow::IsFileAlreadyOpen(const std::string& path) const {
+    return korvet::IsFileAlreadyOpen(path);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    const bool may = frame_.QueryUnload(OuterPlace(), isMinimized());
+    closing_ = may;
+    event->setAccepted(may);
+    Project();
+}
+
+/// The splash comes up over the frame, so it waits until the frame itself has been drawn.
+void MainWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+        QTimer::singleShot(0, this, [this] { frame_.Activate(); });
+    }
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    TakeInnerSize();
+}
+
+void MainWindow::TakeInnerSize() {
+    const QSize inner = area_->viewport()->size();
+    frame_.Context().frame.inner = {0, 0, inner.width() * TwipsToPixel, inner.height() * TwipsToPixel};
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (event->mimeData()->hasUrls()) {
+        event->acceptProposedAction();
+    }
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    event->acceptProposedAction();
+    QStringList paths;
+    for (const QUrl& url : event->mimeData()->urls()) {
+        if (url.isLocalFile()) {
+            paths.append(url.toLocalFile());
+        }
+    }
+    // The sender of the drop must not wait for message boxes.
+    QTimer::singleShot(0, this, [this, paths] {
+        for (const QString& path : paths) {
+            frame_.OpenFile(path.toStdString());
+            Project();
+        }
+    });
+}
+
+}  // namespace korvet::desktop

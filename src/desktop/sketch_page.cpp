@@ -1,0 +1,116 @@
+#include "desktop/sketch_page.h"
+
+#include <QEvent>
+#include <QFontMetricsF>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+#include "desktop/bindings.h"
+#include "desktop/sketch_painter.h"
+
+namespace korvet::desktop {
+namespace {
+
+constexpr int SmallestPage = 275;
+
+/// A layout's rectangle on whole pixels, of the size that was measured.
+QRect PixelRect(const SketchRect& rect) {
+    return {static_cast<int>(std::lround(rect.x)), static_cast<int>(std::lround(rect.y)),
+            static_cast<int>(std::lround(rect.width)), static_cast<int>(std::lround(rect.height))};
+}
+
+}  // namespace
+
+SketchPage::SketchPage(const WindowTable& table, std::size_t page, QWidget* parent)
+    : QWidget(parent), entry_(table.pages[page]), sketch_(MakePageSketch(table, page)) {
+    for (const BoxEntry& box : entry_.boxes) {
+        MakeBox(box);
+    }
+    MeasureTexts();
+}
+
+void SketchPage::MakeBox(const BoxEntry& entry) {
+    const QString name = QString::fromUtf8(entry.label.data(), static_cast<qsizetype>(entry.label.size()));
+    auto* edit = new QLineEdit(this);
+    NameWidget(*edit, "txtParameter_" + std::to_string(entry.index), name);
+    auto* label = new QLabel(this);
+    NameWidget(*label, "lblParameter_" + std::to_string(entry.index), name);
+    label->setTextFormat(Qt::PlainText);
+    label->setAlignment(Qt::AlignCenter);
+    label->setBuddy(edit);
+    if (!boxes_.empty()) {
+        setTabOrder(boxes_.back(), edit);
+    }
+    boxes_.push_back(edit);
+    labels_.push_back(label);
+}
+
+QLineEdit* SketchPage::Box(int index) const {
+    for (std::size_t i = 0; i < boxes_.size(); ++i) {
+        if (entry_.boxes[i].index == index) {
+            return boxes_[i];
+        }
+    }
+    return nullptr;
+}
+
+QSize SketchPage::minimumSizeHint() const {
+    return smallest_;
+}
+
+QSize SketchPage::sizeHint() const {
+    return smallest_ * 1.2;
+}
+
+void SketchPage::MeasureTexts() {
+    const QFontMetricsF font(this->font());
+    double boxHeight = 0;
+    for (std::size_t i = 0; i < boxes_.size(); ++i) {
+        labels_[i]->setText(SketchLabelText(entry_.boxes[i].label, font));
+        boxHeight = std::max<double>(boxHeight, boxes_[i]->sizeHint().height());
+    }
+    metrics_ = MeasureSketch(entry_, font, boxHeight);
+    for (std::size_t i = 0; i < labels_.size(); ++i) {
+        const QSize hint = labels_[i]->sizeHint();
+        metrics_.labels[i] = {static_cast<double>(hint.width()), static_cast<double>(hint.height())};
+    }
+    const SketchXY smallest = SmallestSketch(sketch_, metrics_);
+    smallest_ = QSizeF(std::ceil(smallest.x), std::ceil(smallest.y))
+                    .toSize()
+                    .expandedTo({SmallestPage, SmallestPage});
+    updateGeometry();
+    LayOut();
+}
+
+void SketchPage::LayOut() {
+    layout_ = LayoutSketch(sketch_, metrics_, width(), height());
+    for (std::size_t i = 0; i < boxes_.size(); ++i) {
+        boxes_[i]->setGeometry(PixelRect(layout_.boxes[i]));
+        labels_[i]->setGeometry(PixelRect(layout_.labels[i]));
+    }
+    update();
+}
+
+void SketchPage::resizeEvent(QResizeEvent* /*event*/) {
+    LayOut();
+}
+
+void SketchPage::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    const QEvent::Type type = event->type();
+    if (type == QEvent::FontChange || type == QEvent::StyleChange) {
+        MeasureTexts();
+    } else if (type == QEvent::PaletteChange) {
+        update();
+    }
+}
+
+void SketchPage::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    PaintSketch(painter, layout_, palette());
+}
+
+}  // namespace korvet::desktop

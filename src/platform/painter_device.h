@@ -1,0 +1,39 @@
+// Lines and texts of a drawing on a painter: the part that screens, pictures and sheets have in common.
+#pragma once
+
+#include <span>
+#include <string>
+
+#include "display/drawing_device.h"
+
+class QColor;
+class QPainter;
+
+namespace korvet {
+
+/// A colour of the drawing as the toolkit has it.
+QColor ColorOf(Color color);
+
+/// The antialiased look that every drawing has.
+void PrepareDrawing(QPainter& painter);
+
+/// A device whose pixels a painter paints. Where a logical pixel of the desktop is made of several, there are
+/// that many more dots to the inch, and lines are as much wider.
+class PainterDevice : public DrawingDevice {
+  public:
+    void StartPage() override {}
+    [[nodiscard]] PixelSize OuterSize() const override { return ScaleSize(); }
+    [[nodiscard]] double LogicalDpiY() const override;
+    [[nodiscard]] PixelSize TextExtent(const std::string& text, double points) const override;
+    void Polyline(const Pen& pen, std::span<const PixelPoint> points) override;
+    void TextOut(const std::string& text, PixelPoint corner, const TextFont& font, Color color) override;
+
+  protected:
+    /// The painter of the picture; null while there is none.
+    [[nodiscard]] virtual QPainter* Painter() = 0;
+
+    /// Pixels of the device to a logical pixel.
+    [[nodiscard]] virtual double PixelRatio() const { return 1; }
+};
+
+}  // namespace korvet

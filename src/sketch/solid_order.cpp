@@ -1,0 +1,188 @@
+// Which face is painted before which.
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <queue>
+
+#include "sketch/solid_mesh.h"
+
+namespace korvet {
+namespace {
+
+/// Overlaps smaller than this share of the size squared, and steps in depth smaller than this share of the
+/// size, decide nothing: faces that only touch.
+constexpr double Negligible = 1e-9;
+
+/// A convex area of the picture, counter-clockwise. Two faces of four corners overlap in eight at most.
+struct Area {
+    std::array<SketchXY, 12> corners;
+    std::size_t count = 0;
+
+    void Add(const SketchXY& corner) {
+        if (count < corners.size()) {
+            corners[count++] = corner;
+        }
+    }
+};
+
+/// One face as it lies on the picture.
+struct PaintedFace {
+    std::size_t face = 0;
+    Area area;
+    SolidBounds box;
+    double middleDepth = 0;
+};
+
+/// Twice the area of the triangle a, b, p; above 0 when p lies left of the line from a to b.
+double LeftOf(const SketchXY& a, const SketchXY& b, const SketchXY& p) {
+    return (b.x - a.x) * (p.y - a.y) - (b.y - a.y) * (p.x - a.x);
+}
+
+PaintedFace MakePainted(const SolidMesh& mesh, std::size_t number) {
+    const MeshFace& face = mesh.faces[number];
+    PaintedFace painted{number, {}, {1e300, 1e300, -1e300, -1e300}, 0};
+    for (const std::size_t corner : face.corners) {
+        const EyePoint& p = mesh.vertices[corner];
+        painted.area.Add(OnPicture(p));
+        painted.middleDepth += p.depth / static_cast<double>(face.corners.size());
+        painted.box = {std::min(painted.box.left, p.x), std::min(painted.box.bottom, p.y),
+                       std::max(painted.box.right, p.x), std::max(painted.box.top, p.y)};
+    }
+    if (face.normal.depth < 0) {
+        std::reverse(painted.area.corners.begin(),
+                     painted.area.corners.begin() + static_cast<std::ptrdiff_t>(painted.area.count));
+    }
+    return painted;
+}
+
+/// The part of an area on the left of the line from a to b.
+Area Clipped(const Area& area, const SketchXY& a, const SketchXY& b) {
+    Area kept;
+    for (std::size_t i = 0; i < area.count; ++i) {
+        const SketchXY& p = area.corners[i];
+        const SketchXY& q = area.corners[(i + 1) % area.count];
+        const double atP = LeftOf(a, b, p);
+        const double atQ = LeftOf(a, b, q);
+        if (atP >= 0) {
+            kept.Add(p);
+        }
+        if ((atP > 0 && atQ < 0) || (atP < 0 && atQ > 0)) {
+            const double share = atP / (atP - atQ);
+            kept.Add({p.x + share * (q.x - p.x), p.y + share * (q.y - p.y)});
+        }
+    }
+    return kept;
+}
+
+Area Overlap(const Area& a, const Area& b) {
+    Area common = a;
+    for (std::size_t i = 0; i < b.count && common.count > 2; ++i) {
+        common = Clipped(common, b.corners[i], b.corners[(i + 1) % b.count]);
+    }
+    return common;
+}
+
+double DoubledArea(const Area& area) {
+    double sum = 0;
+    for (std::size_t i = 1; i + 1 < area.count; ++i) {
+        sum += LeftOf(area.corners[0], area.corners[i], area.corners[i + 1]);
+    }
+    return sum;
+}
+
+SketchXY MiddleOf(const Area& area) {
+    SketchXY middle;
+    for (std::size_t i = 0; i < area.count; ++i) {
+        middle.x += area.corners[i].x / static_cast<double>(area.count);
+        middle.y += area.corners[i].y / static_cast<double>(area.count);
+    }
+    return middle;
+}
+
+/// Above 0 when a lies before b as the eye sees it, below 0 when behind it, 0 when neither covers the other.
+int CompareDepth(const SolidMesh& mesh, const PaintedFace& a, const PaintedFace& b) {
+    if (a.box.right <= b.box.left || b.box.right <= a.box.left || a.box.top <= b.box.bottom ||
+        b.box.top <= a.box.bottom) {
+        return 0;
+    }
+    const Area common = Overlap(a.area, b.area);
+    if (common.count < 3 || DoubledArea(common) <= Negligible * mesh.size * mesh.size) {
+        return 0;
+    }
+    const SketchXY middle = MiddleOf(common);
+    const double step = DepthAt(mesh, mesh.faces[a.face], middle) - DepthAt(mesh, mesh.faces[b.face], middle);
+    if (std::fabs(step) <= Negligible * mesh.size) {
+        return 0;
+    }
+    return step > 0 ? 1 : -1;
+}
+
+/// Faces as an order to be kept: each one knows those that cover it.
+struct CoverGraph {
+    std::vector<std::vector<std::size_t>> coveredBy;
+    std::vector<std::size_t> waitsFor;  ///< how many faces behind it are not painted yet
+};
+
+CoverGraph MakeCoverGraph(const SolidMesh& mesh, const std::vector<PaintedFace>& faces) {
+    CoverGraph graph{std::vector<std::vector<std::size_t>>(faces.size()),
+                     std::vector<std::size_t>(faces.size(), 0)};
+    for (std::size_t i = 0; i < faces.size(); ++i) {
+        for (std::size_t j = i + 1; j < faces.size(); ++j) {
+            const int order = CompareDepth(mesh, faces[i], faces[j]);
+            if (order != 0) {
+                const std::size_t back = order > 0 ? j : i;
+                const std::size_t front = order > 0 ? i : j;
+                graph.coveredBy[back].push_back(front);
+                ++graph.waitsFor[front];
+            }
+        }
+    }
+    return graph;
+}
+
+}  // namespace
+
+std::vector<std::size_t> PaintersOrder(const SolidMesh& mesh) {
+    std::vector<PaintedFace> faces;
+    for (std::size_t i = 0; i < mesh.faces.size(); ++i) {
+        if (!mesh.faces[i].OnEdge()) {
+            faces.push_back(MakePainted(mesh, i));
+        }
+    }
+    std::sort(faces.begin(), faces.end(),
+              [](const PaintedFace& a, const PaintedFace& b) { return a.middleDepth < b.middleDepth; });
+    CoverGraph graph = MakeCoverGraph(mesh, faces);
+    // The farthest of the faces with nothing left behind them comes next.
+    std::priority_queue<std::size_t, std::vector<std::size_t>, std::greater<>> ready;
+    for (std::size_t i = 0; i < faces.size(); ++i) {
+        if (graph.waitsFor[i] == 0) {
+            ready.push(i);
+        }
+    }
+    std::vector<std::size_t> order;
+    std::vector<bool> painted(faces.size(), false);
+    std::size_t farthest = 0;
+    while (order.size() < faces.size()) {
+        if (ready.empty()) {  // faces that cover each other in turn: break the ring at the farthest
+            while (painted[farthest]) {
+                ++farthest;
+            }
+            ready.push(farthest);
+        }
+        const std::size_t next = ready.top();
+        ready.pop();
+        if (painted[next]) {
+            continue;
+        }
+        painted[next] = true;
+        order.push_back(faces[next].face);
+        for (const std::size_t front : graph.coveredBy[next]) {
+            if (--graph.waitsFor[front] == 0) {
+                ready.push(front);
+            }
+        }
+    }
+    return order;
+}
+
+}  // namespace korvet

@@ -1,0 +1,264 @@
+// What holds for the look of all dialogs: every control has a name of its own, no two share a mnemonic, and
+// nothing is cut off. The environment variable KORVET_PICTURES names a folder that gets a picture of each.
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <map>
+
+#include "desktop/dialogs/about_dialogs.h"
+#include "shell/about.h"
+#include "shell/dialogs.h"
+#include "shell/options_dialog.h"
+#include "tests/desktop/desktop_test.h"
+#include "tests/desktop/dialogs_fixture.h"
+
+namespace korvet::desktop {
+namespace {
+
+CPatternSettings AllOffered() {
+    CPatternSettings settings;
+    settings.LapEnable = AllLaps;
+    settings.JoinType = 1;
+    settings.LapSize0 = settings.LapSize1 = settings.LapSize2 = 12.5;
+    settings.KerfEnabled = settings.TemplateTypeEnabled = true;
+    return settings;
+}
+
+CLabels LongBlock() {
+    CLabels labels;
+    for (int i = 1; i <= 9; ++i) {
+        labels.Add({"Diameter at the base of the cone = " + std::to_string(100 * i)});
+    }
+    return labels;
+}
+
+/// A way to show each dialog, under the name of its picture.
+std::map<QString, std::function<void(DialogDesk&)>> AllDialogs() {
+    std::map<QString, std::function<void(DialogDesk&)>> all;
+    all["settings"] = [](DialogDesk& desk) {
+        CPatternSettings settings = AllOffered();
+        LoadDialog(desk.settings, settings, desk.ui, desk.options, '.');
+    };
+    all["settings-grey"] = [](DialogDesk& desk) {
+        CPatternSettings settings;
+        settings.HalfPatternDisable = settings.JoinAngleDisable = settings.MaterialDisable = true;
+        LoadDialog(desk.settings, settings, desk.ui, desk.options, '.');
+    };
+    all["settings-branch"] = [](DialogDesk& desk) {
+        CPatternSettings settings = AllOffered();
+        settings.BranchMaterialEnable = true;
+        LoadDialog(desk.settings, settings, desk.ui, desk.options, '.');
+    };
+    for (int tab = OptionsDialog::GeneralTab; tab <= OptionsDialog::DxfTab; ++tab) {
+        all[QStringLiteral("options-%1").arg(tab)] = [tab](DialogDesk& desk) {
+            OptionsDialog dialog(desk.options, desk.ui, desk.files, '.', tab);
+            desk.ui.RunModal(dialog);
+        };
+    }
+    all["dimension-options"] = [](DialogDesk& desk) {
+        DimensionOptionsDialog dialog;
+        desk.ui.RunModal(dialog);
+    };
+    all["label"] = [](DialogDesk& desk) {
+        LabelDialog dialog;
+        dialog.Load(LongBlock(), false, false);
+        desk.ui.RunModal(dialog);
+    };
+    all["export"] = [](DialogDesk& desk) {
+        DxfOptionsDialog dialog;
+        dialog.caption = "Exporting /home/user/flat.DXF";
+        dialog.lblExportType = "Exporting unfolded pattern";
+        desk.ui.RunModal(dialog);
+    };
+    all["rotate"] = [](DialogDesk& desk) {
+        RotateDialog dialog(desk.context, 0.5);
+        desk.ui.RunModal(dialog);
+    };
+    all["splash"] = [](DialogDesk& desk) { RunDialog(desk.ui.Host(), SplashDialog()); };
+    all["about"] = [](DialogDesk& desk) { RunDialog(desk.ui.Host(), AboutDialog()); };
+    all["disclaimer"] = [](DialogDesk& desk) { RunDialog(desk.ui.Host(), DisclaimerDialog()); };
+    all["message"] = [](DialogDesk& desk) {
+        desk.ui.Show({"This dimension must be greater than 0", ExclamationBox, "User Error"});
+    };
+    return all;
+}
+
+/// The controls that a user works with or reads, of the tab that is open.
+QList<QWidget*> ShownControls(const QDialog& window) {
+    QList<QWidget*> shown;
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+        const bool control = qobject_cast<QAbstractButton*>(widget) != nullptr ||
+                             qobject_cast<QLineEdit*>(widget) != nullptr ||
+                             qobject_cast<QComboBox*>(widget) != nullptr ||
+                             qobject_cast<QGroupBox*>(widget) != nullptr ||
+                             qobject_cast<QLabel*>(widget) != nullptr;
+        if (control && widget->isVisible() && !widget->objectName().startsWith("qt_") &&
+            !widget->objectName().startsWith("ScrollLeft") && !widget->objectName().startsWith("ScrollRight")) {
+            shown.append(widget);
+        }
+    }
+    return shown;
+}
+
+QString CaptionOf(const QWidget& widget) {
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
+        return button->text();
+    }
+    if (const auto* frame = qobject_cast<const QGroupBox*>(&widget)) {
+        return frame->title();
+    }
+    const auto* label = qobject_cast<const QLabel*>(&widget);
+    return label != nullptr && label->buddy() != nullptr ? label->text() : QString();
+}
+
+QChar MnemonicOf(QString caption) {
+    caption.remove(QStringLiteral("&&"));
+    const auto at = caption.indexOf(QLatin1Char('&'));
+    return at < 0 ? QChar() : caption.at(at + 1).toUpper();
+}
+
+/// What the control needs to be shown whole.
+QSize Needed(const QWidget& widget) {
+    if (const auto* label = qobject_cast<const QLabel*>(&widget); label != nullptr && label->wordWrap()) {
+        return {0, label->heightForWidth(label->width())};
+    }
+    return widget.minimumSizeHint();
+}
+
+}  // namespace
+
+class DialogLook : public QObject {
+    Q_OBJECT
+  private slots:
+    void EveryControlHasANameOfItsOwn() {
+        ForEach([](const QString& dialog, QDialog& window) {
+            QMap<QString, int> objects;
+            QMap<QString, int> spoken;
+            for (const QWidget* widget : ShownControls(window)) {
+                const auto* label = qobject_cast<const QLabel*>(widget);
+                const QString name = label != nullptr && widget->accessibleName().isEmpty()
+                                         ? label->text().remove(QLatin1Char('&'))
+                                         : widget->accessibleName();
+                if (dialog == "message") {
+                    continue;
+                }
+                QVERIFY2(!name.isEmpty(), qPrintable(dialog + ": " + widget->objectName()));
+                QVERIFY2(++spoken[name] == 1, qPrintable(dialog + ": twice " + name));
+                if (label == nullptr) {
+                    QVERIFY2(++objects[widget->objectName()] == 1 && !widget->objectName().isEmpty(),
+                             qPrintable(dialog + ": " + name + " is " + widget->objectName()));
+                }
+            }
+        });
+    }
+
+    void NoTwoControlsShareAMnemonic() {
+        ForEach([](const QString& dialog, QDialog& window) {
+            QStringList captions;
+            for (const QWidget* widget : ShownControls(window)) {
+                captions.append(CaptionOf(*widget));
+            }
+            for (const auto* tabs : window.findChildren<QTabWidget*>()) {
+                for (int i = 0; i < tabs->count(); ++i) {
+                    captions.append(tabs->tabText(i));
+                }
+            }
+            QMap<QChar, QString> used;
+            for (const QString& caption : captions) {
+                const QChar letter = MnemonicOf(caption);
+                if (!letter.isNull()) {
+                    QVERIFY2(!used.contains(letter),
+                             qPrintable(dialog + ": " + caption + " and " + used.value(letter)));
+                    used[letter] = caption;
+                }
+            }
+        });
+    }
+
+    void EveryBoxAndTickHasAMnemonic() {
+        ForEach([](const QString& dialog, QDialog& window) {
+            for (const QWidget* widget : ShownControls(window)) {
+                if (qobject_cast<const QRadioButton*>(widget) != nullptr ||
+                    qobject_cast<const QCheckBox*>(widget) != nullptr) {
+                    QVERIFY2(!MnemonicOf(CaptionOf(*widget)).isNull(),
+                             qPrintable(dialog + ": " + widget->objectName()));
+                }
+            }
+        });
+    }
+
+    void NothingIsCutOff_data() {
+        QTest::addColumn<double>("fontScale");
+        QTest::newRow("usual font") << 1.0;
+        QTest::newRow("larger font") << 1.7;
+    }
+
+    void NothingIsCutOff() {
+        QFETCH(double, fontScale);
+        const QFont usual = QApplication::font();
+        QFont font = usual;
+        font.setPointSizeF(usual.pointSizeF() * fontScale);
+        QApplication::setFont(font);
+        ForEach([](const QString& dialog, QDialog& window) {
+            QApplication::processEvents();
+            for (const QWidget* widget : ShownControls(window)) {
+                const QSize needed = Needed(*widget);
+                const QSize has = widget->size();
+                const QString at = QStringLiteral("%1: %2 has %3x%4, needs %5x%6")
+                                       .arg(dialog, widget->objectName() + CaptionOf(*widget))
+                                       .arg(has.width())
+                                       .arg(has.height())
+                                       .arg(needed.width())
+                                       .arg(needed.height());
+                QVERIFY2(has.width() >= needed.width() && has.height() >= needed.height(), qPrintable(at));
+            }
+        });
+        QApplication::setFont(usual);
+    }
+
+    void EveryDialogFitsOnTheScreen() {
+        ForEach([](const QString& dialog, QDialog& window) {
+            const QSize room = window.screen()->availableSize();
+            QVERIFY2(window.width() <= room.width() && window.height() <= room.height(), qPrintable(dialog));
+        });
+    }
+
+    void PicturesAreTaken() {
+        const QString folder = qEnvironmentVariable("KORVET_PICTURES");
+        if (folder.isEmpty()) {
+            QSKIP("KORVET_PICTURES names no folder");
+        }
+        QVERIFY(QDir().mkpath(folder));
+        ForEach([&](const QString& dialog, QDialog& window) {
+            QVERIFY(window.grab().save(QDir(folder).filePath(dialog + ".png")));
+        });
+    }
+
+  private:
+    static void ForEach(const std::function<void(const QString&, QDialog&)>& look) {
+        DialogDesk desk;
+        for (const auto& [name, show] : AllDialogs()) {
+            bool seen = false;
+            const QString dialog = name;
+            WhenShown([&](QDialog& window) {
+                seen = true;
+                look(dialog, window);
+            });
+            show(desk);
+            QVERIFY2(seen, qPrintable(dialog));
+        }
+    }
+};
+
+static const Registered<DialogLook> registered("DialogLook");
+
+}  // namespace korvet::desktop
+
+#include "dialogs_look_test.moc"

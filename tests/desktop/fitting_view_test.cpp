@@ -1,0 +1,356 @@
+// A fitting window as a fabricator uses it: typing, building, refusals, views, the mouse, closing.
+#include <QLabel>
+#include <QLineEdit>
+#include <QSet>
+#include <QSignalSpy>
+#include <QTest>
+#include <cmath>
+
+#include "shell/views.h"
+#include "tests/desktop/desk.h"
+#include "tests/desktop/desktop_test.h"
+
+namespace korvet::desktop {
+namespace {
+
+QLineEdit& Box(Desk& desk, int index) {
+    return *desk.ActiveView().findChild<QLineEdit*>(QString("txtParameter_%1").arg(index));
+}
+
+/// Types over what stands in a box, as a click into it and the keys do.
+void Type(QLineEdit& box, const char* text) {
+    box.setFocus(Qt::TabFocusReason);
+    box.selectAll();
+    QTest::keyClicks(&box, text);
+}
+
+void TypeCone(Desk& desk) {
+    Type(Box(desk, 3), "300");
+    Type(Box(desk, 4), "120");
+    Type(Box(desk, 5), "250");
+}
+
+bool IsRed(const QLineEdit& box) {
+    const QColor text = box.palette().color(QPalette::Text);
+    return text.red() > text.green() + 60;
+}
+
+QWidget& Drawing(Desk& desk) {
+    return *desk.ActiveView().findChild<QWidget*>("pboxGraphicWindow");
+}
+
+void Drag(QWidget& area, QPoint from, QPoint to) {
+    QTest::mousePress(&area, Qt::LeftButton, Qt::NoModifier, from);
+    QMouseEvent move(QEvent::MouseMove, to, area.mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
+                     Qt::NoModifier);
+    QCoreApplication::sendEvent(&area, &move);
+    QTest::mouseRelease(&area, Qt::LeftButton, Qt::NoModifier, to);
+}
+
+/// Pixels of the drawing that are not its ground.
+int Ink(QWidget& area) {
+    const QImage picture = area.grab().toImage();
+    int ink = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            ink += (picture.pixel(x, y) & 0xffffff) != 0 ? 1 : 0;
+        }
+    }
+    return ink;
+}
+
+}  // namespace
+
+class FittingViewTest : public QObject {
+    Q_OBJECT
+  private slots:
+    void typesBuildsRefusesAndMends() {
+        Desk desk;
+        CFittingWindow& window = desk.New();
+        QCOMPARE(Ink(Drawing(desk)), 0);
+        Type(Box(desk, 3), "300");
+        QVERIFY(IsRed(Box(desk, 3)));
+        QVERIFY(!IsRed(Box(desk, 4)));
+        Type(Box(desk, 4), "400");
+        Type(Box(desk, 5), "250");
+        Click(desk.window, "btnView_9");
+        QCOMPARE(desk.shell.ui.Texts(), std::vector<std::string>{"This dimension must be less than 300"});
+        QCOMPARE(desk.ActiveView().focusWidget(), static_cast<QWidget*>(&Box(desk, 4)));
+        QVERIFY(!window.hasModel);
+        QTest::qWait(1);
+        QTest::keyClicks(&Box(desk, 4), "120");  // the refused text is selected, so typing replaces it
+        QCOMPARE(Box(desk, 4).text(), QString("120"));
+        Click(desk.window, "btnView_9");
+        QVERIFY(window.hasModel);
+        QVERIFY(!IsRed(Box(desk, 3)) && !IsRed(Box(desk, 4)) && !IsRed(Box(desk, 5)));
+        QVERIFY(Ink(Drawing(desk)) > 100);
+    }
+
+    void tellsOfTextThatIsNoNumberWhileItIsTyped() {
+        Desk desk;
+        desk.New();
+        Type(Box(desk, 3), "-");
+        Type(Box(desk, 3), ",");
+        Type(Box(desk, 3), ".");
+        QVERIFY(desk.shell.ui.messages.empty());
+        Type(Box(desk, 3), "x");
+        QCOMPARE(desk.shell.ui.Texts(), std::vector<std::string>{"Not a valid number"});
+        QCOMPARE(Box(desk, 3).selectedText(), QString("x"));
+        QTest::keyClicks(&Box(desk, 3), "1e300");
+        QCOMPARE(Box(desk, 3).text(), QString("1e300"));
+    }
+
+    void theTabKeyGoesFromBoxToBoxAlone() {
+        Desk desk;
+        desk.New();
+        desk.window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&desk.window));
+        Box(desk, 3).setFocus(Qt::TabFocusReason);
+        QStringList visited;
+        for (int i = 0; i < 4; ++i) {
+            visited << desk.window.focusWidget()->objectName();
+            QTest::keyClick(desk.window.focusWidget(), Qt::Key_Tab);
+        }
+        QCOMPARE(visited,
+                 QStringList({"txtParameter_3", "txtParameter_4", "txtParameter_5", "txtParameter_3"}));
+        QCOMPARE(Box(desk, 4).selectedText(), Box(desk, 4).text());
+    }
+
+    void everyControlHasItsNameAndOneOfItsOwn() {
+        Desk desk;
+        desk.New();
+        QSet<QString> names;
+        QSet<QString> spoken;
+        int controls = 0;
+        for (const QWidget* widget : desk.window.findChildren<QWidget*>()) {
+            const bool works = qobject_cast<const QAbstractButton*>(widget) != nullptr ||
+                               qobject_cast<const QLineEdit*>(widget) != nullptr;
+            const bool system = widget->objectName().startsWith("qt_") || widget->objectName().isEmpty();
+            if (!works || !widget->isVisible() || system) {
+                continue;
+            }
+            ++controls;
+            QVERIFY2(!names.contains(widget->objectName()), qPrintable(widget->objectName()));
+            QVERIFY2(!widget->accessibleName().isEmpty(), qPrintable(widget->objectName()));
+            QVERIFY2(!spoken.contains(widget->accessibleName()), qPrintable(widget->accessibleName()));
+            names.insert(widget->objectName());
+            spoken.insert(widget->accessibleName());
+        }
+        QCOMPARE(controls, 22 + 3 + 10 + 2 + 1 + 3);  // tools, boxes, views, types, text size, commands
+    }
+
+    void typesAreSteppedUntilTheFirstDrawing() {
+        Desk desk;
+        desk.New();
+        auto* label = desk.ActiveView().findChild<QLabel*>("lblDtype");
+        QCOMPARE(label->text(), QString("Type 2"));
+        Click(desk.window, "btnPoint_1");
+        QCOMPARE(label->text(), QString("Type 1"));
+        QVERIFY(Box(desk, 0).isVisible() && !Box(desk, 3).isVisible());
+        QVERIFY(!desk.ActiveView().findChild<QAbstractButton*>("btnPoint_1")->isEnabled());
+        Click(desk.window, "btnPoint_0");
+        TypeCone(desk);
+        Click(desk.window, "btnView_4");
+        QVERIFY(!desk.ActiveView().findChild<QAbstractButton*>("btnPoint_0")->isEnabled());
+        QVERIFY(!desk.ActiveView().findChild<QAbstractButton*>("btnPoint_1")->isEnabled());
+    }
+
+    void everyViewButtonAddsItsView() {
+        Desk desk;
+        CFittingWindow& window = desk.New();
+        TypeCone(desk);
+        CViewList expected;
+        for (int i = 0; i <= PatternButton; ++i) {
+            Click(desk.window, ("btnView_" + std::to_string(i)).c_str());
+            AddPresetView(i, expected);
+            QCOMPARE(window.views->Last().FromXY, expected.Last().FromXY);
+            QCOMPARE(window.views->Last().AroundZ, expected.Last().AroundZ);
+            QCOMPARE(window.views->Last().Patternview, expected.Last().Patternview);
+        }
+    }
+
+    void shortcutsReachWhatTheTabKeyDoesNot() {
+        Desk desk;
+        CFittingWindow& window = desk.New();
+        desk.window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&desk.window));
+        TypeCone(desk);
+        QTest::keyClick(&Box(desk, 3), Qt::Key_5, Qt::ControlModifier);
+        QCOMPARE(window.views->Count(), 1U);
+        QTest::keyClick(&Box(desk, 3), Qt::Key_0, Qt::ControlModifier);
+        QVERIFY(InPatternView(*window.views));
+        QTest::keyClick(&Box(desk, 3), Qt::Key_T, Qt::ControlModifier);
+        QCOMPARE(desk.window.focusWidget()->objectName(), QString("txtTextSize"));
+    }
+
+    void theTextSizeIsReadAtEveryUpdate() {
+        Desk desk;
+        CFittingWindow& window = desk.New();
+        TypeCone(desk);
+        auto* size = desk.ActiveView().findChild<QLineEdit*>("txtTextSize");
+        QVERIFY(IsRed(*size));  // set by the program as the window opens
+        Type(*size, "7");
+        Click(desk.window, "btnView_9");
+        QCOMPARE(window.display.TextSize, 7.0F);
+        QVERIFY(!IsRed(*size));
+    }
+
+    void settingsAreAskedForAndDrawn() {
+        Desk desk;
+        CFittingWindow& window = desk.New();
+        TypeCone(desk);
+        Click(desk.window, "btnView_9");
+        desk.shell.ui.onPatternSettings = [](PatternSettingsDialog& dialog) {
+            dialog.Change(dialog.txtThickness, "2");
+            dialog.ClickOK();
+        };
+        Click(desk.window, "btnSettings");
+        QCOMPARE(window.settings.Thickness, 2.0);
+        QCOMPARE(desk.window.findChild<QLabel*>("sbStatusBar_1")->text(),
+                 QString(" Segments = 24 | Thickness = 2 | Join Angle = 0"));
+    }
+
+    void aDragZoomsToItsWindow() {
+        Desk desk;
+        CFittingWindow& window = desk.New();
+        TypeCone(desk);
+        Click(desk.window, "btnView_9");
+        desk.window.Frame().RunMenu("mnuZoomExtents");
+        desk.window.Frame().RunMenu("mnuZoomWindow");
+        desk.window.Project();
+        auto& area = static_cast<DrawingArea&>(Drawing(desk));
+        const QPoint from(100, 80);
+        const QPoint to(300, 230);
+        const WorldPoint a = area.ToDrawing(from);
+        const WorldPoint b = area.ToDrawing(to);
+        Drag(area, from, to);
+        const CViewPoint& view = window.views->Last();
+        QVERIFY(std::fabs(view.PanX - (a.x + b.x) / 2) < 0.01);
+        QVERIFY(std::fabs(view.PanY - (a.y + b.y) / 2) < 0.01);
+        QVERIFY(!window.controls.pboxGraphicWindow.rubberBand);
+    }
+
+    void theRubberBandIsSeenWhileTheMouseIsDragged() {
+        Desk desk;
+        desk.New();
+        TypeCone(desk);
+        Click(desk.window, "btnView_9");
+        desk.window.Frame().RunMenu("mnuPan");
+        QWidget& area = Drawing(desk);
+        const int before = Ink(area);
+        QTest::mousePress(&area, Qt::LeftButton, Qt::NoModifier, {10, 10});
+        QMouseEvent move(QEvent::MouseMove, QPoint(10, 400), area.mapToGlobal(QPoint(10, 400)), Qt::NoButton,
+                         Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&area, &move);
+        QVERIFY(Ink(area) > before + 100);
+        QTest::keyClick(&area, Qt::Key_Escape);
+        QCOMPARE(Ink(area), before);
+        QTest::mouseRelease(&area, Qt::LeftButton, Qt::NoModifier, {10, 400});
+        QCOMPARE(Ink(area), before);
+    }
+
+    void aDragMeasures() {
+        Desk desk;
+        desk.New();
+        TypeCone(desk);
+        Click(desk.window, "btnView_9");
+        desk.window.Frame().RunMenu("mnuZoomExtents");
+        desk.window.Frame().RunMenu("mnuMeasure");
+        desk.window.Project();
+        QVERIFY(Drawing(desk).toolTip().startsWith("Press left mouse button"));
+        Drag(Drawing(desk), {40, 40}, {500, 500});
+        QCOMPARE(desk.shell.ui.messages.size(), 1U);
+        QVERIFY(desk.shell.ui.messages[0].text.starts_with("Distance = "));
+    }
+
+    void theRightButtonShowsTheViewMenu() {
+        Desk desk;
+        desk.New();
+        TypeCone(desk);
+        ModalVisitor visitor;
+        QTest::mousePress(&Drawing(desk), Qt::RightButton, Qt::NoModifier, {50, 50});
+        QTest::qWait(30);
+        QVERIFY(visitor.seen.empty());  // nothing is shown yet, so there is no view to change
+        Click(desk.window, "btnView_9");
+        QTest::mousePress(&Drawing(desk), Qt::RightButton, Qt::NoModifier, {50, 50});
+        QTRY_COMPARE(visitor.seen, std::vector<std::string>{"mnuView"});
+    }
+
+    void aResizeKeepsThePicture() {
+        Desk desk;
+        CFittingWindow& window = desk.New();
+        TypeCone(desk);
+        Click(desk.window, "btnView_9");
+        const QImage before = Drawing(desk).grab(QRect(0, 0, 200, 200)).toImage();
+        const std::size_t views = window.views->Count();
+        desk.window.resize(1300, 900);
+        QApplication::processEvents();
+        QCOMPARE(Drawing(desk).grab(QRect(0, 0, 200, 200)).toImage(), before);
+        QCOMPARE(window.views->Count(), views);
+        QVERIFY(desk.shell.ui.messages.empty());
+    }
+
+    void thePictureHasEveryPixelOfTheScreen() {
+        Desk desk;
+        CFittingWindow& window = desk.New();
+        TypeCone(desk);
+        Click(desk.window, "btnView_9");
+        const PixelSize pixels = window.display.DisplayDevice->ScaleSize();
+        const QWidget& area = Drawing(desk);
+        QCOMPARE(pixels.width, std::floor(area.width() * area.devicePixelRatioF()));
+        QCOMPARE(window.display.DisplayDevice->LogicalDpiY(), 96 * area.devicePixelRatioF());
+    }
+
+    void closingAsksAndDoesAsItIsTold_data() {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<bool>("closes");
+        QTest::addColumn<bool>("saves");
+        QTest::newRow("Yes") << static_cast<int>(Answer::Yes) << true << true;
+        QTest::newRow("No") << static_cast<int>(Answer::No) << true << false;
+        QTest::newRow("Cancel") << static_cast<int>(Answer::Cancel) << false << false;
+    }
+    void closingAsksAndDoesAsItIsTold() {
+        QFETCH(int, answer);
+        QFETCH(bool, closes);
+        QFETCH(bool, saves);
+        Desk desk;
+        desk.New();
+        TypeCone(desk);
+        Click(desk.window, "btnView_9");
+        desk.shell.ui.answers = {static_cast<Answer>(answer)};
+        desk.shell.ui.files = {"/work/cone.Kvt"};
+        Click(desk.window, "btnClose");
+        QCOMPARE(desk.window.Frame().Children().empty(), closes);
+        QCOMPARE(desk.window.Area().subWindowList().isEmpty(), closes);
+        QCOMPARE(desk.shell.files.Exists("/work/cone.Kvt"), saves);
+        if (!saves) {
+            return;
+        }
+        desk.window.Frame().OpenFile("/work/cone.Kvt");
+        desk.window.Project();
+        QCOMPARE(Box(desk, 3).text(), QString("300"));
+        QCOMPARE(Box(desk, 5).text(), QString("250"));
+        QCOMPARE(desk.ActiveView().windowTitle(), QString("/work/cone.Kvt"));
+        QVERIFY(Ink(Drawing(desk)) > 100);
+    }
+
+    void aSaveThatFailsLeavesTheWindowOpenAndItsTextsWhole() {
+        Desk desk;
+        desk.New();
+        TypeCone(desk);
+        Click(desk.window, "btnView_9");
+        desk.shell.files.unwritable = {"/work/cone.Kvt"};
+        desk.shell.ui.answers = {Answer::Yes};
+        desk.shell.ui.files = {"/work/cone.Kvt"};
+        Click(desk.window, "btnClose");
+        QCOMPARE(desk.window.Area().subWindowList().size(), 1);
+        QCOMPARE(Box(desk, 4).text(), QString("120"));
+        QVERIFY(desk.ActiveView().windowTitle().startsWith("Development "));
+    }
+};
+
+static const Registered<FittingViewTest> registered("FittingViewTest");
+
+}  // namespace korvet::desktop
+
+#include "fitting_view_test.moc"

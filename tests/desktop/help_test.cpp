@@ -1,0 +1,443 @@
+#include <QAction>
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextBrowser>
+#include <QTimer>
+#include <QTreeView>
+#include <QVBoxLayout>
+#include <QWindow>
+#include <QXmlStreamReader>
+#include <set>
+
+#include "desktop/help_book.h"
+#include "desktop/help_window.h"
+#include "shell/catalogue.h"
+#include "shell/frame_menu.h"
+#include "tests/desktop/desktop_test.h"
+
+namespace korvet::desktop {
+namespace {
+
+/// After this time, in milliseconds, a dialog closes even when a check in it failed.
+constexpr int LongestWait = 10000;
+
+/// What the pages ask for, and a grey picture for it.
+struct Sketches {
+    std::set<std::pair<QString, int>> asked;
+    QPalette palette;
+
+    SketchPicture Function() {
+        return [this](const QString& category, int page, QSize size, const QPalette& colors) {
+            asked.insert({category, page});
+            palette = colors;
+            QImage image(size, QImage::Format_RGB32);
+            image.fill(Qt::gray);
+            return image;
+        };
+    }
+};
+
+template <typename T>
+T& Part(const HelpWindow& help, const char* name) {
+    T* const part = help.Window()->findChild<T*>(QString::fromLatin1(name));
+    if (part == nullptr) {
+        qFatal("no %s", name);
+    }
+    return *part;
+}
+
+QString ShownPage(const HelpWindow& help) {
+    return Part<QTextBrowser>(help, "txtHelp").source().fileName();
+}
+
+QStringList Rows(const QListWidget& list) {
+    QStringList rows;
+    for (int row = 0; row < list.count(); ++row) {
+        rows << list.item(row)->text();
+    }
+    return rows;
+}
+
+QString WithoutMnemonic(std::string_view caption) {
+    QString text = QString::fromStdString(ResString(caption));
+    return text.remove(QLatin1Char('&')).simplified();
+}
+
+/// "File > New" of every entry of the main menu.
+std::set<QString> MenuPaths() {
+    std::map<std::string_view, QString> tops;
+    std::set<QString> paths;
+    for (const MenuEntry& entry : FrameMenu()) {
+        if (entry.menu.empty()) {
+            tops[entry.name] = WithoutMnemonic(entry.caption);
+        } else if (!entry.name.empty()) {
+            paths.insert(tops[entry.menu] + QStringLiteral(" > ") + WithoutMnemonic(entry.caption));
+        }
+    }
+    return paths;
+}
+
+/// The texts of all elements of a class on a page, in their order.
+QStringList TextsOfClass(const QByteArray& page, const QString& wanted) {
+    QStringList texts;
+    QXmlStreamReader reader(page);
+    while (!reader.atEnd()) {
+        if (reader.readNext() == QXmlStreamReader::StartElement &&
+            reader.attributes().value(QStringLiteral("class")) == wanted) {
+            texts << reader.readElementText(QXmlStreamReader::IncludeChildElements).simplified();
+        }
+    }
+    return texts;
+}
+
+}  // namespace
+
+class HelpTest : public QObject {
+    Q_OBJECT
+
+  private slots:
+    void FileLiesBesideTheProgram() {
+        const HelpWindow help(HelpWindow::FileBesideProgram());
+        QVERIFY(help.HasHelp());
+        QVERIFY2(help.Window() == nullptr, "nothing is made before help is asked for");
+    }
+
+    void PathMayBeRelative() {
+        HelpWindow help(QDir().relativeFilePath(HelpWindow::FileBesideProgram()));
+        QVERIFY(help.ShowTopic(2020));
+        QVERIFY(Part<QTextBrowser>(help, "txtHelp").toPlainText().contains(QStringLiteral("thickness")));
+    }
+
+    void EachContextOpensItsPage_data() {
+        QTest::addColumn<int>("context");
+        QTest::addColumn<QString>("page");
+        QTest::newRow("settings") << 2020 << "settings.html";
+        QTest::newRow("catalogue") << 2050 << "catalogue.html";
+        QTest::newRow("right cone") << 2100 << "right-cone.html";
+        QTest::newRow("truncated right cone") << 2210 << "truncated-right-cone.html";
+        QTest::newRow("rotate") << 2936 << "rotate.html";
+    }
+
+    void EachContextOpensItsPage() {
+        QFETCH(int, context);
+        QFETCH(QString, page);
+        HelpWindow help(HelpWindow::FileBesideProgram());
+        QVERIFY(help.ShowTopic(context));
+        QCOMPARE(ShownPage(help), page);
+        QVERIFY(help.Window()->isVisible());
+        QVERIFY(Part<QTextBrowser>(help, "txtHelp").toPlainText().size() > 200);
+    }
+
+    void UnknownContextShowsNothing() {
+        HelpWindow help(HelpWindow::FileBesideProgram());
+        QVERIFY(!help.ShowTopic(0));
+        QVERIFY(!help.ShowTopic(2021));
+        QVERIFY(help.Window() == nullptr);
+    }
+
+    void EveryFittingThatIsBuiltHasItsPage() {
+        const HelpBook book(HelpWindow::FileBesideProgram());
+        for (const CatalogueRow& row : Catalogue) {
+            if (row.table == nullptr || row.helpContextId == 0) {
+                continue;
+            }
+            const auto topic = book.Topic(row.helpContextId);
+            QVERIFY2(topic.has_value(), row.category.data());
+            const QByteArray page = book.Data(*topic);
+            QStringList sizes;
+            for (std::size_t k = 0; k < row.table->pages.size(); ++k) {
+                const QString sketch =
+                    QStringLiteral("src=\"sketch:%1/%2\"")
+                        .arg(QString::fromUtf8(row.category.data(), static_cast<int>(row.category.size())))
+                        .arg(k + 1);
+                QVERIFY2(page.contains(sketch.toUtf8()), qPrintable(sketch));
+                for (const BoxEntry& box : row.table->pages[k].boxes) {
+                    sizes << QString::fromStdString(std::string(box.label));
+                }
+            }
+            QCOMPARE(TextsOfClass(page, QStringLiteral("size")), sizes);
+        }
+    }
+
+    void PagesNameOnlyMenuEntriesThatExist() {
+        const std::set<QString> paths = MenuPaths();
+        QVERIFY(paths.size() > 30);
+        std::set<QString> named;
+        const HelpBook book(HelpWindow::FileBesideProgram());
+        for (const QUrl& page : book.PageAddresses()) {
+            for (const QString& path : TextsOfClass(book.Data(page), QStringLiteral("menu"))) {
+                QVERIFY2(paths.count(path) == 1, qPrintable(page.fileName() + ": " + path));
+                named.insert(path);
+            }
+        }
+        for (const QString& path : paths) {
+            QVERIFY2(named.count(path) == 1, qPrintable("no page tells of " + path));
+        }
+    }
+
+    void ContentsLeadToThePages() {
+        HelpWindow help(HelpWindow::FileBesideProgram());
+        help.ShowContents();
+        QCOMPARE(ShownPage(help), QStringLiteral("index.html"));
+        QCOMPARE(Part<QTabWidget>(help, "tabHelp").currentIndex(), 0);
+        auto& tree = Part<QTreeView>(help, "treeContents");
+        QTRY_VERIFY(tree.model()->rowCount() > 3);
+        QTRY_VERIFY2(tree.isExpanded(tree.model()->index(0, 0)), "all entries are open");
+        const QModelIndex first = tree.model()->index(0, 0, tree.model()->index(0, 0));
+        QCOMPARE(first.data().toString(), QStringLiteral("First steps"));
+        tree.scrollTo(first);
+        QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, tree.visualRect(first).center());
+        QCOMPARE(ShownPage(help), QStringLiteral("first-steps.html"));
+    }
+
+    void ContentsFollowThePage() {
+        HelpWindow help(HelpWindow::FileBesideProgram());
+        QVERIFY(help.ShowTopic(2936));
+        auto& tree = Part<QTreeView>(help, "treeContents");
+        QTRY_COMPARE(tree.currentIndex().data().toString(), QStringLiteral("Rotate Pattern"));
+        QVERIFY(help.ShowTopic(2100));
+        QCOMPARE(tree.currentIndex().data().toString(), QStringLiteral("Right Cone"));
+        QCOMPARE(help.Window()->windowTitle(), QStringLiteral("Right Cone - Help"));
+    }
+
+    void IndexFindsWords() {
+        HelpWindow help(HelpWindow::FileBesideProgram());
+        help.ShowContents();
+        auto& index = Part<QListWidget>(help, "lstIndex");
+        QStringList sorted = Rows(index);
+        QVERIFY(sorted.size() > 50);
+        sorted.sort(Qt::CaseInsensitive);
+        QCOMPARE(Rows(index), sorted);
+        Part<QTabWidget>(help, "tabHelp").setCurrentIndex(1);
+        auto& word = Part<QLineEdit>(help, "txtIndex");
+        QTest::keyClicks(&word, "bUtT");
+        QCOMPARE(Rows(index), QStringList{QStringLiteral("Butt join")});
+        QTest::keyClick(&word, Qt::Key_Return);
+        QCOMPARE(ShownPage(help), QStringLiteral("settings.html"));
+        QTest::keyClicks(&word, "zzz");
+        QCOMPARE(index.count(), 0);
+    }
+
+    void SearchFindsIndexWordsAndText() {
+        HelpWindow help(HelpWindow::FileBesideProgram());
+        help.ShowSearch();
+        QCOMPARE(Part<QTabWidget>(help, "tabHelp").currentIndex(), 2);
+        auto& words = Part<QLineEdit>(help, "txtSearch");
+        auto& found = Part<QListWidget>(help, "lstSearch");
+        QTRY_VERIFY(words.hasFocus());
+        QTest::keyClicks(&words, "counter-clockwise");
+        QCOMPARE(Rows(found), QStringList{QStringLiteral("Rotate Pattern")});
+        QTest::keyClick(&words, Qt::Key_Return);
+        QCOMPARE(ShownPage(help), QStringLiteral("rotate.html"));
+        QCOMPARE(Part<QTextBrowser>(help, "txtHelp").textCursor().selectedText(),
+                 QStringLiteral("counter-clockwise"));
+        words.clear();
+        QTest::keyClicks(&words, "ridge");
+        QCOMPARE(found.item(0)->text(), QString::fromUtf8("Ridge – Truncated Right Cone"));
+        words.clear();
+        QTest::keyClicks(&words, "ridge nonsense");
+        QCOMPARE(found.count(), 0);
+        words.clear();
+        QTest::keyClicks(&words, "  ");
+        QCOMPARE(found.count(), 0);
+    }
+
+    void FindInPageGoesRound() {
+        HelpWindow help(HelpWindow::FileBesideProgram());
+        QVERIFY(help.ShowTopic(2100));
+        QVERIFY(QTest::qWaitForWindowActive(help.Window()));
+        QTest::keyClick(help.Window(), Qt::Key_F, Qt::ControlModifier);
+        auto& text = Part<QLineEdit>(help, "txtFind");
+        QVERIFY(text.isVisible());
+        QTest::keyClicks(&text, "flat disc");
+        QTest::keyClick(&text, Qt::Key_Return);
+        auto& page = Part<QTextBrowser>(help, "txtHelp");
+        QCOMPARE(page.textCursor().selectedText(), QStringLiteral("flat disc"));
+        const int place = page.textCursor().position();
+        QTest::keyClick(&text, Qt::Key_Return);
+        QCOMPARE(page.textCursor().position(), place);
+        QTest::keyClicks(&text, "zzz");
+        QTest::keyClick(&text, Qt::Key_Return);
+        QCOMPARE(page.textCursor().position(), place);
+        QTest::keyClick(help.Window(), Qt::Key_Escape);
+        QVERIFY(!text.isVisible());
+        QTest::keyClick(help.Window(), Qt::Key_Escape);
+        QVERIFY(!help.Window()->isVisible());
+    }
+
+    void KeysGoBackAndForward() {
+        HelpWindow help(HelpWindow::FileBesideProgram());
+        QVERIFY(help.ShowTopic(2100));
+        QVERIFY(help.ShowTopic(2210));
+        QVERIFY(QTest::qWaitForWindowActive(help.Window()));
+        QTest::keyClick(help.Window(), Qt::Key_Left, Qt::AltModifier);
+        QCOMPARE(ShownPage(help), QStringLiteral("right-cone.html"));
+        QTest::keyClick(help.Window(), Qt::Key_Right, Qt::AltModifier);
+        QCOMPARE(ShownPage(help), QStringLiteral("truncated-right-cone.html"));
+        QTest::keyClick(help.Window(), Qt::Key_Home, Qt::AltModifier);
+        QCOMPARE(ShownPage(help), QStringLiteral("index.html"));
+    }
+
+    void SketchesAreDrawnByTheProgram() {
+        Sketches sketches;
+        HelpWindow help(HelpWindow::FileBesideProgram(), sketches.Function());
+        QVERIFY(help.ShowTopic(2100));
+        QTRY_COMPARE(sketches.asked.size(), std::size_t{3});
+        QVERIFY(sketches.asked.count({QStringLiteral("Right Cone"), 1}) == 1);
+        QVERIFY(sketches.asked.count({QStringLiteral("Right Cone"), 3}) == 1);
+    }
+
+    void SketchesFollowThePalette() {
+        Sketches sketches;
+        HelpWindow help(HelpWindow::FileBesideProgram(), sketches.Function());
+        QVERIFY(help.ShowTopic(2100));
+        sketches.asked.clear();
+        QPalette dark = help.Window()->palette();
+        dark.setColor(QPalette::Base, QColor(30, 30, 30));
+        dark.setColor(QPalette::Text, QColor(230, 230, 230));
+        Part<QTextBrowser>(help, "txtHelp").setPalette(dark);
+        QTRY_COMPARE(sketches.asked.size(), std::size_t{3});
+        QCOMPARE(sketches.palette.color(QPalette::Base), QColor(30, 30, 30));
+        QCOMPARE(ShownPage(help), QStringLiteral("right-cone.html"));
+    }
+
+    void LinksCanBeReadOnADarkPage() {
+        HelpWindow help(HelpWindow::FileBesideProgram());
+        QVERIFY(help.ShowTopic(2100));
+        auto& page = Part<QTextBrowser>(help, "txtHelp");
+        QPalette dark = page.palette();
+        dark.setColor(QPalette::Base, QColor(30, 30, 30));
+        dark.setColor(QPalette::Text, QColor(230, 230, 230));
+        dark.setColor(QPalette::Link, QColor(0, 0, 255));
+        page.setPalette(dark);
+        QTextCursor link = page.document()->find(QStringLiteral("setting"));
+        QVERIFY(link.charFormat().isAnchor());
+        QVERIFY(qGray(link.charFormat().foreground().color().rgb()) > 130);
+        const QTextCursor text = page.document()->find(QStringLiteral("hopper"));
+        QCOMPARE(text.charFormat().foreground().style(), Qt::NoBrush);  // that of the palette
+    }
+
+    void HelpCanBeUsedInsideAModalDialog() {
+        HelpWindow help(HelpWindow::FileBesideProgram());
+        help.ShowContents();
+        QDialog dialog;
+        QTimer::singleShot(LongestWait, &dialog, &QDialog::reject);
+        QTimer::singleShot(0, &dialog, [&] {
+            QWindow* const window = help.Window()->windowHandle();
+            auto& word = Part<QLineEdit>(help, "txtIndex");
+            Part<QTabWidget>(help, "tabHelp").setCurrentIndex(1);
+            const auto typeX = [&] {
+                QTest::mouseClick(window, Qt::LeftButton, {},
+                                  word.mapTo(help.Window(), word.rect().center()));
+                QTest::keyClick(window, Qt::Key_X);
+            };
+            typeX();
+            QCOMPARE(word.text(), QString());  // the dialog blocks it
+            QVERIFY(help.ShowTopic(2020));
+            QCOMPARE(window->transientParent(), dialog.windowHandle());
+            QVERIFY(QTest::qWaitForWindowExposed(help.Window()));
+            typeX();
+            QCOMPARE(word.text(), QStringLiteral("x"));
+            dialog.accept();
+        });
+        dialog.exec();
+        QTRY_VERIFY(help.Window()->windowHandle()->transientParent() == nullptr);
+        QVERIFY2(help.Window()->isVisible(), "the help stays when the dialog goes");
+        QCOMPARE(ShownPage(help), QStringLiteral("settings.html"));
+    }
+
+    void HelpOutlivesTheDialogsItBelongedTo() {
+        HelpWindow help(HelpWindow::FileBesideProgram());
+        auto outer = std::make_unique<QDialog>();
+        QTimer::singleShot(LongestWait, outer.get(), &QDialog::reject);
+        QTimer::singleShot(0, outer.get(), [&] {
+            auto inner = std::make_unique<QDialog>(outer.get());
+            QTimer::singleShot(LongestWait, inner.get(), &QDialog::reject);
+            QTimer::singleShot(0, inner.get(), [&] {
+                QVERIFY(help.ShowTopic(2020));
+                inner->reject();
+            });
+            inner->exec();
+            inner.reset();
+            QTRY_COMPARE(help.Window()->windowHandle()->transientParent(), outer->windowHandle());
+            outer->reject();
+        });
+        outer->exec();
+        outer.reset();
+        QTRY_VERIFY(help.Window()->windowHandle()->transientParent() == nullptr);
+        QVERIFY(help.Window()->isVisible());
+        QVERIFY(help.ShowTopic(2100));
+    }
+
+    void MissingFile() {
+        const QTemporaryDir folder;
+        HelpWindow help(folder.filePath(QStringLiteral("korvet.qch")));
+        QVERIFY(!help.HasHelp());
+        QVERIFY(!help.ShowTopic(2020));
+        help.ShowContents();
+        QVERIFY(Part<QTextBrowser>(help, "txtHelp").toPlainText().contains(folder.path()));
+        help.ShowSearch();
+        QTest::keyClicks(&Part<QLineEdit>(help, "txtSearch"), "cone");
+        QCOMPARE(Part<QListWidget>(help, "lstSearch").count(), 0);
+    }
+
+    void BrokenFile_data() {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<bool>("looksLikeHelp");
+        QFile good(HelpWindow::FileBesideProgram());
+        QVERIFY(good.open(QIODevice::ReadOnly));
+        const QByteArray whole = good.readAll();
+        QByteArray zeroed = whole;
+        zeroed.replace(100, zeroed.size() - 100, QByteArray(zeroed.size() - 100, '\0'));
+        QTest::newRow("empty") << QByteArray() << false;
+        QTest::newRow("text") << QByteArray("no help file at all") << false;
+        QTest::newRow("cut in its header") << whole.left(20) << true;
+        QTest::newRow("cut in its first page") << whole.left(1000) << true;
+        QTest::newRow("zeros") << zeroed << true;
+    }
+
+    void BrokenFile() {
+        QFETCH(QByteArray, bytes);
+        QFETCH(bool, looksLikeHelp);
+        const QTemporaryDir folder;
+        QFile file(folder.filePath(QStringLiteral("korvet.qch")));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(bytes), bytes.size());
+        file.close();
+        HelpWindow help(file.fileName());
+        QCOMPARE(help.HasHelp(), looksLikeHelp);
+        QVERIFY(!help.ShowTopic(2020));
+        help.ShowContents();
+        QVERIFY(Part<QTextBrowser>(help, "txtHelp").toPlainText().contains(folder.path()));
+    }
+
+    void WidgetsHaveNames() {
+        HelpWindow help(HelpWindow::FileBesideProgram());
+        help.ShowContents();
+        std::set<QString> names;
+        for (const char* name : {"txtHelp", "tabHelp", "treeContents", "txtIndex", "lstIndex", "txtSearch",
+                                 "lstSearch", "txtFind", "btnBack", "btnForward", "btnHome", "btnFind"}) {
+            const QString spoken = Part<QWidget>(help, name).accessibleName();
+            QVERIFY2(!spoken.isEmpty() && names.insert(spoken).second, name);
+        }
+    }
+};
+
+namespace {
+
+const Registered<HelpTest> registered("HelpTest");
+
+}  // namespace
+}  // namespace korvet::desktop
+
+#include "help_test.moc"
