@@ -1,5 +1,5 @@
-"""Checks the help pages: well-formed, every link and picture leads somewhere, every page stands in the contents
-and every message is one that the program says.
+"""Checks the help pages: well-formed, every link and picture leads somewhere, every page stands in the
+contents and every message is one that the program says.
 
 check_help.py HELP_FOLDER SOURCE_FOLDER
 """

@@ -99,9 +99,10 @@ void ShowSelection(QLineEdit& edit, const TextBox& box) {
     edit.setSelection(static_cast<int>(box.selectionStart), static_cast<int>(box.selectionLength));
 }
 
-void TakeCursor(const QLineEdit& edit, TextBox& box) {
-    box.selectionStart = static_cast<std::size_t>(edit.cursorPosition());
-    box.selectionLength = 0;
+void TakeSelection(const QLineEdit& edit, TextBox& box) {
+    const bool selected = edit.hasSelectedText();
+    box.selectionStart = static_cast<std::size_t>(selected ? edit.selectionStart() : edit.cursorPosition());
+    box.selectionLength = static_cast<std::size_t>(edit.selectionLength());
 }
 
 void ShowControl(QWidget& widget, const Control& control) {

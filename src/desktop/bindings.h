@@ -44,8 +44,8 @@ void ShowCombo(QComboBox& combo, const ComboBox& box);
 /// The selection of a box on its widget.
 void ShowSelection(QLineEdit& edit, const TextBox& box);
 
-/// The user's edit into the selection of the box: the cursor alone.
-void TakeCursor(const QLineEdit& edit, TextBox& box);
+/// What is selected in a widget into its box; the cursor alone when nothing is.
+void TakeSelection(const QLineEdit& edit, TextBox& box);
 
 /// Enabled state, visibility and tool tip of a control on its widget.
 void ShowControl(QWidget& widget, const Control& control);

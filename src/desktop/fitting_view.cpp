@@ -112,7 +112,9 @@ QWidget* FittingView::MakePages() {
         for (const BoxEntry& entry : window_->Table().pages[i].boxes) {
             const auto index = static_cast<std::size_t>(entry.index);
             boxes_.at(index) = page->Box(entry.index);
-            ConnectBox(boxes_.at(index), index);
+            Connect(
+                boxes_.at(index), window_->controls.txtParameter.at(index),
+                [index](CFittingWindow& window, const std::string& text) { window.ChangeBox(index, text); });
         }
         pages_.push_back(page);
         pageStack_->addWidget(page);
@@ -164,7 +166,8 @@ QWidget* FittingView::MakeTextSize(QWidget* parent) {
     layout->addWidget(textSizeLabel_);
     layout->addWidget(textSize_);
     layout->addStretch(1);
-    ConnectTextSize();
+    Connect(textSize_, window_->controls.txtTextSize,
+            [](CFittingWindow& window, const std::string& text) { window.ChangeTextSize(text); });
     return frame;
 }
 
@@ -240,23 +243,21 @@ void FittingView::AddShortcuts() {
     add(QStringLiteral("Ctrl+E"), [this] { settings_->click(); });
 }
 
-void FittingView::ConnectBox(QLineEdit* edit, std::size_t index) {
+/// Edits and the selection of a box go into the model as they happen.
+template <typename Change>
+void FittingView::Connect(QLineEdit* edit, TextBox& box, Change change) {
     edit->installEventFilter(this);
-    connect(edit, &QLineEdit::textEdited, this, [this, edit, index](const QString& text) {
+    connect(edit, &QLineEdit::textEdited, this, [this, edit, &box, change](const QString& text) {
         Do([&](CFittingWindow& window) {
-            TakeCursor(*edit, window.controls.txtParameter.at(index));
-            window.ChangeBox(index, text.toStdString());
+            window.controls.focus = shownFocus_ = box.name;
+            TakeSelection(*edit, box);
+            change(window, text.toStdString());
         });
     });
-}
-
-void FittingView::ConnectTextSize() {
-    textSize_->installEventFilter(this);
-    connect(textSize_, &QLineEdit::textEdited, this, [this](const QString& text) {
-        Do([&](CFittingWindow& window) {
-            TakeCursor(*textSize_, window.controls.txtTextSize);
-            window.ChangeTextSize(text.toStdString());
-        });
+    connect(edit, &QLineEdit::selectionChanged, this, [this, edit, &box] {
+        if (window_ != nullptr) {
+            TakeSelection(*edit, box);
+        }
     });
 }
 

@@ -57,8 +57,8 @@ class FittingView : public QWidget {
     QToolButton* MakeViewButton(int button, QWidget* parent);
     QToolButton* MakeButton(const std::string& name, const QString& accessibleName, QWidget* parent);
     void AddShortcuts();
-    void ConnectBox(QLineEdit* edit, std::size_t index);
-    void ConnectTextSize();
+    template <typename Change>
+    void Connect(QLineEdit* edit, TextBox& box, Change change);
     void ShowIcons();
     void ProjectFocus();
     void After();

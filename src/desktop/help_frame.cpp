@@ -10,7 +10,6 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QSplitter>
-#include <QStatusBar>
 #include <QStyle>
 #include <QTabWidget>
 #include <QTimer>

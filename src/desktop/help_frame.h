@@ -11,7 +11,6 @@ class QLabel;
 class QLineEdit;
 class QListWidget;
 class QTabWidget;
-class QToolBar;
 class QTreeView;
 
 namespace korvet::desktop {

@@ -27,8 +27,7 @@ bool HelpWindow::HasHelp() const {
 }
 
 HelpBook& HelpWindow::Book() {
-    if (!book_ || !book_->IsOpen()) {
-        frame_.reset();  // it shows pages of the book
+    if (!book_) {
         book_ = std::make_unique<HelpBook>(helpFile_);
     }
     return *book_;

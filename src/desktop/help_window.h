@@ -1,7 +1,6 @@
 // The viewer of the help file.
 #pragma once
 
-#include <QPointer>
 #include <QString>
 #include <memory>
 
@@ -36,7 +35,7 @@ class HelpWindow final : public HelpViewer {
     [[nodiscard]] QWidget* Window() const;
 
   private:
-    /// The book, opened at the first call; again at a later one when that failed.
+    /// The book, opened at the first call. When that fails it stays so until the program starts again.
     HelpBook& Book();
     HelpFrame& Frame();
 

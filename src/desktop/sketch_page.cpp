@@ -111,6 +111,9 @@ void SketchPage::changeEvent(QEvent* event) {
 void SketchPage::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     PaintSketch(painter, layout_, palette());
+    for (const QLineEdit* box : boxes_) {
+        PaintBoxFrame(painter, box->geometry(), palette());
+    }
 }
 
 }  // namespace korvet::desktop

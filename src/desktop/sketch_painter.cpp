@@ -113,9 +113,10 @@ QRectF Rect(const SketchRect& rect) {
 }
 
 void PaintBox(QPainter& painter, const QRectF& rect, const QString& text, const QPalette& palette) {
-    painter.setPen(QPen(Mixed(palette.color(QPalette::Text), palette.color(QPalette::Base), 0.45), 1));
+    painter.setPen(Qt::NoPen);
     painter.setBrush(palette.color(QPalette::Base));
-    painter.drawRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
+    painter.drawRoundedRect(rect, 3, 3);
+    PaintBoxFrame(painter, rect.adjusted(1, 1, -1, -1), palette);
     painter.setPen(palette.color(QPalette::Text));
     painter.drawText(rect.adjusted(6, 0, -6, 0), Qt::AlignVCenter | Qt::AlignLeft, text);
 }
@@ -153,6 +154,15 @@ void PaintSketch(QPainter& painter, const SketchLayout& layout, const QPalette& 
     for (const SketchLine& line : layout.lines) {
         PaintLine(painter, line, palette);
     }
+    painter.restore();
+}
+
+void PaintBoxFrame(QPainter& painter, const QRectF& box, const QPalette& palette) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(Mixed(DimensionColor(palette), palette.color(QPalette::Window), 0.4), 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(box.adjusted(-0.5, -0.5, 0.5, 0.5), 3, 3);
     painter.restore();
 }
 

@@ -23,6 +23,9 @@ SketchMetrics MeasureSketch(const PageEntry& page, const QFontMetricsF& metrics,
 /// Everything but the texts, in the colours of a palette.
 void PaintSketch(QPainter& painter, const SketchLayout& layout, const QPalette& palette);
 
+/// A thin frame around a box, which sets it off on palettes where its own frame hardly shows.
+void PaintBoxFrame(QPainter& painter, const QRectF& box, const QPalette& palette);
+
 /// A page's sketch with its sample sizes in the boxes, in at least the room that it needs: `size` in pixels
 /// before `devicePixelRatio`. For pictures where nothing can be typed.
 QImage SketchImage(const WindowTable& table, std::size_t page, QSize size, double devicePixelRatio,

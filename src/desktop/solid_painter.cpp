@@ -16,7 +16,7 @@ constexpr double GrazingLight = 0.3;
 
 /// Each face is painted this much larger all round, in device pixels: antialiased neighbours would otherwise
 /// let the ground shine through where they meet. Outlines cover what juts out.
-constexpr double Overlap = 0.4;
+constexpr double Overlap = 0.6;
 
 QColor Mixed(const QColor& from, const QColor& to, double share) {
     const auto part = [share](float a, float b) { return a + static_cast<float>(share) * (b - a); };
@@ -74,7 +74,7 @@ SolidColors SolidColorsOf(const QPalette& palette) {
     const bool dark = palette.color(QPalette::Active, QPalette::Window).lightness() < 128;
     if (dark) {
         return {QColor(0xa3, 0xb6, 0xc9), QColor(0x43, 0x53, 0x65), QColor(0x70, 0x82, 0x96),
-                QColor(0x2f, 0x3c, 0x4a), QColor(0xe3, 0xeb, 0xf3), QColor(0x8f, 0xa3, 0xb8)};
+                QColor(0x2f, 0x3c, 0x4a), QColor(0xe3, 0xeb, 0xf3), QColor(0xc8, 0xd4, 0xe0)};
     }
     return {QColor(0xfb, 0xfd, 0xff), QColor(0xa9, 0xb9, 0xca), QColor(0xdd, 0xe5, 0xed),
             QColor(0x8c, 0x9f, 0xb3), QColor(0x1f, 0x2d, 0x3c), QColor(0x7f, 0x95, 0xab)};

@@ -39,12 +39,13 @@ bool HoldsNoNumber(const FieldContext& context, TextBox& box, PageSwap pages) {
     return !IsNumericField(context, box);
 }
 
-/// Shows the message of a failed check on its page and puts the focus on the box; true, for the caller to
-/// return.
-bool Fail(const FieldContext& context, const TextBox& box, PageSwap pages, const std::string& text) {
+/// Shows the message of a failed check on its page and puts the focus on the box, which selects its text;
+/// true, for the caller to return.
+bool Fail(const FieldContext& context, TextBox& box, PageSwap pages, const std::string& text) {
     SwapPages(pages);
     ShowAbout(context, box, ExclamationBox, "User Error", text);
     context.focus = box.name;
+    SelectFieldText(box);
     return true;
 }
 

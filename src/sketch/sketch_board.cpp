@@ -14,7 +14,6 @@ constexpr double TextOverCentre = 8;
 constexpr double LinesSideBySide = 200;
 constexpr double LineOverShape = 500;
 constexpr double LinesCross = 20;
-constexpr double BeyondRoom = 150;
 constexpr double Growth = 0.5;  ///< for each pixel that the drawing grows
 
 constexpr double TextMargin = 3;  ///< that lines keep from texts
@@ -126,14 +125,14 @@ double SketchBoard::CostOfLine(const SketchLine& line) const {
 }
 
 double SketchBoard::Cost(const SketchPlacement& placement, std::size_t owner) const {
-    if (IsBlocked(placement.box) || IsBlocked(placement.label)) {
+    const SketchRect grown = Union(Union(bounds_, placement.box), placement.label);
+    if (grown.width > room_.x || grown.height > room_.y || IsBlocked(placement.box) ||
+        IsBlocked(placement.label)) {
         return std::numeric_limits<double>::infinity();
     }
-    const SketchRect grown = Union(Union(bounds_, placement.box), placement.label);
     return CostOfText(placement.box, owner) + CostOfText(placement.label, owner) +
            CostOfLines(placement.lines) +
-           Growth * (grown.width - bounds_.width + grown.height - bounds_.height) +
-           (grown.width > room_.x || grown.height > room_.y ? BeyondRoom : 0);
+           Growth * (grown.width - bounds_.width + grown.height - bounds_.height);
 }
 
 double SketchBoard::CostOfLines(const std::vector<SketchLine>& lines) const {
@@ -142,6 +141,19 @@ double SketchBoard::CostOfLines(const std::vector<SketchLine>& lines) const {
         cost += CostOfLine(line);
     }
     return cost;
+}
+
+double SketchBoard::ShapeReach(SketchXY away, SketchXY along, double low, double high) const {
+    double reach = -std::numeric_limits<double>::infinity();
+    for (const SketchRect& strip : shape_) {
+        const SketchXY size = {strip.width, strip.height};
+        const double middle = Dot(CentreOf(strip), along);
+        const double half = Extent(size, along) / 2;
+        if (middle + half > low && middle - half < high) {
+            reach = std::max(reach, Dot(CentreOf(strip), away) + Extent(size, away) / 2);
+        }
+    }
+    return reach;
 }
 
 void SketchBoard::AddLine(const SketchLine& line) {

@@ -21,7 +21,7 @@ struct SketchPlacement {
 class SketchBoard {
   public:
     /// Starts with the strips of the shape at a scale of pixels per unit. `gap` is kept free between texts,
-    /// and the drawing had better not grow beyond `room`.
+    /// and nothing is put where the drawing would grow beyond `room`.
     SketchBoard(const std::vector<SolidBounds>& strips, double scale, double gap, SketchXY room);
 
     void AddLine(const SketchLine& line);
@@ -37,11 +37,18 @@ class SketchBoard {
     /// The same for lines alone.
     [[nodiscard]] double CostOfLines(const std::vector<SketchLine>& lines) const;
 
+    /// How far the shape reaches in direction `away` between two lines across direction `along`; minus
+    /// infinity when it has no part there.
+    [[nodiscard]] double ShapeReach(SketchXY away, SketchXY along, double low, double high) const;
+
     /// Draws it.
     void Put(const SketchPlacement& placement);
 
     /// Around everything that is drawn.
     [[nodiscard]] const SketchRect& Bounds() const { return bounds_; }
+
+    /// A distance that leads out of the room from anywhere.
+    [[nodiscard]] double Reach() const { return room_.x + room_.y; }
 
     /// Whether it has grown beyond its room.
     [[nodiscard]] bool IsFull() const { return bounds_.width > room_.x || bounds_.height > room_.y; }

@@ -85,6 +85,9 @@ std::optional<ArrangedView> ArrangeView(const PageSketch& sketch, const SketchMe
             board.AddLine(ConstructionLine(construction, scale));
         }
     }
+    if (board.IsFull()) {
+        return std::nullopt;
+    }
     std::vector<SketchTask> tasks;
     for (std::size_t i = 0; i < sketch.dimensions.size(); ++i) {
         if (sketch.dimensions[i].view == view) {
@@ -98,14 +101,17 @@ std::optional<ArrangedView> ArrangeView(const PageSketch& sketch, const SketchMe
                      [](const SketchTask& p, const SketchTask& q) { return Rank(p) < Rank(q); });
     double cost = 0;
     for (const SketchTask& task : tasks) {
-        const SketchPlacement placement = PlaceDimension(task, board);
-        board.Put(placement);
-        if (board.IsFull()) {
+        const auto placement = PlaceDimension(task, board);
+        if (!placement) {
             return std::nullopt;
         }
-        cost += placement.cost;
-        layout.boxes[task.owner] = placement.box;
-        layout.labels[task.owner] = placement.label;
+        board.Put(*placement);
+        cost += placement->cost;
+        layout.boxes[task.owner] = placement->box;
+        layout.labels[task.owner] = placement->label;
+    }
+    if (board.IsFull()) {
+        return std::nullopt;
     }
     return ArrangedView{board.Bounds(), board.Lines(), cost};
 }

@@ -58,9 +58,9 @@ struct PageSketch {
         DimensionKind kind = DimensionKind::Note;
         Side side = Side::Below;
         std::size_t view = 0;
-        SketchXY a;  ///< where the extension line starts, on the picture of the view
-        SketchXY b;
-        SketchXY vertex;
+        SketchXY a = {};  ///< where the extension line starts, on the picture of the view
+        SketchXY b = {};
+        SketchXY vertex = {};
         bool aDrawn = false;  ///< the shape shows the ray to a up to there
         bool bDrawn = false;
         double reach = 1;  ///< of an angle's arc, times the distance from the vertex to a
@@ -68,8 +68,8 @@ struct PageSketch {
 
     struct Construction {
         std::size_t view = 0;
-        SketchXY a;
-        SketchXY b;
+        SketchXY a = {};
+        SketchXY b = {};
         bool centre = false;
     };
 

@@ -13,7 +13,7 @@ constexpr double ExtensionEnd = 5;    ///< beyond the dimension line
 constexpr double TextGap = 2;         ///< between a box and its label
 constexpr double BesideGap = 4;       ///< between a dimension line and a box beside it
 constexpr double Step = 6;            ///< from one distance tried to the next
-constexpr int Steps = 400;
+constexpr double FarthestPlace = 2400;
 constexpr double FullCircle = 2 * std::numbers::pi;
 
 // What the less usual places are worth to be avoided, in pixels of distance.
@@ -41,6 +41,11 @@ class Choice {
     /// Whether anything could still win that costs `cost` in all.
     [[nodiscard]] bool IsWorth(double cost) const { return cost < best_; }
 
+    /// The steps outward after which there is no room anyway.
+    [[nodiscard]] int Steps() const {
+        return static_cast<int>(std::min(board_.Reach(), FarthestPlace) / Step);
+    }
+
     /// Tries texts with the lines that they have besides.
     void Try(SketchPlacement placement, double extra) {
         if (!IsOpen(extra)) {
@@ -61,7 +66,9 @@ class Choice {
                            [&](const SketchLine& line) { return RunsThrough(line, Inflated(text, 4)); });
     }
 
-    [[nodiscard]] const SketchPlacement& Best() const { return placement_; }
+    [[nodiscard]] std::optional<SketchPlacement> Best() const {
+        return best_ < std::numeric_limits<double>::infinity() ? std::optional(placement_) : std::nullopt;
+    }
 
   private:
     const SketchBoard& board_;
@@ -88,11 +95,6 @@ SketchPlacement BlockAt(const SketchTask& task, SketchXY centre, bool labelAbove
 SketchPlacement BoxAt(const SketchTask& task, SketchXY centre, bool labelAbove) {
     const double way = labelAbove ? 1 : -1;
     return BlockAt(task, centre - SketchXY{0, way * (task.label.y + TextGap) / 2}, labelAbove);
-}
-
-/// Extent of an upright rectangle along a direction.
-double Extent(SketchXY size, SketchXY direction) {
-    return std::abs(size.x * direction.x) + std::abs(size.y * direction.y);
 }
 
 /// A dimension line's own directions: along it, and away from the shape.
@@ -211,12 +213,14 @@ void TryAtEnds(const SketchTask& task, const LineFrame& frame, double v, double 
     }
 }
 
-SketchPlacement PlaceLine(const SketchTask& task, const SketchBoard& board) {
+std::optional<SketchPlacement> PlaceLine(const SketchTask& task, const SketchBoard& board) {
     const LineFrame frame = FrameOf(task);
     Choice choice(board, task.owner);
     const double notOnLine = RoomOnLine(task, frame) < 0 ? 0 : NotOnLineCost;
-    const double nearest = std::max(Dot(task.a, frame.away), Dot(task.b, frame.away)) + 2 * task.gap;
-    for (int i = 0; i < Steps && choice.IsWorth(i * Step); ++i) {
+    const double shape = board.ShapeReach(frame.away, frame.along, frame.low, frame.high);
+    const double nearest = std::max(
+        {shape + task.gap, Dot(task.a, frame.away) + 2 * task.gap, Dot(task.b, frame.away) + 2 * task.gap});
+    for (int i = 0; i < choice.Steps() && choice.IsWorth(i * Step); ++i) {
         const double v = nearest + i * Step;
         choice.Begin(DimensionLines(task, frame, v), i * Step);
         TryOnLine(task, frame, v, choice);
@@ -231,7 +235,7 @@ void TryAround(const SketchTask& task, SketchXY point, SketchXY preferred, const
                Choice& choice) {
     constexpr int Ways = 24;
     const SketchXY block = BlockSize(task);
-    for (int i = 0; i < Steps && choice.IsOpen(i * Step); ++i) {
+    for (int i = 0; i < choice.Steps() && choice.IsOpen(i * Step); ++i) {
         for (int k = 0; k < Ways; ++k) {
             const double angle = FullCircle * k / Ways;
             const SketchXY way = {std::cos(angle), std::sin(angle)};
@@ -243,13 +247,17 @@ void TryAround(const SketchTask& task, SketchXY point, SketchXY preferred, const
             const double cost = i * Step + 20 * (1 - turned) + (turned < -0.1 ? WrongWayCost : 0);
             for (const bool labelAbove : {true, false}) {
                 SketchPlacement placement = BlockAt(task, centre, labelAbove);
+                const bool toBox = Length(ClosestPoint(placement.box, point) - point) <=
+                                   Length(ClosestPoint(placement.label, point) - point) + TextGap;
                 if (!leader.points.empty()) {
                     placement.lines.push_back(leader);
-                    placement.lines.back().points = {ClosestPoint(placement.box, point), point};
+                    placement.lines.back().points = {
+                        ClosestPoint(toBox ? placement.box : placement.label, point), point};
                 }
                 const bool over = choice.IsOverLines(placement.box) || choice.IsOverLines(placement.label);
-                choice.Try(std::move(placement),
-                           cost + (labelAbove ? 0 : OddLabelCost) + (over ? OverOwnLineCost : 0));
+                choice.Try(std::move(placement), cost + (labelAbove ? 0 : OddLabelCost) +
+                                                     (toBox ? 0 : OddLabelCost) +
+                                                     (over ? OverOwnLineCost : 0));
             }
         }
     }
@@ -275,7 +283,7 @@ void AddRay(const SketchTask& task, SketchXY end, bool drawn, double radius, std
     }
 }
 
-SketchPlacement PlaceAngle(const SketchTask& task, const SketchBoard& board) {
+std::optional<SketchPlacement> PlaceAngle(const SketchTask& task, const SketchBoard& board) {
     const SketchXY toA = task.a - task.vertex;
     const SketchXY toB = task.b - task.vertex;
     const double radius = Length(toA) * task.reach;
@@ -305,14 +313,14 @@ SketchPlacement PlaceAngle(const SketchTask& task, const SketchBoard& board) {
     return choice.Best();
 }
 
-SketchPlacement PlaceRadius(const SketchTask& task, const SketchBoard& board) {
+std::optional<SketchPlacement> PlaceRadius(const SketchTask& task, const SketchBoard& board) {
     Choice choice(board, task.owner);
     const SketchXY preferred = Direction(Direction(task.a - task.b) + Outward(task.side));
     TryAround(task, task.a, preferred, {.points = {task.a}, .arrowAtEnd = true}, choice);
     return choice.Best();
 }
 
-SketchPlacement PlaceNote(const SketchTask& task, const SketchBoard& board) {
+std::optional<SketchPlacement> PlaceNote(const SketchTask& task, const SketchBoard& board) {
     Choice choice(board, task.owner);
     const SketchXY way = Outward(task.side);
     const SketchRect& bounds = board.Bounds();
@@ -348,7 +356,7 @@ std::vector<SketchLine> FixedLines(const SketchTask& task, double length) {
     return lines;
 }
 
-SketchPlacement PlaceDimension(const SketchTask& task, const SketchBoard& board) {
+std::optional<SketchPlacement> PlaceDimension(const SketchTask& task, const SketchBoard& board) {
     switch (task.kind) {
         case DimensionKind::Linear:
         case DimensionKind::Aligned:

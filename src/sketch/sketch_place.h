@@ -28,8 +28,7 @@ SketchXY Outward(Side side);
 /// The extension lines that a Linear dimension needs wherever it stands, as long as `length`.
 std::vector<SketchLine> FixedLines(const SketchTask& task, double length);
 
-/// The cheapest way to draw the dimension on the board. There is always one: far enough from the shape the
-/// page is empty.
-SketchPlacement PlaceDimension(const SketchTask& task, const SketchBoard& board);
+/// The cheapest way to draw the dimension on the board; nothing when there is no place left in its room.
+std::optional<SketchPlacement> PlaceDimension(const SketchTask& task, const SketchBoard& board);
 
 }  // namespace korvet

@@ -72,6 +72,10 @@ SketchRect RectAbout(SketchXY centre, SketchXY size) {
     return {centre.x - size.x / 2, centre.y - size.y / 2, size.x, size.y};
 }
 
+double Extent(SketchXY size, SketchXY direction) {
+    return std::abs(size.x * direction.x) + std::abs(size.y * direction.y);
+}
+
 SketchRect Union(const SketchRect& a, const SketchRect& b) {
     const double left = std::min(a.x, b.x);
     const double top = std::min(a.y, b.y);

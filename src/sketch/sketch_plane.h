@@ -35,6 +35,9 @@ SketchRect Inflated(const SketchRect& rect, double by);
 SketchXY CentreOf(const SketchRect& rect);
 SketchRect RectAbout(SketchXY centre, SketchXY size);
 
+/// Extent of an upright rectangle of this size along a direction.
+double Extent(SketchXY size, SketchXY direction);
+
 /// The smallest rectangle about both.
 SketchRect Union(const SketchRect& a, const SketchRect& b);
 SketchRect Union(const SketchRect& a, SketchXY point);

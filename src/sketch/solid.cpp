@@ -9,7 +9,7 @@ namespace korvet {
 namespace {
 
 /// Towards the light: from the upper left, in front of the shape; of length 1.
-constexpr EyePoint Light = {-0.48, 0.48, 0.7346};
+constexpr EyePoint Light = {-0.4, 0.35, 0.84705};
 
 /// How much a wall faces the light, seen from the eye's side of it: 0.5 for one that the light grazes.
 double LightOn(const EyePoint& normal) {

@@ -140,6 +140,42 @@ CoverGraph MakeCoverGraph(const SolidMesh& mesh, const std::vector<PaintedFace>&
     return graph;
 }
 
+/// Takes faces, numbered from the farthest to the nearest, so that each comes after all that it covers.
+std::vector<std::size_t> BackToFront(CoverGraph graph) {
+    const std::size_t count = graph.waitsFor.size();
+    // The farthest of the faces with nothing left behind them comes next.
+    std::priority_queue<std::size_t, std::vector<std::size_t>, std::greater<>> ready;
+    for (std::size_t i = 0; i < count; ++i) {
+        if (graph.waitsFor[i] == 0) {
+            ready.push(i);
+        }
+    }
+    std::vector<std::size_t> order;
+    std::vector<bool> taken(count, false);
+    std::size_t farthest = 0;
+    while (order.size() < count) {
+        if (ready.empty()) {  // faces that cover each other in turn: break the ring at the farthest
+            while (taken[farthest]) {
+                ++farthest;
+            }
+            ready.push(farthest);
+        }
+        const std::size_t next = ready.top();
+        ready.pop();
+        if (taken[next]) {
+            continue;
+        }
+        taken[next] = true;
+        order.push_back(next);
+        for (const std::size_t front : graph.coveredBy[next]) {
+            if (--graph.waitsFor[front] == 0) {
+                ready.push(front);
+            }
+        }
+    }
+    return order;
+}
+
 }  // namespace
 
 std::vector<std::size_t> PaintersOrder(const SolidMesh& mesh) {
@@ -151,36 +187,9 @@ std::vector<std::size_t> PaintersOrder(const SolidMesh& mesh) {
     }
     std::sort(faces.begin(), faces.end(),
               [](const PaintedFace& a, const PaintedFace& b) { return a.middleDepth < b.middleDepth; });
-    CoverGraph graph = MakeCoverGraph(mesh, faces);
-    // The farthest of the faces with nothing left behind them comes next.
-    std::priority_queue<std::size_t, std::vector<std::size_t>, std::greater<>> ready;
-    for (std::size_t i = 0; i < faces.size(); ++i) {
-        if (graph.waitsFor[i] == 0) {
-            ready.push(i);
-        }
-    }
     std::vector<std::size_t> order;
-    std::vector<bool> painted(faces.size(), false);
-    std::size_t farthest = 0;
-    while (order.size() < faces.size()) {
-        if (ready.empty()) {  // faces that cover each other in turn: break the ring at the farthest
-            while (painted[farthest]) {
-                ++farthest;
-            }
-            ready.push(farthest);
-        }
-        const std::size_t next = ready.top();
-        ready.pop();
-        if (painted[next]) {
-            continue;
-        }
-        painted[next] = true;
+    for (const std::size_t next : BackToFront(MakeCoverGraph(mesh, faces))) {
         order.push_back(faces[next].face);
-        for (const std::size_t front : graph.coveredBy[next]) {
-            if (--graph.waitsFor[front] == 0) {
-                ready.push(front);
-            }
-        }
     }
     return order;
 }

@@ -67,11 +67,16 @@ struct Desk {
     RecordingHelp help;
     MemorySettings settings;
     MainWindow window{shell.context, help, settings};
+    std::vector<std::string> seenAtStart;  ///< modal windows over the frame as it came up
 
     Desk() {
+        ModalVisitor visitor;
         window.resize(1180, 860);
         window.show();
+        window.Frame().Activate();
+        window.activateWindow();
         QApplication::processEvents();
+        seenAtStart = visitor.seen;
     }
 
     /// File > New with a click on a tile of the menu.

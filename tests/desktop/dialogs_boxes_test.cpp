@@ -27,10 +27,20 @@ const std::array Styles = {
     Style{ExclamationBox, QMessageBox::Warning, QMessageBox::Ok},
     Style{InformationBox, QMessageBox::Information, QMessageBox::Ok}};
 
-/// Types a name into the toolkit's own file dialog and accepts it.
+void Activate(QDialog& window) {
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+}
+
+/// Types a name into the toolkit's own file dialog and accepts it. Only a box with the focus makes the dialog
+/// let go of the file that it opened with.
 void ChooseName(QDialog& window, const QString& name) {
-    Child<QLineEdit>(window, "fileNameEdit").setText(name);
-    QTest::keyClick(&Child<QLineEdit>(window, "fileNameEdit"), Qt::Key_Return);
+    Activate(window);
+    auto& edit = Child<QLineEdit>(window, "fileNameEdit");
+    edit.setFocus();
+    edit.setText(name);
+    emit edit.textEdited(name);  // keys would bring up the completer
+    QTest::keyClick(&edit, Qt::Key_Return);
 }
 
 void Touch(const QString& path) {
@@ -141,6 +151,7 @@ class DialogBoxes : public QObject {
     void AFileThatIsNotThereCannotBeOpened() {
         WhenShown([&](QDialog& window) {
             QStringList texts;
+            Activate(window);
             AnswerNextBox(texts);
             ChooseName(window, folder_.filePath("none.Kvt"));
             QCOMPARE(texts.size(), 1);

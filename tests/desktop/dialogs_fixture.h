@@ -1,6 +1,7 @@
 // The dialogs on the desktop in the hands of a test.
 #pragma once
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
 #include <QMessageBox>
@@ -72,9 +73,9 @@ inline void AnswerNextBox(QStringList& texts, QMessageBox::StandardButton answer
     });
 }
 
-/// A press of a button that answers at once.
+/// A press of a button, option or tick box that answers at once.
 inline void Press(const QWidget& window, const char* name) {
-    QTest::mouseClick(&Child<QAbstractButton>(window, name), Qt::LeftButton);
+    Child<QAbstractButton>(window, name).click();
 }
 
 /// A press that brings up a message box, which is answered; its text.

@@ -94,13 +94,13 @@ std::map<QString, std::function<void(DialogDesk&)>> AllDialogs() {
 QList<QWidget*> ShownControls(const QDialog& window) {
     QList<QWidget*> shown;
     for (QWidget* widget : window.findChildren<QWidget*>()) {
-        const bool control = qobject_cast<QAbstractButton*>(widget) != nullptr ||
-                             qobject_cast<QLineEdit*>(widget) != nullptr ||
-                             qobject_cast<QComboBox*>(widget) != nullptr ||
-                             qobject_cast<QGroupBox*>(widget) != nullptr ||
-                             qobject_cast<QLabel*>(widget) != nullptr;
+        const bool control =
+            qobject_cast<QAbstractButton*>(widget) != nullptr ||
+            qobject_cast<QLineEdit*>(widget) != nullptr || qobject_cast<QComboBox*>(widget) != nullptr ||
+            qobject_cast<QGroupBox*>(widget) != nullptr || qobject_cast<QLabel*>(widget) != nullptr;
         if (control && widget->isVisible() && !widget->objectName().startsWith("qt_") &&
-            !widget->objectName().startsWith("ScrollLeft") && !widget->objectName().startsWith("ScrollRight")) {
+            !widget->objectName().startsWith("ScrollLeft") &&
+            !widget->objectName().startsWith("ScrollRight")) {
             shown.append(widget);
         }
     }
@@ -122,6 +122,20 @@ QChar MnemonicOf(QString caption) {
     caption.remove(QStringLiteral("&&"));
     const auto at = caption.indexOf(QLatin1Char('&'));
     return at < 0 ? QChar() : caption.at(at + 1).toUpper();
+}
+
+QPalette DarkPalette() {
+    const QColor window(45, 45, 48);
+    const QColor base(30, 30, 30);
+    const QColor text(230, 230, 230);
+    QPalette palette(text, window, window.lighter(), window.darker(), window.lighter(150), text, Qt::white,
+                     base, window);
+    palette.setColor(QPalette::AlternateBase, base.lighter(120));
+    palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(QPalette::Disabled, role, QColor(130, 130, 130));
+    }
+    return palette;
 }
 
 /// What the control needs to be shown whole.
@@ -209,6 +223,9 @@ class DialogLook : public QObject {
         ForEach([](const QString& dialog, QDialog& window) {
             QApplication::processEvents();
             for (const QWidget* widget : ShownControls(window)) {
+                if (qobject_cast<QComboBox*>(widget->parentWidget()) != nullptr) {
+                    continue;  // the list's box stands around it
+                }
                 const QSize needed = Needed(*widget);
                 const QSize has = widget->size();
                 const QString at = QStringLiteral("%1: %2 has %3x%4, needs %5x%6")
@@ -230,15 +247,39 @@ class DialogLook : public QObject {
         });
     }
 
+    void AnEditCanBeReadOnADarkDesktop() {
+        const QPalette usual = QApplication::palette();
+        QApplication::setPalette(DarkPalette());
+        DialogDesk desk;
+        CPatternSettings settings;
+        WhenShown([](QDialog& window) {
+            auto& box = Child<QLineEdit>(window, "txtThickness");
+            box.setText("4");
+            const QColor text = box.palette().color(QPalette::Text);
+            QVERIFY(text.red() > text.green() && text.red() > text.blue());
+            QVERIFY(text.lightness() > box.palette().color(QPalette::Base).lightness() + 100);
+        });
+        LoadDialog(desk.settings, settings, desk.ui, desk.options, '.');
+        QApplication::setPalette(usual);
+    }
+
     void PicturesAreTaken() {
         const QString folder = qEnvironmentVariable("KORVET_PICTURES");
         if (folder.isEmpty()) {
             QSKIP("KORVET_PICTURES names no folder");
         }
         QVERIFY(QDir().mkpath(folder));
-        ForEach([&](const QString& dialog, QDialog& window) {
-            QVERIFY(window.grab().save(QDir(folder).filePath(dialog + ".png")));
-        });
+        const auto take = [&](const QString& suffix) {
+            ForEach([&](const QString& dialog, QDialog& window) {
+                QApplication::processEvents();
+                QVERIFY(window.grab().save(QDir(folder).filePath(dialog + suffix)));
+            });
+        };
+        take(".png");
+        const QPalette usual = QApplication::palette();
+        QApplication::setPalette(DarkPalette());
+        take("-dark.png");
+        QApplication::setPalette(usual);
     }
 
   private:

@@ -56,7 +56,7 @@ class OptionsWindow : public QObject {
             Fill(window, "txtDXFCutLayer", "0");
             Child<QComboBox>(window, "cmbDecimals").setCurrentIndex(3);
             Child<QComboBox>(window, "CmbDefaultSegs").setEditText(QStringLiteral("30"));
-            Child<QRadioButton>(window, "optUnits_1").click();
+            Press(window, "optUnits_1");
             Press(window, "btnOK");
             QVERIFY(!window.isVisible());
         });
@@ -146,12 +146,12 @@ class OptionsWindow : public QObject {
         Run([](QDialog& window) {
             auto& scale = Child<QLineEdit>(window, "txtUserScale");
             QVERIFY(!scale.isEnabled());
-            Child<QRadioButton>(window, "optScale_1").click();
+            Press(window, "optScale_1");
             QCOMPARE(scale.text(), QStringLiteral("1"));
             QVERIFY(!scale.isEnabled());
-            Child<QRadioButton>(window, "optScale_2").click();
+            Press(window, "optScale_2");
             QVERIFY(scale.isEnabled());
-            Child<QRadioButton>(window, "optScale_0").click();
+            Press(window, "optScale_0");
             QCOMPARE(scale.text(), QStringLiteral("0"));
         });
     }
@@ -160,7 +160,7 @@ class OptionsWindow : public QObject {
         Run([](QDialog& window) {
             const auto& sheet = Child<QWidget>(window, "pboxOrient");
             QCOMPARE(sheet.size(), QSize(100, 130));
-            Child<QRadioButton>(window, "optOrientation_1").click();
+            Press(window, "optOrientation_1");
             QCOMPARE(sheet.size(), QSize(130, 100));
             QCOMPARE(Child<QWidget>(window, "pboxOrientInner").geometry(), QRect(15, 0, 100, 100));
             Press(window, "btnOK");

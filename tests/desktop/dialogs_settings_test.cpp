@@ -69,9 +69,9 @@ class SettingsWindow : public QObject {
         const bool accepted = Run(settings, [](QDialog& window) {
             Type(Child<QLineEdit>(window, "txtThickness"), "3.25");
             Type(Child<QLineEdit>(window, "txtKerfSpacing"), "0.75");
-            QTest::mouseClick(&Child<QRadioButton>(window, "optInOutMean_1"), Qt::LeftButton);
-            QTest::mouseClick(&Child<QRadioButton>(window, "optFullHalf_1"), Qt::LeftButton);
-            QTest::mouseClick(&Child<QRadioButton>(window, "optTemplateType_1"), Qt::LeftButton);
+            Press(window, "optInOutMean_1");
+            Press(window, "optFullHalf_1");
+            Press(window, "optTemplateType_1");
             Child<QComboBox>(window, "cboSegs").setCurrentIndex(5);
             Type(*Child<QComboBox>(window, "cboJoinAngle").lineEdit(), "17.5");
             QTest::keyClick(&window, Qt::Key_Return);
@@ -176,15 +176,15 @@ class SettingsWindow : public QObject {
         const bool accepted = Run(settings, [](QDialog& window) {
             QCOMPARE(BoxText(window, "txtLapSize_1"), QStringLiteral("12"));
             QVERIFY(Child<QLineEdit>(window, "txtLapSize_0").isEnabled());
-            QTest::mouseClick(&Child<QRadioButton>(window, "optJoinType_1"), Qt::LeftButton);
+            Press(window, "optJoinType_1");
             QVERIFY(!Child<QLineEdit>(window, "txtLapSize_0").isEnabled());
             QVERIFY(Child<QLineEdit>(window, "txtLapSize_1").isEnabled());
             QVERIFY(!Child<QLineEdit>(window, "txtLapSize_2").isEnabled());
             QVERIFY(Child<QLabel>(window, "lblLapSize").isEnabled());
-            QTest::mouseClick(&Child<QRadioButton>(window, "optJoinType_0"), Qt::LeftButton);
+            Press(window, "optJoinType_0");
             QVERIFY(!Child<QLineEdit>(window, "txtLapSize_1").isEnabled());
             QVERIFY(!Child<QLabel>(window, "lblLapSize").isEnabled());
-            QTest::mouseClick(&Child<QRadioButton>(window, "optJoinType_1"), Qt::LeftButton);
+            Press(window, "optJoinType_1");
             Press(window, "btnOK");
         });
         QVERIFY(accepted);
@@ -196,7 +196,7 @@ class SettingsWindow : public QObject {
         Run(settings, [](QDialog& window) {
             QVERIFY(Child<QRadioButton>(window, "optJoinType_0").isChecked());
             QVERIFY(!Child<QRadioButton>(window, "optJoinType_1").isChecked());
-            QTest::mouseClick(&Child<QRadioButton>(window, "optJoinType_1"), Qt::LeftButton);
+            Press(window, "optJoinType_1");
         });
         // The next window's dialog still has it selected.
         Run(settings,
@@ -207,7 +207,7 @@ class SettingsWindow : public QObject {
         CPatternSettings settings;
         settings.LapEnable = AllLaps;
         const bool accepted = Run(settings, [](QDialog& window) {
-            QTest::mouseClick(&Child<QRadioButton>(window, "optJoinType_1"), Qt::LeftButton);
+            Press(window, "optJoinType_1");
             QCOMPARE(PressToBox(window, "btnOK"),
                      QStringLiteral("A lap join has been requested but no 'Lap Size' is specified"));
             QVERIFY(window.isVisible());
@@ -248,7 +248,7 @@ class SettingsWindow : public QObject {
             QVERIFY(Child<QGroupBox>(window, "fraBranchMaterial").isVisible());
             Type(Child<QLineEdit>(window, "txtThicknessA"), "2");
             Type(Child<QLineEdit>(window, "txtThicknessB"), "3");
-            QTest::mouseClick(&Child<QRadioButton>(window, "optInOutMeanBranch_2"), Qt::LeftButton);
+            Press(window, "optInOutMeanBranch_2");
             Press(window, "btnOK");
         });
         QCOMPARE(settings.ThicknessA, 2.0);
@@ -261,6 +261,8 @@ class SettingsWindow : public QObject {
         settings.Thickness = 12.5;
         Run(settings, [this](QDialog& window) {
             auto& box = Child<QLineEdit>(window, "txtThickness");
+            window.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&window));
             QTest::mouseClick(&box, Qt::LeftButton);
             QApplication::processEvents();
             QCOMPARE(box.selectedText(), QStringLiteral("12.5"));

@@ -113,8 +113,9 @@ class SmallDialogs : public QObject {
             LabelDialog dialog;
             dialog.Load(Lines(i == 0 ? 3 : 12), false, false);
             Run(dialog, [&](QDialog& window) { heights[i] = window.height(); });
+            QVERIFY(heights[i] >= (dialog.frame3Height + 500) / 10);
         }
-        QVERIFY(heights[1] >= heights[0] + 9 * 300 / 10);
+        QVERIFY(heights[1] > heights[0]);
     }
 
     void ExportOffersWhatTheModelSays() {

@@ -418,6 +418,8 @@ class HelpTest : public QObject {
         QCOMPARE(help.HasHelp(), looksLikeHelp);
         QVERIFY(!help.ShowTopic(2020));
         help.ShowContents();
+        QVERIFY(!help.ShowTopic(2100));
+        QVERIFY2(help.Window()->isVisible(), "the window that says why stays");
         QVERIFY(Part<QTextBrowser>(help, "txtHelp").toPlainText().contains(folder.path()));
     }
 

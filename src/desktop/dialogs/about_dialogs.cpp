@@ -18,9 +18,9 @@ namespace korvet::desktop {
 namespace {
 
 // Sizes in twips.
-constexpr QSize AboutSize = {5600, 3800};
-constexpr QSize DisclaimerSize = {5600, 3000};
-constexpr QSize LogoSize = {8600, 3400};
+constexpr QSize AboutSize = {5600, 2800};
+constexpr QSize DisclaimerSize = {5600, 2400};
+constexpr QSize LogoSize = {4000, 2000};
 
 /// Text that the user can select and copy, `larger` times the usual size.
 QLabel* AddText(ModelDialog& window, const std::string& controlName, const QString& text, double larger = 1) {

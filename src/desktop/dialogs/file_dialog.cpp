@@ -78,11 +78,18 @@ bool MayWrite(QWidget& parent, const QString& path) {
 
 std::optional<std::string> RunFileDialog(QWidget* parent, const FileChoice& choice, QString& folder) {
     const Filter filter = FilterOf(choice.filter);
-    QFileDialog dialog(parent);
-    SetUp(dialog, choice, filter);
-    dialog.setDirectory(folder.isEmpty() ? QDir::currentPath() : folder);
-    while (dialog.exec() == QDialog::Accepted) {
-        QString path = dialog.selectedFiles().value(0);
+    QString path;
+    while (true) {
+        QFileDialog dialog(parent);
+        SetUp(dialog, choice, filter);
+        dialog.setDirectory(folder.isEmpty() ? QDir::currentPath() : folder);
+        if (!path.isEmpty()) {
+            dialog.selectFile(QFileInfo(path).fileName());
+        }
+        if (dialog.exec() != QDialog::Accepted) {
+            return std::nullopt;
+        }
+        path = dialog.selectedFiles().value(0);
         if (choice.save) {
             path = WithSuffix(path, filter.suffix);
         }
@@ -90,9 +97,10 @@ std::optional<std::string> RunFileDialog(QWidget* parent, const FileChoice& choi
             folder = QFileInfo(path).absolutePath();
             return path.toStdString();
         }
-        dialog.selectFile(path);
+        if (QFileInfo(path).dir().exists()) {
+            folder = QFileInfo(path).absolutePath();
+        }
     }
-    return std::nullopt;
 }
 
 }  // namespace korvet::desktop

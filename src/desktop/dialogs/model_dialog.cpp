@@ -66,6 +66,7 @@ ModelDialog::ModelDialog(DialogHost host, const std::string& controlName, const 
     setWindowTitle(Text(caption));
     auto* body = new QWidget;
     bodyLayout_ = new QVBoxLayout(body);
+    bodyLayout_->setContentsMargins({});
     scroll_->setWidget(body);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(scroll_, 1);
@@ -103,7 +104,7 @@ void ModelDialog::AddOptionsButton() {
 
 void ModelDialog::Do(const std::function<void()>& event) {
     for (const BoundBox& bound : boxes_) {
-        TakeCursor(*bound.edit, *bound.box);
+        TakeSelection(*bound.edit, *bound.box);
     }
     if (model_.focus != nullptr) {
         model_.focus->clear();

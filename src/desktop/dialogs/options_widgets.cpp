@@ -97,6 +97,7 @@ void AddNumber(ModelDialog& window, OptionsDialog& dialog, QFormLayout& form, Te
 QWidget* MakeGeneralTab(ModelDialog& window, OptionsDialog& dialog) {
     auto* page = new QWidget;
     auto* form = new QFormLayout(page);
+    form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
     QComboBox* const language = MakeCombo("cmbLanguage", QStringLiteral("Language"), false);
     form->addRow(MakeLabel(QStringLiteral("&Language:"), language), language);
     window.Bind(*language, dialog.cmbLanguage,
@@ -113,11 +114,13 @@ QWidget* MakeDisplayTab(ModelDialog& window, OptionsDialog& dialog) {
     auto* page = new QWidget;
     auto* column = new QVBoxLayout(page);
     auto* size = new QFormLayout;
+    size->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
     column->addLayout(size);
     AddNumber(window, dialog, *size, dialog.txtDisplayTextSize, "&Text height:", "Display text height");
     QGroupBox* const frame = MakeFrame("fraColors", QStringLiteral("Colors"), QStringLiteral("Colors"));
     column->addWidget(frame);
     auto* form = new QFormLayout(frame);
+    form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
     AddSwatch(window, dialog, *form, dialog.pboxDisplayCutColor, "&Cut lines:", "Color of cut lines");
     AddSwatch(window, dialog, *form, dialog.pboxDisplayFoldColor, "&Fold lines:", "Color of fold lines");
     AddSwatch(window, dialog, *form, dialog.pboxDisplayBackColor, "&Background:", "Color of the background");
@@ -132,7 +135,7 @@ QWidget* MakeDxfTab(ModelDialog& window, OptionsDialog& dialog) {
     auto* columns = new QHBoxLayout(page);
     QGroupBox* const layers =
         MakeFrame("fraLayers", QStringLiteral("Layer names"), QStringLiteral("Layer names"));
-    columns->addWidget(layers, 1);
+    columns->addWidget(layers, 1, Qt::AlignTop);
     auto* form = new QFormLayout(layers);
     AddLayer(window, *form, dialog.txtDXFCutLayer, "&Cut lines:", "Layer of cut lines");
     AddLayer(window, *form, dialog.txtDXFFoldLayer, "&Fold lines:", "Layer of fold lines");

@@ -35,7 +35,7 @@ void AddPositions(ModelDialog& window, QGridLayout& grid, int row, const std::st
     const auto buttons = MakeOptions(window, controlName, group, "MIO", prefix);
     for (std::size_t i = 0; i < buttons.size(); ++i) {
         auto* picture = new PaintedWidget(
-            {Pixels(900), Pixels(340)},
+            {Pixels(1300), Pixels(480)},
             [i](QPainter& painter, const QWidget& widget) { PaintMeasuredWall(painter, widget, i); });
         NameWidget(*picture, "pbox" + controlName.substr(3) + "_" + std::to_string(i),
                    QStringLiteral("Picture: ") + prefix + Text(group.captions.at(i)));
@@ -121,12 +121,12 @@ QVBoxLayout* MakeLapSize(ModelDialog& window, PatternSettingsDialog& dialog, std
 
 /// The three lap sizes around their sketch, each beside its edge.
 void AddLapSizes(ModelDialog& window, PatternSettingsDialog& dialog, QGridLayout& grid) {
-    auto* sketch = new PaintedWidget({Pixels(1900), Pixels(1150)}, [&](QPainter& painter,
+    auto* sketch = new PaintedWidget({Pixels(2200), Pixels(1400)}, [&](QPainter& painter,
                                                                        const QWidget& widget) {
         PaintLaps(painter, widget,
                   {dialog.txtLapSize[0].enabled, dialog.txtLapSize[1].enabled, dialog.txtLapSize[2].enabled});
     });
-    sketch->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    sketch->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     NameWidget(*sketch, "pboxLapPosition", QStringLiteral("Sketch of the laps"));
     window.ShowBy([sketch] { sketch->update(); });
     grid.addLayout(MakeLapSize(window, dialog, 0, "&1 Top edge:", "Lap size, top edge"), 0, 0,
@@ -135,7 +135,7 @@ void AddLapSizes(ModelDialog& window, PatternSettingsDialog& dialog, QGridLayout
     grid.addLayout(MakeLapSize(window, dialog, 1, "&2 Seam:", "Lap size, seam"), 1, 1, Qt::AlignVCenter);
     grid.addLayout(MakeLapSize(window, dialog, 2, "&3 Base edge:", "Lap size, base edge"), 2, 0,
                    Qt::AlignHCenter);
-    grid.setRowStretch(1, 1);
+    grid.setRowStretch(3, 1);
     grid.setColumnStretch(0, 1);
 }
 

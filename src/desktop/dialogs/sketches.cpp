@@ -110,7 +110,9 @@ void PaintCone(QPainter& painter, const QPalette& palette, QRectF place) {
     painter.setPen(QPen(palette.color(QPalette::WindowText), 1.6));
     painter.setBrush(shade);
     painter.drawPath(wall);
-    painter.setBrush(Faded(metal, 220));
+    painter.setBrush(palette.color(QPalette::Base));
+    painter.drawEllipse(top, topRadius, topRadius * 0.35);
+    painter.setBrush(Faded(metal, 120));
     painter.drawEllipse(top, topRadius, topRadius * 0.35);
 }
 
@@ -185,11 +187,12 @@ void PaintConeAndPattern(QPainter& painter, const QWidget& widget) {
     painter.fillRect(widget.rect(), palette.color(QPalette::AlternateBase));
     const double height = widget.height();
     const double width = widget.width();
-    const double coneWidth = std::min(width * 0.3, height * 0.72);
-    PaintCone(painter, palette, {width * 0.08, height * 0.14, coneWidth, height * 0.72});
-    const double radius = std::min(width * 0.42, height * 0.86);
+    const double coneWidth = std::min(width * 0.27, height * 0.72);
+    PaintCone(painter, palette, {width * 0.06, height * 0.14, coneWidth, height * 0.72});
+    const double radius = std::min(width * 0.37, height * 0.92);
     constexpr double HalfAngle = 52;
-    PaintPattern(painter, palette, {width * 0.68, height * 0.03}, radius * 0.44, radius, HalfAngle, 24);
+    PaintPattern(painter, palette, {width * 0.67, (height - radius) / 2 - radius * 0.1}, radius * 0.44,
+                 radius, HalfAngle, 24);
 }
 
 }  // namespace korvet::desktop

@@ -132,11 +132,11 @@ void RunDialog(const DialogHost& host, RotateDialog& dialog) {
     grid->addWidget(current, 0, 1);
     window.Bind(*current, dialog.txtAngle[0], [](const std::string&) {});
     const auto moves = MakeOptions(window, "optMove", dialog.optMove, "gm");
-    grid->addWidget(moves[RotateDialog::ToAngle], 1, 0);
-    grid->addWidget(moves[RotateDialog::ByAmount], 2, 0);
+    grid->addWidget(moves[RotateDialog::ToAngle], 1, 0, 1, 2);
+    grid->addWidget(moves[RotateDialog::ByAmount], 2, 0, 1, 2);
     QLineEdit* const angle = MakeEdit("txtAngle_1", QStringLiteral("Angle"));
-    grid->addWidget(MakeLabel(QStringLiteral("&Angle:"), angle), 1, 1);
-    grid->addWidget(angle, 2, 1);
+    grid->addWidget(MakeLabel(QStringLiteral("&Angle:"), angle), 3, 0);
+    grid->addWidget(angle, 3, 1);
     window.Bind(*angle, dialog.txtAngle[1], [&](const std::string& text) { dialog.Change(text); });
     window.Body().addStretch();
     AddOkAndCancel(window, dialog);

@@ -1,0 +1,390 @@
+#include "sketch/sketch_layout.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+#include "shell/catalogue.h"
+#include "sketch/sketch_outline.h"
+#include "sketch/sketch_plane.h"
+
+namespace korvet {
+namespace {
+
+/// Texts about as large as they are in a font of `size` pixels, words in short lines one below the other.
+SketchMetrics MetricsOf(const PageEntry& page, double size) {
+    SketchMetrics metrics;
+    metrics.box = {std::ceil(size * 5 + 16), std::ceil(size * 1.3 + 8)};
+    for (const BoxEntry& box : page.boxes) {
+        const double width = static_cast<double>(box.label.size()) * size * 0.55;
+        const double lines = std::ceil(width / (metrics.box.x * 1.2));
+        metrics.labels.push_back(
+            {std::ceil(std::min(width, metrics.box.x * 1.3)), std::ceil(lines * size * 1.2)});
+    }
+    return metrics;
+}
+
+bool Overlap(const SketchRect& a, const SketchRect& b) {
+    return a.x < b.x + b.width && b.x < a.x + a.width && a.y < b.y + b.height && b.y < a.y + a.height;
+}
+
+double DistanceToLine(const SketchRect& rect, const SketchLine& line) {
+    double nearest = 1e9;
+    for (std::size_t i = 0; i + 1 < line.points.size(); ++i) {
+        const SketchXY step = line.points[i + 1] - line.points[i];
+        for (int part = 0; part <= 20; ++part) {
+            const SketchXY point = line.points[i] + step * (part / 20.0);
+            nearest = std::min(nearest, Length(ClosestPoint(rect, point) - point));
+        }
+    }
+    return nearest;
+}
+
+struct Laid {
+    std::string name;
+    SketchMetrics metrics;
+    double width;
+    double height;
+    SketchLayout layout;
+};
+
+/// Every page of every window that is built, in fonts from small to large and pages from the smallest on.
+std::vector<Laid> LayOutAll() {
+    std::vector<Laid> all;
+    for (const CatalogueRow& row : Catalogue) {
+        for (std::size_t page = 0; row.table && page < row.table->pages.size(); ++page) {
+            const PageSketch sketch = MakePageSketch(*row.table, page);
+            for (const double font : {8.0, 11.0, 14.0, 20.0}) {
+                const SketchMetrics metrics = MetricsOf(row.table->pages[page], font);
+                const SketchXY least = SmallestSketch(sketch, metrics);
+                for (const auto& [wide, high] :
+                     {std::pair(1.0, 1.0), std::pair(1.4, 1.0), std::pair(1.0, 1.7), std::pair(3.0, 3.0)}) {
+                    const double width = std::floor(least.x * wide);
+                    const double height = std::floor(least.y * high);
+                    all.push_back({std::string(row.category) + ", type " + std::to_string(page + 1) +
+                                       ", font " + std::to_string(font) + ", " + std::to_string(width) +
+                                       " by " + std::to_string(height),
+                                   metrics, width, height, LayoutSketch(sketch, metrics, width, height)});
+                }
+            }
+        }
+    }
+    return all;
+}
+
+void ForEveryLayout(void (*check)(const Laid&)) {
+    static const std::vector<Laid> all = LayOutAll();
+    EXPECT_GE(all.size(), 8U * 4 * 4);
+    for (const Laid& laid : all) {
+        check(laid);
+    }
+}
+
+std::vector<SketchRect> Texts(const SketchLayout& layout) {
+    std::vector<SketchRect> texts = layout.boxes;
+    texts.insert(texts.end(), layout.labels.begin(), layout.labels.end());
+    return texts;
+}
+
+TEST(SketchLayout, TextsOverlapNeitherEachOtherNorTheEdgeOfThePage) {
+    ForEveryLayout([](const Laid& laid) {
+        const auto texts = Texts(laid.layout);
+        ASSERT_EQ(texts.size(), 2 * laid.metrics.labels.size());
+        for (std::size_t i = 0; i < texts.size(); ++i) {
+            EXPECT_GE(texts[i].x, 0) << laid.name;
+            EXPECT_GE(texts[i].y, 0) << laid.name;
+            EXPECT_LE(texts[i].x + texts[i].width, laid.width) << laid.name;
+            EXPECT_LE(texts[i].y + texts[i].height, laid.height) << laid.name;
+            for (std::size_t k = 0; k < i; ++k) {
+                EXPECT_FALSE(Overlap(texts[i], texts[k])) << laid.name << ": texts " << k << " and " << i;
+            }
+        }
+    });
+}
+
+TEST(SketchLayout, BoxesAndLabelsHaveTheSizesThatWereMeasured) {
+    ForEveryLayout([](const Laid& laid) {
+        for (std::size_t i = 0; i < laid.layout.boxes.size(); ++i) {
+            EXPECT_DOUBLE_EQ(laid.layout.boxes[i].width, laid.metrics.box.x) << laid.name;
+            EXPECT_DOUBLE_EQ(laid.layout.boxes[i].height, laid.metrics.box.y) << laid.name;
+            EXPECT_DOUBLE_EQ(laid.layout.labels[i].width, laid.metrics.labels[i].x) << laid.name;
+            EXPECT_DOUBLE_EQ(laid.layout.labels[i].height, laid.metrics.labels[i].y) << laid.name;
+        }
+    });
+}
+
+TEST(SketchLayout, NoLineRunsThroughAText) {
+    ForEveryLayout([](const Laid& laid) {
+        for (const SketchRect& text : Texts(laid.layout)) {
+            for (const SketchLine& line : laid.layout.lines) {
+                EXPECT_FALSE(RunsThrough(line, Inflated(text, -1e-6))) << laid.name;
+            }
+        }
+    });
+}
+
+TEST(SketchLayout, NothingIsCutOff) {
+    ForEveryLayout([](const Laid& laid) {
+        for (const SketchLine& line : laid.layout.lines) {
+            for (const SketchXY& point : line.points) {
+                EXPECT_TRUE(point.x >= 0 && point.x <= laid.width && point.y >= 0 && point.y <= laid.height)
+                    << laid.name;
+            }
+        }
+        for (const PlacedSolid& solid : laid.layout.solids) {
+            for (const SolidFace& face : solid.picture.faces) {
+                for (const SketchXY& corner : face.corners) {
+                    const double x = solid.originX + corner.x * solid.scale;
+                    const double y = solid.originY - corner.y * solid.scale;
+                    EXPECT_TRUE(x >= 0 && x <= laid.width && y >= 0 && y <= laid.height) << laid.name;
+                }
+            }
+        }
+    });
+}
+
+TEST(SketchLayout, NoTextLiesOverTheShape) {
+    ForEveryLayout([](const Laid& laid) {
+        for (const PlacedSolid& solid : laid.layout.solids) {
+            for (const SolidFace& face : solid.picture.faces) {
+                SketchLine rim;
+                for (const SketchXY& corner : face.corners) {
+                    rim.points.push_back(
+                        {solid.originX + corner.x * solid.scale, solid.originY - corner.y * solid.scale});
+                }
+                rim.points.push_back(rim.points.front());
+                for (const SketchRect& text : Texts(laid.layout)) {
+                    EXPECT_FALSE(RunsThrough(rim, text)) << laid.name;
+                }
+            }
+        }
+    });
+}
+
+TEST(SketchLayout, TheShapeStaysLargeEnoughToRead) {
+    ForEveryLayout([](const Laid& laid) {
+        for (const PlacedSolid& solid : laid.layout.solids) {
+            const SolidBounds& bounds = solid.picture.bounds;
+            const double width = (bounds.right - bounds.left) * solid.scale;
+            const double height = (bounds.top - bounds.bottom) * solid.scale;
+            EXPECT_GE(std::sqrt(width * height), 130 - 1e-9) << laid.name;
+            EXPECT_GE(height, 90) << laid.name;
+            EXPECT_DOUBLE_EQ(solid.scale, laid.layout.solids.front().scale) << laid.name;
+        }
+    });
+}
+
+TEST(SketchLayout, MoreRoomMakesALargerShape) {
+    for (const CatalogueRow& row : Catalogue) {
+        for (std::size_t page = 0; row.table && page < row.table->pages.size(); ++page) {
+            const PageSketch sketch = MakePageSketch(*row.table, page);
+            const SketchMetrics metrics = MetricsOf(row.table->pages[page], 13);
+            const SketchXY least = SmallestSketch(sketch, metrics);
+            const double small = LayoutSketch(sketch, metrics, least.x, least.y).solids[0].scale;
+            const double large = LayoutSketch(sketch, metrics, 3 * least.x, 3 * least.y).solids[0].scale;
+            EXPECT_GT(large, 2.5 * small) << row.category << ", type " << page + 1;
+        }
+    }
+}
+
+/// Every box, or the label that it stands next to, is on its dimension line or on a leader.
+TEST(SketchLayout, BoxesTouchTheirLines) {
+    ForEveryLayout([](const Laid& laid) {
+        for (std::size_t i = 0; i < laid.layout.boxes.size(); ++i) {
+            double nearest = 1e9;
+            for (const SketchLine& line : laid.layout.lines) {
+                if (line.kind != SketchLineKind::Centre) {
+                    nearest = std::min({nearest, DistanceToLine(laid.layout.boxes[i], line),
+                                        DistanceToLine(laid.layout.labels[i], line)});
+                }
+            }
+            EXPECT_LE(nearest, 8) << laid.name;
+            EXPECT_LE(DistanceToLine(laid.layout.boxes[i], {.points = {CentreOf(laid.layout.labels[i]),
+                                                                       CentreOf(laid.layout.labels[i])}}),
+                      laid.layout.labels[i].height / 2 + 3)
+                << laid.name;
+        }
+    });
+}
+
+TEST(SketchLayout, EveryDimensionHasTwoArrowHeads) {
+    ForEveryLayout([](const Laid& laid) {
+        std::size_t heads = 0;
+        for (const SketchLine& line : laid.layout.lines) {
+            heads += (line.arrowAtStart ? 1U : 0U) + (line.arrowAtEnd ? 1U : 0U);
+        }
+        EXPECT_EQ(heads, 2 * laid.layout.boxes.size()) << laid.name;
+    });
+}
+
+/// A square of 100 by 100 with its lower left corner at the origin.
+PageSketch Square(std::vector<PageSketch::Dimension> dimensions) {
+    PageSketch sketch;
+    SolidPicture picture;
+    picture.faces.push_back({.corners = {{0, 0}, {100, 0}, {100, 100}, {0, 100}}});
+    picture.bounds = {0, 0, 100, 100};
+    sketch.strips.push_back(StripsOf(picture));
+    sketch.pictures.push_back(picture);
+    sketch.dimensions = std::move(dimensions);
+    return sketch;
+}
+
+SketchMetrics SmallTexts(std::size_t count) {
+    return {.box = {40, 20}, .labels = std::vector<SketchXY>(count, SketchXY{50, 14})};
+}
+
+TEST(SketchLayout, ABoxStandsInTheMiddleOfALongLine) {
+    const PageSketch sketch =
+        Square({{.kind = DimensionKind::Linear, .side = Side::Below, .a = {0, 0}, .b = {100, 0}},
+                {.kind = DimensionKind::Linear, .side = Side::Right, .a = {100, 0}, .b = {100, 100}}});
+    const SketchLayout layout = LayoutSketch(sketch, SmallTexts(2), 600, 600);
+    const PlacedSolid& solid = layout.solids[0];
+    const double left = solid.originX;
+    const double right = solid.originX + 100 * solid.scale;
+    const double bottom = solid.originY;
+    EXPECT_NEAR(CentreOf(layout.boxes[0]).x, (left + right) / 2, 1e-9);
+    EXPECT_NEAR(CentreOf(layout.labels[0]).x, (left + right) / 2, 1e-9);
+    EXPECT_GT(layout.boxes[0].y, bottom);
+    EXPECT_GT(layout.boxes[1].x, right);
+    const double block = (layout.labels[1].y + layout.boxes[1].y + layout.boxes[1].height) / 2;
+    EXPECT_NEAR(block, bottom - 50 * solid.scale, 1e-9);
+    // The level line ends at the box to the left and starts again to the right of it.
+    double reachesBox = 0;
+    for (const SketchLine& line : layout.lines) {
+        if (line.arrowAtStart && line.kind == SketchLineKind::Dimension &&
+            line.points.front().y == line.points.back().y) {
+            EXPECT_NEAR(line.points.front().x, left, 1e-9);
+            reachesBox = line.points.back().x;
+        }
+    }
+    EXPECT_NEAR(reachesBox, layout.boxes[0].x, 1e-9);
+}
+
+TEST(SketchLayout, DimensionsOfOneSideStandInTiersTheLongestOutside) {
+    std::vector<PageSketch::Dimension> sizes;
+    for (const double height : {100.0, 90.0, 80.0}) {
+        sizes.push_back({.kind = DimensionKind::Linear, .side = Side::Left, .a = {0, 0}, .b = {0, height}});
+    }
+    const PageSketch sketch = Square(sizes);
+    const SketchMetrics metrics = SmallTexts(3);
+    const SketchXY least = SmallestSketch(sketch, metrics);
+    const SketchLayout layout = LayoutSketch(sketch, metrics, least.x, least.y);
+    EXPECT_LT(layout.boxes[0].x, layout.boxes[1].x);
+    EXPECT_LT(layout.boxes[1].x, layout.boxes[2].x);
+    EXPECT_LT(layout.boxes[2].x + layout.boxes[2].width, layout.solids[0].originX);
+}
+
+TEST(SketchLayout, AShortLineHasItsArrowHeadsOutside) {
+    const PageSketch sketch =
+        Square({{.kind = DimensionKind::Linear, .side = Side::Above, .a = {50, 100}, .b = {53, 100}}});
+    const SketchLayout layout = LayoutSketch(sketch, SmallTexts(1), 300, 300);
+    const double low = layout.solids[0].originX + 50 * layout.solids[0].scale;
+    const double high = layout.solids[0].originX + 53 * layout.solids[0].scale;
+    bool fromLeft = false;
+    bool fromRight = false;
+    for (const SketchLine& line : layout.lines) {
+        if (line.arrowAtEnd) {
+            const double tip = line.points.back().x;
+            fromLeft = fromLeft || (std::abs(tip - low) < 1e-9 && line.points.front().x < low);
+            fromRight = fromRight || (std::abs(tip - high) < 1e-9 && line.points.front().x > high);
+        }
+    }
+    EXPECT_TRUE(fromLeft);
+    EXPECT_TRUE(fromRight);
+}
+
+TEST(SketchLayout, AnAlignedLineRunsParallelToWhatItMeasures) {
+    const PageSketch sketch =
+        Square({{.kind = DimensionKind::Aligned, .side = Side::Right, .a = {100, 0}, .b = {160, 80}}});
+    const SketchLayout layout = LayoutSketch(sketch, SmallTexts(1), 600, 600);
+    int pieces = 0;
+    for (const SketchLine& line : layout.lines) {
+        if (line.kind == SketchLineKind::Dimension) {
+            const SketchXY step = line.points.back() - line.points.front();
+            EXPECT_NEAR(step.x * 80 + step.y * 60, 0, 1e-6);
+            ++pieces;
+        }
+    }
+    EXPECT_GE(pieces, 1);
+}
+
+TEST(SketchLayout, AnArcRunsFromRayToRay) {
+    const PageSketch sketch = Square({{.kind = DimensionKind::Angle,
+                                       .side = Side::Right,
+                                       .a = {200, 0},
+                                       .b = {200, 100},
+                                       .vertex = {100, 0},
+                                       .reach = 0.8}});
+    const SketchLayout layout = LayoutSketch(sketch, SmallTexts(1), 500, 500);
+    const PlacedSolid& solid = layout.solids[0];
+    const SketchXY vertex = {solid.originX + 100 * solid.scale, solid.originY};
+    const auto arc = std::find_if(layout.lines.begin(), layout.lines.end(),
+                                  [](const SketchLine& line) { return line.points.size() > 2; });
+    ASSERT_NE(arc, layout.lines.end());
+    EXPECT_TRUE(arc->arrowAtStart && arc->arrowAtEnd);
+    for (const SketchXY& point : arc->points) {
+        EXPECT_NEAR(Length(point - vertex), 80 * solid.scale, 1e-6);
+    }
+    EXPECT_NEAR(arc->points.front().y, vertex.y, 1e-9);
+    EXPECT_NEAR(arc->points.back().x - vertex.x, vertex.y - arc->points.back().y, 1e-9);  // 45 degrees
+}
+
+TEST(SketchLayout, ARadiusPointsAtItsArcFromOutside) {
+    const PageSketch sketch =
+        Square({{.kind = DimensionKind::Radius, .side = Side::Above, .a = {100, 100}, .b = {80, 80}}});
+    const SketchLayout layout = LayoutSketch(sketch, SmallTexts(1), 400, 400);
+    const PlacedSolid& solid = layout.solids[0];
+    ASSERT_EQ(layout.lines.size(), 1U);
+    EXPECT_TRUE(layout.lines[0].arrowAtEnd);
+    EXPECT_NEAR(layout.lines[0].points.back().x, solid.originX + 100 * solid.scale, 1e-9);
+    EXPECT_NEAR(layout.lines[0].points.back().y, solid.originY - 100 * solid.scale, 1e-9);
+}
+
+TEST(SketchLayout, ViewsStandOneAboveTheOtherAtOneScale) {
+    PageSketch sketch = Square(
+        {{.kind = DimensionKind::Linear, .side = Side::Above, .view = 0, .a = {0, 100}, .b = {100, 100}},
+         {.kind = DimensionKind::Linear, .side = Side::Below, .view = 1, .a = {0, 0}, .b = {100, 0}},
+         {.kind = DimensionKind::Note, .side = Side::Left, .view = 1}});
+    sketch.pictures.push_back(sketch.pictures[0]);
+    sketch.strips.push_back(sketch.strips[0]);
+    const SketchMetrics metrics = SmallTexts(3);
+    const SketchXY least = SmallestSketch(sketch, metrics);
+    const SketchLayout layout = LayoutSketch(sketch, metrics, 1.5 * least.x, 1.5 * least.y);
+    ASSERT_EQ(layout.solids.size(), 2U);
+    EXPECT_DOUBLE_EQ(layout.solids[0].scale, layout.solids[1].scale);
+    EXPECT_DOUBLE_EQ(layout.solids[0].originX, layout.solids[1].originX);
+    EXPECT_LT(layout.solids[0].originY, layout.solids[1].originY - 100 * layout.solids[1].scale);
+    EXPECT_LT(layout.boxes[0].y, layout.boxes[1].y);
+    EXPECT_LT(layout.boxes[2].x + layout.boxes[2].width, layout.solids[1].originX);
+}
+
+TEST(SketchPlane, ALineIsCutAroundTextsAndKeepsItsArrowHeads) {
+    const SketchLine line = {
+        .points = {{0, 0}, {100, 0}, {100, 50}}, .arrowAtStart = true, .arrowAtEnd = true};
+    const auto pieces = CutAround(line, {{40, -5, 20, 10}, {95, 20, 10, 10}});
+    ASSERT_EQ(pieces.size(), 3U);
+    EXPECT_EQ(pieces[0].points, (std::vector<SketchXY>{{0, 0}, {40, 0}}));
+    EXPECT_TRUE(pieces[0].arrowAtStart);
+    EXPECT_FALSE(pieces[0].arrowAtEnd);
+    EXPECT_EQ(pieces[1].points, (std::vector<SketchXY>{{60, 0}, {100, 0}, {100, 20}}));
+    EXPECT_FALSE(pieces[1].arrowAtStart || pieces[1].arrowAtEnd);
+    EXPECT_EQ(pieces[2].points, (std::vector<SketchXY>{{100, 30}, {100, 50}}));
+    EXPECT_TRUE(pieces[2].arrowAtEnd);
+    EXPECT_TRUE(CutAround(line, {{-10, -10, 200, 200}}).empty());
+}
+
+TEST(SketchOutline, AnExtensionLineStartsWhereItLeavesTheShape) {
+    SolidPicture picture;
+    picture.faces.push_back({.corners = {{0, 0}, {100, 0}, {50, 100}}});
+    picture.bounds = {0, 0, 100, 100};
+    EXPECT_NEAR(LeavesShape(picture, {50, 50}, Side::Right).x, 75, 1e-9);
+    EXPECT_NEAR(LeavesShape(picture, {50, 50}, Side::Left).x, 25, 1e-9);
+    EXPECT_NEAR(LeavesShape(picture, {25, 20}, Side::Above).y, 50, 1e-9);
+    EXPECT_NEAR(LeavesShape(picture, {25, 20}, Side::Below).y, 0, 1e-9);
+    EXPECT_EQ(LeavesShape(picture, {200, 50}, Side::Right), (SketchXY{200, 50}));
+}
+
+}  // namespace
+}  // namespace korvet
