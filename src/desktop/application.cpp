@@ -1,6 +1,7 @@
 #include "desktop/application.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QPrinterInfo>
 #include <QTimer>
 
@@ -44,7 +45,8 @@ struct Application {
 
 void OpenFiles(MainWindow& window, const QStringList& files) {
     for (const QString& file : files) {
-        window.Frame().OpenFile(file.toStdString());
+        // A caption is the file's name for later saves, so it is whole.
+        window.Frame().OpenFile(QFileInfo(file).absoluteFilePath().toStdString());
         window.Project();
     }
 }

@@ -183,8 +183,10 @@ QWidget* FittingView::MakeControls() {
     for (const std::size_t i : {std::size_t{1}, std::size_t{0}}) {
         typeButtons_.at(i) = MakeButton("btnPoint_" + std::to_string(i),
                                         i == 0 ? tr("Next type") : tr("Previous type"), frame);
-        connect(typeButtons_.at(i), &QToolButton::clicked, this,
-                [this, i] { Do([i](CFittingWindow& window) { window.ClickPoint(i); }); });
+        connect(typeButtons_.at(i), &QToolButton::clicked, this, [this, i] {
+            Do([i](CFittingWindow& window) { window.ClickPoint(i); });
+            FocusFirstBox();
+        });
     }
     types->addWidget(typeButtons_[1]);
     types->addWidget(typeLabel_, 1, Qt::AlignCenter);
@@ -312,6 +314,11 @@ void FittingView::TakeShape(int state) {
         window_->Resize(PlaceOf(rect()));
         drawing_->Project();
     }
+}
+
+void FittingView::FocusFirstBox() {
+    const auto* page = static_cast<SketchPage*>(pageStack_->currentWidget());
+    page->Boxes().front()->setFocus(Qt::OtherFocusReason);
 }
 
 void FittingView::Project() {

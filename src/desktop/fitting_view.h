@@ -35,6 +35,9 @@ class FittingView : public QWidget {
     /// Shows what the model says, focus and selection included.
     void Project();
 
+    /// Puts the focus into the first box of the page, where typing begins.
+    void FocusFirstBox();
+
     /// The sizes and the state of the view into the model.
     void TakeShape(int state);
 

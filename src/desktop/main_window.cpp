@@ -159,6 +159,7 @@ void MainWindow::ShowWindow(CFittingWindow& window) {
         child->showNormal();
     }
     area_->setActiveSubWindow(child);
+    child->View().FocusFirstBox();
     frame_.ActivateChild(&window);
 }
 

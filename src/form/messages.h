@@ -24,6 +24,7 @@ enum MessageId : int {
     LapWithoutSize = 24,
     PatternMustBeSelected = 26,
     DimensionsBasedOn = 27,
+    NoHelpForItem = 50,
     PatternViewOnly = 71,
     PositionLabel = 73,
     NotAtThisTime = 76,
@@ -35,17 +36,20 @@ enum MessageId : int {
     FirstAndSecondPoint = 86,
     RotationReferencePoints = 87,
     SaveParameterFile = 100,
+    NothingToSave = 101,
     SettingsCaption = 103,
     GlobalOptionsCaption = 104,
     DxfSaved = 105,
     ExportingPattern = 106,
     ExportingModel = 107,
+    OpenElsewhere = 108,
     ErrorLoading = 109,
     NotAValidFile = 110,
     DxfProblem = 111,
     NothingToPrint = 114,
     IniFileUpdated = 116,
-    NoPrinterAvailable = 118
+    NoPrinterAvailable = 118,
+    NoCadDrawing = 140
 };
 
 /// The text of message `id` in `language`. Only "English" has texts: any other language, and an id without a

@@ -3,13 +3,13 @@
 #include <algorithm>
 
 #include "core/number_text.h"
+#include "shell/new_fitting.h"
 #include "shell/views.h"
 
 namespace korvet {
 namespace {
 
 constexpr int PanelWidth = 3000;
-constexpr std::string_view UnsavedCaption = "Development";
 
 std::string TypeCaption(std::int16_t dtype) {
     return "Type " + std::to_string(dtype + 1);
@@ -115,6 +115,10 @@ std::int16_t StepFittingType(CFittingWindow& window, std::size_t button, std::in
     return dtype;
 }
 
+std::optional<std::string> ChooseSaveName(UserInterface& ui) {
+    return ui.ChooseFile({"SaveAs", std::string(ProductTitle) + " Files (*.Kvt)|*.Kvt", true});
+}
+
 int ConfirmSave(CFittingWindow& window) {
     if (!window.hasModel) {
         return 0;
@@ -129,10 +133,7 @@ int ConfirmSave(CFittingWindow& window) {
     if (answer != Answer::Yes) {
         return static_cast<int>(answer);
     }
-    std::optional<std::string> path = caption;
-    if (caption.starts_with(UnsavedCaption)) {
-        path = context.ui.ChooseFile({"SaveAs", std::string(ProductTitle) + " Files (*.Kvt)|*.Kvt", true});
-    }
+    const std::optional<std::string> path = HasNoFile(window) ? ChooseSaveName(context.ui) : caption;
     // What was not written must not be thrown away with its window.
     return static_cast<int>(path && window.SaveFile(*path) ? Answer::Yes : Answer::Cancel);
 }

@@ -35,6 +35,12 @@ bool SaveFitting(CFittingWindow& window, const std::string& path);
 /// fault stays in the controls.
 CKvtFile LoadFitting(CFittingWindow& window, const std::string& path);
 
+/// Asks under which name a parameter file is to be saved; nothing after Cancel.
+std::optional<std::string> ChooseSaveName(UserInterface& ui);
+
+/// Says that the header of a parameter file is faulty.
+void ShowHeaderError(MessageBoxes& boxes, const std::exception& error);
+
 /// Says what is wrong with a parameter file that could not be read: a box of its own for a foreign product or
 /// a faulty header, before message 109.
 void ShowLoadError(ShellContext& context, const std::exception& error);

@@ -4,18 +4,13 @@
 #include "form/messages.h"
 
 namespace korvet {
-namespace {
-
-constexpr int NoHelpForThisItem = 50;
-
-}  // namespace
 
 void ShowHelp(MessageBoxes& boxes, const COptions& options, HelpViewer& help, int contextId) {
     if (!RequireHelp(boxes, help)) {
         return;
     }
     if (contextId == 0 || !help.ShowTopic(contextId)) {
-        ShowPlain(boxes, GetMessage(NoHelpForThisItem, options.Language));
+        ShowPlain(boxes, GetMessage(NoHelpForItem, options.Language));
     }
 }
 

@@ -114,7 +114,7 @@ bool CMainFrame::ReadCategory(const std::string& path) {
         ShowPlain(context_.ui, context_.Message(NotAValidFile));
         return false;
     } catch (const HeaderError& error) {
-        ShowPlain(context_.ui, std::string("Error in CKVTFile:ReadHeader  ") + error.what());
+        ShowHeaderError(context_.ui, error);
         return false;
     } catch (const std::exception& error) {
         ShowLoadError(context_, error);

@@ -99,7 +99,6 @@ class CMainFrame {
     void ZoomOut(CFittingWindow& child);
     void AlignedDimension(CFittingWindow& child);
     void MovePattern(CFittingWindow& child);
-    std::optional<std::string> ChooseSaveName();
 
     ShellContext& context_;
     FrameDesktop& desktop_;

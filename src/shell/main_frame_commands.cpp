@@ -5,6 +5,7 @@
 
 #include "core/constants.h"
 #include "shell/about.h"
+#include "shell/form_services.h"
 #include "shell/frame_menu.h"
 #include "shell/main_frame.h"
 #include "shell/new_fitting.h"
@@ -12,11 +13,6 @@
 
 namespace korvet {
 namespace {
-
-// Messages of the frame.
-constexpr int NothingToSave = 101;
-constexpr int OpenElsewhere = 108;
-constexpr int NoCadDrawing = 140;
 
 /// No message: without a window the command only greys those that need one.
 constexpr int Silent = 0;
@@ -142,12 +138,8 @@ void CMainFrame::FileClose(CFittingWindow& child) {
     CloseChild(child);
 }
 
-std::optional<std::string> CMainFrame::ChooseSaveName() {
-    return context_.ui.ChooseFile({"SaveAs", std::string(ProductTitle) + " Files (*.Kvt)|*.Kvt", true});
-}
-
 void CMainFrame::FileSave(CFittingWindow& child) {
-    if (const auto path = HasNoFile(child) ? ChooseSaveName() : child.controls.caption) {
+    if (const auto path = HasNoFile(child) ? ChooseSaveName(context_.ui) : child.controls.caption) {
         child.SaveFile(*path);
     }
 }
@@ -155,7 +147,7 @@ void CMainFrame::FileSave(CFittingWindow& child) {
 /// The caption is the name that later saves write to, so it goes back to what it was unless the file was
 /// written.
 void CMainFrame::FileSaveAs(CFittingWindow& child) {
-    const auto path = ChooseSaveName();
+    const auto path = ChooseSaveName(context_.ui);
     if (!path) {
         return;
     }

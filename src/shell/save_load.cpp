@@ -98,12 +98,16 @@ std::string LabelText(const std::shared_ptr<CLabels>& labels, std::size_t index)
 
 }  // namespace
 
+void ShowHeaderError(MessageBoxes& boxes, const std::exception& error) {
+    ShowPlain(boxes, std::string("Error in CKVTFile:ReadHeader  ") + error.what());
+}
+
 void ShowLoadError(ShellContext& context, const std::exception& error) {
     if (dynamic_cast<const ForeignProductError*>(&error) != nullptr) {
         ShowPlain(context.ui, context.Message(NotAValidFile), error.what());
     }
     if (dynamic_cast<const HeaderError*>(&error) != nullptr) {
-        ShowPlain(context.ui, std::string("Error in CKVTFile:ReadHeader  ") + error.what());
+        ShowHeaderError(context.ui, error);
     }
     ShowPlain(context.ui, context.Message(ErrorLoading), error.what());
 }

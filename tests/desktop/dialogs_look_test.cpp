@@ -9,6 +9,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTabWidget>
 #include <map>
 
@@ -247,6 +249,27 @@ class DialogLook : public QObject {
         });
     }
 
+    void WhatASmallScreenCannotHoldScrolls() {
+        const QFont usual = QApplication::font();
+        QFont font = usual;
+        font.setPointSizeF(usual.pointSizeF() * 3);
+        QApplication::setFont(font);
+        int scrolled = 0;
+        ForEach([&](const QString& dialog, QDialog& window) {
+            QApplication::processEvents();
+            const auto* area = window.findChild<QScrollArea*>();
+            if (area == nullptr) {
+                return;
+            }
+            const auto isTall = [&] { return area->widget()->height() > area->viewport()->height(); };
+            QTRY_VERIFY2(area->verticalScrollBar()->isVisible() == isTall(), qPrintable(dialog));
+            scrolled += isTall() ? 1 : 0;
+            QVERIFY2(window.height() <= window.screen()->availableSize().height(), qPrintable(dialog));
+        });
+        QApplication::setFont(usual);
+        QVERIFY(scrolled > 0);
+    }
+
     void AnEditCanBeReadOnADarkDesktop() {
         const QPalette usual = QApplication::palette();
         QApplication::setPalette(DarkPalette());
@@ -271,7 +294,7 @@ class DialogLook : public QObject {
         QVERIFY(QDir().mkpath(folder));
         const auto take = [&](const QString& suffix) {
             ForEach([&](const QString& dialog, QDialog& window) {
-                QApplication::processEvents();
+                QTest::qWait(50);  // for what scrolls to have its bars
                 QVERIFY(window.grab().save(QDir(folder).filePath(dialog + suffix)));
             });
         };

@@ -198,8 +198,8 @@ void Tiles::noTwoViewsLookAlike() {
     }
 }
 
-// The block is 10 by 8 by 8. A slanted view turns it by an eighth and looks down at 35 degrees; the edge
-// nearest to the eye is 8 high or, below the slope, 4.
+// The block is 10 by 8 by 8. A slanted view turns it by an eighth and looks down at 35 degrees; where the
+// slope is on the near side, the picture reaches from the foot of the near corner to the top of the far one.
 void Tiles::viewsShowTheBlockInTheirOwnProportions() {
     for (const int button : {1, 4, 7}) {
         QVERIFY(Close(Width(ViewPicture(button)), 10));
@@ -211,6 +211,11 @@ void Tiles::viewsShowTheBlockInTheirOwnProportions() {
     }
     for (const int button : {0, 2, 6, 8}) {
         QVERIFY(Close(Width(ViewPicture(button)), 18 / std::numbers::sqrt2));
+    }
+    const double down = 35 * std::numbers::pi / 180;
+    for (const int button : {2, 8}) {
+        QVERIFY(Close(Height(ViewPicture(button)),
+                      8 * std::cos(down) + 18 / std::numbers::sqrt2 * std::sin(down)));
     }
 }
 

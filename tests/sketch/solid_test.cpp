@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <numbers>
 
 #include "tests/sketch/solid_reading.h"
@@ -134,6 +135,35 @@ TEST(DrawSolid, TheOrderOfTheSurfacesDoesNotCountForTheOrderOfPainting) {
     EXPECT_NEAR(picture.faces[1].corners[0].x, -1, Near);
 }
 
+// The ramp's middle is nearer than the plate, but where they cover each other the ramp lies behind it.
+TEST(DrawSolid, WhatCountsIsTheDepthWhereFacesCoverEachOther) {
+    const CRuleSurf ramp = Strip({{-2, 10, 10}, {2, 10, 10}}, {{-2, -10, 0}, {2, -10, 0}});
+    const CRuleSurf plate = Strip({{-1, 1, 9}, {1, 1, 9}}, {{-1, 1, 8}, {1, 1, 8}});
+    for (const CRuleSurfs& model : {Model({ramp, plate}), Model({plate, ramp})}) {
+        const SolidPicture picture = DrawSolid(model, {.turn = 0, .tilt = 0});
+        ASSERT_EQ(picture.faces.size(), 2U);
+        EXPECT_NEAR(std::abs(picture.faces[0].corners[0].x), 2, Near);
+        EXPECT_NEAR(std::abs(picture.faces[1].corners[0].x), 1, Near);
+    }
+}
+
+// Two leaves of a plate, both before the eye, bent by an angle about an upright line.
+TEST(DrawSolid, ABendOfMoreThanTwentyDegreesIsAnEdge) {
+    for (const double angle : {15.0, 19.0, 21.0, 30.0}) {
+        const double slope = std::tan(angle * std::numbers::pi / 180);
+        const SolidPicture picture = DrawSolid(
+            Model({Strip({{0, 0, 1}, {1, 0, 1}, {2, slope, 1}}, {{0, 0, 0}, {1, 0, 0}, {2, slope, 0}})}),
+            {.turn = 0, .tilt = 0});
+        std::vector<Segment> expected = {
+            {{0, 0}, {2, 0}}, {{0, 1}, {2, 1}}, {{0, 0}, {0, 1}}, {{2, 0}, {2, 1}}};
+        if (angle > 20) {
+            expected.push_back({{1, 0}, {1, 1}});
+        }
+        ExpectSegments(Segments(picture), expected);
+        EXPECT_TRUE(Segments(picture, false).empty());
+    }
+}
+
 TEST(DrawSolid, ALineThatTwoPiecesShareIsDrawnOnce) {
     const CRuleSurfs pieces = Model({Strip({{0, 0, 2}, {4, 0, 2}}, {{0, 0, 1}, {4, 0, 1}}),
                                      Strip({{0, 0, 1}, {4, 0, 1}}, {{0, 0, 0}, {4, 0, 0}})});
@@ -158,8 +188,8 @@ TEST(DrawSolid, AShapeThatEndsInAPointIsMadeOfTriangles) {
     const C3DPoint apex = {0, 0, 5, 0};
     const SolidPicture picture =
         DrawSolid(Model({Strip(std::vector<C3DPoint>(5, apex), Rectangle(2, 2, 0))}), {.turn = 0, .tilt = 0});
-    // The walls at the sides rise from x = 2 and lean inward: their outer sides are on edge only in plan.
-    ASSERT_FALSE(picture.faces.empty());
+    // The walls at both sides stand on edge before the eye.
+    EXPECT_EQ(picture.faces.size(), 2U);
     for (const SolidFace& face : picture.faces) {
         EXPECT_EQ(face.corners.size(), 3U);
     }

@@ -20,7 +20,7 @@ namespace {
 // Sizes in twips.
 constexpr QSize AboutSize = {5600, 2800};
 constexpr QSize DisclaimerSize = {5600, 2400};
-constexpr QSize LogoSize = {4000, 2000};
+constexpr QSize LogoSize = {Pixels(2400), Pixels(1000)};
 
 /// Text that the user can select and copy, `larger` times the usual size.
 QLabel* AddText(ModelDialog& window, const std::string& controlName, const QString& text, double larger = 1) {
@@ -70,8 +70,7 @@ std::string SystemInformation() {
 void RunDialog(const DialogHost& host, const SplashDialog& dialog) {
     bool open = true;
     ModelDialog window(host, "frmSplash", dialog.caption, {dialog.place.width, dialog.place.height});
-    auto* logo =
-        new PaintedWidget({Pixels(LogoSize.width()), Pixels(LogoSize.height())}, PaintConeAndPattern);
+    auto* logo = new PaintedWidget(LogoSize, LogoSize, PaintConeAndPattern);
     logo->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     NameWidget(*logo, "pboxLogo", QStringLiteral("A cone beside its flat pattern"));
     window.Body().addWidget(logo, 1);

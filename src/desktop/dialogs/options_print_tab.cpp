@@ -41,10 +41,10 @@ QWidget* MakeSheet(ModelDialog& window, OptionsDialog& dialog) {
     auto* area = new QWidget;
     const Place& room = dialog.fraOrientation.place;
     area->setFixedSize(Pixels(room.width), Pixels(room.height));
-    auto* sheet = new PaintedWidget({0, 0}, PaintSheet);
+    auto* sheet = new PaintedWidget({0, 0}, {0, 0}, PaintSheet);
     sheet->setParent(area);
     NameWidget(*sheet, "pboxOrient", QStringLiteral("Sketch of the sheet"));
-    auto* printed = new PaintedWidget({0, 0}, PaintPrinted);
+    auto* printed = new PaintedWidget({0, 0}, {0, 0}, PaintPrinted);
     printed->setParent(sheet);
     NameWidget(*printed, "pboxOrientInner", QStringLiteral("Sketch of the print"));
     const auto put = [](QWidget& widget, const Place& place) {
@@ -103,9 +103,9 @@ QWidget* MakePrintTab(ModelDialog& window, OptionsDialog& dialog) {
     auto* left = new QVBoxLayout;
     auto* right = new QVBoxLayout;
     left->addWidget(MakeScale(window, dialog));
-    left->addWidget(MakeUnits(window, dialog));
     left->addWidget(MakeOrientation(window, dialog));
     left->addStretch();
+    right->addWidget(MakeUnits(window, dialog));
     right->addWidget(MakeCalibration(window, dialog));
     right->addWidget(MakeFrameSize(window, dialog));
     right->addStretch();

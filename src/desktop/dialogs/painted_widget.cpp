@@ -6,7 +6,8 @@
 
 namespace korvet::desktop {
 
-PaintedWidget::PaintedWidget(QSize minimum, Paint paint) : paint_(std::move(paint)) {
+PaintedWidget::PaintedWidget(QSize minimum, QSize preferred, Paint paint)
+    : preferred_(preferred), paint_(std::move(paint)) {
     setMinimumSize(minimum);
 }
 

@@ -15,15 +15,16 @@ class PaintedWidget final : public QWidget {
   public:
     using Paint = std::function<void(QPainter&, const QWidget&)>;
 
-    /// At least `minimum` pixels large.
-    PaintedWidget(QSize minimum, Paint paint);
+    /// At least `minimum` pixels large, and `preferred` where there is room.
+    PaintedWidget(QSize minimum, QSize preferred, Paint paint);
 
-    [[nodiscard]] QSize sizeHint() const override { return minimumSize(); }
+    [[nodiscard]] QSize sizeHint() const override { return preferred_; }
 
   protected:
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    QSize preferred_;
     Paint paint_;
 };
 

@@ -35,7 +35,7 @@ void AddPositions(ModelDialog& window, QGridLayout& grid, int row, const std::st
     const auto buttons = MakeOptions(window, controlName, group, "MIO", prefix);
     for (std::size_t i = 0; i < buttons.size(); ++i) {
         auto* picture = new PaintedWidget(
-            {Pixels(1300), Pixels(480)},
+            {Pixels(900), Pixels(300)}, {Pixels(1300), Pixels(480)},
             [i](QPainter& painter, const QWidget& widget) { PaintMeasuredWall(painter, widget, i); });
         NameWidget(*picture, "pbox" + controlName.substr(3) + "_" + std::to_string(i),
                    QStringLiteral("Picture: ") + prefix + Text(group.captions.at(i)));
@@ -121,11 +121,13 @@ QVBoxLayout* MakeLapSize(ModelDialog& window, PatternSettingsDialog& dialog, std
 
 /// The three lap sizes around their sketch, each beside its edge.
 void AddLapSizes(ModelDialog& window, PatternSettingsDialog& dialog, QGridLayout& grid) {
-    auto* sketch = new PaintedWidget({Pixels(2200), Pixels(1400)}, [&](QPainter& painter,
-                                                                       const QWidget& widget) {
-        PaintLaps(painter, widget,
-                  {dialog.txtLapSize[0].enabled, dialog.txtLapSize[1].enabled, dialog.txtLapSize[2].enabled});
-    });
+    auto* sketch = new PaintedWidget(
+        {Pixels(1800), Pixels(1000)}, {Pixels(2200), Pixels(1400)},
+        [&](QPainter& painter, const QWidget& widget) {
+            PaintLaps(
+                painter, widget,
+                {dialog.txtLapSize[0].enabled, dialog.txtLapSize[1].enabled, dialog.txtLapSize[2].enabled});
+        });
     sketch->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     NameWidget(*sketch, "pboxLapPosition", QStringLiteral("Sketch of the laps"));
     window.ShowBy([sketch] { sketch->update(); });

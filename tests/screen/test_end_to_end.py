@@ -1,0 +1,182 @@
+"""One day's work with the program in a real window: a cone from its sizes to the saved and exported pattern.
+
+    KORVET=PROGRAM [KORVET_PICTURES=FOLDER] tests/screen/on_a_screen /usr/bin/python3 tests/screen/test_end_to_end.py
+"""
+import math
+import re
+import unittest
+
+import ezdxf
+
+from korvet_screen import TITLE, ScreenTest
+
+R, SMALL_R, HEIGHT = 150.0, 60.0, 250.0  # of the cone that is typed
+SLANT = math.hypot(R, HEIGHT * R / (R - SMALL_R))  # of the whole cone, to its apex
+TOP_SLANT = SLANT * SMALL_R / R
+SECTOR = 2 * math.pi * R / SLANT  # the angle of its flat pattern
+FOLDS = 24
+LAP = 20.0
+READ = 0.0501  # the measuring box shows one decimal
+
+
+def at(angle, distance):
+    return distance * math.cos(angle), distance * math.sin(angle)
+
+
+FOOT, END_FOOT = at(0, SLANT), at(SECTOR, SLANT)
+HEAD = at(0, TOP_SLANT)
+
+
+class DrawnPattern:
+    """Where the points of the pattern stand on the screen, from the drawing of it alone."""
+
+    def __init__(self, test, screen):
+        rows = screen.drawing_pixels()
+        left, top, self.width, self.height = screen.drawing_area()
+        lit = [(y, row) for y, row in enumerate(rows) if row.strip(b"\0")]
+        test.assertTrue(lit, "nothing is drawn")
+        minx = min((len(row) - len(row.lstrip(b"\0"))) // 3 for _, row in lit)
+        maxx = max((len(row.rstrip(b"\0")) - 1) // 3 for _, row in lit)
+        stations = [at(SECTOR * i / FOLDS, d) for i in range(FOLDS + 1) for d in (SLANT, TOP_SLANT)]
+        self.low = min(p[0] for p in stations), min(p[1] for p in stations)
+        self.size = max(p[0] for p in stations) - self.low[0], max(p[1] for p in stations) - self.low[1]
+        self.scale = (maxx - minx) / self.size[0]
+        self.left, self.bottom = left + minx, top + lit[-1][0]
+        self.drawn_height = lit[-1][0] - lit[0][0]
+
+    def pixel(self, point):
+        return (round(self.left + (point[0] - self.low[0]) * self.scale),
+                round(self.bottom - (point[1] - self.low[1]) * self.scale))
+
+
+class EndToEnd(ScreenTest):
+    def measure(self, start, end):
+        """Drags between two places on the screen, and returns the distance that the box tells."""
+        self.screen.click("Measure distance", "push button")
+        self.screen.drag(start, end)
+        said = self.screen.answer(TITLE)
+        return float(re.match(r"Distance = ([\d.]+)\n", said).group(1))
+
+    def make_pattern(self):
+        screen = self.screen
+        screen.new_cone()
+        screen.fill_cone("300", "120", "250")
+        screen.picture("typed")
+        screen.click("View Model 1, slanted", "push button")
+        screen.wait_drawing("Model")
+        screen.picture("model")
+        screen.click("Create or update pattern", "push button")
+        screen.wait_drawing("Flat pattern")
+        screen.click("Zoom Extents", "push button")
+
+    def zoom_and_measure(self):
+        screen = self.screen
+        whole = screen.drawing_pixels()
+        pattern = DrawnPattern(self, screen)
+        screen.picture("pattern")
+        # The pattern is drawn in true proportion and fills the drawing area.
+        self.assertAlmostEqual(pattern.drawn_height, pattern.size[1] * pattern.scale, delta=3)
+        self.assertGreater(max(pattern.size[0] * pattern.scale / pattern.width,
+                               pattern.drawn_height / pattern.height), 0.8)
+        self.assertAlmostEqual(self.measure(pattern.pixel(FOOT), pattern.pixel(END_FOOT)),
+                               math.dist(FOOT, END_FOOT), delta=READ)
+
+        screen.click("Zoom Window", "push button")
+        screen.drag(pattern.pixel((HEAD[0] - 20, 60)), pattern.pixel((FOOT[0] + 20, -20)))
+        screen.wait(lambda: screen.drawing_pixels() != whole, "zoomed drawing")
+        screen.picture("zoomed")
+        rows = screen.drawing_pixels()
+        left, top, width, height = screen.drawing_area()
+        # The lowest line is now the seam, all of it, and about as long as the box was wide.
+        y = max(i for i, row in enumerate(rows) if len(row.strip(b"\0")) > 3 * width // 2)
+        x1 = (len(rows[y]) - len(rows[y].lstrip(b"\0"))) // 3
+        x2 = (len(rows[y].rstrip(b"\0")) - 1) // 3
+        share = (SLANT - TOP_SLANT) / (SLANT - TOP_SLANT + 40)
+        self.assertAlmostEqual((x2 - x1) / width, share, delta=0.05)
+        self.assertAlmostEqual(self.measure((left + x1 + 3, top + y - 2), (left + x2 - 3, top + y + 2)),
+                               SLANT - TOP_SLANT, delta=READ)
+
+        screen.click("Zoom Previous", "push button")
+        screen.wait(lambda: screen.drawing_pixels() == whole, "drawing as it was before the zoom")
+
+    def set_lap_and_thickness(self):
+        screen = self.screen
+        self.assertEqual(screen.status().split(" | ")[1], "Thickness = 0")
+        before = screen.drawing_pixels()
+        screen.key("ctrl+e")
+        screen.wait_active("Settings")
+        screen.fill("Thickness", "3")
+        screen.click("Lap", "radio button")
+        screen.fill("Lap size, seam", "20")
+        screen.picture("settings")
+        screen.click("OK", "push button")
+        screen.wait_active("Main window")
+        screen.wait(lambda: "| Thickness = 3 |" in screen.status(), "thickness in the status bar")
+        screen.wait(lambda: screen.drawing_pixels() != before, "pattern with a lap")
+        screen.click("Zoom Extents", "push button")
+
+    def check_drawing_file(self):
+        """The outline of the exported pattern: two arcs, the seam, and the lap beside the other seam edge."""
+        document = ezdxf.readfile(self.folder / "first cone.DXF")
+        self.assertFalse(document.audit().errors)
+        space = document.modelspace()
+        swept = {}
+        for arc in space.query("ARC"):
+            turn = (arc.dxf.end_angle - arc.dxf.start_angle) % 360
+            radius = round(arc.dxf.radius, 2)
+            swept[radius] = swept.get(radius, 0) + math.radians(turn) * arc.dxf.radius
+        # The sizes were measured on the mean of the sheet, so that the thickness changes no length.
+        self.assertAlmostEqual(swept[round(SLANT, 2)], math.pi * 2 * R, delta=1e-3)
+        self.assertAlmostEqual(swept[round(TOP_SLANT, 2)], math.pi * 2 * SMALL_R, delta=1e-3)
+        cut = [math.dist(line.dxf.start, line.dxf.end) for line in space.query("LINE[layer=='CutLayer']")]
+        seams = [length for length in cut if abs(length - (SLANT - TOP_SLANT)) < 1e-4]
+        ends = [length for length in cut if abs(length - LAP) < 1e-4]
+        self.assertEqual((len(seams), len(ends), len(cut)), (2, 2, 4), cut)
+
+    def test_first_cone(self):
+        screen = self.run_to_frame()
+        screen.picture("frame")
+        self.make_pattern()
+        self.zoom_and_measure()
+        self.set_lap_and_thickness()
+        finished = screen.drawing_pixels()
+        screen.picture("lapped")
+
+        screen.key("ctrl+s")
+        screen.choose_file("SaveAs", "first cone")
+        saved = self.folder / "first cone.Kvt"
+        screen.wait(saved.exists, "saved file")
+        screen.wait(lambda: screen.children() == [str(saved)], "title of the saved window")
+
+        screen.menu("f", "Export DXF...")
+        screen.choose_file("Export DXF", "first cone")
+        exported = self.folder / "first cone.DXF"
+        screen.wait_active(f"Exporting {exported}")
+        screen.picture("export")
+        screen.key("Return")
+        self.assertEqual(screen.answer(TITLE), f"DXF successfully saved to: {exported}")
+        self.check_drawing_file()
+
+        screen.key("ctrl+w")
+        self.assertEqual(screen.answer(TITLE, "No"), f"Save parameter file for {saved}")
+        screen.wait(lambda: screen.children() == [], "empty frame")
+
+        screen.click("Open", "push button")
+        screen.choose_file("Open", "first cone.Kvt")
+        screen.wait(lambda: screen.children() == [str(saved)], "opened window")
+        self.assertEqual(screen.cone_boxes(), ["300", "120", "250"])
+        self.assertEqual(screen.drawing(), "Flat pattern")
+        self.assertEqual(screen.drawing_pixels(), finished, "the opened pattern is drawn otherwise")
+        self.assertIn("| Thickness = 3 |", screen.status())
+        screen.picture("reopened")
+        lines = saved.read_text().split("\n")
+        settings = lines[lines.index("Start Pattern Settings") + 1:lines.index("End Pattern Settings")]
+        self.assertEqual((settings[0], settings[10:12]), ("3", ["20", "0"]), settings)
+
+        screen.key("alt+f", "x")
+        screen.answer(TITLE, "No")
+        self.assertEqual(screen.wait_end(), 0)
+
+
+if __name__ == "__main__":
+    unittest.main()
