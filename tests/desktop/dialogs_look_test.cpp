@@ -12,6 +12,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTabWidget>
+#include <QTemporaryDir>
 #include <map>
 
 #include "desktop/dialogs/about_dialogs.h"
@@ -287,10 +288,8 @@ class DialogLook : public QObject {
     }
 
     void PicturesAreTaken() {
-        const QString folder = qEnvironmentVariable("KORVET_PICTURES");
-        if (folder.isEmpty()) {
-            QSKIP("KORVET_PICTURES names no folder");
-        }
+        const QTemporaryDir otherwise;
+        const QString folder = qEnvironmentVariable("KORVET_PICTURES", otherwise.path());
         QVERIFY(QDir().mkpath(folder));
         const auto take = [&](const QString& suffix) {
             ForEach([&](const QString& dialog, QDialog& window) {

@@ -1,5 +1,6 @@
 #include "desktop/dialogs/message_box.h"
 
+#include <QGridLayout>
 #include <QLabel>
 #include <QMessageBox>
 
@@ -58,6 +59,15 @@ Answer AnswerOf(int button) {
     }
 }
 
+/// Makes the box wide enough for its title, for which the frame of a window leaves little beside its buttons.
+void LeaveRoomForTitle(QMessageBox& box) {
+    constexpr int FrameButtons = 160;
+    const int width = box.fontMetrics().horizontalAdvance(box.windowTitle()) + FrameButtons;
+    if (auto* const grid = qobject_cast<QGridLayout*>(box.layout())) {
+        grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+    }
+}
+
 /// A text with the line breaks of the toolkit.
 QString Lines(const std::string& text) {
     return Text(text).replace(QLatin1String("\r\n"), QLatin1String("\n"));
@@ -77,6 +87,7 @@ Answer RunMessageBox(QWidget* parent, const MessageBox& message) {
         label->setTextFormat(Qt::PlainText);
     }
     AddButtons(box, message.style);
+    LeaveRoomForTitle(box);
     return AnswerOf(box.exec());
 }
 
