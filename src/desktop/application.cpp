@@ -43,12 +43,12 @@ struct Application {
     HelpWindow help{HelpWindow::FileBesideProgram(), SketchOfPage};
 };
 
-void OpenFiles(MainWindow& window, const QStringList& files) {
-    for (const QString& file : files) {
-        // A caption is the file's name for later saves, so it is whole.
-        window.Frame().OpenFile(QFileInfo(file).absoluteFilePath().toStdString());
-        window.Project();
+/// A caption is the file's name for later saves, so it must not hang on the current folder.
+QStringList WholeNames(QStringList files) {
+    for (QString& file : files) {
+        file = QFileInfo(file).absoluteFilePath();
     }
+    return files;
 }
 
 }  // namespace
@@ -67,10 +67,7 @@ int RunApplication(const QStringList& files) {
     application.ui.showHelp = window.HelpByContext();
     window.Place(application.settings.Get("MainWidth").has_value());
     window.show();
-    QTimer::singleShot(0, &window, [&] {
-        window.Frame().Activate();
-        OpenFiles(window, files);
-    });
+    QTimer::singleShot(0, &window, [&] { window.Start(WholeNames(files)); });
     return QApplication::exec();
 }
 

@@ -63,10 +63,16 @@ void DrawingArea::Project() {
         return;
     }
     const korvet::DrawingArea& model = window_->controls.pboxGraphicWindow;
-    setCursor(ShapeOf(model.mousePointer));
+    ShowPointer();
     setToolTip(Text(model.toolTip));
     setAccessibleDescription(Description());
     update();
+}
+
+void DrawingArea::ShowPointer() {
+    if (window_ != nullptr) {
+        setCursor(ShapeOf(window_->controls.pboxGraphicWindow.mousePointer));
+    }
 }
 
 QString DrawingArea::Description() const {

@@ -22,6 +22,9 @@ class DrawingArea : public QWidget {
     /// Pointer, tool tip, bands and description as the window's model has them.
     void Project();
 
+    /// The mouse pointer alone.
+    void ShowPointer();
+
     /// A point of the widget in the drawing plane, by the scale of the last drawing. Not after Detach.
     [[nodiscard]] WorldPoint ToDrawing(QPointF position) const;
 

@@ -1,6 +1,6 @@
 #include "desktop/fitting_view.h"
 
-#include <QEvent>
+#include <QFocusEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -33,6 +33,15 @@ Place PlaceOf(const QRect& rect) {
     return {TwipsOf(rect.x()), TwipsOf(rect.y()), TwipsOf(rect.width()), TwipsOf(rect.height())};
 }
 
+/// At once, before the next key comes; a click takes the selection away again, so there it waits for its end.
+void SelectOnEntry(QLineEdit& box, Qt::FocusReason reason) {
+    if (reason == Qt::MouseFocusReason) {
+        QTimer::singleShot(0, &box, &QLineEdit::selectAll);
+    } else {
+        box.selectAll();
+    }
+}
+
 /// What a screen reader says of a view button; the tool tip is the same for all of them.
 QString ViewName(int button) {
     static const std::array<const char*, 10> names = {
@@ -60,21 +69,41 @@ FittingView::FittingView(CFittingWindow& window, QWidget* parent)
     layout->addWidget(drawing_, 1);
     AddShortcuts();
     ShowIcons();
+    window.controls.showPointer = [this] { ShowPointer(); };
     Project();
+}
+
+FittingView::~FittingView() {
+    Detach();
 }
 
 void FittingView::Detach() {
     drawing_->Detach();
-    window_ = nullptr;
+    if (window_ != nullptr) {
+        window_->controls.showPointer = nullptr;
+        window_ = nullptr;
+    }
 }
 
-/// Runs an event of the model and shows what came of it. The window may be gone afterwards.
+void FittingView::ShowPointer() {
+    setCursor(window_->controls.mousePointer == Cursor::Hourglass ? Qt::WaitCursor : Qt::ArrowCursor);
+    drawing_->ShowPointer();
+}
+
+/// Runs an event of the model and shows what came of it. The window may be gone afterwards. Nothing that is
+/// thrown may reach the toolkit, which would end the program and the user's work with it.
 template <typename Action>
 void FittingView::Do(Action action) {
-    if (window_ != nullptr) {
-        action(*window_);
-        After();
+    if (window_ == nullptr) {
+        return;
     }
+    UserInterface& ui = window_->Context().ui;
+    try {
+        action(*window_);
+    } catch (const std::exception& error) {
+        ShowPlain(ui, error.what());
+    }
+    After();
 }
 
 void FittingView::After() {
@@ -160,7 +189,6 @@ QWidget* FittingView::MakeTextSize(QWidget* parent) {
     textSize_ = new QLineEdit(frame);
     NameWidget(*textSize_, "txtTextSize", tr("Text size of drawn texts"));
     textSize_->setFocusPolicy(Qt::ClickFocus);
-    textSize_->setAcceptDrops(false);
     textSize_->setFixedWidth(textSize_->fontMetrics().horizontalAdvance(QStringLiteral("00000000")));
     textSizeLabel_->setBuddy(textSize_);
     layout->addWidget(textSizeLabel_);
@@ -242,6 +270,7 @@ void FittingView::AddShortcuts() {
     add(QStringLiteral("Ctrl+PgDown"), [this] { typeButtons_[0]->click(); });
     add(QStringLiteral("Ctrl+PgUp"), [this] { typeButtons_[1]->click(); });
     add(QStringLiteral("Ctrl+T"), [this] { textSize_->setFocus(Qt::ShortcutFocusReason); });
+    add(QStringLiteral("Ctrl+D"), [this] { drawing_->setFocus(Qt::ShortcutFocusReason); });
     add(QStringLiteral("Ctrl+E"), [this] { settings_->click(); });
 }
 
@@ -249,6 +278,7 @@ void FittingView::AddShortcuts() {
 template <typename Change>
 void FittingView::Connect(QLineEdit* edit, TextBox& box, Change change) {
     edit->installEventFilter(this);
+    edit->setAcceptDrops(false);  // a file dropped on a box is one for the frame
     connect(edit, &QLineEdit::textEdited, this, [this, edit, &box, change](const QString& text) {
         Do([&](CFittingWindow& window) {
             window.controls.focus = shownFocus_ = box.name;
@@ -263,14 +293,17 @@ void FittingView::Connect(QLineEdit* edit, TextBox& box, Change change) {
     });
 }
 
-/// A box that gains the focus has all its text selected; a click that brings the focus selects it too.
+/// A box that gains the focus has all its text selected; a click that brings the focus selects it too. One
+/// that gets it back, from a menu or another program, goes on as it was left: the next key must not type over
+/// what stands there.
 bool FittingView::eventFilter(QObject* watched, QEvent* event) {
-    if (window_ != nullptr && event->type() == QEvent::FocusIn) {
+    if (window_ != nullptr && event->type() == QEvent::FocusIn &&
+        watched->objectName().toStdString() != window_->controls.focus) {
         for (std::size_t i = 0; i < boxes_.size(); ++i) {
             if (boxes_[i] == watched) {
                 window_->FocusBox(i);
                 shownFocus_ = window_->controls.focus;
-                QTimer::singleShot(0, boxes_[i], &QLineEdit::selectAll);
+                SelectOnEntry(*boxes_[i], static_cast<const QFocusEvent&>(*event).reason());
             }
         }
         if (watched == textSize_ || watched == drawing_) {
@@ -305,6 +338,22 @@ void FittingView::ShowIcons() {
     typeButtons_[1]->setIcon(ToolIcon("PreviousType"));
     settings_->setIcon(ToolIcon("Properties"));
     close_->setIcon(ToolIcon("Close"));
+}
+
+void FittingView::SpeakWindow(const QString& name) {
+    if (name == spokenWindow_) {
+        return;
+    }
+    const auto suffix = [](const QString& window) { return window.isEmpty() ? window : ", " + window; };
+    const QString before = suffix(spokenWindow_);
+    QList<QWidget*> widgets = findChildren<QWidget*>();
+    widgets.append(this);
+    for (QWidget* widget : widgets) {
+        if (!widget->accessibleName().isEmpty()) {
+            widget->setAccessibleName(widget->accessibleName().chopped(before.size()) + suffix(name));
+        }
+    }
+    spokenWindow_ = name;
 }
 
 void FittingView::TakeShape(int state) {
@@ -346,7 +395,7 @@ void FittingView::Project() {
     redraw_->setText(Text(model.btnRedraw.caption));
     ShowControl(*settings_, model.btnSettings);
     ShowControl(*close_, model.btnClose);
-    setCursor(model.mousePointer == Cursor::Hourglass ? Qt::WaitCursor : Qt::ArrowCursor);
+    ShowPointer();
     drawing_->Project();
     ProjectFocus();
 }

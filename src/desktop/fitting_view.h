@@ -26,6 +26,7 @@ class FittingView : public QWidget {
   public:
     /// Builds the widgets of the window's table. The window must outlive the view or be taken away by Detach.
     FittingView(CFittingWindow& window, QWidget* parent);
+    ~FittingView() override;
 
     /// Cuts the view off its window, which is about to go.
     void Detach();
@@ -34,6 +35,10 @@ class FittingView : public QWidget {
 
     /// Shows what the model says, focus and selection included.
     void Project();
+
+    /// Adds the name of the window to the spoken name of each control, so that none is the same in two
+    /// windows side by side; nothing for the window that is worked in.
+    void SpeakWindow(const QString& name);
 
     /// Puts the focus into the first box of the page, where typing begins.
     void FocusFirstBox();
@@ -63,6 +68,7 @@ class FittingView : public QWidget {
     template <typename Change>
     void Connect(QLineEdit* edit, TextBox& box, Change change);
     void ShowIcons();
+    void ShowPointer();
     void ProjectFocus();
     void After();
 
@@ -85,6 +91,7 @@ class FittingView : public QWidget {
     QToolButton* close_ = nullptr;
     QGroupBox* patternFrame_ = nullptr;
     std::string shownFocus_;
+    QString spokenWindow_;
 };
 
 }  // namespace korvet::desktop

@@ -1,19 +1,21 @@
 #include "desktop/main_window.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QDropEvent>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QMenu>
 #include <QMimeData>
 #include <QScreen>
+#include <QSet>
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
 #include <QUrl>
 #include <algorithm>
+#include <utility>
 
 #include "desktop/bindings.h"
 #include "desktop/category_menu_window.h"
@@ -42,7 +44,39 @@ int ShapeOf(Qt::WindowStates states) {
     return states.testFlag(Qt::WindowMaximized) ? MaximisedWindow : NormalWindow;
 }
 
+QStringList LocalFiles(const QMimeData& data) {
+    QStringList paths;
+    for (const QUrl& url : data.urls()) {
+        if (url.isLocalFile()) {
+            paths.append(url.toLocalFile());
+        }
+    }
+    return paths;
+}
+
+/// Whether a dialog is open: a window may be waiting for it and must not go under it.
+bool IsBusy() {
+    return QApplication::activeModalWidget() != nullptr;
+}
+
 }  // namespace
+
+QRect OnScreen(QRect place, const QList<QRect>& screens) {
+    const auto shared = [&](const QRect& screen) {
+        const QRect both = screen.intersected(place);
+        return static_cast<double>(both.width()) * both.height();
+    };
+    const auto screen =
+        std::max_element(screens.begin(), screens.end(),
+                         [&](const QRect& one, const QRect& other) { return shared(one) < shared(other); });
+    if (screen == screens.end()) {
+        return place;
+    }
+    place.setSize(place.size().boundedTo(screen->size()));
+    place.moveLeft(std::clamp(place.left(), screen->left(), screen->right() + 1 - place.width()));
+    place.moveTop(std::clamp(place.top(), screen->top(), screen->bottom() + 1 - place.height()));
+    return place;
+}
 
 ChildWindow::ChildWindow(CFittingWindow& window, QWidget* parent)
     : QMdiSubWindow(parent), view_(new FittingView(window, this)) {
@@ -66,7 +100,7 @@ void ChildWindow::Project() {
 
 void ChildWindow::closeEvent(QCloseEvent* event) {
     CFittingWindow* window = view_->Window();
-    const bool may = window == nullptr || mayClose(*window);
+    const bool may = window == nullptr || (!IsBusy() && mayClose(*window));
     event->setAccepted(may);
 }
 
@@ -90,6 +124,7 @@ MainWindow::MainWindow(ShellContext& context, HelpViewer& help, SettingsStore& s
 }
 
 MainWindow::~MainWindow() {
+    area_->disconnect(this);  // it goes after the frame, and tells of its windows to the last
     for (QMdiSubWindow* child : area_->subWindowList()) {
         static_cast<ChildWindow*>(child)->View().Detach();
     }
@@ -102,17 +137,16 @@ korvet::Place MainWindow::OuterPlace() const {
 }
 
 void MainWindow::Place(bool remembered) {
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     QRect place(frame_.place.left / PlaceTwips, frame_.place.top / PlaceTwips,
                 frame_.place.width / PlaceTwips, frame_.place.height / PlaceTwips);
     if (!remembered) {
         place.setSize(place.size().expandedTo(ComfortableSize));
     }
-    // A frame left on a screen that is gone comes back on one that is there.
-    place.setSize(place.size().boundedTo(screen.size()));
-    place.moveLeft(std::clamp(place.left(), screen.left(), screen.right() + 1 - place.width()));
-    place.moveTop(std::clamp(place.top(), screen.top(), screen.bottom() + 1 - place.height()));
-    setGeometry(place);
+    QList<QRect> screens;
+    for (const QScreen* screen : QGuiApplication::screens()) {  // the primary one stands first
+        screens.append(screen->availableGeometry());
+    }
+    setGeometry(OnScreen(place, screens));
 }
 
 void MainWindow::Project() {
@@ -122,12 +156,36 @@ void MainWindow::Project() {
     ProjectMenus();
     ProjectToolBar();
     const FrameModel& model = frame_.Context().frame;
-    setWindowTitle(Title(model.caption));
+    const QString title = Title(model.caption);
+    if (!windowTitle().startsWith(title)) {  // the area adds the name of a maximised window
+        setWindowTitle(title);
+    }
     statusText_->setText(Text(model.statusText));
     toolBar_->setVisible(model.toolBarVisible);
     statusBar()->setVisible(model.statusBarVisible);
     for (QMdiSubWindow* child : area_->subWindowList()) {
         static_cast<ChildWindow*>(child)->Project();
+    }
+    SpeakWindows();
+}
+
+/// The controls of the active window have their plain names, those of each other window its name too.
+void MainWindow::SpeakWindows() {
+    const QList<QMdiSubWindow*> children = area_->subWindowList();
+    QSet<QString> spoken;
+    for (QMdiSubWindow* child : children) {
+        FittingView& view = static_cast<ChildWindow*>(child)->View();
+        if (view.Window() == nullptr || view.Window() == frame_.ActiveChild()) {
+            view.SpeakWindow({});
+            continue;
+        }
+        const QString caption = Text(view.Window()->controls.caption);
+        QString name = caption;
+        for (int i = 2; spoken.contains(name); ++i) {  // a file can be open twice
+            name = QStringLiteral("%1 (%2)").arg(caption).arg(i);
+        }
+        spoken.insert(name);
+        view.SpeakWindow(name);
     }
 }
 
@@ -172,7 +230,14 @@ void MainWindow::RemoveWindow(CFittingWindow& window) {
     child->hide();
     area_->removeSubWindow(child);
     child->deleteLater();
-    TakeActive(area_->activeSubWindow());
+    // The area does not go on to another window while a message box or another program is in front.
+    QMdiSubWindow* next = area_->activeSubWindow();
+    const QList<QMdiSubWindow*> left = area_->subWindowList(QMdiArea::ActivationHistoryOrder);
+    if (next == nullptr && !left.isEmpty()) {
+        next = left.last();
+        area_->setActiveSubWindow(next);
+    }
+    TakeActive(next);
 }
 
 void MainWindow::TakeActive(QMdiSubWindow* child) {
@@ -185,6 +250,7 @@ void MainWindow::TakeActive(QMdiSubWindow* child) {
     if (statusText_ != nullptr) {
         statusText_->setText(Text(frame_.Context().frame.statusText));
     }
+    SpeakWindows();
 }
 
 void MainWindow::Arrange(Arrangement arrangement) {
@@ -232,6 +298,10 @@ bool MainWindow::IsFileAlreadyOpen(const std::string& path) const {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+    if (IsBusy()) {
+        event->ignore();
+        return;
+    }
     const bool may = frame_.QueryUnload(OuterPlace(), isMinimized());
     closing_ = may;
     event->setAccepted(may);
@@ -242,8 +312,19 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 void MainWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
-        QTimer::singleShot(0, this, [this] { frame_.Activate(); });
+        QTimer::singleShot(0, this, [this] { Start({}); });
     }
+}
+
+void MainWindow::Start(const QStringList& files) {
+    startFiles_ += files;
+    if (starting_) {
+        return;  // the splash is up, and the files come after it
+    }
+    starting_ = true;
+    frame_.Activate();
+    starting_ = false;
+    OpenFiles(std::exchange(startFiles_, {}));
 }
 
 void MainWindow::resizeEvent(QResizeEvent* event) {
@@ -257,26 +338,22 @@ void MainWindow::TakeInnerSize() {
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-    if (event->mimeData()->hasUrls()) {
+    if (!IsBusy() && !LocalFiles(*event->mimeData()).isEmpty()) {
         event->acceptProposedAction();
     }
 }
 
 void MainWindow::dropEvent(QDropEvent* event) {
     event->acceptProposedAction();
-    QStringList paths;
-    for (const QUrl& url : event->mimeData()->urls()) {
-        if (url.isLocalFile()) {
-            paths.append(url.toLocalFile());
-        }
-    }
     // The sender of the drop must not wait for message boxes.
-    QTimer::singleShot(0, this, [this, paths] {
-        for (const QString& path : paths) {
-            frame_.OpenFile(path.toStdString());
-            Project();
-        }
-    });
+    QTimer::singleShot(0, this, [this, paths = LocalFiles(*event->mimeData())] { OpenFiles(paths); });
+}
+
+void MainWindow::OpenFiles(const QStringList& paths) {
+    for (const QString& path : paths) {
+        frame_.OpenFile(path.toStdString());
+        Project();
+    }
 }
 
 }  // namespace korvet::desktop

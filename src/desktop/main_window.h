@@ -42,6 +42,10 @@ class ChildWindow : public QMdiSubWindow {
     FittingView* view_;
 };
 
+/// Where a window left at `place` comes up: within the screen that has most of it, or the first one when its
+/// screen is gone. Pixels.
+QRect OnScreen(QRect place, const QList<QRect>& screens);
+
 class MainWindow : public QMainWindow, public FrameDesktop {
     Q_OBJECT
   public:
@@ -58,6 +62,9 @@ class MainWindow : public QMainWindow, public FrameDesktop {
 
     /// Takes the place where the frame was left, or a comfortable one on its first start.
     void Place(bool remembered);
+
+    /// The splash at the first activation, and after it these files, by their whole names.
+    void Start(const QStringList& files);
 
     void ShowWindow(CFittingWindow& window) override;
     void RemoveWindow(CFittingWindow& window) override;
@@ -77,12 +84,14 @@ class MainWindow : public QMainWindow, public FrameDesktop {
     void dropEvent(QDropEvent* event) override;
 
   private:
+    void OpenFiles(const QStringList& paths);
     void MakeMenus();
     void MakeToolBar();
     void MakeStatusBar();
     void ShowClock();
     void TakeActive(QMdiSubWindow* child);
     void TakeInnerSize();
+    void SpeakWindows();
     void ProjectMenus();
     void ProjectToolBar();
     void TileWindows(bool sideBySide);
@@ -102,6 +111,8 @@ class MainWindow : public QMainWindow, public FrameDesktop {
     QLabel* statusText_ = nullptr;
     QLabel* date_ = nullptr;
     QLabel* time_ = nullptr;
+    QStringList startFiles_;
+    bool starting_ = false;  ///< the splash is up
     bool closing_ = false;
 };
 

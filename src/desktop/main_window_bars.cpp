@@ -7,6 +7,7 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
@@ -74,7 +75,9 @@ void MainWindow::MakeToolBar() {
         last = entry.position;
         auto* button = new QToolButton(toolBar_);
         const QString tip = Text(ResString(entry.toolTip));
-        NameWidget(*button, "tbToolBar_" + std::to_string(entry.position), tip.trimmed());
+        // The menu of the same name is shown beside it.
+        const QString spoken = entry.key == "Help" ? tr("Help in context") : tip.trimmed();
+        NameWidget(*button, "tbToolBar_" + std::to_string(entry.position), spoken);
         button->setToolTip(tip);
         button->setIcon(ToolIcon(std::string(entry.key)));
         button->setIconSize(toolBar_->iconSize());
@@ -85,6 +88,11 @@ void MainWindow::MakeToolBar() {
             frame_.ClickTool(position);
             Project();
         });
+        if (!entry.shortcut.empty()) {
+            // Not the button's own, which would be gone with a hidden tool bar.
+            auto* shortcut = new QShortcut(QKeySequence(Text(std::string(entry.shortcut))), this);
+            connect(shortcut, &QShortcut::activated, button, [button] { button->click(); });
+        }
         toolBar_->addWidget(button);
         tools_[entry.position] = button;
     }

@@ -5,7 +5,9 @@
 namespace korvet::desktop {
 
 void ScreenDevice::Cls(Color backColor) {
-    painter_.end();
+    if (painter_.isActive()) {
+        painter_.end();
+    }
     const double ratio = pixelRatio();
     const QSize wanted = size() * ratio;
     if (image_.size() != wanted) {

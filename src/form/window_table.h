@@ -74,6 +74,22 @@ struct WindowTable {
     }
 };
 
+/// The pattern settings that a window of the table starts with, at `segs` fold lines. The laps that the fitting
+/// has are the catalogue's matter.
+inline CPatternSettings StartSettings(const WindowTable& table, int segs) {
+    CPatternSettings settings;
+    settings.segs = segs;
+    settings.JoinAngleDisable = table.joinAngleDisable;
+    settings.HalfPatternDisable = table.halfPatternDisable;
+    settings.TemplateTypeEnabled = table.templateTypeEnabled;
+    settings.KerfEnabled = table.kerfEnabled;
+    settings.MaterialDisable = table.materialDisable;
+    settings.BranchMaterialEnable = table.branchMaterialEnable;
+    settings.InOutMean = table.inOutMean;
+    settings.PositionString = PositionWord(table.inOutMean);
+    return settings;
+}
+
 /// The functions of a window's table for a fitting of class T, from a build function that knows the class.
 template <FittingClass T, bool (*Build)(FittingForm&, T&)>
 bool BuildAs(FittingForm& form, const FittingHandle& fitting) {

@@ -33,16 +33,8 @@ CFittingWindow::CFittingWindow(ShellContext& context, const CatalogueRow& row, D
 /// The defaults of the window and the flags of its pattern settings.
 void CFittingWindow::InitialiseFitting() {
     const WindowTable& table = Table();
-    settings.segs = context_.options.DefaultSegs;
+    settings = StartSettings(table, context_.options.DefaultSegs);
     settings.LapEnable = row_->lapEnable;
-    settings.JoinAngleDisable = table.joinAngleDisable;
-    settings.HalfPatternDisable = table.halfPatternDisable;
-    settings.TemplateTypeEnabled = table.templateTypeEnabled;
-    settings.KerfEnabled = table.kerfEnabled;
-    settings.MaterialDisable = table.materialDisable;
-    settings.BranchMaterialEnable = table.branchMaterialEnable;
-    settings.InOutMean = table.inOutMean;
-    settings.PositionString = PositionWord(table.inOutMean);
     dtype = table.firstDtype;
     miscellaneous = table.miscellaneous;
     controls.Picture1.resize(table.pages.size());

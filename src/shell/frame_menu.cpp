@@ -132,7 +132,7 @@ constexpr std::array ToolBar = {
     ToolButton{11, "DimensionOptions", "Dimension Options", "mnuDimensionOptions"},
     ToolButton{12, "AlignedDimension", "Add dimension", "mnuAlignedDim"},
     ToolButton{13, "RemoveDimension", "Remove Dimension", "mnuRemoveDim"},
-    ToolButton{14, "AddLabel", "Add / Remove the label ", ""},
+    ToolButton{14, "AddLabel", "Add / Remove the label ", "", false, "Ctrl+L"},
     ToolButton{16, "MovePattern", "Move pattern", "mnuMovePattern"},
     ToolButton{17, "RotatePattern", "Rotate pattern", "mnuRotatePattern"},
     ToolButton{19, "ZoomIn", "Zoom in", "mnuZoomIn"},

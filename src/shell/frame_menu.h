@@ -27,6 +27,7 @@ struct ToolButton {
     std::string_view toolTip;  ///< key of a string resource, or the text itself
     std::string_view menu;     ///< control name of the menu entry that does the same; empty: none does
     bool checkable = false;
+    std::string_view shortcut = {};  ///< of a button that no menu entry stands for; empty: none
 };
 
 std::span<const ToolButton> FrameToolBar();

@@ -160,6 +160,20 @@ bool CMainFrame::AskAllToClose() {
     });
 }
 
+/// At the end of the session the desktop closes a dialog together with the frame, and the command that showed
+/// it has yet to come back: its window stays whole until the frame goes.
+void CMainFrame::RemoveAll() {
+    leaving_ = std::move(children_);
+    children_.clear();
+    active_ = nullptr;
+    for (auto window = leaving_.rbegin(); window != leaving_.rend(); ++window) {
+        (*window)->closed = true;
+        desktop_.RemoveWindow(**window);
+    }
+    active_ = nullptr;
+    context_.frame.statusText.clear();
+}
+
 bool CMainFrame::QueryUnload(const Place& last, bool minimised) {
     bool unloads = false;
     Guarded([&] {
@@ -168,10 +182,7 @@ bool CMainFrame::QueryUnload(const Place& last, bool minimised) {
         }
         unloads = true;
         context_.patternSettingsDialog = PatternSettingsDialog();
-        while (!children_.empty()) {
-            children_.back()->closed = true;
-            Remove(*children_.back());
-        }
+        RemoveAll();
         if (!minimised) {
             SavePlace(last);
         }

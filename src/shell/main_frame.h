@@ -67,6 +67,7 @@ class CMainFrame {
     bool ReadCategory(const std::string& path);
     bool AskAllToClose();
     void Remove(CFittingWindow& window);
+    void RemoveAll();
     void SavePlace(const Place& last);
     [[nodiscard]] int StoredTwips(const std::string& key, int otherwise, int lowest) const;
 
@@ -105,6 +106,7 @@ class CMainFrame {
     HelpViewer& help_;
     SettingsStore& settings_;
     std::vector<std::unique_ptr<CFittingWindow>> children_;
+    std::vector<std::unique_ptr<CFittingWindow>> leaving_;  ///< of a frame that is closed
     CFittingWindow* active_ = nullptr;
     std::string pendingCategory_;
     bool splashShown_ = false;

@@ -87,6 +87,9 @@ bool CFittingWindow::MouseDown(MouseButton button, float x, float y) {
             return true;
         });
     }
+    if (button == MouseButton::Right) {
+        EndRubberBand();  // the menu that comes up takes the release of a drag
+    }
     return button == MouseButton::Right;
 }
 

@@ -1,5 +1,7 @@
 #include "shell/options_dialog.h"
 
+#include <limits>
+
 #include "core/checked.h"
 #include "core/constants.h"
 #include "core/number_text.h"
@@ -30,6 +32,12 @@ int TabOf(const std::string& name) {
         return OptionsDialog::DxfTab;
     }
     return name == "txtDisplayTextSize" ? OptionsDialog::DisplayTab : OptionsDialog::GeneralTab;
+}
+
+/// Whether texts of that height can be drawn, which is done in single precision. The settings file of any
+/// other height would not be read again.
+bool IsTextSize(double height) {
+    return height > 0 && height <= static_cast<double>(std::numeric_limits<float>::max());
 }
 
 /// Draws the sheet as portrait (1) or landscape (any other), centred below the middle of its frame, with the
@@ -199,12 +207,12 @@ bool OptionsDialog::StoreLayers() {
 
 bool OptionsDialog::StoreTextSizes() {
     const double dxfSize = FieldValue(Fields(), txtDXFTextSize);
-    if (dxfSize <= 0) {
+    if (!IsTextSize(dxfSize)) {
         return Refuse(txtDXFTextSize, "DXF Text size not valid");
     }
     options_.DXFTextSize = dxfSize;
     const double displaySize = FieldValue(Fields(), txtDisplayTextSize);
-    if (displaySize <= 0) {
+    if (!IsTextSize(displaySize)) {
         return Refuse(txtDisplayTextSize, "Display Text size not valid");
     }
     options_.DisplayTextSize = displaySize;

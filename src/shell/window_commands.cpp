@@ -177,8 +177,12 @@ void CFittingWindow::RemoveAllDimensions() {
     UpdateFitting();
 }
 
+/// Another paper has other frames, so they are computed anew, or switched off with their menu entry.
 void CFittingWindow::PrinterSetup() {
     ShowPlain(context_.ui, context_.Message(NoPrinterAvailable));
+    if (hasModel) {
+        SetupPrintFrames();
+    }
 }
 
 void CFittingWindow::PrintDrawing() {

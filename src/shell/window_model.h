@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -40,6 +41,7 @@ struct WindowModel {
         caption;        ///< "Development " and a number until a save or load, then the path: the file's name
     std::string focus;  ///< name of the control that has the focus
     Cursor mousePointer = Cursor::Default;
+    std::function<void()> showPointer;  ///< shows the pointers at once, for no event does while work runs
     int state = NormalWindow;
     Place place;  ///< of the window in its frame
     Place scale;  ///< its inner area
@@ -73,15 +75,23 @@ class HourglassWhile {
           window_(controls.mousePointer),
           drawing_(controls.pboxGraphicWindow.mousePointer) {
         controls.mousePointer = controls.pboxGraphicWindow.mousePointer = Cursor::Hourglass;
+        Show();
     }
     ~HourglassWhile() {
         controls_.mousePointer = window_;
         controls_.pboxGraphicWindow.mousePointer = drawing_;
+        Show();
     }
     HourglassWhile(const HourglassWhile&) = delete;
     HourglassWhile& operator=(const HourglassWhile&) = delete;
 
   private:
+    void Show() const {
+        if (controls_.showPointer) {
+            controls_.showPointer();
+        }
+    }
+
     WindowModel& controls_;
     Cursor window_;
     Cursor drawing_;

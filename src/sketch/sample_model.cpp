@@ -21,16 +21,7 @@ class RefusingBoxes final : public MessageBoxes {
 };
 
 CPatternSettings SampleSettings(const WindowTable& table, std::int16_t dtype) {
-    CPatternSettings settings;
-    settings.segs = SampleSegs;
-    settings.JoinAngleDisable = table.joinAngleDisable;
-    settings.HalfPatternDisable = table.halfPatternDisable;
-    settings.TemplateTypeEnabled = table.templateTypeEnabled;
-    settings.KerfEnabled = table.kerfEnabled;
-    settings.MaterialDisable = table.materialDisable;
-    settings.BranchMaterialEnable = table.branchMaterialEnable;
-    settings.InOutMean = table.inOutMean;
-    settings.PositionString = PositionWord(table.inOutMean);
+    CPatternSettings settings = StartSettings(table, SampleSegs);
     if (table.onTypeChanged != nullptr) {
         table.onTypeChanged(dtype, settings);
     }

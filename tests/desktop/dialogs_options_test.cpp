@@ -7,6 +7,7 @@
 #include <QTabWidget>
 
 #include "shell/options_dialog.h"
+#include "shell/options_file.h"
 #include "tests/desktop/desktop_test.h"
 #include "tests/desktop/dialogs_fixture.h"
 
@@ -93,6 +94,21 @@ class OptionsWindow : public QObject {
             QVERIFY(desk_.files.files.contains("/settings.ini"));
         });
         QCOMPARE(desk_.options.DXFTextSize, 4.0);
+    }
+
+    void LayerNamesOfAnyLengthAreReadAgain() {
+        const std::vector<const char*> boxes = {"txtDXFCutLayer", "txtDXFFoldLayer", "txtDXFTextLayer",
+                                                "txtDXFBorderLayer", "txtDXFDimensionLayer"};
+        Run([&](QDialog& window) {
+            for (const char* box : boxes) {
+                Child<QLineEdit>(window, box).setText(QString(30000, QLatin1Char('x')));
+            }
+            QCOMPARE(PressToBox(window, "btnSave"), QStringLiteral("Current settings saved"));
+        });
+        COptions read;
+        read.IniFileName = desk_.options.IniFileName;
+        ReadIniFile(read, desk_.files, desk_.ui, '.');
+        QCOMPARE(read.DXFDimensionLayer, std::string(255, 'x'));
     }
 
     void ARefusalOpensTheTabOfItsBox() {

@@ -6,6 +6,7 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <cmath>
+#include <stdexcept>
 
 #include "shell/views.h"
 #include "tests/desktop/desk.h"
@@ -60,6 +61,23 @@ int Ink(QWidget& area) {
     return ink;
 }
 
+/// The shapes that a widget's pointer takes, in order.
+class CursorWatch : public QObject {
+  public:
+    explicit CursorWatch(QList<Qt::CursorShape>& shown) : shown_(shown) {}
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::CursorChange) {
+            shown_.append(static_cast<QWidget*>(watched)->cursor().shape());
+        }
+        return false;
+    }
+
+  private:
+    QList<Qt::CursorShape>& shown_;
+};
+
 }  // namespace
 
 class FittingViewTest : public QObject {
@@ -100,6 +118,86 @@ class FittingViewTest : public QObject {
         QCOMPARE(Box(desk, 3).selectedText(), QString("x"));
         QTest::keyClicks(&Box(desk, 3), "-12345678901234567890");  // over the refused text
         QCOMPARE(Box(desk, 3).text(), QString("-12345678901234567890"));
+    }
+
+    void aBoxThatGetsItsFocusBackGoesOnAsItWasLeft() {
+        Desk desk;
+        desk.New();
+        desk.window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&desk.window));
+        Type(Box(desk, 3), "12");
+        QWidget other;  // another program
+        other.show();
+        other.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        desk.window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&desk.window));
+        QTest::qWait(10);
+        QCOMPARE(desk.window.focusWidget(), static_cast<QWidget*>(&Box(desk, 3)));
+        QTest::keyClicks(&Box(desk, 3), "5");
+        QCOMPARE(Box(desk, 3).text(), QString("125"));
+    }
+
+    void whatIsTypedAtOnceIsNotSelectedAfterwards() {
+        Desk desk;
+        desk.New();
+        desk.window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&desk.window));
+        Box(desk, 4).setFocus(Qt::TabFocusReason);
+        QTest::keyClicks(&Box(desk, 4), "12");
+        QTest::qWait(10);
+        QTest::keyClicks(&Box(desk, 4), "5");
+        QCOMPARE(Box(desk, 4).text(), QString("125"));
+        QTest::mouseClick(&Box(desk, 5), Qt::LeftButton);
+        QTest::qWait(10);
+        QCOMPARE(Box(desk, 5).selectedText(), QString("0"));
+    }
+
+    void aFileDroppedOnABoxIsNoText() {
+        Desk desk;
+        desk.New();
+        for (const QLineEdit* box : desk.ActiveView().findChildren<QLineEdit*>()) {
+            QVERIFY2(!box->acceptDrops(), qPrintable(box->objectName()));
+        }
+    }
+
+    void whatFailsInAButtonEndsInABox() {
+        Desk desk;
+        desk.New();
+        desk.shell.ui.onPatternSettings = [](auto&) { throw std::runtime_error("out of memory"); };
+        Click(desk.window, "btnSettings");
+        QCOMPARE(desk.shell.ui.Texts(), std::vector<std::string>{"out of memory"});
+    }
+
+    void theHourglassShowsWhileItDraws() {
+        Desk desk;
+        desk.New();
+        TypeCone(desk);
+        QList<Qt::CursorShape> shown;
+        QWidget& drawing = Drawing(desk);
+        CursorWatch watch(shown);
+        drawing.installEventFilter(&watch);
+        Click(desk.window, "btnView_9");
+        QCOMPARE(shown.value(0), Qt::WaitCursor);
+        QCOMPARE(shown.last(), Qt::CrossCursor);
+        QCOMPARE(drawing.cursor().shape(), Qt::CrossCursor);
+    }
+
+    void theDrawingIsReachedByAKeyAndAKeyDisarms() {
+        Desk desk;
+        CFittingWindow& window = desk.New();
+        TypeCone(desk);
+        Click(desk.window, "btnView_9");
+        desk.window.Frame().RunMenu("mnuPan");
+        desk.window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&desk.window));
+        QTest::keyClick(&Box(desk, 3), Qt::Key_D, Qt::ControlModifier);
+        QCOMPARE(desk.window.focusWidget(), &Drawing(desk));
+        QVERIFY(window.modes.panMode);
+        QTest::keyClick(&Drawing(desk), Qt::Key_Escape);
+        QVERIFY(!window.modes.panMode);
+        QTest::keyClick(&Drawing(desk), Qt::Key_Tab);
+        QCOMPARE(desk.window.focusWidget()->objectName(), QString("txtParameter_3"));
     }
 
     void theTabKeyGoesFromBoxToBoxAlone() {

@@ -1,9 +1,11 @@
 // The frame's bars and windows: every entry and button reaches the member of the main frame that it should.
 #include <QAction>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QSet>
 #include <QTest>
 #include <QToolButton>
 #include <sstream>
@@ -312,6 +314,156 @@ class FrameTest : public QObject {
         desk.ActiveView().showNormal();
         desk.New(8);
         QVERIFY(!desk.ActiveView().isMaximized());
+    }
+
+    void theNextWindowIsActiveAfterOneHasClosedBehindABox() {
+        Desk desk;
+        CFittingWindow& first = desk.New(0);
+        desk.New(8);
+        QWidget box;  // as the question about saving, which leaves the frame inactive when it goes
+        box.show();
+        box.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&box));
+        desk.window.Frame().RunMenu("mnuFileClose");
+        QCOMPARE(desk.window.Frame().Children().size(), 1U);
+        QCOMPARE(desk.window.Frame().ActiveChild(), &first);
+    }
+
+    void nothingClosesOrOpensUnderADialog() {
+        Desk desk;
+        Bring(desk.New(0), State::Pattern);
+        QMimeData files;
+        files.setUrls({QUrl::fromLocalFile("/work/cone.Kvt")});
+        ModalVisitor visitor;
+        visitor.visit = [&](QWidget&) {
+            desk.ActiveView().close();
+            desk.window.close();
+            QDragEnterEvent enter(QPoint(20, 20), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(&desk.window, &enter);
+            QVERIFY(!enter.isAccepted());
+        };
+        desk.window.Frame().RunMenu("mnuHelpAbout");
+        QCOMPARE(visitor.seen.at(0), std::string("frmAbout"));
+        QVERIFY(desk.window.isVisible());
+        QCOMPARE(desk.window.Frame().Children().size(), 1U);
+        QVERIFY(desk.shell.ui.messages.empty());
+    }
+
+    void aWindowOutlivesTheCommandThatTheEndOfTheSessionCutsShort() {
+        Desk desk;
+        CFittingWindow& window = desk.New(0);
+        Bring(window, State::Pattern);
+        const std::size_t views = window.views->Count();
+        desk.shell.ui.answers = {Answer::No};
+        desk.shell.ui.onPatternSettings = [&](auto&) { desk.window.close(); };
+        Click(desk.window, "btnSettings");
+        QVERIFY(!desk.window.isVisible());
+        QVERIFY(desk.window.Frame().Children().empty());
+        QCOMPARE(window.views->Count(), views);
+        QVERIFY(window.closed);
+    }
+
+    void onlyLocalFilesAreTaken() {
+        Desk desk;
+        QMimeData page;
+        page.setUrls({QUrl("https://example.com/cone.Kvt")});
+        QDragEnterEvent enter(QPoint(20, 20), Qt::CopyAction, &page, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&desk.window, &enter);
+        QVERIFY(!enter.isAccepted());
+    }
+
+    void theLabelHasAKeyWithTheToolBarHiddenToo() {
+        Desk desk;
+        Bring(desk.New(0), State::Model);
+        desk.window.Project();
+        desk.window.findChild<QAction*>("mnuViewToolbar")->trigger();
+        int labels = 0;
+        desk.shell.ui.onLabel = [&](auto&) { ++labels; };
+        desk.window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&desk.window));
+        QTest::keyClick(&desk.window, Qt::Key_L, Qt::ControlModifier);
+        QCOMPARE(labels, 1);
+    }
+
+    void aPlaceStaysOnItsScreen() {
+        const QRect left(0, 0, 1920, 1080);
+        const QRect right(1920, 0, 1280, 1024);
+        const QRect there(2000, 100, 800, 600);
+        QCOMPARE(OnScreen(there, {left, right}), there);
+        QCOMPARE(OnScreen(there, {left}), QRect(1120, 100, 800, 600));
+        QCOMPARE(OnScreen(QRect(-5000, -5000, 4000, 300), {left, right}), QRect(0, 0, 1920, 300));
+        QCOMPARE(OnScreen(QRect(1800, 900, 800, 600), {left, right}), QRect(1920, 424, 800, 600));
+        QCOMPARE(OnScreen(there, {}), there);
+    }
+
+    void aFileOfTheCommandLineComesAfterTheSplash() {
+        TestShell shell;
+        RecordingHelp help;
+        MemorySettings settings;
+        MainWindow window(shell.context, help, settings);
+        ModalVisitor visitor;
+        visitor.visit = [&](QWidget& splash) {
+            window.Start({"/work/none.Kvt"});  // the splash has begun by an activation of the frame
+            QVERIFY(shell.ui.messages.empty());
+            splash.close();
+        };
+        window.Start({});
+        QCOMPARE(visitor.seen, std::vector<std::string>{"frmSplash"});
+        QVERIFY(!shell.ui.messages.empty());
+    }
+
+    void noTwoControlsSideBySideHaveOneName() {
+        Desk desk;
+        desk.New(0);
+        CFittingWindow& second = desk.New(0);
+        CFittingWindow& third = desk.New(0);
+        second.controls.caption = third.controls.caption = "/work/cone.Kvt";
+        desk.window.findChild<QAction*>("mnuWindowTileVertical")->trigger();
+        const auto check = [&] {
+            QSet<QString> spoken;
+            for (const QWidget* widget : desk.window.findChildren<QWidget*>()) {
+                const QString name = widget->accessibleName();
+                const bool works = qobject_cast<const QAbstractButton*>(widget) != nullptr ||
+                                   qobject_cast<const QLineEdit*>(widget) != nullptr ||
+                                   widget->objectName() == "pboxGraphicWindow";
+                if (!works || name.isEmpty() || !widget->isVisible()) {
+                    continue;
+                }
+                QVERIFY2(!spoken.contains(name), qPrintable(name));
+                spoken.insert(name);
+            }
+            QCOMPARE(spoken.size(), 22 + 3 * (3 + 10 + 2 + 1 + 3 + 1));
+            for (const QAction* top : desk.window.menuBar()->actions()) {
+                QVERIFY2(!spoken.contains(top->text().remove('&')), qPrintable(top->text()));
+            }
+        };
+        check();
+        const QString name = "Base diameter";
+        QCOMPARE(desk.ActiveView().findChild<QWidget*>("txtParameter_3")->accessibleName(), name);
+        desk.window.Area().setActiveSubWindow(desk.window.Area().subWindowList().first());
+        check();
+        QCOMPARE(desk.ActiveView().findChild<QWidget*>("txtParameter_3")->accessibleName(), name);
+    }
+
+    void aPathShowsAsItStands() {
+        Desk desk;
+        CFittingWindow& window = desk.New(0);
+        window.controls.caption = "/work/Rohr & Bogen [*] \xC3\xBC.Kvt";
+        desk.window.Project();
+        QCOMPARE(desk.window.windowTitle(),
+                 QString::fromUtf8("Korvet Development - [/work/Rohr & Bogen [*][*] \xC3\xBC.Kvt]"));
+    }
+
+    void aSwitchBetweenMaximisedWindowsIsNoChangeOfTheirState() {
+        Desk desk;
+        desk.New(0);
+        desk.New(8);
+        QVERIFY(desk.ActiveView().isMaximized());
+        desk.window.Area().setActiveSubWindow(desk.window.Area().subWindowList().first());
+        QVERIFY(desk.ActiveView().isMaximized());
+        QCOMPARE(desk.shell.options.WindowState, static_cast<std::int16_t>(MaximisedWindow));
+        desk.New(0);
+        QVERIFY(desk.ActiveView().isMaximized());
     }
 
     void theFirstActivationShowsTheSplashOnce() {

@@ -15,22 +15,34 @@ class Korvet(Screen):
     def __init__(self, folder, *files, environment=None, pictures=None):
         super().__init__(os.environ["KORVET"], folder, *files, environment=environment,
                          pictures=pictures or os.environ.get("KORVET_PICTURES"))
+        self.child = None  # the title of the window whose controls are meant where several have one of a name
+
+    def child_window(self):
+        for child in super().search("Fitting windows") or ():
+            if child is not None and child.name == self.child:
+                return child
+        return None
+
+    def search(self, name, role=None, within=None):
+        child = self.child_window() if within is None and self.child is not None else None
+        found = super().search(name, role, child) if child is not None else None
+        return found or super().search(name, role, within)
 
     def pass_splash(self):
         """Answers what comes up before the frame is free: no printer, then the splash."""
         assert self.answer(TITLE) == "No Printer available"
-        self.wait_active(TITLE, "dialog")
+        splash = self.wait_active(TITLE, "dialog")
         self.key("Return")
-        self.wait_active("Main window")
+        self.wait(lambda: self.gone(splash), "end of the splash")
 
     def new_cone(self):
         """A new window of the Right Cone, by a click on its tile."""
         self.wait_active("Main window")
-        count = len(self.children())
+        others = self.children()
         self.click("New", "push button")
         self.wait_active("New fitting")
         self.click("Right Cone", "push button")
-        self.wait(lambda: len(self.children()) == count + 1, "new window")
+        self.child = self.wait(lambda: [title for title in self.children() if title not in others], "new window")[0]
         self.wait_active("Main window")
         self.wait_focus(BASE)
 
@@ -64,11 +76,15 @@ class Korvet(Screen):
         return self.wait(steady, "steady drawing")
 
     def choose_file(self, title, name):
-        """Types a name into a file dialog, and presses Return."""
+        """Types a name into a file dialog, and presses Return. A path is put there as if pasted, for the toolkit's
+        list of the folders on the way takes the keyboard while it comes up."""
         self.wait_active(title, "dialog")
         self.wait_focus("File name:")
-        self.key("ctrl+a")
-        self.type(name)
+        if "/" in str(name):
+            self.find("File name:", "text").queryEditableText().setTextContents(str(name))
+        else:
+            self.key("ctrl+a")
+            self.type(name)
         self.wait(lambda: self.read("File name:") == str(name), f"name {name}")
         dialog = self.active()
         self.key("Return")
@@ -94,7 +110,9 @@ class ScreenTest(unittest.TestCase):
         self.screen = None
 
     def start(self, *files):
-        """A run of the program; one that a test started before has ended by itself."""
+        """A run of the program, in place of the last one."""
+        if self.screen is not None:
+            self.screen.stop()
         self.screen = Korvet(self.folder, *files, environment=self.environment)
         self.addCleanup(self.screen.stop)
         return self.screen

@@ -7,7 +7,7 @@ import time
 
 import pyatspi
 
-PATIENCE = 15  # seconds
+PATIENCE = float(os.environ.get("KORVET_PATIENCE", 15))  # seconds
 DIALOGS = ("dialog", "alert", "file chooser", "color chooser")
 TOP_LEVEL = ("frame", "window") + DIALOGS
 
@@ -28,6 +28,7 @@ class Screen:
                    XDG_CACHE_HOME=str(self.folder / "cache"), QT_QPA_PLATFORM="xcb", LC_ALL="C.UTF-8",
                    CUPS_SERVER=str(runtime / "no-printers"))
         env.update(environment or {})
+        self.scale = int(env.get("QT_SCALE_FACTOR", 1))  # the accessibility service counts the pixels before it
         self.errors = open(self.folder / "errors.txt", "ab")
         self.process = subprocess.Popen([program, *map(str, files)], cwd=self.folder, env=env, stderr=self.errors)
 
@@ -121,10 +122,10 @@ class Screen:
         area = self.find("Fitting windows")
         return [child.name for child in area if child is not None and child.getRoleName() == "frame"]
 
-    @staticmethod
-    def area(node):
+    def area(self, node):
+        """Left, top, width and height in pixels of the screen."""
         extents = node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
-        return extents.x, extents.y, extents.width, extents.height
+        return tuple(self.scale * value for value in (extents.x, extents.y, extents.width, extents.height))
 
     @staticmethod
     def middle(area):
@@ -150,7 +151,7 @@ class Screen:
 
     def type(self, text):
         self.wait(self.active, "active window")
-        self.xdotool("type", "--delay", 25, text)
+        self.xdotool("type", "--delay", 25, "--", text)
 
     def click(self, name, role=None, button=1):
         self.click_at(self.middle(self.area(self.find(name, role))), button)
@@ -201,8 +202,8 @@ class Screen:
     def pixels(self, area):
         """The rows of a part of the screen, three bytes to a pixel."""
         x, y, width, height = area
-        raw = subprocess.run(["import", "-window", "root", "-crop", f"{width}x{height}+{x}+{y}", "-depth", "8", "rgb:-"],
-                             check=True, stdout=subprocess.PIPE).stdout
+        raw = subprocess.run(["import", "-window", "root", "-crop", f"{width}x{height}+{x}+{y}", "-depth", "8",
+                              "rgb:-"], check=True, stdout=subprocess.PIPE).stdout
         if len(raw) != 3 * width * height:
             raise AssertionError(f"{len(raw)} bytes for {width} x {height} pixels")
         return [raw[row * 3 * width:(row + 1) * 3 * width] for row in range(height)]

@@ -175,10 +175,12 @@ class EndToEnd(ScreenTest):
         screen.picture("reopened")
         lines = saved.read_text().split("\n")
         settings = lines[lines.index("Start Pattern Settings") + 1:lines.index("End Pattern Settings")]
-        self.assertEqual((settings[0], settings[10:12]), ("3", ["20", "0"]), settings)
+        # The thickness first; then, behind seven lines of other things, a lap of 20 along the seam.
+        self.assertEqual((settings[0], settings[12:16]), ("3", ["1", "0", "20", "0"]), settings)
 
         screen.key("alt+f", "x")
-        screen.answer(TITLE, "No")
+        screen.message(TITLE)
+        screen.key("alt+n")
         self.assertEqual(screen.wait_end(), 0)
 
 

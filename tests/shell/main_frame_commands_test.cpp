@@ -89,7 +89,7 @@ const std::map<std::string_view, Texts> Done = {
     {"mnuFileSaveAs", {"", SaveAs, SaveAs, Saves, Saves}},
     {"mnuExportDXF", {"", Export, Export, Exports, Exports}},
     {"mnuExportHPGL", {"", "", "", "Exporting Transfer.plt", "Exporting Transfer.plt"}},
-    {"mnuFilePageSetup", OnWindow("")},
+    {"mnuFilePageSetup", OnModel("drew")},
     {"mnuPrintFrames", OnWindow("frames ticked, tool 7")},
     {"mnuSelectFrames", OnWindow("select frames armed")},
     {"mnuFileExit", Everywhere("close")},

@@ -169,6 +169,20 @@ TEST_F(MouseModesTest, ARightPressShowsTheViewMenuAndLeavesTheModeArmed) {
     EXPECT_TRUE(window->modes.panMode);
 }
 
+TEST_F(MouseModesTest, AMenuInTheMiddleOfADragDropsTheDragAndNotTheMode) {
+    const auto window = Cone(PatternButton);
+    window->PanView();
+    Press(*window, 0, 0);
+    window->MouseMove(MouseButton::Left, 5, 5);
+    EXPECT_TRUE(window->MouseDown(MouseButton::Right, 5, 5));
+    EXPECT_FALSE(window->controls.pboxGraphicWindow.rubberBand);
+    window->MouseUp(MouseButton::Left, 9, 9);
+    EXPECT_EQ(window->views->Count(), 1U);
+    EXPECT_TRUE(window->modes.panMode);
+    Drag(*window, 0, 0, 10, 0);
+    EXPECT_EQ(window->views->Count(), 2U);
+}
+
 TEST_F(MouseModesTest, AReleaseWithoutAPressDoesNothing) {
     const auto window = Cone(PatternButton);
     const std::vector<std::function<void()>> commands = {

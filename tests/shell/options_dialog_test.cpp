@@ -314,6 +314,10 @@ TEST_F(GlobalOptions, EveryBadBoxKeepsTheDialogOpenWithTheFocusOnIt) {
         {"dxf size 0", [](auto& d) { d.txtDXFTextSize.text = "0"; }, "DXF Text size not valid",
          "txtDXFTextSize", 4},
         {"text size -1", [](auto& d) { d.txtDisplayTextSize.text = "-1"; }, "Display Text size not valid",
+         "txtDisplayTextSize", 2},
+        {"dxf size huge", [](auto& d) { d.txtDXFTextSize.text = "1e39"; }, "DXF Text size not valid",
+         "txtDXFTextSize", 4},
+        {"text size huge", [](auto& d) { d.txtDisplayTextSize.text = "1e39"; }, "Display Text size not valid",
          "txtDisplayTextSize", 2}};
     for (const BadBox& bad : cases) {
         SCOPED_TRACE(bad.name);

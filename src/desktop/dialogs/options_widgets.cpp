@@ -41,7 +41,7 @@ void AddDecimals(ModelDialog& window, OptionsDialog& dialog, QFormLayout& form) 
 /// Lets the user pick another colour for a swatch; without a choice it stays.
 void PickColor(ModelDialog& window, OptionsDialog& dialog, ColorSwatch& swatch) {
     QColorDialog picker(ColorOf(swatch.backColor), &window);
-    NameWidget(picker, "dlgColor", QStringLiteral("Select color"));
+    NameWidget(picker, "dlgColor", QStringLiteral("Select colour"));
     if (picker.exec() == QDialog::Accepted) {
         dialog.StoreColor(swatch, ColorFrom(picker.selectedColor()));
     }
@@ -51,7 +51,7 @@ void AddSwatch(ModelDialog& window, OptionsDialog& dialog, QFormLayout& form, Co
                const char* label, const char* name) {
     auto* patch = new ColorPatch;
     NameWidget(*patch, swatch.name, QString::fromLatin1(name));
-    patch->setToolTip(QStringLiteral("Click for another color"));
+    patch->setToolTip(QStringLiteral("Click for another colour"));
     form.addRow(MakeLabel(QString::fromLatin1(label), patch), patch);
     window.ShowBy([patch, &swatch] { patch->SetColor(ColorOf(swatch.backColor)); });
     QObject::connect(patch, &ColorPatch::clicked, &window,
@@ -59,7 +59,9 @@ void AddSwatch(ModelDialog& window, OptionsDialog& dialog, QFormLayout& form, Co
 }
 
 void AddLayer(ModelDialog& window, QFormLayout& form, TextBox& box, const char* label, const char* name) {
+    constexpr int LongestLayerName = 255;  // of drawing programs
     QLineEdit* const edit = MakeEdit(box.name, QString::fromLatin1(name));
+    edit->setMaxLength(LongestLayerName);
     form.addRow(MakeLabel(QString::fromLatin1(label), edit), edit);
     window.Bind(*edit, box, [&box](const std::string& text) { box.text = text; });
 }
@@ -117,15 +119,16 @@ QWidget* MakeDisplayTab(ModelDialog& window, OptionsDialog& dialog) {
     size->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
     column->addLayout(size);
     AddNumber(window, dialog, *size, dialog.txtDisplayTextSize, "&Text height:", "Display text height");
-    QGroupBox* const frame = MakeFrame("fraColors", QStringLiteral("Colors"), QStringLiteral("Colors"));
+    QGroupBox* const frame = MakeFrame("fraColors", QStringLiteral("Colours"), QStringLiteral("Colours"));
     column->addWidget(frame);
     auto* form = new QFormLayout(frame);
     form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
-    AddSwatch(window, dialog, *form, dialog.pboxDisplayCutColor, "&Cut lines:", "Color of cut lines");
-    AddSwatch(window, dialog, *form, dialog.pboxDisplayFoldColor, "&Fold lines:", "Color of fold lines");
-    AddSwatch(window, dialog, *form, dialog.pboxDisplayBackColor, "&Background:", "Color of the background");
-    AddSwatch(window, dialog, *form, dialog.pboxDisplayTextColor, "Te&xt:", "Color of text");
-    AddSwatch(window, dialog, *form, dialog.pboxDisplayDimensionColor, "Di&mensions:", "Color of dimensions");
+    AddSwatch(window, dialog, *form, dialog.pboxDisplayCutColor, "&Cut lines:", "Colour of cut lines");
+    AddSwatch(window, dialog, *form, dialog.pboxDisplayFoldColor, "&Fold lines:", "Colour of fold lines");
+    AddSwatch(window, dialog, *form, dialog.pboxDisplayBackColor, "&Background:", "Colour of the background");
+    AddSwatch(window, dialog, *form, dialog.pboxDisplayTextColor, "Te&xt:", "Colour of text");
+    AddSwatch(window, dialog, *form, dialog.pboxDisplayDimensionColor,
+              "Di&mensions:", "Colour of dimensions");
     column->addStretch();
     return page;
 }
