@@ -4,6 +4,7 @@
 #include <QButtonGroup>
 #include <QColor>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPalette>
 #include <QSignalBlocker>
@@ -62,6 +63,12 @@ void ShowBox(QLineEdit& edit, const TextBox& box) {
         edit.setText(Text(box.text));
     }
     edit.setEnabled(box.enabled);
+    for (QLabel* label :
+         edit.parentWidget() != nullptr ? edit.parentWidget()->findChildren<QLabel*>() : QList<QLabel*>()) {
+        if (label->buddy() == &edit) {
+            label->setEnabled(box.enabled);  // a label that can be read asks for a box that can be used
+        }
+    }
     QPalette palette;
     if (box.textColor == Red) {
         palette.setColor(QPalette::Active, QPalette::Text, ReadableRed(palette));

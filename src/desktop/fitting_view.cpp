@@ -4,6 +4,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollArea>
@@ -13,6 +14,7 @@
 #include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desktop/bindings.h"
 #include "desktop/icons.h"
@@ -126,7 +128,6 @@ QWidget* FittingView::MakePanel() {
     panel_->setWidget(content);
     panel_->setWidgetResizable(true);
     panel_->setFrameShape(QFrame::NoFrame);
-    panel_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     panel_->setFocusPolicy(Qt::NoFocus);
     panel_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     return panel_;
@@ -293,10 +294,21 @@ void FittingView::Connect(QLineEdit* edit, TextBox& box, Change change) {
     });
 }
 
+bool FittingView::IsShortcut(const QKeyEvent& event) const {
+    const QList<QShortcut*> shortcuts = findChildren<QShortcut*>(Qt::FindDirectChildrenOnly);
+    return std::any_of(shortcuts.begin(), shortcuts.end(), [&](const QShortcut* shortcut) {
+        return shortcut->key() == QKeySequence(event.keyCombination());
+    });
+}
+
 /// A box that gains the focus has all its text selected; a click that brings the focus selects it too. One
 /// that gets it back, from a menu or another program, goes on as it was left: the next key must not type over
 /// what stands there.
 bool FittingView::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride && IsShortcut(static_cast<const QKeyEvent&>(*event))) {
+        event->ignore();  // on some desktops a text box takes keys of its own before the window's
+        return true;
+    }
     if (window_ != nullptr && event->type() == QEvent::FocusIn &&
         watched->objectName().toStdString() != window_->controls.focus) {
         for (std::size_t i = 0; i < boxes_.size(); ++i) {
@@ -391,6 +403,7 @@ void FittingView::Project() {
         ShowControl(*typeButtons_.at(i), model.btnPoint.at(i));
     }
     typeLabel_->setText(Text(model.lblDtype.caption));
+    typeLabel_->setAccessibleDescription(typeLabel_->text());
     textSizeLabel_->setText(Text(model.lblTextSize.caption));
     redraw_->setText(Text(model.btnRedraw.caption));
     ShowControl(*settings_, model.btnSettings);

@@ -13,6 +13,7 @@
 class QFrame;
 class QGridLayout;
 class QGroupBox;
+class QKeyEvent;
 class QLabel;
 class QLineEdit;
 class QScrollArea;
@@ -70,6 +71,7 @@ class FittingView : public QWidget {
     void ShowIcons();
     void ShowPointer();
     void ProjectFocus();
+    [[nodiscard]] bool IsShortcut(const QKeyEvent& event) const;
     void After();
 
     template <typename Action>

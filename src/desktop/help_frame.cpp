@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
 #include <QStyle>
@@ -101,7 +102,7 @@ HelpFrame::HelpFrame(HelpBook& book, SketchPicture sketches)
     MakeTools();
     MakeShortcuts();
     const int em = fontMetrics().horizontalAdvance(QLatin1Char('M'));
-    resize(em * 96, em * 60);
+    resize(QSize(em * 96, em * 60).boundedTo(screen()->availableSize() * 9 / 10));
     splitter->setSizes({em * 27, em * 69});
     connect(txtHelp_, &QTextBrowser::sourceChanged, this, [this](const QUrl& page) {
         setWindowTitle(txtHelp_->documentTitle() + QStringLiteral(" - Help"));

@@ -29,6 +29,9 @@ namespace {
 /// The stored place of the frame counts the twips of a 96 dpi screen.
 constexpr int PlaceTwips = 15;
 
+/// Room for the frame that the desktop puts around the window.
+constexpr QMargins WindowFrame = {8, 36, 8, 8};
+
 /// Large enough for a fitting window with a fair drawing beside its panel.
 constexpr QSize ComfortableSize = {1180, 860};
 
@@ -83,6 +86,9 @@ ChildWindow::ChildWindow(CFittingWindow& window, QWidget* parent)
     setWidget(view_);
     setWindowIcon(ApplicationIcon());
     setAttribute(Qt::WA_DeleteOnClose, false);
+    for (QAction* action : systemMenu()->actions()) {
+        action->setShortcut({});  // File > Close has it
+    }
     connect(this, &QMdiSubWindow::windowStateChanged, this, [this] { TakeShape(); });
     view_->closeWindow = [this] { close(); };
 }
@@ -144,7 +150,7 @@ void MainWindow::Place(bool remembered) {
     }
     QList<QRect> screens;
     for (const QScreen* screen : QGuiApplication::screens()) {  // the primary one stands first
-        screens.append(screen->availableGeometry());
+        screens.append(screen->availableGeometry().marginsRemoved(WindowFrame));
     }
     setGeometry(OnScreen(place, screens));
 }
@@ -160,7 +166,7 @@ void MainWindow::Project() {
     if (!windowTitle().startsWith(title)) {  // the area adds the name of a maximised window
         setWindowTitle(title);
     }
-    statusText_->setText(Text(model.statusText));
+    ShowPanel(*statusText_, Text(model.statusText));
     toolBar_->setVisible(model.toolBarVisible);
     statusBar()->setVisible(model.statusBarVisible);
     for (QMdiSubWindow* child : area_->subWindowList()) {
@@ -248,7 +254,7 @@ void MainWindow::TakeActive(QMdiSubWindow* child) {
     CFittingWindow* window = child != nullptr ? static_cast<ChildWindow*>(child)->View().Window() : nullptr;
     frame_.ActivateChild(window);
     if (statusText_ != nullptr) {
-        statusText_->setText(Text(frame_.Context().frame.statusText));
+        ShowPanel(*statusText_, Text(frame_.Context().frame.statusText));
     }
     SpeakWindows();
 }

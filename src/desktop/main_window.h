@@ -89,6 +89,7 @@ class MainWindow : public QMainWindow, public FrameDesktop {
     void MakeToolBar();
     void MakeStatusBar();
     void ShowClock();
+    static void ShowPanel(QLabel& panel, const QString& text);
     void TakeActive(QMdiSubWindow* child);
     void TakeInnerSize();
     void SpeakWindows();

@@ -118,10 +118,16 @@ void MainWindow::MakeStatusBar() {
     ShowClock();
 }
 
+/// A panel is named by what it tells of; a screen reader has the text as its description.
+void MainWindow::ShowPanel(QLabel& panel, const QString& text) {
+    panel.setText(text);
+    panel.setAccessibleDescription(text);
+}
+
 void MainWindow::ShowClock() {
     const QDateTime now = QDateTime::currentDateTime();
-    date_->setText(QLocale::system().toString(now.date(), QLocale::ShortFormat));
-    time_->setText(QLocale::system().toString(now.time(), QLocale::ShortFormat));
+    ShowPanel(*date_, QLocale::system().toString(now.date(), QLocale::ShortFormat));
+    ShowPanel(*time_, QLocale::system().toString(now.time(), QLocale::ShortFormat));
 }
 
 void MainWindow::ProjectMenus() {

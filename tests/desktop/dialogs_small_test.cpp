@@ -159,7 +159,7 @@ class SmallDialogs : public QObject {
         Run(dialog, [](QDialog& window) {
             auto& angle = Child<QLineEdit>(window, "txtAngle_1");
             QCOMPARE(window.focusWidget(), &angle);
-            QVERIFY(!Child<QLineEdit>(window, "txtAngle_0").isEnabled());
+            QVERIFY(Child<QLineEdit>(window, "txtAngle_0").isReadOnly());
             QVERIFY(Child<QLineEdit>(window, "txtAngle_0").text().toDouble() > 44.9);
             QVERIFY(Child<QRadioButton>(window, "optMove_0").isChecked());
             Press(window, "optMove_1");

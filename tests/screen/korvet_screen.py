@@ -15,18 +15,6 @@ class Korvet(Screen):
     def __init__(self, folder, *files, environment=None, pictures=None):
         super().__init__(os.environ["KORVET"], folder, *files, environment=environment,
                          pictures=pictures or os.environ.get("KORVET_PICTURES"))
-        self.child = None  # the title of the window whose controls are meant where several have one of a name
-
-    def child_window(self):
-        for child in super().search("Fitting windows") or ():
-            if child is not None and child.name == self.child:
-                return child
-        return None
-
-    def search(self, name, role=None, within=None):
-        child = self.child_window() if within is None and self.child is not None else None
-        found = super().search(name, role, child) if child is not None else None
-        return found or super().search(name, role, within)
 
     def pass_splash(self):
         """Answers what comes up before the frame is free: no printer, then the splash."""
@@ -38,11 +26,11 @@ class Korvet(Screen):
     def new_cone(self):
         """A new window of the Right Cone, by a click on its tile."""
         self.wait_active("Main window")
-        others = self.children()
+        others = len(self.children())
         self.click("New", "push button")
         self.wait_active("New fitting")
         self.click("Right Cone", "push button")
-        self.child = self.wait(lambda: [title for title in self.children() if title not in others], "new window")[0]
+        self.wait(lambda: len(self.children()) == others + 1, "new window")
         self.wait_active("Main window")
         self.wait_focus(BASE)
 
@@ -50,8 +38,9 @@ class Korvet(Screen):
         for name, text in ((BASE, base), (TOP, top), (HEIGHT, height)):
             self.fill(name, text)
 
-    def cone_boxes(self):
-        return [self.read(name) for name in (BASE, TOP, HEIGHT)]
+    def cone_boxes(self, window=""):
+        """The texts of the active window's boxes, or of another one's by its title."""
+        return [self.read(f"{name}, {window}" if window else name) for name in (BASE, TOP, HEIGHT)]
 
     def drawing(self):
         """What the drawing area says it shows."""

@@ -82,9 +82,9 @@ class Pictures:
             screen.wait_active("New fitting")
             if page == 0 and category == "Right Cone":
                 self.take("catalogue")
-            others = screen.children()
+            others = len(screen.children())
             screen.click(category, "push button")
-            screen.child = screen.wait(lambda: [t for t in screen.children() if t not in others], "new window")[0]
+            screen.wait(lambda: len(screen.children()) == others + 1, "new window")
             screen.wait_active("Main window")
             screen.settle(0.3)
             for _ in range(types):

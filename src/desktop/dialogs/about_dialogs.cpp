@@ -48,7 +48,9 @@ void AddCloseButton(ModelDialog& window, bool& open, const std::string& controlN
                     const std::string& text) {
     QString name = Text(text);
     name.remove(QLatin1Char('&'));
-    window.AddButton(ModelDialog::Role::Accept, controlName, Text(text), name, [&open] { open = false; });
+    QPushButton& button =
+        window.AddButton(ModelDialog::Role::Accept, controlName, Text(text), name, [&open] { open = false; });
+    button.setFocus();  // some desktops put another button first
 }
 
 std::string SystemInformation() {

@@ -130,7 +130,8 @@ void RunDialog(const DialogHost& host, RotateDialog& dialog) {
     NameWidget(*label, "lblAngle", Text(dialog.lblAngle));
     grid->addWidget(label, 0, 0);
     grid->addWidget(current, 0, 1);
-    window.Bind(*current, dialog.txtAngle[0], [](const std::string&) {});
+    current->setReadOnly(true);  // told, not asked, and so as easy to read as the rest
+    current->setText(Text(dialog.txtAngle[0].text));
     const auto moves = MakeOptions(window, "optMove", dialog.optMove, "gm");
     grid->addWidget(moves[RotateDialog::ToAngle], 1, 0, 1, 2);
     grid->addWidget(moves[RotateDialog::ByAmount], 2, 0, 1, 2);
