@@ -74,8 +74,8 @@ struct WindowTable {
     }
 };
 
-/// The pattern settings that a window of the table starts with, at `segs` fold lines. The laps that the fitting
-/// has are the catalogue's matter.
+/// The pattern settings that a window of the table starts with, at `segs` fold lines. The laps that the
+/// fitting has are the catalogue's matter.
 inline CPatternSettings StartSettings(const WindowTable& table, int segs) {
     CPatternSettings settings;
     settings.segs = segs;
