@@ -1,5 +1,5 @@
-// How long the desktop takes to rebuild and redraw a cone, at one and two device pixels to the pixel, and to make
-// and show a fitting window.
+// How long the desktop takes to rebuild and redraw a cone, at one and two device pixels to the pixel, and to
+// make and show a fitting window.
 //     QT_QPA_PLATFORM=offscreen build/release/bin/desktop_bench
 #include <benchmark/benchmark.h>
 
