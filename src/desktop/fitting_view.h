@@ -66,16 +66,15 @@ class FittingView : public QWidget {
     QToolButton* MakeViewButton(int button, QWidget* parent);
     QToolButton* MakeButton(const std::string& name, const QString& accessibleName, QWidget* parent);
     void AddShortcuts();
-    template <typename Change>
-    void Connect(QLineEdit* edit, TextBox& box, Change change);
+    using ChangeText = std::function<void(CFittingWindow&, const std::string&)>;
+    void Connect(QLineEdit* edit, TextBox& box, const ChangeText& change);
     void ShowIcons();
     void ShowPointer();
     void ProjectFocus();
     [[nodiscard]] bool IsShortcut(const QKeyEvent& event) const;
     void After();
 
-    template <typename Action>
-    void Do(Action action);
+    void Do(const std::function<void(CFittingWindow&)>& action);
 
     CFittingWindow* window_;
     DrawingArea* drawing_ = nullptr;

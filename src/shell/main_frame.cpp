@@ -160,7 +160,7 @@ bool CMainFrame::AskAllToClose() {
     });
 }
 
-/// At the end of the session the desktop closes a dialog together with the frame, and the command that showed
+/// When the user logs off, the desktop closes a dialog together with the frame, and the command that showed
 /// it has yet to come back: its window stays whole until the frame goes.
 void CMainFrame::RemoveAll() {
     leaving_ = std::move(children_);

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "desktop/main_window.h"
+#include "shell/views.h"
 #include "tests/support/recording_desktop.h"
 #include "tests/support/test_shell.h"
 
@@ -98,6 +99,21 @@ struct Desk {
 inline void TypeSamples(CFittingWindow& window) {
     for (const BoxEntry& box : window.Table().pages[static_cast<std::size_t>(window.dtype)].boxes) {
         window.ChangeBox(static_cast<std::size_t>(box.index), std::string(box.sample));
+    }
+}
+
+enum class State { NoChild, NoView, Refused, Model, Pattern };
+
+/// Brings a new window of a cone into a state.
+inline void Bring(CFittingWindow& window, State state) {
+    if (state == State::NoView) {
+        return;
+    }
+    TypeSamples(window);
+    window.ClickView(state == State::Pattern ? PatternButton : 0);
+    if (state == State::Refused) {
+        window.ChangeBox(4, "-1");
+        window.Redraw();
     }
 }
 

@@ -9,57 +9,11 @@
 #include <stdexcept>
 
 #include "shell/views.h"
-#include "tests/desktop/desk.h"
 #include "tests/desktop/desktop_test.h"
+#include "tests/desktop/fitting_view_hands.h"
 
 namespace korvet::desktop {
 namespace {
-
-QLineEdit& Box(Desk& desk, int index) {
-    return *desk.ActiveView().findChild<QLineEdit*>(QString("txtParameter_%1").arg(index));
-}
-
-/// Types over what stands in a box, as a click into it and the keys do.
-void Type(QLineEdit& box, const char* text) {
-    box.setFocus(Qt::TabFocusReason);
-    box.selectAll();
-    QTest::keyClicks(&box, text);
-}
-
-void TypeCone(Desk& desk) {
-    Type(Box(desk, 3), "300");
-    Type(Box(desk, 4), "120");
-    Type(Box(desk, 5), "250");
-}
-
-bool IsRed(const QLineEdit& box) {
-    const QColor text = box.palette().color(QPalette::Text);
-    return text.red() > text.green() + 60;
-}
-
-QWidget& Drawing(Desk& desk) {
-    return *desk.ActiveView().findChild<QWidget*>("pboxGraphicWindow");
-}
-
-void Drag(QWidget& area, QPoint from, QPoint to) {
-    QTest::mousePress(&area, Qt::LeftButton, Qt::NoModifier, from);
-    QMouseEvent move(QEvent::MouseMove, to, area.mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
-                     Qt::NoModifier);
-    QCoreApplication::sendEvent(&area, &move);
-    QTest::mouseRelease(&area, Qt::LeftButton, Qt::NoModifier, to);
-}
-
-/// Pixels of the drawing that are not its ground.
-int Ink(QWidget& area) {
-    const QImage picture = area.grab().toImage();
-    int ink = 0;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            ink += (picture.pixel(x, y) & 0xffffff) != 0 ? 1 : 0;
-        }
-    }
-    return ink;
-}
 
 /// The shapes that a widget's pointer takes, in order.
 class CursorWatch : public QObject {
@@ -310,97 +264,6 @@ class FittingViewTest : public QObject {
                  QString(" Segments = 24 | Thickness = 2 | Join Angle = 0"));
     }
 
-    void aDragZoomsToItsWindow() {
-        Desk desk;
-        CFittingWindow& window = desk.New();
-        TypeCone(desk);
-        Click(desk.window, "btnView_9");
-        desk.window.Frame().RunMenu("mnuZoomExtents");
-        desk.window.Frame().RunMenu("mnuZoomWindow");
-        desk.window.Project();
-        auto& area = static_cast<DrawingArea&>(Drawing(desk));
-        const QPoint from(100, 80);
-        const QPoint to(300, 230);
-        const WorldPoint a = area.ToDrawing(from);
-        const WorldPoint b = area.ToDrawing(to);
-        Drag(area, from, to);
-        const CViewPoint& view = window.views->Last();
-        QVERIFY(std::fabs(view.PanX - (a.x + b.x) / 2) < 0.01);
-        QVERIFY(std::fabs(view.PanY - (a.y + b.y) / 2) < 0.01);
-        QVERIFY(!window.controls.pboxGraphicWindow.rubberBand);
-    }
-
-    void theRubberBandIsSeenWhileTheMouseIsDragged() {
-        Desk desk;
-        desk.New();
-        TypeCone(desk);
-        Click(desk.window, "btnView_9");
-        desk.window.Frame().RunMenu("mnuPan");
-        QWidget& area = Drawing(desk);
-        const int before = Ink(area);
-        QTest::mousePress(&area, Qt::LeftButton, Qt::NoModifier, {10, 10});
-        QMouseEvent move(QEvent::MouseMove, QPoint(10, 400), area.mapToGlobal(QPoint(10, 400)), Qt::NoButton,
-                         Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(&area, &move);
-        QVERIFY(Ink(area) > before + 100);
-        QTest::keyClick(&area, Qt::Key_Escape);
-        QCOMPARE(Ink(area), before);
-        QTest::mouseRelease(&area, Qt::LeftButton, Qt::NoModifier, {10, 400});
-        QCOMPARE(Ink(area), before);
-    }
-
-    void aDragMeasures() {
-        Desk desk;
-        desk.New();
-        TypeCone(desk);
-        Click(desk.window, "btnView_9");
-        desk.window.Frame().RunMenu("mnuZoomExtents");
-        desk.window.Frame().RunMenu("mnuMeasure");
-        desk.window.Project();
-        QVERIFY(Drawing(desk).toolTip().startsWith("Press left mouse button"));
-        Drag(Drawing(desk), {40, 40}, {500, 500});
-        QCOMPARE(desk.shell.ui.messages.size(), 1U);
-        QVERIFY(desk.shell.ui.messages[0].text.starts_with("Distance = "));
-    }
-
-    void theRightButtonShowsTheViewMenu() {
-        Desk desk;
-        desk.New();
-        TypeCone(desk);
-        ModalVisitor visitor;
-        QTest::mousePress(&Drawing(desk), Qt::RightButton, Qt::NoModifier, {50, 50});
-        QTest::qWait(30);
-        QVERIFY(visitor.seen.empty());  // nothing is shown yet, so there is no view to change
-        Click(desk.window, "btnView_9");
-        QTest::mousePress(&Drawing(desk), Qt::RightButton, Qt::NoModifier, {50, 50});
-        QTRY_COMPARE(visitor.seen, std::vector<std::string>{"mnuView"});
-    }
-
-    void aResizeKeepsThePicture() {
-        Desk desk;
-        CFittingWindow& window = desk.New();
-        TypeCone(desk);
-        Click(desk.window, "btnView_9");
-        const QImage before = Drawing(desk).grab(QRect(0, 0, 200, 200)).toImage();
-        const std::size_t views = window.views->Count();
-        desk.window.resize(1300, 900);
-        QApplication::processEvents();
-        QCOMPARE(Drawing(desk).grab(QRect(0, 0, 200, 200)).toImage(), before);
-        QCOMPARE(window.views->Count(), views);
-        QVERIFY(desk.shell.ui.messages.empty());
-    }
-
-    void thePictureHasEveryPixelOfTheScreen() {
-        Desk desk;
-        CFittingWindow& window = desk.New();
-        TypeCone(desk);
-        Click(desk.window, "btnView_9");
-        const PixelSize pixels = window.display.DisplayDevice->ScaleSize();
-        const QWidget& area = Drawing(desk);
-        QCOMPARE(pixels.width, std::floor(area.width() * area.devicePixelRatioF()));
-        QCOMPARE(window.display.DisplayDevice->LogicalDpiY(), 96 * area.devicePixelRatioF());
-    }
-
     void closingAsksAndDoesAsItIsTold_data() {
         QTest::addColumn<int>("answer");
         QTest::addColumn<bool>("closes");
@@ -418,19 +281,19 @@ class FittingViewTest : public QObject {
         TypeCone(desk);
         Click(desk.window, "btnView_9");
         desk.shell.ui.answers = {static_cast<Answer>(answer)};
-        desk.shell.ui.files = {"/work/cone.Kvt"};
+        desk.shell.ui.files = {"/jobs/cone.Kvt"};
         Click(desk.window, "btnClose");
         QCOMPARE(desk.window.Frame().Children().empty(), closes);
         QCOMPARE(desk.window.Area().subWindowList().isEmpty(), closes);
-        QCOMPARE(desk.shell.files.Exists("/work/cone.Kvt"), saves);
+        QCOMPARE(desk.shell.files.Exists("/jobs/cone.Kvt"), saves);
         if (!saves) {
             return;
         }
-        desk.window.Frame().OpenFile("/work/cone.Kvt");
+        desk.window.Frame().OpenFile("/jobs/cone.Kvt");
         desk.window.Project();
         QCOMPARE(Box(desk, 3).text(), QString("300"));
         QCOMPARE(Box(desk, 5).text(), QString("250"));
-        QCOMPARE(desk.ActiveView().windowTitle(), QString("/work/cone.Kvt"));
+        QCOMPARE(desk.ActiveView().windowTitle(), QString("/jobs/cone.Kvt"));
         QVERIFY(Ink(Drawing(desk)) > 100);
     }
 
@@ -439,9 +302,9 @@ class FittingViewTest : public QObject {
         desk.New();
         TypeCone(desk);
         Click(desk.window, "btnView_9");
-        desk.shell.files.unwritable = {"/work/cone.Kvt"};
+        desk.shell.files.unwritable = {"/jobs/cone.Kvt"};
         desk.shell.ui.answers = {Answer::Yes};
-        desk.shell.ui.files = {"/work/cone.Kvt"};
+        desk.shell.ui.files = {"/jobs/cone.Kvt"};
         Click(desk.window, "btnClose");
         QCOMPARE(desk.window.Area().subWindowList().size(), 1);
         QCOMPARE(Box(desk, 4).text(), QString("120"));

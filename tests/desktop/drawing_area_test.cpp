@@ -1,0 +1,110 @@
+// The drawing area of a fitting window: its mouse modes, and the picture that it keeps.
+#include <QAction>
+#include <QTest>
+#include <cmath>
+
+#include "tests/desktop/desktop_test.h"
+#include "tests/desktop/fitting_view_hands.h"
+
+namespace korvet::desktop {
+
+class DrawingAreaTest : public QObject {
+    Q_OBJECT
+  private slots:
+    void aDragZoomsToItsWindow() {
+        Desk desk;
+        CFittingWindow& window = desk.New();
+        TypeCone(desk);
+        Click(desk.window, "btnView_9");
+        desk.window.Frame().RunMenu("mnuZoomExtents");
+        desk.window.Frame().RunMenu("mnuZoomWindow");
+        desk.window.Project();
+        auto& area = static_cast<DrawingArea&>(Drawing(desk));
+        const QPoint from(100, 80);
+        const QPoint to(300, 230);
+        const WorldPoint a = area.ToDrawing(from);
+        const WorldPoint b = area.ToDrawing(to);
+        Drag(area, from, to);
+        const CViewPoint& view = window.views->Last();
+        QVERIFY(std::fabs(view.PanX - (a.x + b.x) / 2) < 0.01);
+        QVERIFY(std::fabs(view.PanY - (a.y + b.y) / 2) < 0.01);
+        QVERIFY(!window.controls.pboxGraphicWindow.rubberBand);
+    }
+
+    void theRubberBandIsSeenWhileTheMouseIsDragged() {
+        Desk desk;
+        desk.New();
+        TypeCone(desk);
+        Click(desk.window, "btnView_9");
+        desk.window.Frame().RunMenu("mnuPan");
+        QWidget& area = Drawing(desk);
+        const int before = Ink(area);
+        QTest::mousePress(&area, Qt::LeftButton, Qt::NoModifier, {10, 10});
+        QMouseEvent move(QEvent::MouseMove, QPoint(10, 400), area.mapToGlobal(QPoint(10, 400)), Qt::NoButton,
+                         Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&area, &move);
+        QVERIFY(Ink(area) > before + 100);
+        QTest::keyClick(&area, Qt::Key_Escape);
+        QCOMPARE(Ink(area), before);
+        QTest::mouseRelease(&area, Qt::LeftButton, Qt::NoModifier, {10, 400});
+        QCOMPARE(Ink(area), before);
+    }
+
+    void aDragMeasures() {
+        Desk desk;
+        desk.New();
+        TypeCone(desk);
+        Click(desk.window, "btnView_9");
+        desk.window.Frame().RunMenu("mnuZoomExtents");
+        desk.window.Frame().RunMenu("mnuMeasure");
+        desk.window.Project();
+        QVERIFY(Drawing(desk).toolTip().startsWith("Press left mouse button"));
+        Drag(Drawing(desk), {40, 40}, {500, 500});
+        QCOMPARE(desk.shell.ui.messages.size(), 1U);
+        QVERIFY(desk.shell.ui.messages[0].text.starts_with("Distance = "));
+    }
+
+    void theRightButtonShowsTheViewMenu() {
+        Desk desk;
+        desk.New();
+        TypeCone(desk);
+        ModalVisitor visitor;
+        QTest::mousePress(&Drawing(desk), Qt::RightButton, Qt::NoModifier, {50, 50});
+        QTest::qWait(30);
+        QVERIFY(visitor.seen.empty());  // nothing is shown yet, so there is no view to change
+        Click(desk.window, "btnView_9");
+        QTest::mousePress(&Drawing(desk), Qt::RightButton, Qt::NoModifier, {50, 50});
+        QTRY_COMPARE(visitor.seen, std::vector<std::string>{"mnuView"});
+    }
+
+    void aResizeKeepsThePicture() {
+        Desk desk;
+        CFittingWindow& window = desk.New();
+        TypeCone(desk);
+        Click(desk.window, "btnView_9");
+        const QImage before = Drawing(desk).grab(QRect(0, 0, 200, 200)).toImage();
+        const std::size_t views = window.views->Count();
+        desk.window.resize(1300, 900);
+        QApplication::processEvents();
+        QCOMPARE(Drawing(desk).grab(QRect(0, 0, 200, 200)).toImage(), before);
+        QCOMPARE(window.views->Count(), views);
+        QVERIFY(desk.shell.ui.messages.empty());
+    }
+
+    void thePictureHasEveryPixelOfTheScreen() {
+        Desk desk;
+        CFittingWindow& window = desk.New();
+        TypeCone(desk);
+        Click(desk.window, "btnView_9");
+        const PixelSize pixels = window.display.DisplayDevice->ScaleSize();
+        const QWidget& area = Drawing(desk);
+        QCOMPARE(pixels.width, std::floor(area.width() * area.devicePixelRatioF()));
+        QCOMPARE(window.display.DisplayDevice->LogicalDpiY(), 96 * area.devicePixelRatioF());
+    }
+};
+
+static const Registered<DrawingAreaTest> registered("DrawingAreaTest");
+
+}  // namespace korvet::desktop
+
+#include "drawing_area_test.moc"
