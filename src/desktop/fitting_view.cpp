@@ -129,8 +129,10 @@ bool FittingView::eventFilter(QObject* watched, QEvent* event) {
 
 void FittingView::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    panel_->setFixedWidth(panel_->widget()->minimumSizeHint().width() +
-                          panel_->verticalScrollBar()->sizeHint().width());
+    // Where the window is narrower than its panel, the panel scrolls.
+    const int whole =
+        panel_->widget()->minimumSizeHint().width() + panel_->verticalScrollBar()->sizeHint().width();
+    panel_->setFixedWidth(std::min(whole, width()));
     if (window_ != nullptr) {
         window_->Resize(PlaceOf(rect()));
         drawing_->Project();

@@ -2,6 +2,8 @@
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSet>
 #include <QSignalSpy>
 #include <QTest>
@@ -262,6 +264,17 @@ class FittingViewTest : public QObject {
         QCOMPARE(window.settings.Thickness, 2.0);
         QCOMPARE(desk.window.findChild<QLabel*>("sbStatusBar_1")->text(),
                  QString(" Segments = 24 | Thickness = 2 | Join Angle = 0"));
+    }
+
+    void aWindowNarrowerThanItsPanelScrolls() {
+        Desk desk;
+        desk.New();
+        desk.ActiveView().showNormal();
+        desk.ActiveView().resize(200, 400);
+        QApplication::processEvents();
+        const auto* panel = desk.ActiveView().findChild<QScrollArea*>();
+        QVERIFY(panel->width() <= desk.ActiveView().width());
+        QVERIFY(panel->horizontalScrollBar()->maximum() > 0);
     }
 
     void closingAsksAndDoesAsItIsTold_data() {
