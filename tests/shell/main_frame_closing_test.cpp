@@ -10,14 +10,6 @@ using Captions = std::vector<std::string>;
 
 class MainFrameClosingTest : public testing::Test {
   protected:
-    Captions Open() const {
-        Captions captions;
-        for (const auto& child : rig.frame.Children()) {
-            captions.push_back(child->controls.caption);
-        }
-        return captions;
-    }
-
     bool Quit(bool minimised = false) { return rig.frame.QueryUnload({10, -20, 8000, 7000}, minimised); }
 
     FrameRig rig;
@@ -53,7 +45,7 @@ TEST_F(MainFrameClosingTest, YesThatSavesNothingKeepsTheWindow) {
     rig.shell.files.unwritable = {"full.Kvt"};
     EXPECT_FALSE(rig.frame.CloseChild(cone));
     EXPECT_FALSE(rig.frame.CloseChild(cone));
-    EXPECT_EQ(Open(), (Captions{"Development 1"}));
+    EXPECT_EQ(rig.Open(), (Captions{"Development 1"}));
 }
 
 TEST_F(MainFrameClosingTest, TheDesktopTellsWhichWindowComesNext) {
@@ -73,7 +65,7 @@ TEST_F(MainFrameClosingTest, NoWindowIsActiveWhileTheDesktopHasNamedNone) {
     CFittingWindow& second = rig.OpenCone();
     EXPECT_TRUE(rig.frame.CloseChild(second));
     EXPECT_EQ(rig.frame.ActiveChild(), nullptr);
-    EXPECT_EQ(Open(), (Captions{"Development 1"}));
+    EXPECT_EQ(rig.Open(), (Captions{"Development 1"}));
 }
 
 TEST_F(MainFrameClosingTest, AnInactiveWindowClosesWithoutDisturbingTheActiveOne) {
@@ -120,7 +112,7 @@ TEST_F(MainFrameClosingTest, CancelInTheMiddleKeepsAllWindowsAndWhatWasSavedBefo
     rig.Forget();
     EXPECT_FALSE(Quit());
     EXPECT_EQ(rig.shell.ui.messages.size(), 2U);  // the third was not asked for
-    EXPECT_EQ(Open(), (Captions{"a.Kvt", "Development 2", "Development 3"}));
+    EXPECT_EQ(rig.Open(), (Captions{"a.Kvt", "Development 2", "Development 3"}));
     EXPECT_TRUE(rig.shell.files.files.contains("a.Kvt"));
     EXPECT_EQ(rig.frame.ActiveChild(), &third);
     EXPECT_TRUE(rig.desktop.calls.empty());
@@ -135,7 +127,7 @@ TEST_F(MainFrameClosingTest, ASaveThatFailsKeepsTheFrameOpen) {
     rig.shell.ui.files = {"full.Kvt"};
     rig.shell.files.unwritable = {"full.Kvt"};
     EXPECT_FALSE(Quit());
-    EXPECT_EQ(Open(), (Captions{"Development 1"}));
+    EXPECT_EQ(rig.Open(), (Captions{"Development 1"}));
     EXPECT_TRUE(rig.store.values.empty());
 }
 

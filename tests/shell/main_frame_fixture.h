@@ -6,6 +6,7 @@
 #include <array>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "core/number_text.h"
 #include "shell/main_frame.h"
@@ -58,6 +59,15 @@ class FrameRig {
         }
         rig->Forget();
         return rig;
+    }
+
+    /// The captions of the windows that are open, in the order in which they opened.
+    [[nodiscard]] std::vector<std::string> Open() const {
+        std::vector<std::string> captions;
+        for (const auto& child : frame.Children()) {
+            captions.push_back(child->controls.caption);
+        }
+        return captions;
     }
 
     /// A new cone with sizes typed, through File > New.

@@ -12,14 +12,6 @@ using Captions = std::vector<std::string>;
 
 class MainFrameTest : public testing::Test {
   protected:
-    Captions Open() const {
-        Captions captions;
-        for (const auto& child : rig.frame.Children()) {
-            captions.push_back(child->controls.caption);
-        }
-        return captions;
-    }
-
     /// A good file of a cone with a pattern view, at "good.Kvt".
     void PutGoodFile() {
         FrameRig other;
@@ -91,7 +83,7 @@ TEST_F(MainFrameTest, EveryVisitToTheMenuCounts) {
     rig.frame.RunMenu("mnuWindowNewWindow");
     rig.desktop.pick = "Truncated Right Cone";
     rig.frame.ClickTool(1);
-    EXPECT_EQ(Open(), (Captions{"Development 2", "Development 4"}));
+    EXPECT_EQ(rig.Open(), (Captions{"Development 2", "Development 4"}));
     EXPECT_EQ(rig.Said(), "P The fitting \"Branch\" is not built yet");
     EXPECT_EQ(rig.frame.Children().back()->category, "Truncated Right Cone");
 }
@@ -126,7 +118,7 @@ TEST_F(MainFrameTest, OpeningAFileFillsANewWindowUnderItsName) {
     rig.frame.RunMenu("mnuFileOpen");
     EXPECT_EQ(rig.Said(), "");
     EXPECT_EQ(rig.desktop.calls, (Captions{"show Development 1"}));
-    ASSERT_EQ(Open(), (Captions{"good.Kvt"}));
+    ASSERT_EQ(rig.Open(), (Captions{"good.Kvt"}));
     const CFittingWindow& cone = *rig.frame.ActiveChild();
     EXPECT_TRUE(cone.hasModel);
     EXPECT_EQ(cone.controls.txtParameter[4].text, "150");
@@ -197,7 +189,7 @@ TEST_F(MainFrameTest, AFileCutShortLeavesANewWindowWithWhatWasRead) {
     contents.resize(contents.find("Start Rotation"));
     rig.frame.OpenFile("good.Kvt");
     EXPECT_EQ(rig.Said(), "P Error loading parameter file");
-    EXPECT_EQ(Open(), (Captions{"Development 1"}));
+    EXPECT_EQ(rig.Open(), (Captions{"Development 1"}));
     const CFittingWindow& cone = *rig.frame.ActiveChild();
     EXPECT_EQ(cone.controls.txtParameter[3].text, "300");
     EXPECT_FALSE(cone.hasModel);
@@ -212,17 +204,17 @@ TEST_F(MainFrameTest, AFileWhoseSizesAreRefusedKeepsItsName) {
     contents.replace(contents.find("\r\n300\r\n150\r\n"), 12, "\r\n300\r\n400\r\n");
     rig.frame.OpenFile("good.Kvt");
     EXPECT_EQ(rig.Said(), "UE This dimension must be less than 300 / P The item has no extents");
-    EXPECT_EQ(Open(), (Captions{"good.Kvt"}));
+    EXPECT_EQ(rig.Open(), (Captions{"good.Kvt"}));
 }
 
 TEST_F(MainFrameTest, SaveAsWritesToANewNameAndKeepsTheOldOneWhenItFails) {
     rig.OpenDrawnCone();
     rig.shell.ui.files = {"a.Kvt", "b.Kvt"};
     rig.frame.RunMenu("mnuFileSaveAs");
-    EXPECT_EQ(Open(), (Captions{"a.Kvt"}));
+    EXPECT_EQ(rig.Open(), (Captions{"a.Kvt"}));
     rig.shell.files.unwritable = {"b.Kvt"};
     rig.frame.RunMenu("mnuFileSaveAs");
-    EXPECT_EQ(Open(), (Captions{"a.Kvt"}));
+    EXPECT_EQ(rig.Open(), (Captions{"a.Kvt"}));
     EXPECT_EQ(rig.Said(), "P b.Kvt: cannot be written");
     EXPECT_FALSE(rig.shell.files.files.contains("b.Kvt"));
 }
@@ -231,7 +223,7 @@ TEST_F(MainFrameTest, ARefusedSaveAsLeavesAnUnsavedWindowUnsaved) {
     rig.OpenCone();
     rig.shell.ui.files = {"a.Kvt"};
     rig.frame.RunMenu("mnuFileSaveAs");
-    EXPECT_EQ(Open(), (Captions{"Development 1"}));
+    EXPECT_EQ(rig.Open(), (Captions{"Development 1"}));
     EXPECT_EQ(rig.Said(), "UE Operation cannot be carried out at this time");
 }
 
@@ -240,9 +232,9 @@ TEST_F(MainFrameTest, AFailedSaveOfANewWindowAsksAgainNextTime) {
     rig.shell.files.unwritable = {"full.Kvt"};
     rig.shell.ui.files = {"full.Kvt", "a.Kvt"};
     rig.frame.RunMenu("mnuFileSave");
-    EXPECT_EQ(Open(), (Captions{"Development 1"}));
+    EXPECT_EQ(rig.Open(), (Captions{"Development 1"}));
     rig.frame.RunMenu("mnuFileSave");
-    EXPECT_EQ(Open(), (Captions{"a.Kvt"}));
+    EXPECT_EQ(rig.Open(), (Captions{"a.Kvt"}));
     EXPECT_EQ(rig.shell.ui.fileDialogs.size(), 2U);
 }
 
