@@ -6,12 +6,15 @@ find_program(KORVET_HELP_GENERATOR NAMES qhelpgenerator qhelpgenerator-qt6 qhelp
     DOC "Qt's compiler of help files" REQUIRED)
 
 file(GLOB KORVET_HELP_PAGES CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/resources/help/*)
+set(KORVET_HELP_PROJECT ${CMAKE_BINARY_DIR}/help)
 set(KORVET_HELP_FILE ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/korvet.qch)
 add_custom_command(OUTPUT ${KORVET_HELP_FILE}
     COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}
+    COMMAND ${CMAKE_COMMAND} -DPAGES=${PROJECT_SOURCE_DIR}/resources/help -DOUTPUT=${KORVET_HELP_PROJECT}
+            -P ${PROJECT_SOURCE_DIR}/cmake/help_project.cmake
     COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen
-            ${KORVET_HELP_GENERATOR} ${PROJECT_SOURCE_DIR}/resources/help/korvet.qhp -o ${KORVET_HELP_FILE}
-    DEPENDS ${KORVET_HELP_PAGES}
+            ${KORVET_HELP_GENERATOR} ${KORVET_HELP_PROJECT}/korvet.qhp -o ${KORVET_HELP_FILE}
+    DEPENDS ${KORVET_HELP_PAGES} ${PROJECT_SOURCE_DIR}/cmake/help_project.cmake
     COMMENT "Building the help file"
     VERBATIM)
 add_custom_target(korvet_help DEPENDS ${KORVET_HELP_FILE})

@@ -44,6 +44,7 @@ class BatchUi : public UserInterface {
     void RunModal(DimensionOptionsDialog&) override {}
     void RunModal(LabelDialog&) override {}
     void RunModal(RotateDialog&) override {}
+    void RunModal(BranchAdditionalDialog&) override {}
 
   private:
     void Tick(CheckBox& box, bool wanted);

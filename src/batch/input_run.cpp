@@ -117,7 +117,7 @@ void InputRun::PrepareNewWindow() {
 bool InputRun::SetValues() {
     if (arguments_.select != 0) {
         const auto index = static_cast<std::size_t>(arguments_.select - 1);
-        if (index >= window_->controls.optPatternSelect.captions.size()) {
+        if (index >= window_->controls.options.optPatternSelect.captions.size()) {
             throw UsageError(category_ + " has no pattern option " + std::to_string(arguments_.select));
         }
         window_->SelectPattern(index);

@@ -57,11 +57,11 @@ const std::map<std::string, Member, std::less<>>& Members() {
     return members;
 }
 
-const std::map<std::string, OptionGroup WindowModel::*, std::less<>>& Groups() {
-    static const std::map<std::string, OptionGroup WindowModel::*, std::less<>> groups = {
-        {"optTopAngle", &WindowModel::optTopAngle},
-        {"optBaseAngle", &WindowModel::optBaseAngle},
-        {"optFlushSide", &WindowModel::optFlushSide}};
+const std::map<std::string, OptionGroup FittingOptions::*, std::less<>>& Groups() {
+    static const std::map<std::string, OptionGroup FittingOptions::*, std::less<>> groups = {
+        {"optTopAngle", &FittingOptions::optTopAngle},
+        {"optBaseAngle", &FittingOptions::optBaseAngle},
+        {"optFlushSide", &FittingOptions::optFlushSide}};
     return groups;
 }
 
@@ -117,7 +117,7 @@ bool SetMember(CFittingWindow& window, const std::string& name, const std::strin
 }
 
 void SetOption(CFittingWindow& window, const std::string& name, const std::string& value) {
-    OptionGroup& group = window.controls.*Groups().at(name);
+    OptionGroup& group = window.controls.options.*Groups().at(name);
     if (value == "none" && !group.captions.empty()) {
         group.selected.reset();
         return;
@@ -129,11 +129,31 @@ void SetOption(CFittingWindow& window, const std::string& name, const std::strin
     group.selected = static_cast<std::size_t>(*index);
 }
 
+bool IsBranchOption(const std::string& name) {
+    return name == "optInOrOn" || name == "chkHeelCompensation";
+}
+
+/// As the dialog of further options would store it.
+void SetBranchOption(CFittingWindow& window, const std::string& name, const std::string& value) {
+    if (!window.Table().branchMaterialEnable) {
+        throw UsageError(std::string(window.Row().window) + " has no " + name);
+    }
+    if (name == "chkHeelCompensation") {
+        window.branch.heelCompensation = ParseBoolean(name, value);
+        return;
+    }
+    const auto join = ParseWholeNumber(value, SetInJoin, MeanToMeanJoin);
+    if (!join) {
+        throw UsageError(name + " takes 0 to 2, not \"" + value + "\"");
+    }
+    window.branch.join = static_cast<BranchJoin>(*join);
+}
+
 }  // namespace
 
 bool IsSettableName(const std::string& name) {
     return BoxIndex(name) || name == "comment1" || name == "comment2" || name == "textsize" ||
-           name == "segs" || Members().contains(name) || Groups().contains(name);
+           name == "segs" || Members().contains(name) || Groups().contains(name) || IsBranchOption(name);
 }
 
 bool SetValue(CFittingWindow& window, const std::string& name, const std::string& value) {
@@ -152,6 +172,8 @@ bool SetValue(CFittingWindow& window, const std::string& name, const std::string
         return SetSegs(window, value);
     } else if (Members().contains(name)) {
         return SetMember(window, name, value);
+    } else if (IsBranchOption(name)) {
+        SetBranchOption(window, name, value);
     } else {
         SetOption(window, name, value);
     }

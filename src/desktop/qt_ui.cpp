@@ -2,6 +2,7 @@
 
 #include <QApplication>
 
+#include "desktop/dialogs/branch_dialog.h"
 #include "desktop/dialogs/file_dialog.h"
 #include "desktop/dialogs/message_box.h"
 #include "desktop/dialogs/options_widgets.h"
@@ -62,6 +63,10 @@ void QtUi::RunModal(DxfOptionsDialog& dialog) {
 }
 
 void QtUi::RunModal(RotateDialog& dialog) {
+    RunDialog(Host(), dialog);
+}
+
+void QtUi::RunModal(BranchAdditionalDialog& dialog) {
     RunDialog(Host(), dialog);
 }
 

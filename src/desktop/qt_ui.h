@@ -34,6 +34,7 @@ class QtUi final : public UserInterface {
     void RunModal(LabelDialog& dialog) override;
     void RunModal(DxfOptionsDialog& dialog) override;
     void RunModal(RotateDialog& dialog) override;
+    void RunModal(BranchAdditionalDialog& dialog) override;
 
     /// What a dialog that is not one of a model above needs to be shown now.
     [[nodiscard]] DialogHost Host();

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "core/branch_options.h"
 #include "core/dimensions.h"
 #include "core/file_store.h"
 #include "core/pattern_settings.h"
@@ -63,6 +64,10 @@ struct CKvtFile {
     std::string Product;
     std::string Category;  ///< catalogue name of the fitting
     CPatternSettings PatternSettings;
+
+    /// Set for a fitting of a branch and a trunk, before loading too: its files hold both thicknesses and
+    /// these.
+    std::optional<BranchOptions> Branch;
     CViewPoint ViewPoint;
     int Dtype = 0;
     std::string FileName;

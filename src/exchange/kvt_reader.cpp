@@ -54,6 +54,22 @@ class KvtLines {
         return false;
     }
 
+    /// Drops empty lines. False at the end of the file.
+    bool SkipBlank() {
+        while (!rest_.empty() && Trimmed(rest_.substr(0, rest_.find('\n'))).empty()) {
+            ReadLine();
+        }
+        return !rest_.empty();
+    }
+
+    /// Reads a line that must be `text`.
+    void Expect(std::string_view text) {
+        const std::string_view line = ReadLine();
+        if (line != text) {
+            Refuse<void>(line, "\"" + std::string(text) + "\"");
+        }
+    }
+
     double ReadNumber() { return Number(ReadLine()); }
 
     /// The number in a line that has been read.
@@ -276,6 +292,21 @@ void ReadComments(KvtLines& lines, CKvtFile& file) {
     }
 }
 
+/// Stands behind the comments, where programs that do not know it have stopped reading. Older files end
+/// there.
+void ReadBranchMaterial(KvtLines& lines, CPatternSettings& settings, BranchOptions& branch) {
+    branch = BranchOptions();
+    if (!lines.SkipBlank()) {
+        return;
+    }
+    lines.Expect("Start Branch Material");
+    settings.ThicknessA = lines.ReadNumber();
+    settings.ThicknessB = lines.ReadNumber();
+    branch.join = static_cast<BranchJoin>(lines.ReadInteger(SetInJoin, MeanToMeanJoin));
+    branch.heelCompensation = lines.ReadBoolean();
+    lines.Expect("End Branch Material");
+}
+
 }  // namespace
 
 void CKvtFile::ParseHeader(const std::string& text) {
@@ -304,6 +335,9 @@ void CKvtFile::Parse(const std::string& text, int defaultSegs) {
     ReadLabel(lines, *this);
     ReadDimensions(lines, *this);
     ReadComments(lines, *this);
+    if (Branch) {
+        ReadBranchMaterial(lines, PatternSettings, *Branch);
+    }
 }
 
 void CKvtFile::LoadFile(const FileStore& files, int defaultSegs) {

@@ -147,6 +147,15 @@ void WriteComments(KvtText& text, const CKvtFile& file) {
     text.End("Comments");
 }
 
+void WriteBranchMaterial(KvtText& text, const CPatternSettings& settings, const BranchOptions& branch) {
+    text.Start("Branch Material");
+    text.Number(settings.ThicknessA);
+    text.Number(settings.ThicknessB);
+    text.Integer(branch.join);
+    text.Boolean(branch.heelCompensation);
+    text.End("Branch Material");
+}
+
 }  // namespace
 
 std::string CKvtFile::Compose(char decimalMark) const {
@@ -162,6 +171,9 @@ std::string CKvtFile::Compose(char decimalMark) const {
     WriteRequests(text, *this);
     WriteLabelAndDimensions(text, *this);
     WriteComments(text, *this);
+    if (Branch) {
+        WriteBranchMaterial(text, PatternSettings, *Branch);
+    }
     return text.Whole();
 }
 

@@ -40,6 +40,14 @@ struct OptionGroup {
     [[nodiscard]] bool IsOn(std::size_t index) const { return selected == index; }
 };
 
+/// The groups of option buttons of a fitting window; one without captions is not there.
+struct FittingOptions {
+    OptionGroup optTopAngle;
+    OptionGroup optBaseAngle;
+    OptionGroup optPatternSelect;
+    OptionGroup optFlushSide;
+};
+
 struct CheckBox {
     std::string caption = {};
     bool checked = false;

@@ -1,32 +1,62 @@
-// What the build function of a fitting window sees of its window: texts in, messages and focus out.
+// What the build function of a fitting window sees of its window: texts and choices in, messages and focus
+// out.
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 #include <vector>
 
+#include "core/branch_options.h"
 #include "core/pattern_settings.h"
 #include "core/thick_compensator.h"
 #include "form/fields.h"
+#include "form/messages.h"
 
 namespace korvet {
+
+/// The state of a window that a build function works on.
+struct FormState {
+    std::vector<TextBox>& boxes;  ///< txtParameter, by index
+    CPatternSettings& settings;
+    const FittingOptions& options;
+    const BranchOptions& branch;
+    std::string_view category;
+    std::int16_t dtype = 0;          ///< the type that is shown, from 0
+    std::int16_t miscellaneous = 0;  ///< selector of the pattern
+    bool patternView = false;        ///< the current view shows the pattern
+};
 
 /// The parameter boxes of a window by their index in txtParameter, with the checks of form/fields.h on them.
 class FittingForm {
   public:
-    FittingForm(FieldContext context, std::vector<TextBox>& boxes, CPatternSettings& patternSettings,
-                std::int16_t type)
-        : settings(patternSettings), dtype(type), context_(context), boxes_(boxes) {}
+    FittingForm(FieldContext context, const FormState& state)
+        : settings(state.settings),
+          options(state.options),
+          branch(state.branch),
+          category(state.category),
+          dtype(state.dtype),
+          miscellaneous(state.miscellaneous),
+          context_(context),
+          boxes_(state.boxes),
+          patternView_(state.patternView) {}
 
     CPatternSettings& settings;
-    const std::int16_t dtype;  ///< the type that is shown, from 0
+    const FittingOptions& options;
+    const BranchOptions& branch;
+    const std::string_view category;
+    const std::int16_t dtype;
+    const std::int16_t miscellaneous;
 
     /// The number in a box. Throws ArithmeticError when it is none: check first where no sweep over all boxes
     /// has gone before.
     [[nodiscard]] double Value(int box) const { return FieldValue(context_, Box(box)); }
 
-    /// A compensator for the window's material and one kind of wall.
+    /// A compensator for one kind of wall of the window's material, or of another thickness.
     [[nodiscard]] CThickCompensator Compensator(WallShape shape) const {
-        return {settings.Thickness, settings.InOutMean, shape};
+        return Compensator(shape, settings.Thickness);
+    }
+    [[nodiscard]] CThickCompensator Compensator(WallShape shape, double thickness) const {
+        return {thickness, settings.InOutMean, shape};
     }
 
     // The checks: true after a failure, with the message shown and the focus on the box.
@@ -38,8 +68,13 @@ class FittingForm {
     }
     bool CheckAtMost(int box, double limit) { return korvet::CheckAtMost(context_, Box(box), limit); }
     bool CheckAtLeast(int box, double limit) { return korvet::CheckAtLeast(context_, Box(box), limit); }
+    bool CheckNotEqual(int box, double limit) { return korvet::CheckNotEqual(context_, Box(box), limit); }
+    bool CheckInteger(int box) { return korvet::CheckInteger(context_, Box(box)); }
     bool CheckRoomForThickness(int box, double value, double allowance) {
         return korvet::CheckRoomForThickness(context_, Box(box), value, allowance);
+    }
+    bool CheckBoxRoomForThickness(int box, double allowance) {
+        return korvet::CheckBoxRoomForThickness(context_, Box(box), allowance);
     }
 
     /// CheckPositive on several boxes in the order given; stops at the first failure.
@@ -48,11 +83,26 @@ class FittingForm {
         return (CheckPositive(box) || ...);
     }
 
+    // The refusals that belong to no box: true after a failure, the focus stays where it is.
+
+    /// An angle in one of the two boxes, in degrees, has no axis selected to turn about.
+    bool CheckAxes(int topBox, int baseBox);
+
+    /// A pattern is to be drawn and none of optPatternSelect is selected.
+    bool CheckPatternSelected();
+
+    /// Says that the fitting has no half pattern with these sizes, and takes the whole one in the settings.
+    void RefuseHalfPattern();
+
+    /// Shows a message as the user's error; always true.
+    bool Refuse(int messageId);
+
   private:
     [[nodiscard]] TextBox& Box(int box) const { return boxes_.at(static_cast<std::size_t>(box)); }
 
     FieldContext context_;
     std::vector<TextBox>& boxes_;
+    bool patternView_;
 };
 
 }  // namespace korvet

@@ -20,10 +20,14 @@ struct BoxEntry {
     SketchDimension dimension = {};  ///< what the box measures on the page's sketch
 };
 
+/// The box of a line of the text block that has none.
+inline constexpr int NoBox = -1;
+
 /// One line of the text block: the label and then the text of the box as typed.
 struct LabelEntry {
     std::string_view label;
     int box;
+    std::string_view text = {};  ///< what follows the label where there is no box
 };
 
 /// The views of a sketch that shows the shape once, from the front.
@@ -35,7 +39,11 @@ struct PageEntry {
     std::span<const LabelEntry> labels;             ///< in the order of the text block
     std::span<const SketchView> views = FrontView;  ///< of the sketch, one above the other
     std::span<const SketchConstruction> construction = {};
+    bool angleOptions = false;  ///< bears optTopAngle and optBaseAngle
 };
+
+/// Captions of optTopAngle and optBaseAngle.
+inline constexpr std::string_view AxisCaptions[] = {"Angle about X-axis", "Angle about Y-axis"};
 
 struct WindowTable {
     std::span<const PageEntry> pages;
@@ -44,6 +52,9 @@ struct WindowTable {
     /// Checks the boxes of form.dtype in their fixed order and sets the fitting's own properties. False after
     /// a failed check, which has shown its message.
     bool (*buildFitting)(FittingForm& form, const FittingHandle& fitting);
+
+    /// What is done once the text block stands, in the same way; null when nothing.
+    bool (*completeFitting)(FittingForm& form, const FittingHandle& fitting) = nullptr;
 
     /// What a change of type does to the settings; null when nothing.
     void (*onTypeChanged)(std::int16_t dtype, CPatternSettings& settings) = nullptr;
@@ -60,9 +71,21 @@ struct WindowTable {
     bool materialDisable = false;
     bool branchMaterialEnable = false;
     std::int16_t inOutMean = MeanDimension;
-    bool angleOptions = false;                             ///< has optTopAngle and optBaseAngle
+    bool moreButtons = false;  ///< pages bear btnMore and btnBack, which step the type
     std::span<const std::string_view> patternSelect = {};  ///< captions of optPatternSelect
-    std::span<const std::string_view> flushSide = {};      ///< captions of optFlushSide
+    std::span<const int> patternSurface =
+        {};  ///< the surface of the model, from 1, that each of them develops; the sketch shows it off
+    std::span<const std::string_view> flushSide = {};  ///< captions of optFlushSide
+
+    /// Whether the window has optTopAngle and optBaseAngle.
+    [[nodiscard]] constexpr bool HasAngleOptions() const {
+        for (const PageEntry& page : pages) {
+            if (page.angleOptions) {
+                return true;
+            }
+        }
+        return false;
+    }
 
     /// Number of parameter boxes of all pages together.
     [[nodiscard]] constexpr std::size_t BoxCount() const {

@@ -10,7 +10,7 @@ const std::array<CatalogueRow, CatalogueSize> Catalogue = {{
     {"Right Cone", "frmRightCone1", "CRightCone", 2100, AllLaps, &frmRightCone1},
     {"Segmented Bend", "frmSegBendParallel", "CSegBendParallel", 2160, SeamLapOnly, nullptr},
     {"Right Cylinder", "frmRightCylinder", "CRightCylinder", 2150, AllLaps, nullptr},
-    {"Branch", "frmBranch", "CBranch", 2170, AllLaps, nullptr},
+    {"Branch", "frmBranch", "CBranch", 2170, AllLaps, &frmBranch},
     {"Rectangle (Radius) to Round", "frmRectRound2", "CTransition", 2180, SeamLapOnly, nullptr},
     {"Pipe to Cone", "frmPipeToCone", "CPipeToCone", 2190, AllLaps, nullptr},
     {"Rectangle to Rectangle", "frmRectToRect", "CRectToRect", 2200, NoLaps, nullptr},

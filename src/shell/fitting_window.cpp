@@ -4,7 +4,7 @@
 
 #include "core/constants.h"
 #include "core/number_text.h"
-#include "shell/dialogs.h"
+#include "shell/branch_additional_dialog.h"
 #include "shell/form_services.h"
 #include "shell/views.h"
 
@@ -43,12 +43,19 @@ void CFittingWindow::InitialiseFitting() {
         controls.txtParameter[i].name = "txtParameter_" + std::to_string(i);
         controls.txtParameter[i].parameterIndex = static_cast<int>(i);
     }
-    if (table.angleOptions) {
-        controls.optTopAngle = {{"X", "Y"}, 1, true};
-        controls.optBaseAngle = {{"X", "Y"}, 1, true};
+    FittingOptions& options = controls.options;
+    if (table.HasAngleOptions()) {
+        options.optTopAngle = options.optBaseAngle = MakeOptions(AxisCaptions);
+        options.optTopAngle.selected = options.optBaseAngle.selected = 1;
     }
-    controls.optPatternSelect = MakeOptions(table.patternSelect);
-    controls.optFlushSide = MakeOptions(table.flushSide);
+    options.optPatternSelect = MakeOptions(table.patternSelect);
+    options.optFlushSide = MakeOptions(table.flushSide);
+    if (table.moreButtons) {
+        controls.btnMore.resize(table.pages.size());
+        controls.btnBack.resize(table.pages.size());
+        controls.btnMore.back().visible = controls.btnBack.front().visible = false;
+    }
+    controls.btnPosition.visible = table.branchMaterialEnable;
 }
 
 FieldContext CFittingWindow::Fields() {
@@ -96,19 +103,37 @@ void CFittingWindow::ClickPoint(std::size_t index) {
     }
 }
 
+/// A type with one page only has the next type behind it.
 void CFittingWindow::ClickMore(std::size_t page) {
+    if (controls.pboxMore.empty()) {
+        ClickPoint(0);
+        return;
+    }
     controls.Picture1.at(page).visible = false;
     controls.pboxMore.at(page).visible = true;
 }
 
 void CFittingWindow::ClickBack(std::size_t page) {
+    if (controls.pboxMore.empty()) {
+        ClickPoint(1);
+        return;
+    }
     controls.Picture1.at(page).visible = true;
     controls.pboxMore.at(page).visible = false;
 }
 
 void CFittingWindow::SelectPattern(std::size_t index) {
-    controls.optPatternSelect.selected = index;
+    controls.options.optPatternSelect.selected = index;
     miscellaneous = static_cast<std::int16_t>(index + 1);
+}
+
+void CFittingWindow::ClickPosition() {
+    BranchAdditionalDialog dialog(branch);
+    context_.ui.RunModal(dialog);
+    if (dialog.lblStatus == "OK") {
+        branch = dialog.Chosen();
+    }
+    Redraw();
 }
 
 void CFittingWindow::PressKeyInDrawing() {

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "core/branch_options.h"
 #include "core/fitting.h"
 #include "core/pattern_settings.h"
 #include "display/object_display.h"
@@ -88,6 +89,7 @@ class CFittingWindow {
     void ClickMore(std::size_t page);
     void ClickBack(std::size_t page);
     void SelectPattern(std::size_t index);
+    void ClickPosition();
     void PressKeyInDrawing();
 
     /// The mouse over the drawing area, at a point of the drawing plane. MouseDown gives true when the View
@@ -136,6 +138,7 @@ class CFittingWindow {
     std::int16_t dtype = 0;
     std::int16_t miscellaneous = 0;
     std::int16_t noOfSides = 0;
+    BranchOptions branch;
     bool hasModel = false;
     bool edited = true;
     std::string category;

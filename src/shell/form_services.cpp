@@ -30,6 +30,18 @@ void PlacePanels(CFittingWindow& window) {
     controls.lblTextSize.place = {100, 250, 0, 0};
 }
 
+/// Every button that leads to the next or the previous type.
+void EnableSteps(WindowModel& controls, bool next, bool previous) {
+    controls.btnPoint[0].enabled = next;
+    controls.btnPoint[1].enabled = previous;
+    for (Control& button : controls.btnMore) {
+        button.enabled = next;
+    }
+    for (Control& button : controls.btnBack) {
+        button.enabled = previous;
+    }
+}
+
 void NameControls(WindowModel& controls) {
     controls.btnPoint[0].toolTip = "Next item";
     controls.btnPoint[1].toolTip = "Previous Item";
@@ -39,6 +51,13 @@ void NameControls(WindowModel& controls) {
     controls.btnRedraw.caption = "Redraw";
     controls.btnSettings.toolTip = "Pattern settings for this item";
     controls.btnClose.toolTip = "Close this pattern";
+    controls.btnPosition.caption = "Additional Options";
+    for (Control& button : controls.btnMore) {
+        button.caption = "More";
+    }
+    for (Control& button : controls.btnBack) {
+        button.caption = "Back";
+    }
 }
 
 }  // namespace
@@ -91,8 +110,11 @@ void SetupFittingWindow(CFittingWindow& window) {
 
 void EnableTypeButtons(CFittingWindow& window, std::int16_t dtype) {
     const auto last = static_cast<std::int16_t>(window.controls.Picture1.size() - 1);
-    window.controls.btnPoint[0].enabled = dtype != last;
-    window.controls.btnPoint[1].enabled = dtype != 0;
+    EnableSteps(window.controls, dtype != last, dtype != 0);
+}
+
+void LockType(CFittingWindow& window) {
+    EnableSteps(window.controls, false, false);
 }
 
 std::int16_t StepFittingType(CFittingWindow& window, std::size_t button, std::int16_t dtype) {

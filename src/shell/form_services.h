@@ -20,6 +20,9 @@ std::int16_t StepFittingType(CFittingWindow& window, std::size_t button, std::in
 /// Enables the type buttons that have a type to go to from `dtype`.
 void EnableTypeButtons(CFittingWindow& window, std::int16_t dtype);
 
+/// Disables them for good: the type of a fitting is fixed by its first drawing.
+void LockType(CFittingWindow& window);
+
 /// The close question. Returns 0 when none was needed, 6 after a save, 7 for No, 2 when the window stays
 /// open: Cancel, in the question or the file dialog, or a save that failed.
 int ConfirmSave(CFittingWindow& window);

@@ -17,10 +17,10 @@ KvtControls ControlsOf(const WindowModel& controls) {
     for (const TextBox& box : controls.txtParameter) {
         kvt.txtParameter.emplace_back(box.text);
     }
-    kvt.optTopAngle = Values(controls.optTopAngle);
-    kvt.optBaseAngle = Values(controls.optBaseAngle);
-    kvt.optPatternSelect = Values(controls.optPatternSelect);
-    kvt.optFlushSide = Values(controls.optFlushSide);
+    kvt.optTopAngle = Values(controls.options.optTopAngle);
+    kvt.optBaseAngle = Values(controls.options.optBaseAngle);
+    kvt.optPatternSelect = Values(controls.options.optPatternSelect);
+    kvt.optFlushSide = Values(controls.options.optFlushSide);
     return kvt;
 }
 
@@ -28,10 +28,10 @@ KvtControls ControlsOf(const WindowModel& controls) {
 KvtControls EmptyControls(const WindowModel& controls) {
     KvtControls kvt;
     kvt.txtParameter.resize(controls.txtParameter.size());
-    kvt.optTopAngle.resize(controls.optTopAngle.captions.size());
-    kvt.optBaseAngle.resize(controls.optBaseAngle.captions.size());
-    kvt.optPatternSelect.resize(controls.optPatternSelect.captions.size());
-    kvt.optFlushSide.resize(controls.optFlushSide.captions.size());
+    kvt.optTopAngle.resize(controls.options.optTopAngle.captions.size());
+    kvt.optBaseAngle.resize(controls.options.optBaseAngle.captions.size());
+    kvt.optPatternSelect.resize(controls.options.optPatternSelect.captions.size());
+    kvt.optFlushSide.resize(controls.options.optFlushSide.captions.size());
     return kvt;
 }
 
@@ -52,10 +52,11 @@ void FillControls(CFittingWindow& window, const KvtControls& kvt) {
             window.ChangeBox(i, *kvt.txtParameter[i]);
         }
     }
-    SelectOptions(kvt.optTopAngle, [&](std::size_t i) { window.controls.optTopAngle.selected = i; });
-    SelectOptions(kvt.optBaseAngle, [&](std::size_t i) { window.controls.optBaseAngle.selected = i; });
+    FittingOptions& options = window.controls.options;
+    SelectOptions(kvt.optTopAngle, [&](std::size_t i) { options.optTopAngle.selected = i; });
+    SelectOptions(kvt.optBaseAngle, [&](std::size_t i) { options.optBaseAngle.selected = i; });
     SelectOptions(kvt.optPatternSelect, [&](std::size_t i) { window.SelectPattern(i); });
-    SelectOptions(kvt.optFlushSide, [&](std::size_t i) { window.controls.optFlushSide.selected = i; });
+    SelectOptions(kvt.optFlushSide, [&](std::size_t i) { options.optFlushSide.selected = i; });
 }
 
 /// The settings of a file, with the flags that a file does not carry as the window sets them at its start.
@@ -121,6 +122,9 @@ bool SaveFitting(CFittingWindow& window, const std::string& path) {
     file.Dtype = window.dtype;
     file.Controls = ControlsOf(window.controls);
     file.PatternSettings = window.settings;
+    if (window.Table().branchMaterialEnable) {
+        file.Branch = window.branch;
+    }
     file.ViewPoint = window.views->Last();
     file.RotationAngle = display.RotationAngle;
     // The rotation point of a file is its first move point: readers of these files count on it.
@@ -151,6 +155,9 @@ CKvtFile LoadFitting(CFittingWindow& window, const std::string& path) {
     CKvtFile file;
     file.FileName = path;
     file.Controls = EmptyControls(window.controls);
+    if (window.Table().branchMaterialEnable) {
+        file.Branch = BranchOptions();
+    }
     try {
         file.LoadFile(context.files, context.options.DefaultSegs);
     } catch (const ParameterFileError&) {
@@ -167,6 +174,7 @@ CKvtFile LoadFitting(CFittingWindow& window, const std::string& path) {
     window.dtype = static_cast<std::int16_t>(file.Dtype);
     window.views->Add(file.ViewPoint);
     window.settings = WithWindowFlags(file.PatternSettings, window.Table());
+    window.branch = file.Branch.value_or(BranchOptions());
     window.Context().patternSettingsDialog =
         PatternSettingsDialog();  // it closes with the settings it showed
     TakeDisplayState(window, file);

@@ -9,6 +9,7 @@
 
 namespace korvet {
 
+struct BranchAdditionalDialog;
 struct DimensionOptionsDialog;
 struct DxfOptionsDialog;
 struct LabelDialog;
@@ -36,6 +37,7 @@ class UserInterface : public MessageBoxes {
     virtual void RunModal(LabelDialog& dialog) = 0;
     virtual void RunModal(DxfOptionsDialog& dialog) = 0;
     virtual void RunModal(RotateDialog& dialog) = 0;
+    virtual void RunModal(BranchAdditionalDialog& dialog) = 0;
 };
 
 }  // namespace korvet

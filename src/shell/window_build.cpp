@@ -8,8 +8,23 @@
 #include "core/number_text.h"
 #include "shell/fitting_window.h"
 #include "shell/form_services.h"
+#include "shell/views.h"
 
 namespace korvet {
+namespace {
+
+MessageId BranchTypeText(BranchJoin join) {
+    switch (join) {
+        case SetInJoin:
+            return SetInText;
+        case SetOnJoin:
+            return SetOnText;
+        default:
+            return MeanToMeanText;
+    }
+}
+
+}  // namespace
 
 void CFittingWindow::UpdateFitting() {
     if (views->Count() == 0) {
@@ -41,11 +56,15 @@ bool CFittingWindow::BuildFitting() {
     if (!fitting) {
         fitting = Table().newFitting();
     }
-    FittingForm form(Fields(), controls.txtParameter, settings, dtype);
+    FittingForm form(Fields(), {controls.txtParameter, settings, controls.options, branch, category, dtype,
+                                miscellaneous, InPatternView(*views)});
     if (!Table().buildFitting(form, *fitting)) {
         return false;
     }
     AddTextBlock();
+    if (Table().completeFitting != nullptr && !Table().completeFitting(form, *fitting)) {
+        return false;
+    }
     fitting->Inputs().Dtype = dtype;
     hasModel = true;
     edited = false;
@@ -63,10 +82,21 @@ bool CFittingWindow::AllFieldsValid() {
 /// The sizes as typed, then what the window's table asks for of the common lines.
 void CFittingWindow::AddTextBlock() {
     for (const LabelEntry& line : Table().pages[static_cast<std::size_t>(dtype)].labels) {
-        labels->Add(
-            {std::string(line.label) + controls.txtParameter.at(static_cast<std::size_t>(line.box)).text});
+        const std::string text = line.box == NoBox
+                                     ? std::string(line.text)
+                                     : controls.txtParameter.at(static_cast<std::size_t>(line.box)).text;
+        labels->Add({std::string(line.label) + text});
     }
-    labels->Add({context_.Message(ThicknessText) + NumberText(settings.Thickness, context_.decimalMark)});
+    const auto addThickness = [&](MessageId label, double thickness) {
+        labels->Add({context_.Message(label) + NumberText(thickness, context_.decimalMark)});
+    };
+    if (Table().branchMaterialEnable) {
+        addThickness(BranchThicknessText, settings.ThicknessA);
+        addThickness(TrunkThicknessText, settings.ThicknessB);
+        labels->Add({context_.Message(BranchTypeText(branch.join))});
+    } else {
+        addThickness(ThicknessText, settings.Thickness);
+    }
     if (Table().positionLine) {
         labels->Add({context_.Message(DimensionsBasedOn) + settings.PositionString});
     }
@@ -127,7 +157,7 @@ void CFittingWindow::DevelopAndDisplay() {
         throw;
     }
     UpdateSettings(*this);
-    controls.btnPoint[0].enabled = controls.btnPoint[1].enabled = false;
+    LockType(*this);
     ShowWarnings(display.Warnings);
 }
 

@@ -47,7 +47,10 @@ struct WindowModel {
     Place scale;  ///< its inner area
     DrawingArea pboxGraphicWindow;
     std::vector<Control> Picture1;  ///< parameter page of each type
-    std::vector<Control> pboxMore;  ///< second page of a type; no window has any yet
+    std::vector<Control> pboxMore;  ///< second page of a type; no window has any
+    std::vector<Control> btnMore;   ///< one a page, where the window has them: on to the next page
+    std::vector<Control> btnBack;   ///< back to the one before
+    Control btnPosition;            ///< further options of a branch; hidden where there are none
     std::vector<TextBox> txtParameter;
     TextBox txtTextSize{.name = "txtTextSize"};
     Control lblTextSize;
@@ -60,10 +63,7 @@ struct WindowModel {
     Control btnRedraw;
     Control btnSettings;
     Control btnClose;
-    OptionGroup optTopAngle;
-    OptionGroup optBaseAngle;
-    OptionGroup optPatternSelect;
-    OptionGroup optFlushSide;
+    FittingOptions options;
 };
 
 /// Shows the hourglass over window and drawing for as long as it lives, and then the pointers that were

@@ -47,9 +47,14 @@ FittingHandle BuildSample(const WindowTable& table, std::size_t page) {
     std::vector<TextBox> boxes = SampleBoxes(table, table.pages[page]);
     const auto dtype = static_cast<std::int16_t>(page);
     CPatternSettings settings = SampleSettings(table, dtype);
-    FittingForm form({refusing, options, '.', focus}, boxes, settings, dtype);
+    FittingOptions choices;
+    choices.optTopAngle.selected = choices.optBaseAngle.selected = 1;
+    const BranchOptions branch;
+    FittingForm form({refusing, options, '.', focus},
+                     {boxes, settings, choices, branch, {}, dtype, table.miscellaneous});
     FittingHandle fitting = table.newFitting();
-    if (!table.buildFitting(form, fitting)) {
+    if (!table.buildFitting(form, fitting) ||
+        (table.completeFitting != nullptr && !table.completeFitting(form, fitting))) {
         throw std::logic_error("the sample sizes are refused at " + focus);
     }
     FittingInputs& inputs = fitting.Inputs();

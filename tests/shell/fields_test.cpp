@@ -304,7 +304,9 @@ TEST_F(Fields, AFormAddressesItsBoxesByIndex) {
     CPatternSettings settings;
     settings.Thickness = 2;
     settings.InOutMean = InsideDimension;
-    FittingForm form(context, boxes, settings, 1);
+    const FittingOptions choices;
+    const BranchOptions branch;
+    FittingForm form(context, {boxes, settings, choices, branch, "Branch", 1});
     EXPECT_EQ(form.Value(0), 10);
     EXPECT_THROW(static_cast<void>(form.Value(3)), ArithmeticError);
     EXPECT_EQ(form.Compensator(RoundWall).NewDistance(form.Value(0), 0, 0), 11);

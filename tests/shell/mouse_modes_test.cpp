@@ -129,6 +129,7 @@ class WatchingUi final : public UserInterface {
     void RunModal(LabelDialog&) override {}
     void RunModal(DxfOptionsDialog&) override {}
     void RunModal(RotateDialog&) override {}
+    void RunModal(BranchAdditionalDialog&) override {}
 };
 
 TEST_F(MouseModesTest, TheMeasuredLineStandsWhileTheBoxIsOpen) {

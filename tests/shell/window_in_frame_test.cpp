@@ -149,10 +149,10 @@ TEST_F(WindowInFrameTest, MoreAndBackSwapTheTwoPagesOfAType) {
 
 TEST_F(WindowInFrameTest, APatternOptionIsTheFittingsSelector) {
     const auto window = shell.Open("Right Cone");
-    window->controls.optPatternSelect.captions = {"Full Pattern", "First, Last"};
+    window->controls.options.optPatternSelect.captions = {"Full Pattern", "First, Last"};
     window->SelectPattern(1);
     EXPECT_EQ(window->miscellaneous, 2);
-    EXPECT_TRUE(window->controls.optPatternSelect.IsOn(1));
+    EXPECT_TRUE(window->controls.options.optPatternSelect.IsOn(1));
     EXPECT_EQ(window->views->Count(), 0U);  // the pattern button draws, not the option
 }
 

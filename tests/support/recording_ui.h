@@ -26,6 +26,7 @@ class RecordingUi final : public UserInterface {
     std::function<void(LabelDialog&)> onLabel;
     std::function<void(DxfOptionsDialog&)> onDxfOptions;
     std::function<void(RotateDialog&)> onRotate;
+    std::function<void(BranchAdditionalDialog&)> onBranchAdditional;
 
     /// A box without a choice is always answered with Ok. One with a choice takes the next queued answer, or
     /// Cancel when none is left.
@@ -49,6 +50,7 @@ class RecordingUi final : public UserInterface {
     void RunModal(LabelDialog& dialog) override { Run(onLabel, dialog); }
     void RunModal(DxfOptionsDialog& dialog) override { Run(onDxfOptions, dialog); }
     void RunModal(RotateDialog& dialog) override { Run(onRotate, dialog); }
+    void RunModal(BranchAdditionalDialog& dialog) override { Run(onBranchAdditional, dialog); }
 
     /// The texts of the messages so far, for a comparison in one line.
     [[nodiscard]] std::vector<std::string> Texts() const {
