@@ -1,5 +1,5 @@
-// Any bytes as a parameter file: opened in each cone window, built, exported and saved again. What was saved
-// must load to the same file.
+// Any bytes as a parameter file: opened in the window of its category, built, exported and saved again. What
+// was saved must load to the same file.
 #include <cstdlib>
 #include <string>
 
@@ -38,11 +38,21 @@ void LoadAndSave(const std::string& text, const std::string& category) {
     }
 }
 
+/// The category of a file, if its fitting is built.
+std::string CategoryOf(const std::string& text) {
+    CKvtFile file;
+    try {
+        file.ParseHeader(text);
+    } catch (const ParameterFileError&) {
+    }
+    const CatalogueRow* row = FindCategory(file.Category);
+    return row != nullptr && row->table != nullptr ? file.Category : "Right Cone";
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string text(reinterpret_cast<const char*>(data), size);
-    LoadAndSave(text, "Right Cone");
-    LoadAndSave(text, "Truncated Right Cone");
+    LoadAndSave(text, CategoryOf(text));
     return 0;
 }

@@ -40,7 +40,12 @@ std::vector<TextBox> SampleBoxes(const WindowTable& table, const PageEntry& page
     return boxes;
 }
 
-FittingHandle BuildSample(const WindowTable& table, std::size_t page) {
+}  // namespace
+
+FittingHandle SampleFitting(const WindowTable& table, std::size_t page) {
+    if (page >= table.pages.size()) {
+        throw std::logic_error("no page " + std::to_string(page));
+    }
     RefusingBoxes refusing;
     const COptions options;
     std::string focus;
@@ -62,17 +67,12 @@ FittingHandle BuildSample(const WindowTable& table, std::size_t page) {
     inputs.JoinAngle = DegToRad(settings.JoinAngle);
     inputs.Dtype = dtype;
     inputs.Miscellaneous = table.miscellaneous;
-    fitting.ConstructModel();
     return fitting;
 }
 
-}  // namespace
-
 CRuleSurfs SampleModel(const WindowTable& table, std::size_t page) {
-    if (page >= table.pages.size()) {
-        throw std::logic_error("no page " + std::to_string(page));
-    }
-    const FittingHandle fitting = BuildSample(table, page);
+    const FittingHandle fitting = SampleFitting(table, page);
+    fitting.ConstructModel();
     if (table.multiple) {
         return fitting.Results().ModelSurfaceList;
     }

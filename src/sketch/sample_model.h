@@ -8,8 +8,13 @@
 
 namespace korvet {
 
-/// The surfaces of page `page` (from 0) at its sample sizes, without thickness, in enough segments to look
-/// round. Throws std::logic_error when the samples are refused: a table's samples are always valid.
+/// A fitting with its properties set from the sample sizes of page `page` (from 0), without thickness;
+/// nothing is made yet. Throws std::logic_error when the samples are refused: a table's samples are always
+/// valid.
+FittingHandle SampleFitting(const WindowTable& table, std::size_t page);
+
+/// The surfaces of page `page` (from 0) at its sample sizes, in enough segments to look round. Throws as
+/// SampleFitting.
 CRuleSurfs SampleModel(const WindowTable& table, std::size_t page);
 
 }  // namespace korvet
