@@ -1,33 +1,15 @@
 #include "display/annotations.h"
 
-#include <algorithm>
 #include <optional>
 #include <string>
 
 #include "core/math_module.h"
 #include "core/number_text.h"
-#include "display/extent_frame.h"
 #include "display/picking.h"
+#include "display/stations.h"
 
 namespace korvet {
 namespace {
-
-/// The rule stations of a surface's lists; C is empty where List3 is not present.
-struct Stations {
-    explicit Stations(const CRuleSurf& surface)
-        : A(FlaggedPoints(PointsOf(surface.List1))), B(FlaggedPoints(PointsOf(surface.List2))) {
-        if (IsPresent(surface.List3)) {
-            C = FlaggedPoints(*surface.List3);
-        }
-    }
-
-    /// How many rulings have both ends.
-    [[nodiscard]] std::size_t Rulings() const { return std::min(A.Count(), B.Count()); }
-
-    C3DPoints A;
-    C3DPoints B;
-    C3DPoints C;
-};
 
 std::string SpacedNumber(const Drawing& drawing, double value) {
     return "  " + RoundedText(value, drawing.Decimals, drawing.DecimalMark) + "  ";

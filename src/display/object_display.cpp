@@ -5,6 +5,7 @@
 
 #include "core/checked.h"
 #include "display/annotations.h"
+#include "display/coordinate_table.h"
 #include "display/extent_frame.h"
 #include "display/projection.h"
 
@@ -215,6 +216,11 @@ bool CObjectDisplay::DimRemove(double x, double y) {
 std::optional<CNearestPoint> CObjectDisplay::FindClosestPoint(const C3DPoint& click) const {
     return korvet::FindClosestPoint(click, screenSurfaces_, Surfaces,
                                     FrameRequested ? extentFrame_ : C3DPoints{});
+}
+
+void CObjectDisplay::PrintCoordinateTable(FileStore& files, const std::string& path) {
+    BuildExtentFrame();
+    files.Write(path, CoordinateTable({screenSurfaces_, extentFrame_}, Decimals, DecimalMark), Flush::No);
 }
 
 void CObjectDisplay::BuildExtentFrame() {

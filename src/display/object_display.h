@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/dimensions.h"
+#include "core/file_store.h"
 #include "core/fitting.h"
 #include "core/points.h"
 #include "core/rule_surf.h"
@@ -75,6 +76,10 @@ class CObjectDisplay {
     /// The nearest drawn point, however far away (FindClosestPoint in picking.h); the corners of the frame
     /// compete when FrameRequested. Nothing when no point is drawn.
     [[nodiscard]] std::optional<CNearestPoint> FindClosestPoint(const C3DPoint& click) const;
+
+    /// Writes the table of the stations that were drawn last (CoordinateTable), in one step. Throws ListError
+    /// and FileError; there is then no half-written file.
+    void PrintCoordinateTable(FileStore& files, const std::string& path);
 
     /// Adds a view that shows all that was drawn last, or the given window of it (corners in any order), with
     /// a margin of one part in a hundred. No view is added for an area without width or height.
