@@ -15,24 +15,39 @@ namespace {
 
 constexpr QSize AreaSize = {1400, 900};
 
-/// Pattern or model of a tilted cone, rebuilt from its boxes and drawn: what Redraw does.
-void Redraw(benchmark::State& state, int viewButton) {
+/// Pattern or model of a tilted cone, rebuilt from its boxes and drawn: what Redraw does. `markedOut` has the
+/// pattern drawn with all that a fabricator marks out, and the label.
+void Redraw(benchmark::State& state, int viewButton, bool markedOut) {
     TestShell shell;
     const auto window = shell.OpenSample("Truncated Right Cone", 2);
     window->settings.segs = static_cast<int>(state.range(0));
     DrawingArea area(*window, nullptr);
     area.resize(AreaSize);
+    CObjectDisplay& display = window->display;
+    display.TrueLengthsRequested = display.DiagonalsRequested = display.CoordGridRequested = markedOut;
+    display.CoordTableRequested = display.FrameRequested = markedOut;
+    if (markedOut) {
+        display.LabelPoint = C3DPoint();
+        window->dimensions->Add({1, 1, 2, 1, 3, 1});
+    }
     window->ClickView(viewButton);
     window->ZoomExtents();
     if (!window->hasModel) {
         state.SkipWithError("the cone was refused");
     }
+    state.SetComplexityN(state.range(0));
     for (auto _ : state) {
         window->Redraw();
     }
 }
-BENCHMARK_CAPTURE(Redraw, pattern, PatternButton)->Arg(24)->Arg(144)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Redraw, model, 0)->Arg(24)->Arg(144)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Redraw, pattern, PatternButton, false)->Arg(24)->Arg(144)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Redraw, model, 0, false)->Arg(24)->Arg(144)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Redraw, marked_out, PatternButton, true)
+    ->Arg(24)
+    ->Arg(144)
+    ->Arg(1440)
+    ->Complexity(benchmark::oN)
+    ->Unit(benchmark::kMillisecond);
 
 /// From the choice in the menu to the window as it is first painted.
 void NewFittingToWindowShown(benchmark::State& state) {

@@ -1,8 +1,6 @@
 #include "platform/painter_device.h"
 
 #include <QColor>
-#include <QFont>
-#include <QFontMetricsF>
 #include <QPainter>
 #include <QPolygonF>
 #include <algorithm>
@@ -31,9 +29,13 @@ QPen PenOf(const Pen& pen, double pixelRatio) {
     return drawn;
 }
 
-QFont FontOf(int pixels) {
+/// A drawing has one size of texts and one to measure by.
+constexpr std::size_t FontsKept = 4;
+constexpr std::size_t WidthsKept = 5000;
+
+QFont MakeFont(int pixels) {
     QFont font(QStringLiteral("Arial"));
-    font.setPixelSize(std::clamp(pixels, 1, LargestFont));
+    font.setPixelSize(pixels);
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }
@@ -48,14 +50,36 @@ void PrepareDrawing(QPainter& painter) {
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
 }
 
+PainterDevice::MeasuredFont::MeasuredFont(int size) : pixels(size), font(MakeFont(size)), metrics(font) {}
+
+PainterDevice::MeasuredFont& PainterDevice::FontOf(int pixels) const {
+    const int size = std::clamp(pixels, 1, LargestFont);
+    const auto found = std::find_if(fonts_.begin(), fonts_.end(),
+                                    [size](const MeasuredFont& font) { return font.pixels == size; });
+    if (found != fonts_.end()) {
+        return *found;
+    }
+    if (fonts_.size() == FontsKept) {
+        fonts_.erase(fonts_.begin());
+    }
+    return fonts_.emplace_back(size);
+}
+
 double PainterDevice::LogicalDpiY() const {
     return DotsPerInch * PixelRatio();
 }
 
 PixelSize PainterDevice::TextExtent(const std::string& text, double points) const {
     const double pixels = std::min(std::fabs(points) * LogicalDpiY() / PointsPerInch, double{LargestFont});
-    const QFontMetricsF metrics(FontOf(static_cast<int>(pixels)));
-    return {metrics.horizontalAdvance(QString::fromStdString(text)), metrics.height()};
+    MeasuredFont& font = FontOf(static_cast<int>(pixels));
+    if (font.widths.size() == WidthsKept) {
+        font.widths.clear();
+    }
+    const auto [width, isNew] = font.widths.try_emplace(text, 0);
+    if (isNew) {
+        width->second = font.metrics.horizontalAdvance(QString::fromStdString(text));
+    }
+    return {width->second, font.metrics.height()};
 }
 
 void PainterDevice::Polyline(const Pen& pen, std::span<const PixelPoint> points) {
@@ -78,13 +102,14 @@ void PainterDevice::TextOut(const std::string& text, PixelPoint corner, const Te
     if (painter == nullptr) {
         return;
     }
-    const QFont drawn = FontOf(static_cast<int>(std::min(std::labs(font.lfHeight), long{LargestFont})));
+    const MeasuredFont& drawn =
+        FontOf(static_cast<int>(std::min(std::labs(font.lfHeight), long{LargestFont})));
     painter->save();
-    painter->setFont(drawn);
+    painter->setFont(drawn.font);
     painter->setPen(ColorOf(color));
     painter->translate(corner.x, corner.y);
     painter->rotate(-font.lfEscapement / 10.0);
-    painter->drawText(QPointF(0, QFontMetricsF(drawn).ascent()), QString::fromStdString(text));
+    painter->drawText(QPointF(0, drawn.metrics.ascent()), QString::fromStdString(text));
     painter->restore();
 }
 

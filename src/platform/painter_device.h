@@ -1,8 +1,12 @@
 // Lines and texts of a drawing on a painter: the part that screens, pictures and sheets have in common.
 #pragma once
 
+#include <QFont>
+#include <QFontMetricsF>
 #include <span>
 #include <string>
+#include <unordered_map>
+#include <vector>
 
 #include "display/drawing_device.h"
 
@@ -34,6 +38,22 @@ class PainterDevice : public DrawingDevice {
 
     /// Pixels of the device to a logical pixel.
     [[nodiscard]] virtual double PixelRatio() const { return 1; }
+
+  private:
+    /// A font with its metrics and the widths of texts measured in it: to measure takes as long as to draw,
+    /// every text is measured several times, and most numbers of a pattern come again.
+    struct MeasuredFont {
+        explicit MeasuredFont(int pixels);
+
+        int pixels;
+        QFont font;
+        QFontMetricsF metrics;
+        std::unordered_map<std::string, double> widths;
+    };
+
+    [[nodiscard]] MeasuredFont& FontOf(int pixels) const;
+
+    mutable std::vector<MeasuredFont> fonts_;  ///< those used last
 };
 
 }  // namespace korvet
