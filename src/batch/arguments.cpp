@@ -1,8 +1,10 @@
 #include "batch/arguments.h"
 
 #include <CLI/CLI.hpp>
+#include <array>
 #include <filesystem>
 #include <map>
+#include <sstream>
 #include <system_error>
 
 #include "core/number_text.h"
@@ -11,6 +13,8 @@ namespace korvet::batch {
 namespace {
 
 constexpr int LargestPicture = 20000;
+constexpr int MostSurfaces = 32767;
+constexpr int MostPoints = 1'000'000'000;
 
 PictureSize ParseSize(const std::string& text) {
     const std::size_t cross = text.find('x');
@@ -30,6 +34,35 @@ std::pair<std::string, std::string> ParseSet(const std::string& text) {
         throw UsageError("--set takes NAME=VALUE, not \"" + text + "\"");
     }
     return {text.substr(0, equals), text.substr(equals + 1)};
+}
+
+/// "surface list point surface list point", as a picked dimension would store them.
+CDimension ParseDimension(const std::string& text) {
+    constexpr std::array Highest = {MostSurfaces, int{ExtentFrameList}, MostPoints};
+    std::array<int, 6> numbers = {};
+    std::istringstream words(text);
+    std::string word;
+    std::size_t count = 0;
+    bool good = true;
+    for (; words >> word; ++count) {
+        const auto number =
+            count < numbers.size() ? ParseWholeNumber(word, 0, Highest.at(count % 3)) : std::nullopt;
+        good = good && number;
+        if (number) {
+            numbers.at(count) = *number;
+        }
+    }
+    if (!good || count != numbers.size()) {
+        throw UsageError(
+            "--dimension takes \"surface list point surface list point\" with lists from 0 to 5, not \"" +
+            text + "\"");
+    }
+    return {.SurfaceNo2 = numbers[3],
+            .SurfaceNo1 = numbers[0],
+            .ListNo2 = numbers[4],
+            .ListNo1 = numbers[1],
+            .PointNo2 = numbers[5],
+            .PointNo1 = numbers[2]};
 }
 
 ViewChoice ParseView(const std::string& text) {
@@ -89,6 +122,7 @@ void CheckOutputs(const Arguments& arguments) {
         claim(arguments.dxf, "the DXF" + of, number);
         claim(arguments.png, "the PNG" + of, number);
         claim(arguments.svg, "the SVG" + of, number);
+        claim(arguments.table, "the table" + of, number);
         const bool oneJson = arguments.json.find("{name}") == std::string::npos;
         claim(arguments.json == "-" ? "" : arguments.json, oneJson ? "the JSON" : "the JSON" + of,
               oneJson ? Claims::Whole : number);
@@ -113,10 +147,9 @@ void CheckTogether(const Arguments& arguments) {
 struct LaterOutputs {
     std::string hpgl;
     std::string pdf;
-    std::string table;
 
     void Refuse() const {
-        for (const auto& [value, name] : {std::pair{&hpgl, "--hpgl"}, {&pdf, "--pdf"}, {&table, "--table"}}) {
+        for (const auto& [value, name] : {std::pair{&hpgl, "--hpgl"}, {&pdf, "--pdf"}}) {
             if (!value->empty()) {
                 throw UsageError(std::string(name) + " is not built yet");
             }
@@ -127,6 +160,7 @@ struct LaterOutputs {
 /// The texts that need a look of their own after the line has been taken apart.
 struct RawTexts {
     std::vector<std::string> sets;
+    std::vector<std::string> dimensions;
     std::string size;
     std::string view;
 };
@@ -142,6 +176,9 @@ void AddOptions(CLI::App& app, Arguments& arguments, RawTexts& raw, LaterOutputs
     app.add_flag("--sample", arguments.sample, "fill it with the sample sizes of its type");
     app.add_option("--select", arguments.select, "the N-th pattern option, from 1")->check(CLI::Range(1, 99));
     app.add_option("--set", raw.sets, "NAME=VALUE: box3=120, segs=48, Thickness=3, FrameRequested=True ...")
+        ->allow_extra_args(false);
+    app.add_option("--dimension", raw.dimensions,
+                   "a dimension on the pattern: \"surface list point surface list point\"")
         ->allow_extra_args(false);
     app.add_option("--view", raw.view, "model or pattern; the default is the view saved in the file")
         ->check(CLI::IsMember({"model", "pattern"}));
@@ -159,11 +196,11 @@ void AddOptions(CLI::App& app, Arguments& arguments, RawTexts& raw, LaterOutputs
     app.add_option("--save", arguments.save, "write the parameter file")->check(notEmpty);
     app.add_option("--png", arguments.png, "picture of the view")->check(notEmpty);
     app.add_option("--svg", arguments.svg, "picture of the view")->check(notEmpty);
+    app.add_option("--table", arguments.table, "coordinate table of the pattern")->check(notEmpty);
     app.add_option("--size", raw.size, "WIDTHxHEIGHT of a picture in pixels, 800x600 by default")
         ->check(notEmpty);
     app.add_option("--hpgl", later.hpgl, "plot file (not built yet)");
     app.add_option("--pdf", later.pdf, "full-size sheets (not built yet)");
-    app.add_option("--table", later.table, "coordinate table (not built yet)");
     app.footer(
         "{name} in the name of an output stands for the name of the input.\n"
         "Exit status: 0 done, 1 an input was refused or failed, 2 wrong usage.");
@@ -189,6 +226,9 @@ std::optional<Arguments> ParseArguments(int argc, const char* const* argv) {
     later.Refuse();
     for (const std::string& text : raw.sets) {
         arguments.sets.push_back(ParseSet(text));
+    }
+    for (const std::string& text : raw.dimensions) {
+        arguments.dimensionLines.push_back(ParseDimension(text));
     }
     if (!raw.size.empty()) {
         arguments.size = ParseSize(raw.size);

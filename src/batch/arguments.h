@@ -8,6 +8,8 @@
 #include <utility>
 #include <vector>
 
+#include "core/dimensions.h"
+
 namespace korvet::batch {
 
 /// The command line asks for something that can't be; what() says what. Ends in exit status 2.
@@ -39,7 +41,10 @@ struct Arguments {
     std::string save;
     std::string png;
     std::string svg;
+    std::string table;
     PictureSize size;
+
+    std::vector<CDimension> dimensionLines;  ///< to add to the pattern, in their order
 
     bool polylines = false;  ///< boxes of the export dialog to tick
     bool mesh = false;

@@ -43,13 +43,8 @@ void InputRun::Run() {
 
 InputReport InputRun::Report() const {
     const std::string none = "[]";
-    return {input_,
-            category_,
-            window_.get(),
-            ui_.Messages(),
-            !taken_,
-            taken_ ? model_ : none,
-            taken_ ? pattern_ : none};
+    return {input_,         category_, window_.get(),          labels_,
+            ui_.Messages(), !taken_,   taken_ ? model_ : none, taken_ ? pattern_ : none};
 }
 
 /// The window of a parameter file, filled from it, or a new one.
@@ -97,7 +92,7 @@ std::string InputRun::CategoryOfFile() {
     return file.Category;
 }
 
-/// Steps to the type asked for and types its sample sizes.
+/// Steps to the type asked for, types its sample sizes and selects its first pattern.
 void InputRun::PrepareNewWindow() {
     const WindowTable& table = window_->Table();
     const int types = static_cast<int>(table.pages.size());
@@ -111,6 +106,9 @@ void InputRun::PrepareNewWindow() {
         for (const BoxEntry& box : table.pages[static_cast<std::size_t>(window_->dtype)].boxes) {
             window_->ChangeBox(static_cast<std::size_t>(box.index), std::string(box.sample));
         }
+        if (!table.patternSelect.empty()) {
+            window_->SelectPattern(0);
+        }
     }
 }
 
@@ -121,6 +119,9 @@ bool InputRun::SetValues() {
             throw UsageError(category_ + " has no pattern option " + std::to_string(arguments_.select));
         }
         window_->SelectPattern(index);
+    }
+    for (const CDimension& dimension : arguments_.dimensionLines) {
+        window_->dimensions->Add(dimension);
     }
     bool good = true;
     for (const auto& [name, value] : arguments_.sets) {
@@ -135,7 +136,9 @@ bool InputRun::BuildForReport() {
         return true;
     }
     try {
-        if (!window_->BuildFitting()) {
+        const bool built = window_->BuildFitting();
+        labels_ = window_->labels;
+        if (!built) {
             return false;
         }
         window_->ApplySettings();
@@ -180,7 +183,19 @@ bool InputRun::WriteOutputs() {
     if (!arguments_.svg.empty()) {
         written = WritePicture(OutputPath(arguments_.svg, name), PictureFormat::Svg) && written;
     }
+    // The last, since it may turn to the pattern.
+    if (!arguments_.table.empty()) {
+        written = WriteTable(OutputPath(arguments_.table, name)) && written;
+    }
     return written;
+}
+
+/// A table is of the pattern, whatever the view.
+bool InputRun::WriteTable(const std::string& path) {
+    if (!InPatternView(*window_->views)) {
+        window_->ClickView(PatternButton);
+    }
+    return window_->WriteTable(path);
 }
 
 /// Exports the view. Diagonals that the command line asks for are shown for as long as this takes, so that

@@ -36,6 +36,7 @@ class InputRun {
     bool BuildForReport();
     void ChooseView();
     bool WriteOutputs();
+    bool WriteTable(const std::string& path);
     bool ExportDxf(const std::string& path);
     bool WritePicture(const std::string& path, PictureFormat format);
 
@@ -45,6 +46,7 @@ class InputRun {
     std::string input_;
     std::string category_;
     std::unique_ptr<CFittingWindow> window_;
+    std::shared_ptr<const CLabels> labels_;
     std::string model_ = "[]";
     std::string pattern_ = "[]";
     bool taken_ = false;

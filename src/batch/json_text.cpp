@@ -80,11 +80,10 @@ std::string MessageJson(const MessageBox& message) {
 }
 
 std::string LabelsJson(const InputReport& report) {
-    if (report.window == nullptr || !report.window->labels) {
+    if (!report.labels) {
         return "[]";
     }
-    return ListJson(*report.window->labels, ", ",
-                    [](const CLabel& label) { return Quoted(label.LabelString); });
+    return ListJson(*report.labels, ", ", [](const CLabel& label) { return Quoted(label.LabelString); });
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // The JSON that tells of one input.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -14,6 +15,7 @@ struct InputReport {
     std::string file;      ///< empty for a new window
     std::string category;  ///< empty when not known
     const CFittingWindow* window = nullptr;
+    std::shared_ptr<const CLabels> labels;  ///< text block of the build that model and pattern come from
     std::vector<MessageBox> messages;
     bool refused = false;
     std::string model;  ///< JSON lists of surfaces, "[]" when refused

@@ -30,12 +30,26 @@ double SquareRoot(double value) {
     return Finite(std::sqrt(value), "a square root");
 }
 
-int RoundToInt(double value) {
+namespace {
+
+template <typename Integer>
+Integer Rounded(double value) {
+    using Limits = std::numeric_limits<Integer>;
     const double rounded = std::nearbyint(value);
-    if (!(rounded >= std::numeric_limits<int>::min() && rounded <= std::numeric_limits<int>::max())) {
+    if (!(rounded >= Limits::min() && rounded <= Limits::max())) {
         throw ArithmeticError("a number is too large");
     }
-    return static_cast<int>(rounded);
+    return static_cast<Integer>(rounded);
+}
+
+}  // namespace
+
+int RoundToInt(double value) {
+    return Rounded<int>(value);
+}
+
+std::int16_t RoundToInt16(double value) {
+    return Rounded<std::int16_t>(value);
 }
 
 }  // namespace korvet

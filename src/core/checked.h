@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <stdexcept>
 #include <string>
 
@@ -36,5 +37,8 @@ double SquareRoot(double value);
 /// value rounded to a whole number, halves to even, as a 32-bit integer. Throws ArithmeticError when it does
 /// not fit.
 int RoundToInt(double value);
+
+/// The same as a 16-bit integer.
+std::int16_t RoundToInt16(double value);
 
 }  // namespace korvet

@@ -1,6 +1,16 @@
 #include "core/fitting.h"
 
+#include "core/lap_join.h"
+
 namespace korvet {
+
+bool AddLaps(CRuleSurf& pattern, const FittingInputs& inputs) {
+    if (inputs.JoinType <= 0) {
+        return false;
+    }
+    ApplyLapJoin(pattern, inputs.JoinType, inputs.LapSize0, inputs.LapSize1, inputs.LapSize2);
+    return true;
+}
 
 void FittingHandle::Run(void (*operation)(void*)) const {
     FittingResults& results = Results();

@@ -52,6 +52,12 @@ Color ColorFrom(const QColor& color) {
     return color.red() | color.green() << 8 | color.blue() << 16;
 }
 
+QColor Mixed(const QColor& from, const QColor& to, double share) {
+    const auto part = [share](float a, float b) { return a + static_cast<float>(share) * (b - a); };
+    return QColor::fromRgbF(part(from.redF(), to.redF()), part(from.greenF(), to.greenF()),
+                            part(from.blueF(), to.blueF()));
+}
+
 void NameWidget(QWidget& widget, const std::string& controlName, const QString& accessibleName) {
     widget.setObjectName(Text(controlName));
     widget.setAccessibleName(accessibleName);

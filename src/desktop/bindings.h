@@ -31,6 +31,9 @@ QString WithMnemonic(const std::string& caption, char letter);
 /// A colour of the toolkit as the models have it.
 Color ColorFrom(const QColor& color);
 
+/// The colour at `share` of the way from one to another, 0 to 1.
+QColor Mixed(const QColor& from, const QColor& to, double share);
+
 /// Gives a widget its control name, by which tests find it, and the name that a screen reader says.
 void NameWidget(QWidget& widget, const std::string& controlName, const QString& accessibleName);
 

@@ -107,36 +107,44 @@ bool FittingView::IsShortcut(const QKeyEvent& event) const {
 /// that gets it back, from a menu or another program, goes on as it was left: the next key must not type over
 /// what stands there.
 bool FittingView::eventFilter(QObject* watched, QEvent* event) {
+    if (panel_ != nullptr && watched == panel_->widget()) {
+        if (event->type() == QEvent::LayoutRequest) {
+            FitPanel();
+        }
+        return false;
+    }
     if (event->type() == QEvent::ShortcutOverride && IsShortcut(static_cast<const QKeyEvent&>(*event))) {
         event->ignore();  // on some desktops a text box takes keys of its own before the window's
         return true;
     }
     if (window_ != nullptr && event->type() == QEvent::FocusIn &&
         watched->objectName().toStdString() != window_->controls.focus) {
+        window_->controls.focus = watched->objectName().toStdString();
         for (std::size_t i = 0; i < boxes_.size(); ++i) {
             if (boxes_[i] == watched) {
                 window_->FocusBox(i);
-                shownFocus_ = window_->controls.focus;
                 SelectOnEntry(*boxes_[i], static_cast<const QFocusEvent&>(*event).reason());
             }
         }
-        if (watched == textSize_ || watched == drawing_) {
-            window_->controls.focus = shownFocus_ = watched->objectName().toStdString();
-        }
+        shownFocus_ = window_->controls.focus;
     }
     return QWidget::eventFilter(watched, event);
 }
 
 void FittingView::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    // Where the window is narrower than its panel, the panel scrolls.
-    const int whole =
-        panel_->widget()->minimumSizeHint().width() + panel_->verticalScrollBar()->sizeHint().width();
-    panel_->setFixedWidth(std::min(whole, width()));
+    FitPanel();
     if (window_ != nullptr) {
         window_->Resize(PlaceOf(rect()));
         drawing_->Project();
     }
+}
+
+/// As wide as it needs, with its bar; where the window is narrower than that, the panel scrolls.
+void FittingView::FitPanel() {
+    const int whole =
+        panel_->widget()->minimumSizeHint().width() + panel_->verticalScrollBar()->sizeHint().width();
+    panel_->setFixedWidth(std::min(whole, width()));
 }
 
 void FittingView::changeEvent(QEvent* event) {
@@ -182,8 +190,11 @@ void FittingView::TakeShape(int state) {
 }
 
 void FittingView::FocusFirstBox() {
-    const auto* page = static_cast<SketchPage*>(pageStack_->currentWidget());
-    page->Boxes().front()->setFocus(Qt::OtherFocusReason);
+    ShownPage().Boxes().front()->setFocus(Qt::OtherFocusReason);
+}
+
+SketchPage& FittingView::ShownPage() const {
+    return *pages_.at(static_cast<std::size_t>(pageStack_->currentIndex()));
 }
 
 void FittingView::Project() {
@@ -193,7 +204,7 @@ void FittingView::Project() {
     const WindowModel& model = window_->controls;
     for (std::size_t i = 0; i < pages_.size(); ++i) {
         if (model.Picture1.at(i).visible) {
-            pageStack_->setCurrentWidget(pages_[i]);
+            pageStack_->setCurrentIndex(static_cast<int>(i));
         }
     }
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
@@ -212,6 +223,7 @@ void FittingView::Project() {
     redraw_->setText(Text(model.btnRedraw.caption));
     ShowControl(*settings_, model.btnSettings);
     ShowControl(*close_, model.btnClose);
+    ProjectOptions();
     ShowPointer();
     drawing_->Project();
     ProjectFocus();

@@ -10,12 +10,15 @@
 #include "desktop/sketch_page.h"
 #include "shell/fitting_window.h"
 
+class QBoxLayout;
 class QFrame;
 class QGridLayout;
 class QGroupBox;
 class QKeyEvent;
 class QLabel;
+class QLayout;
 class QLineEdit;
+class QRadioButton;
 class QScrollArea;
 class QStackedLayout;
 class QToolButton;
@@ -47,6 +50,9 @@ class FittingView : public QWidget {
     /// The sizes and the state of the view into the model.
     void TakeShape(int state);
 
+    /// What a click on the button of a group of options does.
+    using SelectButton = std::function<void(CFittingWindow&, std::size_t button)>;
+
     std::function<void()> afterEvent;  ///< a command or an edit has run
     std::function<void()> closeWindow;
     std::function<void(const QPoint&)> popUpMenu;
@@ -59,6 +65,15 @@ class FittingView : public QWidget {
   private:
     QWidget* MakePanel();
     QWidget* MakePages();
+    QWidget* MakePage(std::size_t index);
+    SketchPage* MakeSketch(std::size_t index, QWidget* parent);
+    QGroupBox* MakeOptions(const std::string& name, const QString& title, OptionGroup FittingOptions::*group,
+                           const SelectButton& select, int room = 0);
+    QWidget* MakeAngleOptions();
+    QLayout* MakeSteps(std::size_t page);
+    QToolButton* MakeStep(const std::string& name, std::size_t page, const Control& model,
+                          const QString& spoken, void (CFittingWindow::*click)(std::size_t));
+    void AddWindowOptions(QBoxLayout& column);
     QWidget* MakeControls();
     QWidget* MakePatternControls();
     QGridLayout* MakeViewButtons(QWidget* parent);
@@ -68,13 +83,25 @@ class FittingView : public QWidget {
     void AddShortcuts();
     using ChangeText = std::function<void(CFittingWindow&, const std::string&)>;
     void Connect(QLineEdit* edit, TextBox& box, const ChangeText& change);
+    void FitPanel();
     void ShowIcons();
     void ShowPointer();
     void ProjectFocus();
+    void ProjectOptions();
+    [[nodiscard]] SketchPage& ShownPage() const;
     [[nodiscard]] bool IsShortcut(const QKeyEvent& event) const;
     void After();
 
     void Do(const std::function<void(CFittingWindow&)>& action);
+
+    struct Options {
+        OptionGroup FittingOptions::*group;
+        std::vector<QRadioButton*> buttons;
+    };
+    struct Shown {
+        QWidget* widget;
+        const Control* control;
+    };
 
     CFittingWindow* window_;
     DrawingArea* drawing_ = nullptr;
@@ -82,6 +109,8 @@ class FittingView : public QWidget {
     std::vector<SketchPage*> pages_;
     std::vector<QLineEdit*> boxes_;  ///< by their index in txtParameter
     QStackedLayout* pageStack_ = nullptr;
+    std::vector<Options> options_;
+    std::vector<Shown> shown_;  ///< what the window has beside the controls of every window
     std::array<QToolButton*, 10> viewButtons_ = {};
     std::array<QToolButton*, 2> typeButtons_ = {};
     QLabel* typeLabel_ = nullptr;

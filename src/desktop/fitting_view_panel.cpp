@@ -20,6 +20,16 @@ namespace {
 constexpr int ViewIconSize = 30;
 constexpr int PatternIconSize = 44;
 
+/// A button that is never too small for its icon or its text.
+class PanelButton final : public QToolButton {
+  public:
+    using QToolButton::QToolButton;
+
+    [[nodiscard]] QSize sizeHint() const override {
+        return QToolButton::sizeHint().expandedTo({Pixels(320), Pixels(320)});
+    }
+};
+
 /// What a screen reader says of a view button; the tool tip is the same for all of them.
 QString ViewName(int button) {
     static const std::array<const char*, 10> names = {
@@ -41,10 +51,12 @@ QWidget* FittingView::MakePanel() {
     layout->setContentsMargins(Pixels(100), Pixels(100), Pixels(100), Pixels(100));
     layout->addWidget(MakePages());
     layout->addWidget(MakeControls());
+    AddWindowOptions(*layout);
     layout->addWidget(MakePatternControls());
     layout->addStretch(1);
     panel_ = new QScrollArea(this);
     panel_->setWidget(content);
+    content->installEventFilter(this);  // what it needs changes with the font
     panel_->setWidgetResizable(true);
     panel_->setFrameShape(QFrame::NoFrame);
     panel_->setFocusPolicy(Qt::NoFocus);
@@ -56,27 +68,29 @@ QWidget* FittingView::MakePages() {
     auto* holder = new QWidget;
     pageStack_ = new QStackedLayout(holder);
     for (std::size_t i = 0; i < window_->Table().pages.size(); ++i) {
-        auto* page = new SketchPage(window_->Table(), i, holder);
-        NameWidget(*page, "Picture1_" + std::to_string(i), tr("Sizes of type %1").arg(i + 1));
-        for (const BoxEntry& entry : window_->Table().pages[i].boxes) {
-            const auto index = static_cast<std::size_t>(entry.index);
-            boxes_.at(index) = page->Box(entry.index);
-            Connect(
-                boxes_.at(index), window_->controls.txtParameter.at(index),
-                [index](CFittingWindow& window, const std::string& text) { window.ChangeBox(index, text); });
-        }
-        pages_.push_back(page);
-        pageStack_->addWidget(page);
+        pageStack_->addWidget(MakePage(i));
     }
     return holder;
 }
 
+SketchPage* FittingView::MakeSketch(std::size_t index, QWidget* parent) {
+    auto* page = new SketchPage(window_->Table(), index, parent);
+    NameWidget(*page, "Picture1_" + std::to_string(index), tr("Sizes of type %1").arg(index + 1));
+    for (const BoxEntry& entry : window_->Table().pages[index].boxes) {
+        const auto box = static_cast<std::size_t>(entry.index);
+        boxes_.at(box) = page->Box(entry.index);
+        Connect(boxes_.at(box), window_->controls.txtParameter.at(box),
+                [box](CFittingWindow& window, const std::string& text) { window.ChangeBox(box, text); });
+    }
+    pages_.push_back(page);
+    return page;
+}
+
 QToolButton* FittingView::MakeButton(const std::string& name, const QString& accessibleName,
                                      QWidget* parent) {
-    auto* button = new QToolButton(parent);
+    auto* button = new PanelButton(parent);
     NameWidget(*button, name, accessibleName);
     button->setFocusPolicy(Qt::NoFocus);  // the tab key goes from box to box
-    button->setMinimumSize(Pixels(320), Pixels(320));
     return button;
 }
 

@@ -25,7 +25,11 @@ QRect PixelRect(const SketchRect& rect) {
 }  // namespace
 
 SketchPage::SketchPage(const WindowTable& table, std::size_t page, QWidget* parent)
-    : QWidget(parent), entry_(table.pages[page]), sketch_(MakePageSketch(table, page)) {
+    : QWidget(parent),
+      table_(table),
+      page_(page),
+      entry_(table.pages[page]),
+      sketch_(MakePageSketch(table, page)) {
     for (const BoxEntry& box : entry_.boxes) {
         MakeBox(box);
     }
@@ -55,6 +59,18 @@ QLineEdit* SketchPage::Box(int index) const {
         }
     }
     return nullptr;
+}
+
+void SketchPage::ShowOff(std::size_t surface) {
+    if (surface == shownOff_) {
+        return;
+    }
+    shownOff_ = surface;
+    sketch_ = MakePageSketch(table_, page_, surface);
+    for (std::size_t view = 0; view < layout_.solids.size(); ++view) {
+        layout_.solids[view].picture = sketch_.pictures[view];
+    }
+    update();
 }
 
 QSize SketchPage::minimumSizeHint() const {

@@ -28,6 +28,9 @@ class SketchPage : public QWidget {
     /// In the order of the page.
     [[nodiscard]] const std::vector<QLineEdit*>& Boxes() const { return boxes_; }
 
+    /// Draws all surfaces of the shape but this one (from 1) pale; 0: none of them.
+    void ShowOff(std::size_t surface);
+
     [[nodiscard]] QSize minimumSizeHint() const override;
     [[nodiscard]] QSize sizeHint() const override;
 
@@ -41,7 +44,10 @@ class SketchPage : public QWidget {
     void MeasureTexts();
     void LayOut();
 
+    const WindowTable& table_;
+    std::size_t page_;
     const PageEntry& entry_;
+    std::size_t shownOff_ = 0;
     PageSketch sketch_;
     SketchMetrics metrics_;
     QSize smallest_;

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "desktop/bindings.h"
 #include "desktop/solid_painter.h"
 
 namespace korvet::desktop {
@@ -32,11 +33,6 @@ QStringList Wrapped(const QString& text, const QFontMetricsF& metrics, double wi
         }
     }
     return lines;
-}
-
-QColor Mixed(const QColor& a, const QColor& b, double part) {
-    const auto mix = [part](int p, int q) { return static_cast<int>(std::lround(p + (q - p) * part)); };
-    return {mix(a.red(), b.red()), mix(a.green(), b.green()), mix(a.blue(), b.blue())};
 }
 
 /// The blue of dimension lines, readable on the palette's background.

@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "desktop/bindings.h"
+
 namespace korvet::desktop {
 namespace {
 
@@ -18,17 +20,21 @@ constexpr double GrazingLight = 0.3;
 /// let the ground shine through where they meet. Outlines cover what juts out.
 constexpr double Overlap = 0.6;
 
-QColor Mixed(const QColor& from, const QColor& to, double share) {
-    const auto part = [share](float a, float b) { return a + static_cast<float>(share) * (b - a); };
-    return QColor::fromRgbF(part(from.redF(), to.redF()), part(from.greenF(), to.greenF()),
-                            part(from.blueF(), to.blueF()));
-}
+/// How far pale walls and lines fade into the ground.
+constexpr double PaleWall = 0.72;
+constexpr double PaleLine = 0.55;
 
 QColor FaceColor(const SolidFace& face, const SolidColors& colors) {
     const double share =
         std::pow(std::clamp((face.light - GrazingLight) / (1 - GrazingLight), 0.0, 1.0), 1.4);
-    return face.inside ? Mixed(colors.insideShaded, colors.insideLit, share)
-                       : Mixed(colors.shaded, colors.lit, share);
+    const QColor color = face.inside ? Mixed(colors.insideShaded, colors.insideLit, share)
+                                     : Mixed(colors.shaded, colors.lit, share);
+    return face.pale ? Mixed(color, colors.ground, PaleWall) : color;
+}
+
+QColor LineColor(const SolidEdge& edge, const SolidColors& colors) {
+    const QColor color = edge.outline ? colors.outline : colors.bendLine;
+    return edge.pale ? Mixed(color, colors.ground, PaleLine) : color;
 }
 
 QPolygonF OnPaper(const std::vector<SketchXY>& points, double scale, const QPointF& origin) {
@@ -56,9 +62,8 @@ void PaintEdges(QPainter& painter, const SolidPicture& picture, double scale, co
     painter.setBrush(Qt::NoBrush);
     for (const SolidEdge& edge : picture.edges) {
         // No round joins: those between the short steps of a curve show as dots.
-        painter.setPen(QPen(edge.outline ? colors.outline : colors.bendLine,
-                            edge.outline ? lineWidth : lineWidth / 2, Qt::SolidLine, Qt::RoundCap,
-                            Qt::MiterJoin));
+        painter.setPen(QPen(LineColor(edge, colors), edge.outline ? lineWidth : lineWidth / 2, Qt::SolidLine,
+                            Qt::RoundCap, Qt::MiterJoin));
         QPainterPath path;
         path.addPolygon(OnPaper(edge.points, scale, origin));
         if (edge.points.size() > 2 && edge.points.front() == edge.points.back()) {
@@ -71,13 +76,23 @@ void PaintEdges(QPainter& painter, const SolidPicture& picture, double scale, co
 }  // namespace
 
 SolidColors SolidColorsOf(const QPalette& palette) {
-    const bool dark = palette.color(QPalette::Active, QPalette::Window).lightness() < 128;
-    if (dark) {
-        return {QColor(0xa3, 0xb6, 0xc9), QColor(0x43, 0x53, 0x65), QColor(0x70, 0x82, 0x96),
-                QColor(0x2f, 0x3c, 0x4a), QColor(0xe3, 0xeb, 0xf3), QColor(0xc8, 0xd4, 0xe0)};
+    const QColor ground = palette.color(QPalette::Active, QPalette::Window);
+    if (ground.lightness() < 128) {
+        return {QColor(0xa3, 0xb6, 0xc9),
+                QColor(0x43, 0x53, 0x65),
+                QColor(0x70, 0x82, 0x96),
+                QColor(0x2f, 0x3c, 0x4a),
+                QColor(0xe3, 0xeb, 0xf3),
+                QColor(0xc8, 0xd4, 0xe0),
+                ground};
     }
-    return {QColor(0xfb, 0xfd, 0xff), QColor(0xa9, 0xb9, 0xca), QColor(0xdd, 0xe5, 0xed),
-            QColor(0x8c, 0x9f, 0xb3), QColor(0x1f, 0x2d, 0x3c), QColor(0x7f, 0x95, 0xab)};
+    return {QColor(0xfb, 0xfd, 0xff),
+            QColor(0xa9, 0xb9, 0xca),
+            QColor(0xdd, 0xe5, 0xed),
+            QColor(0x8c, 0x9f, 0xb3),
+            QColor(0x1f, 0x2d, 0x3c),
+            QColor(0x7f, 0x95, 0xab),
+            ground};
 }
 
 void PaintSolid(QPainter& painter, const SolidPicture& picture, double scale, const QPointF& origin,

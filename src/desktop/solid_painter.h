@@ -19,6 +19,7 @@ struct SolidColors {
     QColor insideShaded;  ///< the same of the inner side
     QColor outline;
     QColor bendLine;
+    QColor ground;  ///< that pale pieces fade into
 };
 
 /// Colours that read on the palette's windows and text boxes, light or dark.

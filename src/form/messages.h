@@ -26,6 +26,10 @@ enum MessageId : int {
     PatternMustBeSelected = 26,
     DimensionsBasedOn = 27,
     BranchTooLarge = 29,
+    CycloneBranchTooLarge = 30,  ///< these four have no text: their box is shown empty
+    CycloneSetInTooLarge = 31,
+    CycloneSetInHoleTooLarge = 32,
+    CycloneSetOnHoleTooLarge = 33,
     BranchThicknessText = 34,
     TrunkThicknessText = 35,
     SetInText = 38,

@@ -110,6 +110,19 @@ constexpr SketchDimension DiameterSize(Side side, int list, int view = 0) {
     return LinearSize(side, SpotOf(list, Spot::MinX), SpotOf(list, Spot::MaxX), view);
 }
 
+/// The tilt of a plane cut between the left and the right end of its line, against the level.
+constexpr SketchDimension TiltSize(int list, int view = 0) {
+    return AngleSize(Side::Right, SpotOf(list, Spot::MinX), SpotOf(list, Spot::MaxX),
+                     SpotOf(list, Spot::MinX, 100), 1.15, view);
+}
+
+/// The tilt of one side of a roof, away from the ridge to the end of the line given.
+constexpr SketchDimension RoofTiltSize(Side side, const SketchPoint& ridge, int list) {
+    const bool left = side == Side::Left;
+    return AngleSize(side, ridge, SpotOf(list, left ? Spot::MinX : Spot::MaxX),
+                     AtXZ(ridge.dx + (left ? -100 : 100), ridge.dz));
+}
+
 constexpr SketchConstruction ThinLine(const SketchPoint& a, const SketchPoint& b, int view = 0) {
     return {.a = a, .b = b, .centre = false, .view = view};
 }

@@ -2,6 +2,8 @@
 // share.
 #pragma once
 
+#include <algorithm>
+#include <array>
 #include <cstdint>
 #include <span>
 #include <string_view>
@@ -18,6 +20,7 @@ struct BoxEntry {
     std::string_view label;          ///< what the size means, with the unit where it is not a length
     std::string_view sample;         ///< a realistic size; those of one page together make a valid fitting
     SketchDimension dimension = {};  ///< what the box measures on the page's sketch
+    std::string_view start = "0";    ///< what stands in it before anything is typed
 };
 
 /// The box of a line of the text block that has none.
@@ -40,6 +43,7 @@ struct PageEntry {
     std::span<const SketchView> views = FrontView;  ///< of the sketch, one above the other
     std::span<const SketchConstruction> construction = {};
     bool angleOptions = false;  ///< bears optTopAngle and optBaseAngle
+    int sidesBox = NoBox;       ///< holds the number of sides of a polygonal section
 };
 
 /// Captions of optTopAngle and optBaseAngle.
@@ -63,6 +67,7 @@ struct WindowTable {
     bool multiple = false;           ///< the pattern consists of several pieces
     std::int16_t miscellaneous = 0;  ///< selector handed to the fitting until an option is clicked
     bool checksAllFields = true;     ///< every box of every type must hold a number before a build
+    bool fullPatternLine = false;    ///< the text block says "Full pattern" whatever the settings are
     bool positionLine = false;       ///< the text block says which line of the material sizes mean
     bool joinAngleDisable = false;   ///< flags of the pattern settings at the start
     bool halfPatternDisable = false;
@@ -87,11 +92,13 @@ struct WindowTable {
         return false;
     }
 
-    /// Number of parameter boxes of all pages together.
+    /// Number of parameter boxes of all pages together; pages may share a box.
     [[nodiscard]] constexpr std::size_t BoxCount() const {
         std::size_t count = 0;
         for (const PageEntry& page : pages) {
-            count += page.boxes.size();
+            for (const BoxEntry& box : page.boxes) {
+                count = std::max(count, static_cast<std::size_t>(box.index) + 1);
+            }
         }
         return count;
     }
@@ -113,10 +120,29 @@ inline CPatternSettings StartSettings(const WindowTable& table, int segs) {
     return settings;
 }
 
-/// The functions of a window's table for a fitting of class T, from a build function that knows the class.
+/// The option buttons that a window of the table starts with: tilts about Y, the first flush side, no
+/// pattern.
+FittingOptions StartOptions(const WindowTable& table);
+
+/// Greys the seam angle and sets it to 0 for a type whose breaks are measured from plan angle 0.
+inline void HoldSeam(CPatternSettings& settings, bool held) {
+    settings.JoinAngleDisable = held;
+    if (held) {
+        settings.JoinAngle = 0;
+    }
+}
+
+/// The build function of a window's table for a fitting of class T, from one that knows the class.
 template <FittingClass T, bool (*Build)(FittingForm&, T&)>
 bool BuildAs(FittingForm& form, const FittingHandle& fitting) {
     return Build(form, fitting.As<T>());
+}
+
+/// The same from one function for each type.
+template <FittingClass T, bool (*... Types)(FittingForm&, T&)>
+bool BuildByType(FittingForm& form, const FittingHandle& fitting) {
+    constexpr std::array types = {Types...};
+    return types.at(static_cast<std::size_t>(form.dtype))(form, fitting.As<T>());
 }
 
 }  // namespace korvet

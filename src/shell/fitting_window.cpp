@@ -9,13 +9,6 @@
 #include "shell/views.h"
 
 namespace korvet {
-namespace {
-
-OptionGroup MakeOptions(std::span<const std::string_view> captions) {
-    return {std::vector<std::string>(captions.begin(), captions.end()), std::nullopt, true};
-}
-
-}  // namespace
 
 CFittingWindow::CFittingWindow(ShellContext& context, const CatalogueRow& row, DrawingDevice* drawingArea)
     : dimensions(std::make_shared<CDimensions>()),
@@ -43,13 +36,12 @@ void CFittingWindow::InitialiseFitting() {
         controls.txtParameter[i].name = "txtParameter_" + std::to_string(i);
         controls.txtParameter[i].parameterIndex = static_cast<int>(i);
     }
-    FittingOptions& options = controls.options;
-    if (table.HasAngleOptions()) {
-        options.optTopAngle = options.optBaseAngle = MakeOptions(AxisCaptions);
-        options.optTopAngle.selected = options.optBaseAngle.selected = 1;
+    for (const PageEntry& page : table.pages) {
+        for (const BoxEntry& box : page.boxes) {
+            controls.txtParameter.at(static_cast<std::size_t>(box.index)).text = box.start;
+        }
     }
-    options.optPatternSelect = MakeOptions(table.patternSelect);
-    options.optFlushSide = MakeOptions(table.flushSide);
+    controls.options = StartOptions(table);
     if (table.moreButtons) {
         controls.btnMore.resize(table.pages.size());
         controls.btnBack.resize(table.pages.size());
@@ -127,6 +119,10 @@ void CFittingWindow::SelectPattern(std::size_t index) {
     miscellaneous = static_cast<std::int16_t>(index + 1);
 }
 
+void CFittingWindow::SelectOption(OptionGroup FittingOptions::*group, std::size_t index) {
+    (controls.options.*group).selected = index;
+}
+
 void CFittingWindow::ClickPosition() {
     BranchAdditionalDialog dialog(branch);
     context_.ui.RunModal(dialog);
@@ -201,6 +197,19 @@ bool CFittingWindow::SaveFile(const std::string& path) {
     }
     UpdateFitting();
     return SaveFitting(*this, path);
+}
+
+bool CFittingWindow::WriteTable(const std::string& path) {
+    if (RefuseWithoutModel() || !RequirePatternView(context_.ui, context_.options, *views)) {
+        return false;
+    }
+    try {
+        display.PrintCoordinateTable(context_.files, path);
+        return true;
+    } catch (const std::exception& error) {
+        ShowPlain(context_.ui, "Error in COptions:WriteTableFile", error.what());
+        return false;
+    }
 }
 
 bool CFittingWindow::Export(const std::string& path, ExportMode mode) {

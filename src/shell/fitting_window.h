@@ -71,6 +71,9 @@ class CFittingWindow {
     /// Exports what the last display showed. True when the file was written.
     bool Export(const std::string& path, ExportMode mode);
 
+    /// Writes the coordinate table of the pattern that is shown. True when it was written.
+    bool WriteTable(const std::string& path);
+
     /// Updates and writes the parameter file; the caption becomes its path. True when it was written.
     bool SaveFile(const std::string& path);
 
@@ -89,6 +92,9 @@ class CFittingWindow {
     void ClickMore(std::size_t page);
     void ClickBack(std::size_t page);
     void SelectPattern(std::size_t index);
+
+    /// A click on a button of optTopAngle, optBaseAngle or optFlushSide.
+    void SelectOption(OptionGroup FittingOptions::*group, std::size_t index);
     void ClickPosition();
     void PressKeyInDrawing();
 
@@ -108,6 +114,9 @@ class CFittingWindow {
     /// Checks every box in order and derives the fitting's properties and the text block. True when all is
     /// well; after the first failed check its message has been shown and hasModel is false.
     bool BuildFitting();
+
+    /// The number of sides in the box of the type that is shown; nothing where the section has none.
+    [[nodiscard]] std::optional<int> TypedSides() const;
 
     /// Puts the settings into the fitting, as every display does.
     void ApplySettings();
@@ -160,6 +169,7 @@ class CFittingWindow {
     void ShowExtents();
     bool AllFieldsValid();
     void AddTextBlock();
+    void TakeNoOfSides();
     void ResetFieldColours();
     void DevelopAndDisplay();
     float DrawnTextSize();

@@ -52,11 +52,13 @@ void FillControls(CFittingWindow& window, const KvtControls& kvt) {
             window.ChangeBox(i, *kvt.txtParameter[i]);
         }
     }
-    FittingOptions& options = window.controls.options;
-    SelectOptions(kvt.optTopAngle, [&](std::size_t i) { options.optTopAngle.selected = i; });
-    SelectOptions(kvt.optBaseAngle, [&](std::size_t i) { options.optBaseAngle.selected = i; });
+    const auto click = [&](OptionGroup FittingOptions::*group) {
+        return [&window, group](std::size_t i) { window.SelectOption(group, i); };
+    };
+    SelectOptions(kvt.optTopAngle, click(&FittingOptions::optTopAngle));
+    SelectOptions(kvt.optBaseAngle, click(&FittingOptions::optBaseAngle));
     SelectOptions(kvt.optPatternSelect, [&](std::size_t i) { window.SelectPattern(i); });
-    SelectOptions(kvt.optFlushSide, [&](std::size_t i) { options.optFlushSide.selected = i; });
+    SelectOptions(kvt.optFlushSide, click(&FittingOptions::optFlushSide));
 }
 
 /// The settings of a file, with the flags that a file does not carry as the window sets them at its start.
@@ -172,6 +174,8 @@ CKvtFile LoadFitting(CFittingWindow& window, const std::string& path) {
     }
     FillControls(window, file.Controls);
     window.dtype = static_cast<std::int16_t>(file.Dtype);
+    // The seam of the file belongs to its own number of sides.
+    window.noOfSides = static_cast<std::int16_t>(window.TypedSides().value_or(window.noOfSides));
     window.views->Add(file.ViewPoint);
     window.settings = WithWindowFlags(file.PatternSettings, window.Table());
     window.branch = file.Branch.value_or(BranchOptions());

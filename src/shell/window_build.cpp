@@ -62,6 +62,7 @@ bool CFittingWindow::BuildFitting() {
         return false;
     }
     AddTextBlock();
+    TakeNoOfSides();
     if (Table().completeFitting != nullptr && !Table().completeFitting(form, *fitting)) {
         return false;
     }
@@ -77,6 +78,26 @@ bool CFittingWindow::AllFieldsValid() {
     return std::all_of(controls.txtParameter.begin(), controls.txtParameter.end(),
                        [&](TextBox& box) { return IsNumericField(fields, box); }) &&
            IsNumericField(fields, controls.txtTextSize);
+}
+
+/// Another number of sides has its corners elsewhere, so that the seam starts anew at the first one.
+void CFittingWindow::TakeNoOfSides() {
+    const std::optional<int> sides = TypedSides();
+    if (sides && *sides != noOfSides) {
+        settings.JoinAngle = 0;
+        noOfSides = static_cast<std::int16_t>(*sides);
+    }
+}
+
+/// The number of sides in the box of the type that is shown, if it has one with a number in it.
+std::optional<int> CFittingWindow::TypedSides() const {
+    const int box = Table().pages[static_cast<std::size_t>(dtype)].sidesBox;
+    if (box == NoBox) {
+        return std::nullopt;
+    }
+    const auto typed =
+        ParseNumber(controls.txtParameter.at(static_cast<std::size_t>(box)).text, context_.decimalMark);
+    return typed ? std::optional<int>(RoundToInt16(*typed)) : std::nullopt;
 }
 
 /// The sizes as typed, then what the window's table asks for of the common lines.
@@ -100,8 +121,8 @@ void CFittingWindow::AddTextBlock() {
     if (Table().positionLine) {
         labels->Add({context_.Message(DimensionsBasedOn) + settings.PositionString});
     }
-    labels->Add({category + "  " +
-                 context_.Message(settings.HalfPattern ? HalfPatternText : FullPatternText) + "  " +
+    const bool half = settings.HalfPattern && !Table().fullPatternLine;
+    labels->Add({category + "  " + context_.Message(half ? HalfPatternText : FullPatternText) + "  " +
                  context_.clock.ShortDate()});
 }
 

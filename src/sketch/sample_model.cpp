@@ -52,8 +52,7 @@ FittingHandle SampleFitting(const WindowTable& table, std::size_t page) {
     std::vector<TextBox> boxes = SampleBoxes(table, table.pages[page]);
     const auto dtype = static_cast<std::int16_t>(page);
     CPatternSettings settings = SampleSettings(table, dtype);
-    FittingOptions choices;
-    choices.optTopAngle.selected = choices.optBaseAngle.selected = 1;
+    const FittingOptions choices = StartOptions(table);
     const BranchOptions branch;
     FittingForm form({refusing, options, '.', focus},
                      {boxes, settings, choices, branch, {}, dtype, table.miscellaneous});

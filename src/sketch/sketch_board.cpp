@@ -76,6 +76,7 @@ SketchBoard::SketchBoard(const std::vector<SolidBounds>& strips, double scale, d
                           (strip.top - strip.bottom) * scale});
         bounds_ = shape_.size() == 1 ? shape_.back() : Union(bounds_, shape_.back());
     }
+    wholeShape_ = bounds_;
 }
 
 bool SketchBoard::IsBlocked(const SketchRect& text) const {
@@ -83,7 +84,7 @@ bool SketchBoard::IsBlocked(const SketchRect& text) const {
         return [&text, gap](const SketchRect& other) { return Near(text, other, gap); };
     };
     return std::any_of(texts_.begin(), texts_.end(), near(gap_)) ||
-           std::any_of(shape_.begin(), shape_.end(), near(gap_));
+           (Near(text, wholeShape_, gap_ + 1) && std::any_of(shape_.begin(), shape_.end(), near(gap_)));
 }
 
 double SketchBoard::CostOfText(const SketchRect& text, std::size_t owner) const {
@@ -117,22 +118,24 @@ double SketchBoard::CostOfLine(const SketchLine& line) const {
             cost += Crowd(line, drawn.line, both ? 2 * gap_ : gap_) ? LinesSideBySide : 0;
         }
     }
-    if (isDimension && std::any_of(shape_.begin(), shape_.end(),
-                                   [&line](const SketchRect& strip) { return RunsThrough(line, strip); })) {
+    const auto runsThrough = [&](const SketchRect& strip) {
+        return Near(bounds, strip, 0) && RunsThrough(line, strip);
+    };
+    if (isDimension && std::any_of(shape_.begin(), shape_.end(), runsThrough)) {
         cost += LineOverShape;
     }
     return cost;
 }
 
-double SketchBoard::Cost(const SketchPlacement& placement, std::size_t owner) const {
+double SketchBoard::Cost(const SketchPlacement& placement, std::size_t owner, double limit) const {
     const SketchRect grown = Union(Union(bounds_, placement.box), placement.label);
-    if (grown.width > room_.x || grown.height > room_.y || IsBlocked(placement.box) ||
+    const double growth = Growth * (grown.width - bounds_.width + grown.height - bounds_.height);
+    if (growth > limit || grown.width > room_.x || grown.height > room_.y || IsBlocked(placement.box) ||
         IsBlocked(placement.label)) {
         return std::numeric_limits<double>::infinity();
     }
     return CostOfText(placement.box, owner) + CostOfText(placement.label, owner) +
-           CostOfLines(placement.lines) +
-           Growth * (grown.width - bounds_.width + grown.height - bounds_.height);
+           CostOfLines(placement.lines) + growth;
 }
 
 double SketchBoard::CostOfLines(const std::vector<SketchLine>& lines) const {

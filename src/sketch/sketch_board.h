@@ -31,8 +31,8 @@ class SketchBoard {
 
     /// How bad it would be to put the texts of dimension `owner` there with their leader: infinite when a
     /// text would lie over a text or over the shape, otherwise in pixels of distance that it would be worth
-    /// to avoid it.
-    [[nodiscard]] double Cost(const SketchPlacement& placement, std::size_t owner) const;
+    /// to avoid it. A cost of `limit` or more may come as infinite.
+    [[nodiscard]] double Cost(const SketchPlacement& placement, std::size_t owner, double limit) const;
 
     /// The same for lines alone.
     [[nodiscard]] double CostOfLines(const std::vector<SketchLine>& lines) const;
@@ -70,6 +70,7 @@ class SketchBoard {
     double gap_;
     SketchXY room_;
     std::vector<SketchRect> shape_;
+    SketchRect wholeShape_;
     std::vector<SketchRect> texts_;
     std::vector<Drawn> lines_;
     SketchRect bounds_;

@@ -79,9 +79,13 @@ struct PageSketch {
     std::vector<Construction> construction;
 };
 
-/// Throws std::logic_error for samples that are refused and ListError for a dimension on a line that the
-/// model does not have.
-PageSketch MakePageSketch(const WindowTable& table, std::size_t page);
+/// The surface of the model, from 1, that the sketches of a window show off: the one that the selected
+/// pattern develops. 0 while none is selected, and where patterns have no surface of their own.
+std::size_t ShownOffSurface(const WindowTable& table, const OptionGroup& optPatternSelect);
+
+/// All surfaces but `shownOff` (from 1) are pale; 0: none is. Throws std::logic_error for samples that are
+/// refused and ListError for a dimension on a line that the model does not have.
+PageSketch MakePageSketch(const WindowTable& table, std::size_t page, std::size_t shownOff = 0);
 
 /// Width and height of the smallest page on which the sketch is easy to read and nothing lies over anything
 /// else.

@@ -51,7 +51,7 @@ class Choice {
         if (!IsOpen(extra)) {
             return;
         }
-        const double cost = common_ + extra + board_.Cost(placement, owner_);
+        const double cost = common_ + extra + board_.Cost(placement, owner_, best_ - common_ - extra + 1);
         if (cost < best_) {
             best_ = cost;
             placement_ = std::move(placement);
@@ -245,19 +245,24 @@ void TryAround(const SketchTask& task, SketchXY point, SketchXY preferred, const
                                           block.y / 2 / std::max(std::abs(way.y), 1e-9));
             const SketchXY centre = point + way * (toRim + 2 * task.gap + i * Step);
             const double cost = i * Step + 20 * (1 - turned) + (turned < -0.1 ? WrongWayCost : 0);
+            if (!choice.IsOpen(cost)) {
+                continue;
+            }
             for (const bool labelAbove : {true, false}) {
                 SketchPlacement placement = BlockAt(task, centre, labelAbove);
                 const bool toBox = Length(ClosestPoint(placement.box, point) - point) <=
                                    Length(ClosestPoint(placement.label, point) - point) + TextGap;
+                const double extra = cost + (labelAbove ? 0 : OddLabelCost) + (toBox ? 0 : OddLabelCost);
+                if (!choice.IsOpen(extra)) {
+                    continue;
+                }
                 if (!leader.points.empty()) {
                     placement.lines.push_back(leader);
                     placement.lines.back().points = {
                         ClosestPoint(toBox ? placement.box : placement.label, point), point};
                 }
                 const bool over = choice.IsOverLines(placement.box) || choice.IsOverLines(placement.label);
-                choice.Try(std::move(placement), cost + (labelAbove ? 0 : OddLabelCost) +
-                                                     (toBox ? 0 : OddLabelCost) +
-                                                     (over ? OverOwnLineCost : 0));
+                choice.Try(std::move(placement), extra + (over ? OverOwnLineCost : 0));
             }
         }
     }

@@ -87,11 +87,6 @@ SketchRect Union(const SketchRect& a, SketchXY point) {
     return Union(a, SketchRect{point.x, point.y, 0, 0});
 }
 
-bool Near(const SketchRect& a, const SketchRect& b, double gap) {
-    return a.x < b.x + b.width + gap && b.x < a.x + a.width + gap && a.y < b.y + b.height + gap &&
-           b.y < a.y + a.height + gap;
-}
-
 SketchXY ClosestPoint(const SketchRect& rect, SketchXY to) {
     return {std::clamp(to.x, rect.x, rect.x + rect.width), std::clamp(to.y, rect.y, rect.y + rect.height)};
 }

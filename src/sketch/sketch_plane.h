@@ -43,7 +43,10 @@ SketchRect Union(const SketchRect& a, const SketchRect& b);
 SketchRect Union(const SketchRect& a, SketchXY point);
 
 /// Whether less than `gap` lies between the two.
-bool Near(const SketchRect& a, const SketchRect& b, double gap);
+inline bool Near(const SketchRect& a, const SketchRect& b, double gap) {
+    return a.x < b.x + b.width + gap && b.x < a.x + a.width + gap && a.y < b.y + b.height + gap &&
+           b.y < a.y + a.height + gap;
+}
 
 /// The point of the rectangle closest to `to`.
 SketchXY ClosestPoint(const SketchRect& rect, SketchXY to);

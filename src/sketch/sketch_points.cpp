@@ -1,6 +1,7 @@
 #include "sketch/sketch_points.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "core/checked.h"
 #include "sketch/sample_model.h"
@@ -77,7 +78,14 @@ C3DPoint SketchPointInSpace(const CRuleSurfs& model, const SketchPoint& point) {
     return {found.x + point.dx, found.y + point.dy, found.z + point.dz, PlainStation};
 }
 
-PageSketch MakePageSketch(const WindowTable& table, std::size_t page) {
+std::size_t ShownOffSurface(const WindowTable& table, const OptionGroup& optPatternSelect) {
+    const std::optional<std::size_t> selected = optPatternSelect.selected;
+    return selected && *selected < table.patternSurface.size()
+               ? static_cast<std::size_t>(table.patternSurface[*selected])
+               : 0;
+}
+
+PageSketch MakePageSketch(const WindowTable& table, std::size_t page, std::size_t shownOff) {
     const PageEntry& entry = table.pages[page];
     const CRuleSurfs model = SampleModel(table, page);
     const auto project = [&](const SketchPoint& point, int view) {
@@ -85,7 +93,7 @@ PageSketch MakePageSketch(const WindowTable& table, std::size_t page) {
     };
     PageSketch sketch;
     for (const SketchView& view : entry.views) {
-        sketch.pictures.push_back(DrawSolid(model, view));
+        sketch.pictures.push_back(DrawSolid(model, view, shownOff));
         sketch.strips.push_back(StripsOf(sketch.pictures.back()));
     }
     const auto lineStart = [&](const SketchPoint& point, const SketchDimension& d) {

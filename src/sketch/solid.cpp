@@ -23,19 +23,19 @@ SketchXY ProjectOnSketch(const C3DPoint& point, const SketchView& view) {
     return OnPicture(SeenFrom(view, point));
 }
 
-SolidPicture DrawSolid(const CRuleSurfs& model, const SketchView& view) {
+SolidPicture DrawSolid(const CRuleSurfs& model, const SketchView& view, std::size_t shownOff) {
     const SolidMesh mesh = MakeSolidMesh(model, view);
     SolidPicture picture;
     picture.bounds = mesh.bounds;
     for (const std::size_t number : PaintersOrder(mesh)) {
         const MeshFace& face = mesh.faces[number];
-        SolidFace seen{{}, LightOn(face.wallNormal), face.inside};
+        SolidFace seen{{}, LightOn(face.wallNormal), face.inside, IsPale(face, shownOff)};
         for (const std::size_t corner : face.corners) {
             seen.corners.push_back(OnPicture(mesh.vertices[corner]));
         }
         picture.faces.push_back(std::move(seen));
     }
-    picture.edges = VisibleEdges(mesh);
+    picture.edges = VisibleEdges(mesh, shownOff);
     return picture;
 }
 

@@ -2,6 +2,7 @@
 // right and y upward, so that it is crisp at any size.
 #pragma once
 
+#include <cstddef>
 #include <vector>
 
 #include "core/points.h"
@@ -21,13 +22,15 @@ struct SolidFace {
     std::vector<SketchXY> corners;
     double light = 1;     ///< 0 turned from the light to 1 facing it
     bool inside = false;  ///< the inner side of the wall is seen
+    bool pale = false;    ///< of a surface beside the one that is shown off
 };
 
 /// A line that nothing hides.
 struct SolidEdge {
     std::vector<SketchXY> points;
     bool outline =
-        true;  ///< an end, a crease or a contour; otherwise a thin bend line between flat triangles
+        true;           ///< an end, a crease or a contour; otherwise a thin bend line between flat triangles
+    bool pale = false;  ///< no part of the surface that is shown off
 };
 
 struct SolidBounds {
@@ -48,7 +51,8 @@ struct SolidPicture {
 SketchXY ProjectOnSketch(const C3DPoint& point, const SketchView& view);
 
 /// The picture of a model. Ends (List1, List2, List3) and creases sharper than 20 degrees are outlines, and
-/// so are the contours where a wall turns away from the eye.
-SolidPicture DrawSolid(const CRuleSurfs& model, const SketchView& view);
+/// so are the contours where a wall turns away from the eye. `shownOff` is the surface, from 1, beside which
+/// all others are pale; 0: none is.
+SolidPicture DrawSolid(const CRuleSurfs& model, const SketchView& view, std::size_t shownOff = 0);
 
 }  // namespace korvet

@@ -178,11 +178,19 @@ double Span(const SketchXY& a, const SketchXY& b) {
     return std::hypot(b.x - a.x, b.y - a.y);
 }
 
-std::vector<Piece> PiecesOf(const SolidMesh& mesh, const Cover& cover, EdgeLook look) {
+/// Whether an edge bounds no face of the surface that is shown off.
+bool IsPaleEdge(const SolidMesh& mesh, const MeshEdge& edge, std::size_t shownOff) {
+    return shownOff != 0 && std::all_of(edge.faces.begin(), edge.faces.end(),
+                                        [&](std::size_t face) { return IsPale(mesh.faces[face], shownOff); });
+}
+
+std::vector<Piece> PiecesOf(const SolidMesh& mesh, const Cover& cover, EdgeLook look, bool pale,
+                            std::size_t shownOff) {
     std::vector<Piece> pieces;
     for (const MeshEdge& edge : mesh.edges) {
         const Ray ray = {mesh.vertices[edge.from], mesh.vertices[edge.to]};
-        if (LookOf(mesh, edge) != look || Span(ray.At(0), ray.At(1)) <= NoLength * mesh.size) {
+        if (LookOf(mesh, edge) != look || IsPaleEdge(mesh, edge, shownOff) != pale ||
+            Span(ray.At(0), ray.At(1)) <= NoLength * mesh.size) {
             continue;
         }
         for (const Stretch& part : cover.VisibleParts(ray)) {
@@ -295,12 +303,18 @@ class Chains {
 
 }  // namespace
 
-std::vector<SolidEdge> VisibleEdges(const SolidMesh& mesh) {
+bool IsPale(const MeshFace& face, std::size_t shownOff) {
+    return shownOff != 0 && face.surface + 1 != shownOff;
+}
+
+std::vector<SolidEdge> VisibleEdges(const SolidMesh& mesh, std::size_t shownOff) {
     const Cover cover(mesh);
     std::vector<SolidEdge> edges;
     for (const EdgeLook look : {EdgeLook::BendLine, EdgeLook::Outline}) {
-        for (auto& line : Chains(PiecesOf(mesh, cover, look), mesh.size).Join()) {
-            edges.push_back({std::move(line), look == EdgeLook::Outline});
+        for (const bool pale : {true, false}) {
+            for (auto& line : Chains(PiecesOf(mesh, cover, look, pale, shownOff), mesh.size).Join()) {
+                edges.push_back({std::move(line), look == EdgeLook::Outline, pale});
+            }
         }
     }
     return edges;

@@ -23,7 +23,7 @@ struct MeshFace {
     EyePoint normal;                   ///< of length 1, to the same side all along a strip
     EyePoint wallNormal;               ///< that of the whole strip, where a twisted one is two faces
     double area = 0;                   ///< in space
-    std::size_t surface = 0;
+    std::size_t surface = 0;           ///< of the model, from 0
     std::optional<std::size_t> pivot;  ///< the vertex of a repeated item, which this face turns about
     bool inside = false;               ///< the eye is on the inner side of the wall
 
@@ -70,7 +70,11 @@ double DepthAt(const SolidMesh& mesh, const MeshFace& face, const SketchXY& at);
 /// The faces that are not on edge, from the back to the front.
 std::vector<std::size_t> PaintersOrder(const SolidMesh& mesh);
 
-/// The pieces of the edges that no face hides, joined to long lines; bend lines come first.
-std::vector<SolidEdge> VisibleEdges(const SolidMesh& mesh);
+/// Whether a face is none of the surface, from 1, that is shown off; nothing is pale beside surface 0.
+bool IsPale(const MeshFace& face, std::size_t shownOff);
+
+/// The pieces of the edges that no face hides, joined to long lines; bend lines come first, and pale ones
+/// before others. A line is pale when none of its faces belongs to the surface that is shown off.
+std::vector<SolidEdge> VisibleEdges(const SolidMesh& mesh, std::size_t shownOff = 0);
 
 }  // namespace korvet

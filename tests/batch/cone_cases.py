@@ -1,44 +1,18 @@
 """Seeded random cones for both windows and all their types: sound ones, ones at their limits, spoilt ones."""
 
 import math
-import random
-from dataclasses import dataclass, replace
+from dataclasses import replace
 
 import cone_oracle as oracle
+import fitting_cases
 from cone_oracle import RIGHT_CONE, TRUNCATED
-from cone_surfaces import Settings
+from fitting_cases import at_and_beside, inside, random_settings, rng_of, typed
 
 TYPES = [(RIGHT_CONE, 0), (RIGHT_CONE, 1), (RIGHT_CONE, 2)] + [(TRUNCATED, k) for k in range(5)]
-BAD_TEXTS = ["0", "-1", "-0", "1e400", "nan", "inf", "abc", "", "-", ".", "1,5", "0x10", "1 2", "1e-400", "--1"]
 
 
-@dataclass(frozen=True)
-class Case:
-    category: str
-    dtype: int  # from 0
-    boxes: tuple  # (index, text)
-    settings: Settings
-
-    def arguments(self):
-        settings = self.settings
-        values = [(f"box{index}", text) for index, text in self.boxes]
-        values += [(name, getattr(settings, name)) for name in settings.__dataclass_fields__]
-        options = ["--new", self.category, "--type", str(self.dtype + 1)]
-        return options + [part for name, value in values for part in ("--set", f"{name}={value}")]
-
-    def answer(self):
-        return oracle.compute(self.category, self.dtype, self.boxes, self.settings)
-
-    def with_box(self, index, text):
-        return replace(self, boxes=tuple((i, text if i == index else old) for i, old in self.boxes))
-
-    def value(self, index):
-        return float(dict(self.boxes)[index])
-
-
-def inside(rng, low, high, margin=0.08):
-    """A number between two limits, not too near to either."""
-    return low + (high - low) * rng.uniform(margin, 1 - margin)
+class Case(fitting_cases.Case):
+    answer = oracle.compute
 
 
 def degrees(radians):
@@ -87,29 +61,15 @@ def sizes_of_truncated_cone(dtype, rng):
             **{25 + k: inside(rng, -steepest, limit) for k, limit in enumerate(limits)}}
 
 
-def random_settings(rng, base):
-    settings = Settings(segs=rng.choice([2, 3, 4, 7, 12, 13, 24, 25, 36, 48]),
-                        InOutMean=rng.randrange(3), HalfPattern=rng.random() < 0.3,
-                        JoinAngle=rng.choice([0, 0, 30, 90, 180, -45, -720, 57.29577951308232, 271.5, 725.5, -1234]))
-    if rng.random() < 0.7:
-        settings.Thickness = base * rng.uniform(0.001, 0.02)
-    if rng.random() < 0.5:
-        settings.JoinType = 1
-        for name in ("LapSize0", "LapSize1", "LapSize2"):
-            setattr(settings, name, rng.choice([0, 0, -1, base * rng.uniform(0.005, 0.1), base * rng.uniform(0.1, 2)]))
-    return settings
-
-
 def sound_case(category, dtype, rng):
     """A case that the window takes; number texts in the forms that people type."""
-    while True:
+
+    def make(rng):
         sizes = (sizes_of_right_cone if category == RIGHT_CONE else sizes_of_truncated_cone)(dtype, rng)
-        form = rng.choice(["%.17g", "%.6g", "%.3f", "%.4e", "+%.5f", " %.5f "])
-        boxes = tuple((i, (form % value).replace("+-", "-")) for i, value in sizes.items())
         base = sizes[min(sizes) if dtype < 3 else {3: 19, 4: 20}[dtype]]
-        case = Case(category, dtype, boxes, random_settings(rng, base))
-        if not case.answer().refused:
-            return case
+        return Case(category, dtype, typed(rng, sizes), random_settings(rng, base))
+
+    return fitting_cases.sound(make, rng)
 
 
 def limit_cases(case):
@@ -118,7 +78,7 @@ def limit_cases(case):
         if kind == "room":
             yield from room_cases(case, box)
             continue
-        for value in (limit, limit - max(1e-9, abs(limit) * 1e-9), limit + max(1e-9, abs(limit) * 1e-9)):
+        for value in at_and_beside(limit):
             yield case.with_box(box, "%.17g" % value)
 
 
@@ -144,17 +104,4 @@ def case_angle(case):
 
 
 def spoilt_case(case, rng):
-    """The sound case with one to four of its boxes, or a box of another type, spoilt."""
-    for index, text in rng.sample(case.boxes, rng.randint(1, min(4, len(case.boxes)))):
-        value = float(text)
-        case = case.with_box(index, rng.choice(BAD_TEXTS + ["%.9g" % (value * 50), "%.9g" % (-value * 50), "89.5",
-                                                            "180", "181", "-89.5"]))
-    if rng.random() < 0.25:
-        other = rng.randrange(oracle.BOX_COUNT[case.category])
-        if other not in dict(case.boxes):
-            case = replace(case, boxes=case.boxes + ((other, rng.choice(BAD_TEXTS)),))
-    return case
-
-
-def rng_of(name):
-    return random.Random("korvet " + name)
+    return fitting_cases.spoilt_case(case, rng, oracle.BOX_COUNT[case.category])

@@ -5,24 +5,14 @@ the window must answer: the messages of a refusal, or the text block, the model 
 """
 
 import math
-import re
-from dataclasses import dataclass, field
 
-from cone_surfaces import QUARTER_TURN, Builder, Cone, Surface, deg_to_rad, rad_to_deg
-
-PRODUCT = "Korvet Development"
-USER_ERROR = "User Error"
-LESS_THAN = "This dimension must be less than "
-GREATER_THAN = "This dimension must be greater than "
-AT_LEAST = "This dimension must be equal to or greater than "
-ABOVE_ZERO = "This dimension must be greater than 0"
-THICKNESS_ROOM = "This dimension must be increased to allow for material thickness"
-NOT_A_NUMBER = "Not a valid number"
+from cone_surfaces import Builder, Cone
+from fitting_maths import QUARTER_TURN, deg_to_rad, rad_to_deg
+from window_checks import POSITION, PRODUCT, answer_to, last_lines
 
 RIGHT_CONE = "Right Cone"
 TRUNCATED = "Truncated Right Cone"
 BOX_COUNT = {RIGHT_CONE: 9, TRUNCATED: 27}
-POSITION = ("mean", "inside", "outside")
 
 LABELS = {
     (RIGHT_CONE, 0): (("Base diameter = ", 0), ("Top diameter = ", 1), ("Apex height = ", 2)),
@@ -44,80 +34,14 @@ LABELS = {
 }
 
 
-@dataclass
-class Answer:
-    messages: list = field(default_factory=list)  # (title, text, box)
-    refused: bool = False
-    labels: list = field(default_factory=list)  # without the date at the end of the last one
-    model: Surface = None
-    pattern: Surface = None
-    checks: list = field(default_factory=list)  # (kind, box, limit) of every check that was made
+def room(box, index, radius, angle):
+    """Whether the material fits under a wall that leans by `angle`."""
+    box.room(index, radius, math.cos(angle) * box.settings.Thickness / 2)
 
 
-class Refusal(Exception):
-    def __init__(self, title, text, box):
-        super().__init__(text)
-        self.message = (title, text, box)
-
-
-def parse_number(text):
-    """The number in a text, or None. A point is the decimal mark; no words for infinity, nothing too large."""
-    if not re.fullmatch(r"[ \t\r\n]*[+-]?([0-9]+\.?[0-9]*|\.[0-9]+)([eE][+-]?[0-9]+)?[ \t\r\n]*", text):
-        return None
-    value = float(text)
-    return value if math.isfinite(value) else None
-
-
-def number_text(value):
-    text = "%.15g" % value
-    return "0" if text == "-0" else text
-
-
-def limit_text(value, decimals=1):
-    power = 10.0**decimals
-    return number_text(round(value * power) / power)
-
-
-class Boxes:
-    """The texts of a window's boxes with the checks that a build makes of them."""
-
-    def __init__(self, texts, settings, checks):
-        self.texts = texts
-        self.settings = settings
-        self.checks = checks
-
-    def __getitem__(self, box):
-        value = parse_number(self.texts[box])
-        if value is None:
-            raise Refusal(PRODUCT, NOT_A_NUMBER, box)
-        return value
-
-    def _check(self, kind, box, limit, good, text):
-        self.checks.append((kind, box, limit))
-        if not good:
-            raise Refusal(USER_ERROR, text, box)
-
-    def positive(self, *boxes):
-        for box in boxes:
-            self._check("positive", box, 0.0, self[box] > 0, ABOVE_ZERO)
-
-    def below(self, box, limit):
-        self._check("below", box, limit, self[box] < limit, LESS_THAN + limit_text(limit))
-
-    def above(self, box, limit):
-        self._check("above", box, limit, self[box] > limit, GREATER_THAN + limit_text(limit))
-
-    def at_least(self, box, limit):
-        self._check("at least", box, limit, self[box] >= limit, AT_LEAST + limit_text(limit))
-
-    def room(self, box, mean, cone_angle):
-        allowance = math.cos(cone_angle) * self.settings.Thickness / 2
-        self._check("room", box, allowance, not allowance > mean, THICKNESS_ROOM)
-
-    def mean(self, size, angle):
-        """The size of the middle of the material for a typed radius; angle is how far the wall leans."""
-        amount = (self.settings.Thickness / 2) * math.cos(angle)
-        return size + (0, amount, -amount)[self.settings.InOutMean]
+def mean(box, size, angle):
+    """The size of the middle of the material for a typed radius; angle is how far the wall leans."""
+    return box.mean(size, (box.settings.Thickness / 2) * math.cos(angle))
 
 
 # ------------------------------------------------------------------------------------------- the two windows
@@ -142,9 +66,9 @@ def plain_cone(dtype, box):
         box.positive(third)
         box.below(third, 180)
         height = (big - small) / math.tan(angle)
-    big, small = box.mean(big, angle), box.mean(small, angle)
-    box.room(base, big, angle)
-    box.room(top, small, angle)
+    big, small = mean(box, big, angle), mean(box, small, angle)
+    room(box, base, big, angle)
+    room(box, top, small, angle)
     return Cone(dtype, big, angle, height)
 
 
@@ -152,30 +76,25 @@ def cone_limit(height, radius):
     return rad_to_deg(math.atan(height / radius))
 
 
-def between(box, index, limit):
-    box.above(index, -limit)
-    box.below(index, limit)
-
-
 def cut_by_cone_angle(box):
     box.positive(0, 1, 2)
     box.below(2, 180)
     # The wall's lean is not yet known here, so the whole half thickness counts.
-    radius = box.mean(box[0] / 2, 0.0)
+    radius = mean(box, box[0] / 2, 0.0)
     cone = Cone(0, radius, deg_to_rad(box[2] / 2), box[1], angle1=deg_to_rad(box[3]))
-    box.room(0, radius, cone.cone_angle)
+    room(box, 0, radius, cone.cone_angle)
     box.below(1, radius / math.tan(cone.cone_angle))
-    between(box, 3, cone_limit(cone.height1, radius))
+    box.between(3, cone_limit(cone.height1, radius))
     return cone
 
 
 def cut_by_apex_height(box):
     box.positive(4, 6, 7)
     cone = Cone(1, height1=box[7], angle1=deg_to_rad(box[5]), cone_angle=math.atan((box[4] / 2) / box[6]))
-    cone.base_rad = box.mean(box[4] / 2, cone.cone_angle)
-    box.room(4, cone.base_rad, cone.cone_angle)
+    cone.base_rad = mean(box, box[4] / 2, cone.cone_angle)
+    room(box, 4, cone.base_rad, cone.cone_angle)
     box.below(7, cone.base_rad / math.tan(cone.cone_angle))
-    between(box, 5, cone_limit(cone.height1, cone.base_rad))
+    box.between(5, cone_limit(cone.height1, cone.base_rad))
     return cone
 
 
@@ -183,13 +102,13 @@ def cut_twice(box):
     box.positive(8, 9, 11, 13)
     cone = Cone(2, height1=box[9], height2=box[11], angle1=deg_to_rad(box[12]), angle2=-deg_to_rad(box[10]),
                 cone_angle=math.atan((box[8] / 2) / box[13]))
-    cone.base_rad = box.mean(box[8] / 2, cone.cone_angle)
-    box.room(8, cone.base_rad, cone.cone_angle)
+    cone.base_rad = mean(box, box[8] / 2, cone.cone_angle)
+    room(box, 8, cone.base_rad, cone.cone_angle)
     apex = cone.base_rad / math.tan(cone.cone_angle)
     box.below(9, apex)
     box.below(11, apex)
-    between(box, 12, cone_limit(cone.height1, cone.base_rad))
-    between(box, 10, cone_limit(cone.height2, cone.base_rad))
+    box.between(12, cone_limit(cone.height1, cone.base_rad))
+    box.between(10, cone_limit(cone.height2, cone.base_rad))
     return cone
 
 
@@ -198,8 +117,8 @@ def roofed_above(box):
     height, offset = box[18], box[15]
     cone = Cone(3, height1=height, offset=offset, angle3=-deg_to_rad(box[14]), angle1=deg_to_rad(box[16]),
                 cone_angle=math.atan((box[19] / 2) / box[17]))
-    radius = cone.base_rad = box.mean(box[19] / 2, cone.cone_angle)
-    box.room(19, radius, cone.cone_angle)
+    radius = cone.base_rad = mean(box, box[19] / 2, cone.cone_angle)
+    room(box, 19, radius, cone.cone_angle)
     apex = radius / math.tan(cone.cone_angle)
     box.below(18, apex)
     ridge_radius = ((apex - height) * radius) / apex
@@ -221,13 +140,13 @@ def roofed_below(box):
     box.below(21, box[20])
     big, small = box[20] / 2, box[21] / 2
     cone.cone_angle = math.atan(big / ((upper * big) / (big - small)))
-    radius = cone.base_rad = box.mean(big, cone.cone_angle)
-    box.room(20, radius, cone.cone_angle)
+    radius = cone.base_rad = mean(box, big, cone.cone_angle)
+    room(box, 20, radius, cone.cone_angle)
     apex = radius / math.tan(cone.cone_angle)
     box.below(22, apex)
     box.below(23, upper)
-    small = box.mean(small, cone.cone_angle)
-    box.room(21, small, cone.cone_angle)
+    small = mean(box, small, cone.cone_angle)
+    room(box, 21, small, cone.cone_angle)
     ridge_radius = ((apex - lower) * radius) / apex
     box.above(24, -ridge_radius)
     box.below(24, ridge_radius)
@@ -245,44 +164,21 @@ TRUNCATED_TYPES = (cut_by_cone_angle, cut_by_apex_height, cut_twice, roofed_abov
 # ------------------------------------------------------------------------------------------------ the whole
 
 
-def typing_messages(boxes):
-    """What is said while the texts are typed, one box after the other. Every box starts as "0"."""
-    return [(PRODUCT, NOT_A_NUMBER, box) for box, text in boxes
-            if text not in ("", "-", ".", ",") and parse_number(text) is None]
-
-
-def build(category, dtype, texts, settings, answer):
-    box = Boxes(texts, settings, answer.checks)
-    if category == RIGHT_CONE:
-        return plain_cone(dtype, box)
-    for index in range(BOX_COUNT[category]):
-        box[index]  # every box of every type must hold a number
-    return TRUNCATED_TYPES[dtype](box)
-
-
-def compute(category, dtype, boxes, settings, comments=("", "")):
-    """The answer of a new window to `boxes`, [(index, text)] in the order typed, and good settings.
-
-    dtype is counted from 0.
-    """
-    answer = Answer(messages=typing_messages(boxes))
-    texts = ["0"] * BOX_COUNT[category]
-    for index, text in boxes:
-        texts[index] = text
-    try:
-        cone = build(category, dtype, texts, settings, answer)
-    except Refusal as refusal:
-        answer.messages.append(refusal.message)
-        answer.refused = True
-        return answer
-    answer.labels = list(comments) + [label + texts[box] for label, box in LABELS[category, dtype]] + [
-        "Thickness = " + number_text(settings.Thickness),
-        "Dimensions are based on the " + POSITION[settings.InOutMean],
-        category + "  " + ("Half pattern" if settings.HalfPattern else "Full pattern") + "  "]
+def build(case, box, answer):
+    category, dtype, settings = case.category, case.dtype, case.settings
+    cone = plain_cone(dtype, box) if category == RIGHT_CONE else TRUNCATED_TYPES[dtype](box)
+    lines = last_lines(case, settings.HalfPattern)
+    lines.insert(1, "Dimensions are based on the " + POSITION[settings.InOutMean])
+    answer.labels = ["", ""] + box.lines(LABELS[category, dtype]) + lines
     # The ends of a ridge are measured from 0, so a roofed cone is cut open there.
     seam = 0.0 if category == TRUNCATED and dtype > 2 else deg_to_rad(settings.JoinAngle)
     builder = Builder(cone, settings, seam)
     answer.model = builder.model()
     answer.pattern = builder.pattern(answer.model)
     answer.messages += [(PRODUCT, text, None) for text in builder.warnings]
-    return answer
+
+
+def compute(case):
+    """The answer of a new window to a case with good settings. The boxes of the other types of Right Cone
+    need not hold numbers."""
+    return answer_to(case, ["0"] * BOX_COUNT[case.category], build, all_boxes=case.category == TRUNCATED)

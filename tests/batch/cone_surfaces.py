@@ -6,37 +6,10 @@ All sizes are those of the middle of the material. Angles are radians. A point i
 import math
 from dataclasses import dataclass
 
-PI = 3.14159265358979
-QUARTER_TURN = 1.570796326794895
-FULL_TURN = 6.28318530717958
-CLOSING_LIMIT = 6.28319530717958
+from fitting_maths import (CLOSING_LIMIT, FULL_TURN, ORIGIN, PI, QUARTER_TURN, SEAM_LAP, Surface, arc_cos, distance,
+                           first_half, lapped, plan_angle, polar_point)
 
 TOP_LAP = "Top lap is too large"
-SEAM_LAP = "Lap join along seam may be too large"
-
-
-@dataclass
-class Settings:
-    segs: int = 24
-    Thickness: float = 0.0
-    InOutMean: int = 0
-    HalfPattern: bool = False
-    JoinType: int = 0
-    LapSize0: float = 0.0
-    LapSize1: float = 0.0
-    LapSize2: float = 0.0
-    JoinAngle: float = 0.0  # degrees
-
-
-@dataclass
-class Surface:
-    List1: list
-    List2: list
-    LapList1: list = None
-    LapList2: list = None
-    RefPoint: tuple = None
-    RefPointDisplay: bool = False
-    List3: list = None
 
 
 @dataclass
@@ -50,40 +23,6 @@ class Cone:
     angle2: float = 0.0
     angle3: float = 0.0
     offset: float = 0.0
-
-
-def deg_to_rad(degrees):
-    return degrees * (PI / 180)
-
-
-def rad_to_deg(radians):
-    return (radians * 180) / PI
-
-
-def arc_cos(x):
-    rounded = round(x * 1e8) / 1e8
-    if rounded == 1:
-        return 0.0
-    if rounded == -1:
-        return PI
-    return math.atan(-x / math.sqrt(-x * x + 1)) + 2 * math.atan(1)
-
-
-def plan_angle(a, b):
-    dx, dy = b[0] - a[0], b[1] - a[1]
-    if dx == 0:
-        return 0.0 if dy == 0 else QUARTER_TURN if dy > 0 else 4.712388980384685
-    if dx < 0:
-        return math.atan(dy / dx) + PI
-    return math.atan(dy / dx) + (FULL_TURN if dy < 0 else 0.0)
-
-
-def polar_point(p, angle, distance, flag=0):
-    return (p[0] + distance * math.cos(angle), p[1] + distance * math.sin(angle), p[2], flag)
-
-
-def distance(a, b):
-    return math.sqrt((b[0] - a[0]) ** 2 + (b[1] - a[1]) ** 2 + (b[2] - a[2]) ** 2)
 
 
 class Builder:
@@ -164,11 +103,8 @@ class Builder:
 
     def model(self):
         make = {3: self.upper_roof, 4: self.lower_roof}.get(self.cone.dtype, self.plane_cut)
-        upper, lower = make()
-        if self.settings.HalfPattern:
-            kept = len(upper) // 2 + 1
-            upper, lower = upper[:kept], lower[:kept]
-        return Surface(upper, lower)
+        surface = Surface(*make())
+        return first_half(surface) if self.settings.HalfPattern else surface
 
     def pattern(self, model):
         apex, centre = (0.0, 0.0, self.apex_height), (0.0, 0.0, 0.0)
@@ -188,41 +124,10 @@ class Builder:
         return self.lapped(surface) if self.settings.JoinType > 0 else surface
 
     def lapped(self, surface):
-        settings, flat_apex = self.settings, (0.0, 0.0, 0.0)
-        inner, outer = surface.List1, surface.List2
-        if any(distance(flat_apex, p) < settings.LapSize0 for p in inner):
+        settings = self.settings
+        if any(distance(ORIGIN, p) < settings.LapSize0 for p in surface.List1):
             self.warnings.append(TOP_LAP)
-        if settings.LapSize1 > 0:
-            add_seam_tab(inner, outer, settings.LapSize1)
-        result = Surface(inner, outer, [], [])
-        if settings.LapSize0 > 0:
-            result.LapList1 = list(inner)
-            result.List1 = moved_out(inner, outer, settings.LapSize0)
-        if settings.LapSize2 > 0:
-            result.LapList2 = list(outer)
-            result.List2 = moved_out(outer, result.List1, settings.LapSize2)
-        if plan_angle(flat_apex, result.List1[-2]) > plan_angle(flat_apex, result.List1[-1]):
+        result = lapped(surface, settings)
+        if plan_angle(ORIGIN, result.List1[-2]) > plan_angle(ORIGIN, result.List1[-1]):
             self.warnings.append(SEAM_LAP)
         return result
-
-
-def add_seam_tab(inner, outer, width):
-    """Adds the tab past the seam edge, off the pattern, and turns the edge into a corner."""
-    p, q = inner[-1], outer[-1]
-    turn = QUARTER_TURN
-    middle = ((p[0] + q[0]) / 2, (p[1] + q[1]) / 2)
-    for a, b in zip(reversed(inner[:-1]), reversed(outer[:-1])):
-        away = ((a[0] + b[0]) / 2 - middle[0], (a[1] + b[1]) / 2 - middle[1])
-        if math.hypot(*away) > 1e-6:
-            if (q[0] - p[0]) * away[1] - (q[1] - p[1]) * away[0] > 0:
-                turn = -QUARTER_TURN
-            break
-    angle = plan_angle(p, q) + turn
-    inner[-1], outer[-1] = p[:3] + (p[3] + 4,), q[:3] + (q[3] + 4,)
-    inner.append(polar_point(p, angle, width, 8))
-    outer.append(polar_point(q, angle, width, 8))
-
-
-def moved_out(edge, other, width):
-    """The points of an edge moved away from the other edge, along the rulings."""
-    return [polar_point(p, plan_angle(q, p), width)[:2] + p[2:] for p, q in zip(edge, other)]

@@ -7,7 +7,7 @@ import cone_cases
 from batch_program import run_all
 from cone_cases import TYPES, Case
 from cone_oracle import RIGHT_CONE, TRUNCATED
-from cone_surfaces import Settings
+from fitting_maths import Settings
 
 
 def length(p, q):

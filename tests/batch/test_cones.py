@@ -1,88 +1,21 @@
 """Cones of korvet-batch against a second computation of them, and against what geometry demands."""
 
-import datetime
 import unittest
 from collections import Counter
 from dataclasses import replace
 
 import cone_cases
-import cone_oracle as oracle
-from batch_program import DONE, REFUSED, FolderTest, cone_file, run, run_all
+import window_checks
+from batch_program import DONE, REFUSED, cone_file, run
 from cone_cases import TYPES, Case
-from cone_oracle import RIGHT_CONE, TRUNCATED
-from cone_surfaces import SEAM_LAP, TOP_LAP, Settings
-
-LISTS = ("List1", "List2", "List3", "LapList1", "LapList2")
-TOLERANCE = 1e-9
-
-
-def shown(path):
-    return f"{path.category} type {path.dtype + 1} {path.boxes} {path.settings}"
+from cone_oracle import BOX_COUNT, RIGHT_CONE, TRUNCATED
+from cone_surfaces import TOP_LAP
+from fitting_cases import mended_cases
+from fitting_maths import SEAM_LAP, Settings
+from oracle_test import Comparison, OracleTest, shown
 
 
-def near(a, b):
-    return abs(a - b) <= TOLERANCE * max(1.0, abs(a), abs(b))
-
-
-class Comparison:
-    """What differs between the program's JSON for one input and the expected answer."""
-
-    def __init__(self, report, answer):
-        self.faults = []
-        self.equal("refused", report["refused"], answer.refused)
-        self.equal("messages", [(m["title"], m["text"], m["box"]) for m in report["messages"]], answer.messages)
-        for name in ("model", "pattern"):
-            self.surface(name, report[name], getattr(answer, name))
-        if not answer.refused:
-            self.labels(report["labels"], answer.labels)
-
-    def equal(self, what, got, expected):
-        if got != expected:
-            self.faults.append(f"{what}: {got} instead of {expected}")
-
-    def labels(self, got, expected):
-        self.equal("labels", got[:-1], expected[:-1])
-        dates = [datetime.date.today() - datetime.timedelta(days=days) for days in (0, 1)]
-        ends = {expected[-1] + f"{date.day} {date:%b} {date.year}" for date in dates}
-        if got[-1:] == [] or got[-1] not in ends:
-            self.faults.append(f"last label {got[-1:]} instead of {ends}")
-
-    def surface(self, name, got, expected):
-        if expected is None:
-            self.equal(name, got, [])
-            return
-        if len(got) != 1:
-            self.faults.append(f"{name}: {len(got)} surfaces")
-            return
-        for part in LISTS:
-            self.points(f"{name} {part}", got[0][part], getattr(expected, part))
-        self.equal(f"{name} RefPointDisplay", got[0]["RefPointDisplay"], expected.RefPointDisplay)
-        reference = expected.RefPoint
-        self.equal(f"{name} RefPoint", got[0]["RefPoint"], None if reference is None else list(reference))
-
-    def points(self, name, got, expected):
-        if got is None or expected is None or len(got) != len(expected):
-            self.equal(name, None if got is None else len(got), None if expected is None else len(expected))
-            return
-        for number, (p, q) in enumerate(zip(got, expected), start=1):
-            if p[3] != q[3] or not all(near(a, b) for a, b in zip(p[:3], q[:3])):
-                self.faults.append(f"{name} point {number}: {p} instead of {q}")
-                return
-
-
-class OracleTest(FolderTest):
-    def check(self, cases):
-        """Runs new windows for the cases and compares all that they say."""
-        faults = []
-        for case, result in zip(cases, run_all([case.arguments() + ["--json", "-"] for case in cases])):
-            answer = case.answer()
-            found = Comparison(result.json, answer).faults
-            if result.status != (REFUSED if answer.refused else DONE):
-                found.append(f"status {result.status}")
-            if found:
-                faults.append("\n  ".join([shown(case), *found[:6]]))
-        self.assertFalse(faults, f"{len(faults)} of {len(cases)} differ\n" + "\n".join(faults[:8]))
-
+class ConeTest(OracleTest):
     def test_sound_cones(self):
         cases = [cone_cases.sound_case(*kind, cone_cases.rng_of(f"sound {kind} {k}"))
                  for kind in TYPES for k in range(20)]
@@ -120,17 +53,7 @@ class OracleTest(FolderTest):
         """All boxes start at fault; mended one by one in the order of the checks, the next one speaks."""
         cases = []
         for kind in TYPES:
-            case = cone_cases.sound_case(*kind, cone_cases.rng_of(f"mended {kind}"))
-            good = dict(case.boxes)
-            case = replace(case, boxes=tuple((index, "-1e5") for index in good))
-            while (answer := case.answer()).refused:
-                cases.append(case)
-                box = answer.messages[-1][2]
-                if dict(case.boxes)[box] == good[box]:
-                    break
-                case = case.with_box(box, good[box])
-            else:
-                cases.append(case)
+            cases += mended_cases(cone_cases.sound_case(*kind, cone_cases.rng_of(f"mended {kind}")))
         self.check(cases)
 
     def test_odd_seams(self):
@@ -165,11 +88,11 @@ class OracleTest(FolderTest):
                 found.append(f"file {report['file']} type {report['type']}")
             if found:
                 faults.append("\n  ".join([shown(case), *found[:6]]))
-        self.assertFalse(faults, f"{len(faults)} of {len(cases)} differ\n" + "\n".join(faults[:8]))
+        self.tell(faults, cases)
 
 
 def file_of(case):
-    texts = ["0"] * oracle.BOX_COUNT[case.category]
+    texts = ["0"] * BOX_COUNT[case.category]
     for index, text in case.boxes:
         texts[index] = text
     settings = case.settings
@@ -177,7 +100,7 @@ def file_of(case):
     return cone_file(texts, case.dtype, case.category, angle=repr(settings.JoinAngle), laps=laps,
                      segs=str(settings.segs), Thickness=repr(settings.Thickness),
                      HalfPattern=str(settings.HalfPattern), InOutMean=str(settings.InOutMean),
-                     JoinType=str(settings.JoinType), PositionString=oracle.POSITION[settings.InOutMean])
+                     JoinType=str(settings.JoinType), PositionString=window_checks.POSITION[settings.InOutMean])
 
 
 class TypedValuesTest(unittest.TestCase):
@@ -188,7 +111,7 @@ class TypedValuesTest(unittest.TestCase):
         return [(m["title"], m["text"], m["box"]) for m in result.json["messages"]], result
 
     def test_bad_number_is_told_typed_and_built(self):
-        bad = (oracle.PRODUCT, "Not a valid number", 4)
+        bad = (window_checks.PRODUCT, "Not a valid number", 4)
         messages, result = self.messages("Right Cone", "--set", "box3=100", "--set", "box4=5x", "--set", "box5=40")
         self.assertEqual((messages, result.status), ([bad, bad], REFUSED))
         self.assertEqual(result.lines, ["Right Cone: box 4: Not a valid number"])
@@ -196,21 +119,21 @@ class TypedValuesTest(unittest.TestCase):
     def test_bad_number_of_another_type(self):
         good = ["--set", "box3=100", "--set", "box4=50", "--set", "box5=40"]
         messages, result = self.messages("Right Cone", *good, "--set", "box0=x")
-        self.assertEqual((messages, result.status), ([(oracle.PRODUCT, "Not a valid number", 0)], DONE))
+        self.assertEqual((messages, result.status), ([(window_checks.PRODUCT, "Not a valid number", 0)], DONE))
         good = ["--set", "box0=100", "--set", "box1=50", "--set", "box2=60"]
         messages, result = self.messages("Truncated Right Cone", *good, "--set", "box26=-")
-        self.assertEqual((messages, result.status), ([(oracle.PRODUCT, "Not a valid number", 26)], REFUSED))
+        self.assertEqual((messages, result.status), ([(window_checks.PRODUCT, "Not a valid number", 26)], REFUSED))
 
     def test_cone_angle_of_zero(self):
         for angle in ("0", "0.0", "-0", "1e-400"):
             messages, result = self.messages("Right Cone", "--type", "3", "--set", "box6=100", "--set", "box7=50",
                                              "--set", f"box8={angle}")
-            self.assertEqual((messages, result.status), ([(oracle.USER_ERROR, oracle.ABOVE_ZERO, 8)], REFUSED))
-            self.assertEqual(result.lines, ["Right Cone: box 8: " + oracle.ABOVE_ZERO])
+            self.assertEqual((messages, result.status), ([(window_checks.USER_ERROR, window_checks.ABOVE_ZERO, 8)], REFUSED))
+            self.assertEqual(result.lines, ["Right Cone: box 8: " + window_checks.ABOVE_ZERO])
 
     def test_text_size(self):
         good = ["--set", "box0=100", "--set", "box1=50", "--set", "box2=60", "--set", "textsize=x"]
-        bad = (oracle.PRODUCT, "Not a valid number", None)
+        bad = (window_checks.PRODUCT, "Not a valid number", None)
         messages, result = self.messages("Truncated Right Cone", *good)
         self.assertEqual((messages, result.status), ([bad, bad], REFUSED))
         messages, result = self.messages("Right Cone", "--type", "1", "--set", "box0=100", "--set", "box1=50",
@@ -227,7 +150,7 @@ class TypedValuesTest(unittest.TestCase):
             for view in ("pattern", "model"):
                 with self.subTest(laps=laps, view=view):
                     messages, result = self.messages("Right Cone", *good, *options, "--view", view)
-                    self.assertEqual(messages, [(oracle.PRODUCT, text, None) for text in expected])
+                    self.assertEqual(messages, [(window_checks.PRODUCT, text, None) for text in expected])
                     self.assertEqual(result.status, DONE)
                     self.assertEqual(result.lines, ["Right Cone: " + text for text in expected])
 

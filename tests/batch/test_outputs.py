@@ -13,8 +13,8 @@ import dxf_measure
 from batch_program import (CONE, CUT_CONE, DONE, PROGRAM, REFUSED, FolderTest, cone_file, read_json, run, run_all,
                            sets)
 from cone_cases import TYPES
-from cone_oracle import number_text
 from dxf_measure import Drawing
+from window_checks import number_text
 
 
 class DxfTest(FolderTest):

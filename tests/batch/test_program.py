@@ -123,7 +123,7 @@ class WrongUsageTest(FolderTest):
             self.wrong(*CONE, option, "")
 
     def test_outputs_of_later_versions(self):
-        for option in ("--hpgl", "--pdf", "--table"):
+        for option in ("--hpgl", "--pdf"):
             path = self.folder / "out"
             self.wrong(*CONE, option, path, "--json", path, says=f"{option} is not built yet")
             self.assertFalse(path.exists())
@@ -242,7 +242,7 @@ class SeveralInputsTest(FolderTest):
 
 class CategoryTest(FolderTest):
     def test_fitting_that_is_not_built(self):
-        for name in ("Branch", "Murok Mitre", "Imported Mesh"):
+        for name in ("Auger", "Murok Mitre", "Imported Mesh"):
             with self.subTest(name=name):
                 result = run("--new", name, "--json", "-")
                 self.assertEqual(result.status, REFUSED)

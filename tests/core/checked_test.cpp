@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 
 namespace korvet {
@@ -53,6 +54,14 @@ TEST(RoundToInt, RoundsHalvesToEvenWithinTheRange) {
     EXPECT_THROW(RoundToInt(-2147483649.0), ArithmeticError);
     EXPECT_THROW(RoundToInt(1e300), ArithmeticError);
     EXPECT_THROW(RoundToInt(NotANumber), ArithmeticError);
+}
+
+TEST(RoundToInt16, KeepsWhatFits) {
+    EXPECT_EQ(RoundToInt16(32767.4), 32767);
+    EXPECT_EQ(RoundToInt16(-32768), -32768);
+    EXPECT_EQ(RoundToInt16(2.5), 2);
+    EXPECT_THROW(static_cast<void>(RoundToInt16(32768)), ArithmeticError);
+    EXPECT_THROW(static_cast<void>(RoundToInt16(std::nan(""))), ArithmeticError);
 }
 
 }  // namespace

@@ -117,5 +117,30 @@ TEST(FittingHandle, LooksAtEveryPieceOfALists) {
     }
 }
 
+TEST(AddLaps, LaysThemWhenTheJoinAsksForThem) {
+    CRuleSurf strip = Strip({{0, 0, 0, 1}, {10, 0, 0, 1}}, {{0, 5, 0, 1}, {10, 5, 0, 1}});
+    FittingInputs inputs;
+    inputs.LapSize1 = 2;
+    EXPECT_FALSE(AddLaps(strip, inputs));
+    EXPECT_EQ(strip.List1->Count(), 2U);
+    inputs.JoinType = 1;
+    EXPECT_TRUE(AddLaps(strip, inputs));
+    ASSERT_EQ(strip.List1->Count(), 3U);
+    EXPECT_DOUBLE_EQ(strip.List1->Item(3).x, 12);  // two beyond the seam
+}
+
+TEST(DevelopPiece, HandsItsWarningsToTheWhole) {
+    Plate piece;
+    FittingResults whole;
+    whole.warnings.push_back({HalfPatternNotApplicable, true});
+    DevelopPiece(piece, whole);
+    DevelopPiece(piece, whole);
+    ASSERT_EQ(whole.warnings.size(), 5U) << "each piece tells its own once";
+    EXPECT_EQ(whole.warnings[0].messageId, HalfPatternNotApplicable);
+    EXPECT_EQ(whole.warnings[1].messageId, TopLapTooLarge);
+    EXPECT_EQ(whole.warnings[4].messageId, SeamLapTooLarge);
+    EXPECT_TRUE(piece.results.PatternSurface.List1);
+}
+
 }  // namespace
 }  // namespace korvet

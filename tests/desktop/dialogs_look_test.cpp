@@ -17,6 +17,7 @@
 
 #include "desktop/dialogs/about_dialogs.h"
 #include "shell/about.h"
+#include "shell/branch_additional_dialog.h"
 #include "shell/dialogs.h"
 #include "shell/options_dialog.h"
 #include "tests/desktop/desktop_test.h"
@@ -84,6 +85,12 @@ std::map<QString, std::function<void(DialogDesk&)>> AllDialogs() {
         RotateDialog dialog(desk.context, 0.5);
         desk.ui.RunModal(dialog);
     };
+    for (std::size_t join = 0; join < 3; ++join) {
+        all[QStringLiteral("branch-%1").arg(join)] = [join](DialogDesk& desk) {
+            BranchAdditionalDialog dialog({static_cast<BranchJoin>(join), true});
+            desk.ui.RunModal(dialog);
+        };
+    }
     all["splash"] = [](DialogDesk& desk) { RunDialog(desk.ui.Host(), SplashDialog()); };
     all["about"] = [](DialogDesk& desk) { RunDialog(desk.ui.Host(), AboutDialog()); };
     all["disclaimer"] = [](DialogDesk& desk) { RunDialog(desk.ui.Host(), DisclaimerDialog()); };

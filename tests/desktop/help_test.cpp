@@ -148,8 +148,8 @@ class HelpTest : public QObject {
     void EveryFittingThatIsBuiltHasItsPage() {
         const HelpBook book(HelpWindow::FileBesideProgram());
         for (const CatalogueRow& row : Catalogue) {
-            if (row.table == nullptr || row.helpContextId == 0) {
-                continue;
+            if (row.table == nullptr || row.helpContextId == 0 || row.hidden) {
+                continue;  // a fitting without a tile shows the page of another one or none
             }
             const auto topic = book.Topic(row.helpContextId);
             QVERIFY2(topic.has_value(), row.category.data());

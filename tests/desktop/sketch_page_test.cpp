@@ -25,6 +25,7 @@ class SketchPageTest : public QObject {
     void GrowsWithTheFont();
     void PutsParenthesesOnALineOfTheirOwn();
     void PaintsTheShapeInBothPalettes();
+    void WhatIsNotShownOffIsPale();
     void PicturesHaveTheSizeAskedFor();
 };
 
@@ -168,6 +169,37 @@ void SketchPageTest::PaintsTheShapeInBothPalettes() {
         const QImage image = page.grab().toImage();
         QVERIFY(CountColors(image) > 50);
         QCOMPARE(image.pixelColor(2, 2).lightness() < 128, palette.color(QPalette::Window).lightness() < 128);
+    }
+}
+
+/// How much stands out from the ground, over all of a picture.
+double Contrast(const QImage& image) {
+    const int ground = image.pixelColor(2, 2).lightness();
+    double sum = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            sum += std::abs(image.pixelColor(x, y).lightness() - ground);
+        }
+    }
+    return sum;
+}
+
+void SketchPageTest::WhatIsNotShownOffIsPale() {
+    for (const QPalette& palette : {QApplication::palette(), DarkPalette()}) {
+        SketchPage page(Cone(), 1, nullptr);
+        page.setPalette(palette);
+        page.resize(500, 600);
+        const QImage plain = page.grab().toImage();
+        const QRect box = page.Boxes()[0]->geometry();
+        page.ShowOff(1);  // the only surface there is
+        QCOMPARE(page.grab().toImage(), plain);
+        page.ShowOff(2);
+        const QImage pale = page.grab().toImage();
+        QVERIFY(Contrast(pale) < 0.8 * Contrast(plain));
+        QVERIFY(CountColors(pale) > 50);  // not gone
+        QCOMPARE(page.Boxes()[0]->geometry(), box);
+        page.ShowOff(0);
+        QCOMPARE(page.grab().toImage(), plain);
     }
 }
 

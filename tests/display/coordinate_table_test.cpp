@@ -74,8 +74,7 @@ TEST(CoordinateTable, AnItemThatFillsItsZoneSendsTheNextOneAZoneOn) {
     CRuleSurfs surfaces;
     surfaces.Add(surface);
     const std::string table = TableOf(surfaces);
-    EXPECT_TRUE(table.ends_with("\r\n 2            12345.25,123.5              5,0           \r\n"))
-        << table;
+    EXPECT_TRUE(table.ends_with("\r\n 2            12345.25,123.5              5,0           \r\n")) << table;
 }
 
 TEST(CoordinateTable, AShorterLineEndsIt) {

@@ -6,46 +6,20 @@
 
 #include "core/math_module.h"
 #include "fittings/round/right_cone.h"
-#include "tests/support/test_shell.h"
+#include "tests/support/refusals.h"
 
 namespace korvet {
 namespace {
 
-using BoxTexts = std::map<int, std::string>;
-
-struct Refusal {
-    int type;
-    BoxTexts boxes;  ///< typed over the sample sizes
-    std::string message;
-    int box;
-};
-
-void PrintTo(const Refusal& refusal, std::ostream* out) {
-    *out << "type " << refusal.type << " box " << refusal.box << ": " << refusal.message;
-}
-
 const std::string AboveZero = "This dimension must be greater than 0";
 const std::string NoRoom = "This dimension must be increased to allow for material thickness";
-
-void Type(CFittingWindow& window, const BoxTexts& boxes) {
-    for (const auto& [index, text] : boxes) {
-        window.ChangeBox(static_cast<std::size_t>(index), text);
-    }
-}
 
 void ExpectRefused(const std::string& category, const Refusal& refusal) {
     TestShell shell;
     const auto window = shell.OpenSample(category, refusal.type);
-    Type(*window, refusal.boxes);
+    TypeBoxes(*window, refusal.boxes);
     EXPECT_FALSE(window->BuildFitting());
-    EXPECT_FALSE(window->hasModel);
-    ASSERT_EQ(shell.ui.messages.size(), 1U);
-    const MessageBox& message = shell.ui.messages[0];
-    EXPECT_EQ(message.text, refusal.message);
-    EXPECT_EQ(message.title, "User Error");
-    EXPECT_EQ(message.style, ExclamationBox);
-    EXPECT_EQ(message.box, refusal.box);
-    EXPECT_EQ(window->controls.focus, "txtParameter_" + std::to_string(refusal.box));
+    ExpectUserError(shell.ui, *window, refusal.message, refusal.box);
 }
 
 class RightCone1Refusals : public testing::TestWithParam<Refusal> {};
@@ -148,9 +122,8 @@ void ExpectNoRoom(const std::string& category, int type, double thickness, int b
     window->settings.Thickness = thickness;
     window->settings.InOutMean = OutsideDimension;
     EXPECT_FALSE(window->BuildFitting());
-    ASSERT_EQ(shell.ui.messages.size(), 1U) << category << type;
-    EXPECT_EQ(shell.ui.messages[0].text, NoRoom);
-    EXPECT_EQ(shell.ui.messages[0].box, box);
+    SCOPED_TRACE(category + " " + std::to_string(type));
+    ExpectUserError(shell.ui, *window, NoRoom, box);
 }
 
 TEST(ConeThickness, LeavesRoomInEveryDiameter) {
@@ -180,7 +153,7 @@ TEST(RightCone1Sizes, AllTypesOfOneConeAgree) {
     for (const auto& [type, texts] : boxes) {
         TestShell shell;
         const auto window = shell.OpenSample("Right Cone", type);
-        Type(*window, texts);
+        TypeBoxes(*window, texts);
         const CRightCone& cone = Built(*window);
         EXPECT_NEAR(cone.BaseRad, 150, 1e-12);
         EXPECT_NEAR(cone.CPHeight1, 250, 1e-4);
@@ -227,9 +200,9 @@ TEST(RightCone2Sizes, RidgeMayTouchTheConeOnTheFarSide) {
     TestShell shell;
     const auto window = shell.OpenSample("Truncated Right Cone", 4);
     // rc = (600 - 300) 200 / 600 = 100, exactly
-    Type(*window, {{18, "300"}, {15, "-100"}, {14, "0"}, {16, "0"}});
+    TypeBoxes(*window, {{18, "300"}, {15, "-100"}, {14, "0"}, {16, "0"}});
     EXPECT_TRUE(window->BuildFitting());
-    Type(*window, {{15, "100"}});
+    TypeBoxes(*window, {{15, "100"}});
     EXPECT_FALSE(window->BuildFitting());
 }
 
@@ -286,18 +259,10 @@ TEST(ConeNumbers, SecondWindowSweepsTheBoxesOfAllTypes) {
     EXPECT_EQ(shell.ui.messages[0].box, 26);
 }
 
-std::vector<std::string> TextBlock(const CFittingWindow& window) {
-    std::vector<std::string> lines;
-    for (const CLabel& label : *window.labels) {
-        lines.push_back(label.LabelString);
-    }
-    return lines;
-}
-
 TEST(ConeTextBlock, TellsTheSizesAsTyped) {
     TestShell shell;
     const auto window = shell.OpenSample("Right Cone", 2);
-    Type(*window, {{3, " 300.50"}});
+    TypeBoxes(*window, {{3, " 300.50"}});
     window->comment1 = "Order 17";
     window->settings.Thickness = 1.5;
     window->settings.PositionString = "inside";

@@ -5,7 +5,10 @@
 Without the last two all four sets are taken. Each is a folder of numbered pictures of the whole screen.
 """
 import itertools
+import os
 import pathlib
+import re
+import subprocess
 import sys
 import tempfile
 
@@ -17,13 +20,30 @@ DARK = {"Window": ("49,54,59", "239,240,241"), "View": ("35,38,41", "239,240,241
         "Tooltip": ("49,54,59", "239,240,241")}
 DARK_DESKTOP = {"XDG_CURRENT_DESKTOP": "KDE", "KDE_SESSION_VERSION": "5", "QT_QPA_PLATFORMTHEME": "kde"}
 
-# In the order of the boxes on the page.
-SIZES = {
-    "Right Cone": [("300", "120", "400"), ("300", "120", "250"), ("300", "120", "60")],
-    "Truncated Right Cone": [("300", "150", "60", "20"), ("300", "25", "400", "200"),
-                             ("400", "320", "15", "80", "20", "600"), ("25", "15", "35", "600", "320", "400"),
-                             ("400", "160", "350", "120", "20", "25", "30")],
-}
+
+class Fitting:
+    """A fitting that is built: its sample sizes type by type, and its first pattern option if it has some."""
+
+    def __init__(self, category):
+        self.category = category
+        self.types = []
+        self.option = None
+
+
+def built_fittings():
+    """What the batch program beside the desktop's lists."""
+    program = pathlib.Path(os.environ["KORVET"]).with_name("korvet-batch")
+    fittings = []
+    for line in subprocess.run([program, "--list"], capture_output=True, text=True, check=True).stdout.splitlines():
+        if not line.startswith(" "):
+            fittings.append(Fitting(line.split("  ")[0]))
+        elif line.startswith("    Type"):
+            fittings[-1].types.append([])
+        elif match := re.match(r"        box\d+ .*\(sample (\S+)\)$", line):
+            fittings[-1].types[-1].append(match[1])
+        elif match := re.match(r"    pattern option 1  (.*)$", line):
+            fittings[-1].option = match[1]
+    return [fitting for fitting in fittings if fitting.types]
 
 
 def write_dark_settings(folder):
@@ -74,33 +94,44 @@ class Pictures:
             self.take(f"menu-{letter}")
             self.screen.key("Escape", "Escape")
 
-    def cone(self, category, types):
-        """The pages of a window, each with sizes typed and its model, and the last of them with its pattern."""
+    def fitting(self, fitting):
+        """The pages of a window, each with its sample sizes typed and its model, and the last with its pattern."""
         screen = self.screen
-        for page in range(types):
+        name = fitting.category.replace(" ", "-")
+        for page, sizes in enumerate(fitting.types):
             screen.key("ctrl+n")
             screen.wait_active("New fitting")
-            if page == 0 and category == "Right Cone":
+            if page == 0 and fitting.category == "Right Cone":
                 self.take("catalogue")
             others = len(screen.children())
-            screen.click(category, "push button")
+            screen.click(fitting.category, "push button")
             screen.wait(lambda: len(screen.children()) == others + 1, "new window")
             screen.wait_active("Main window")
             screen.settle(0.3)
-            for _ in range(types):
+            for _ in fitting.types:
                 screen.key("ctrl+Prior")
             for _ in range(page):
                 screen.key("ctrl+Next")
-            self.take(f"{category}-type{page + 1}-empty".replace(" ", "-"))
-            self.type_sizes(SIZES[category][page])
+            self.take(f"{name}-type{page + 1}-empty")
+            self.type_sizes(sizes)
             screen.key("ctrl+1")
             screen.wait_drawing("Model")
             screen.click("Zoom Extents", "push button")
-            self.take(f"{category}-type{page + 1}-model".replace(" ", "-"))
+            self.take(f"{name}-type{page + 1}-model")
+        if fitting.option:
+            screen.click(f"Select Pattern: {fitting.option}", "radio button")
         screen.key("ctrl+0")
         screen.wait_drawing("Flat pattern")
         screen.click("Zoom Extents", "push button")
-        self.take(f"{category}-pattern".replace(" ", "-"))
+        self.take(f"{name}-pattern")
+        if screen.search("Additional Options", "push button"):
+            screen.click("Additional Options", "push button")
+            screen.wait_active("Additional Options")
+            for type_name in ("SET-IN type join", "SET-ON type join", "MEAN  to MEAN  type join"):
+                screen.click(type_name, "radio button")
+                self.take(f"additional-options-{type_name[:6].strip()}")
+            screen.key("Escape")
+            screen.wait_active("Main window")
 
     def type_sizes(self, sizes):
         self.screen.settle(0.3)
@@ -158,8 +189,8 @@ def take_all(folder, look, scale):
     try:
         pictures.start()
         pictures.menus()
-        for category, sizes in SIZES.items():
-            pictures.cone(category, len(sizes))
+        for fitting in built_fittings():
+            pictures.fitting(fitting)
         pictures.dialogs()
         pictures.arrangements()
     finally:

@@ -162,9 +162,12 @@ TEST_F(SaveLoadTest, EveryPageOfEveryBuiltWindowHasAValidSample) {
         for (std::size_t type = 1; type <= row.table->pages.size(); ++type, ++pages) {
             const auto window = shell.OpenSample(std::string(row.category), static_cast<int>(type));
             window->ClickView(0);
+            EXPECT_GT(window->display.Surfaces.Count(), 0U) << row.category << " type " << type;
+            if (!window->controls.options.optPatternSelect.captions.empty()) {
+                window->SelectPattern(0);
+            }
             window->ClickView(PatternButton);
             EXPECT_TRUE(window->hasModel) << row.category << " type " << type;
-            EXPECT_GT(window->display.Surfaces.Count(), 0U);
         }
     }
     EXPECT_GT(pages, 0);

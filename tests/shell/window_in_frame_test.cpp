@@ -61,8 +61,9 @@ TEST_F(WindowInFrameTest, OpeningEnablesTheCommandsOfTheFrame) {
 }
 
 TEST_F(WindowInFrameTest, AWindowThatIsNotBuiltYetSaysSo) {
-    EXPECT_EQ(shell.Open("Branch"), nullptr);
-    EXPECT_EQ(shell.ui.Texts(), (std::vector<std::string>{"The fitting \"Branch\" is not built yet"}));
+    EXPECT_EQ(shell.Open(CategoryNotBuilt()), nullptr);
+    EXPECT_EQ(shell.ui.Texts(),
+              (std::vector<std::string>{"The fitting \"" + CategoryNotBuilt() + "\" is not built yet"}));
     shell.ui.messages.clear();
     EXPECT_EQ(shell.Open("Teapot"), nullptr);
     EXPECT_TRUE(shell.ui.messages.empty());

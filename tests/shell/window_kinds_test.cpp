@@ -121,6 +121,62 @@ TEST_F(WindowKindsTest, AnAngleNeedsAnAxis) {
     EXPECT_FALSE(window->BuildFitting());
 }
 
+TEST_F(WindowKindsTest, PagesMayShareABox) {
+    std::array<PageEntry, 3> pages = {table.pages[0], table.pages[1], table.pages[1]};
+    table.pages = pages;
+    EXPECT_EQ(table.BoxCount(), 6U) << "boxes 0 to 5";
+    EXPECT_EQ(Open().controls.txtParameter.size(), 6U);
+}
+
+TEST_F(WindowKindsTest, AFlushSideIsAlwaysSelected) {
+    static constexpr std::array<std::string_view, 2> Sides = {"Center line", "Left"};
+    table.flushSide = Sides;
+    EXPECT_TRUE(Open().controls.options.optFlushSide.IsOn(0));
+    window->SelectOption(&FittingOptions::optFlushSide, 1);
+    EXPECT_TRUE(window->controls.options.optFlushSide.IsOn(1));
+}
+
+TEST_F(WindowKindsTest, AFittingWithoutAHalfPatternSaysFullPattern) {
+    table.fullPatternLine = true;
+    Open().settings.HalfPattern = true;
+    ASSERT_TRUE(window->BuildFitting());
+    EXPECT_EQ(window->labels->Last().LabelString, "Right Cone  Full pattern  21 Nov 2026");
+}
+
+TEST_F(WindowKindsTest, AnotherNumberOfSidesStartsTheSeamAnew) {
+    std::array<PageEntry, 3> pages = {table.pages[0], table.pages[1], table.pages[2]};
+    pages[1].sidesBox = 0;  // of another page: it takes any number here
+    table.pages = pages;
+    Open().ChangeBox(0, "6");
+    ASSERT_TRUE(window->BuildFitting());
+    EXPECT_EQ(window->noOfSides, 6);
+    window->settings.JoinAngle = 60;
+    ASSERT_TRUE(window->BuildFitting());
+    EXPECT_EQ(window->settings.JoinAngle, 60) << "still six sides";
+    window->ChangeBox(0, "8");
+    window->ChangeBox(3, "0");
+    EXPECT_FALSE(window->BuildFitting());
+    EXPECT_EQ(window->settings.JoinAngle, 60) << "a refused build changes nothing";
+    window->ChangeBox(3, "300");
+    ASSERT_TRUE(window->BuildFitting());
+    EXPECT_EQ(window->settings.JoinAngle, 0);
+    EXPECT_EQ(window->noOfSides, 8);
+}
+
+TEST_F(WindowKindsTest, TheSeamOfAFileBelongsToItsSides) {
+    std::array<PageEntry, 3> pages = {table.pages[0], table.pages[1], table.pages[2]};
+    pages[1].sidesBox = 0;
+    table.pages = pages;
+    Open().ChangeBox(0, "6");
+    window->ClickView(0);
+    window->settings.JoinAngle = 60;
+    ASSERT_TRUE(window->SaveFile("six.Kvt"));
+    Open();
+    ASSERT_TRUE(window->LoadFile("six.Kvt"));
+    EXPECT_EQ(window->noOfSides, 6);
+    EXPECT_EQ(window->settings.JoinAngle, 60);
+}
+
 TEST_F(WindowKindsTest, MoreAndBackStepTheTypeUntilTheFirstDrawing) {
     table.moreButtons = true;
     Open();

@@ -82,8 +82,8 @@ TEST(SketchData, EveryLineIsAsLongAsItsBoxSays) {
                             1e-6 * sample)
                     << checked.name;
                 break;
-            case DimensionKind::Note:
-                ADD_FAILURE() << checked.name << " has no dimension line";
+            case DimensionKind::Note:  // a count has no length
+                EXPECT_TRUE(checked.box->label.starts_with("Number of")) << checked.name;
         }
     }
 }

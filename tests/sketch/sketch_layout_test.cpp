@@ -48,7 +48,18 @@ struct Laid {
     double width;
     double height;
     SketchLayout layout;
+    const PageEntry* page;
 };
+
+/// How many the page's dimensions have together: a leader to an arc one, a note none, every other two.
+std::size_t ArrowHeadsOf(const PageEntry& page) {
+    std::size_t heads = 0;
+    for (const BoxEntry& box : page.boxes) {
+        const DimensionKind kind = box.dimension.kind;
+        heads += kind == DimensionKind::Note ? 0U : kind == DimensionKind::Radius ? 1U : 2U;
+    }
+    return heads;
+}
 
 /// Every page of every window that is built, in fonts from small to large and pages from the smallest on.
 std::vector<Laid> LayOutAll() {
@@ -66,7 +77,8 @@ std::vector<Laid> LayOutAll() {
                     all.push_back({std::string(row.category) + ", type " + std::to_string(page + 1) +
                                        ", font " + std::to_string(font) + ", " + std::to_string(width) +
                                        " by " + std::to_string(height),
-                                   metrics, width, height, LayoutSketch(sketch, metrics, width, height)});
+                                   metrics, width, height, LayoutSketch(sketch, metrics, width, height),
+                                   &row.table->pages[page]});
                 }
             }
         }
@@ -200,7 +212,8 @@ TEST(SketchLayout, BoxesTouchTheirLines) {
                                         DistanceToLine(laid.layout.labels[i], line)});
                 }
             }
-            EXPECT_LE(nearest, 8) << laid.name;
+            const bool hasLine = laid.page->boxes[i].dimension.kind != DimensionKind::Note;
+            EXPECT_TRUE(nearest <= 8 || !hasLine) << laid.name << ": " << nearest;
             EXPECT_LE(DistanceToLine(laid.layout.boxes[i], {.points = {CentreOf(laid.layout.labels[i]),
                                                                        CentreOf(laid.layout.labels[i])}}),
                       laid.layout.labels[i].height / 2 + 3)
@@ -209,13 +222,13 @@ TEST(SketchLayout, BoxesTouchTheirLines) {
     });
 }
 
-TEST(SketchLayout, EveryDimensionHasTwoArrowHeads) {
+TEST(SketchLayout, EveryDimensionHasItsArrowHeads) {
     ForEveryLayout([](const Laid& laid) {
         std::size_t heads = 0;
         for (const SketchLine& line : laid.layout.lines) {
             heads += (line.arrowAtStart ? 1U : 0U) + (line.arrowAtEnd ? 1U : 0U);
         }
-        EXPECT_EQ(heads, 2 * laid.layout.boxes.size()) << laid.name;
+        EXPECT_EQ(heads, ArrowHeadsOf(*laid.page)) << laid.name;
     });
 }
 

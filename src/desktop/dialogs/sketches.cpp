@@ -53,19 +53,6 @@ void PaintPattern(QPainter& painter, const QPalette& palette, QPointF centre, do
     }
 }
 
-/// A line with an arrow at both ends.
-void PaintDimensionLine(QPainter& painter, QPointF a, QPointF b) {
-    constexpr double Arrow = 5;
-    painter.drawLine(a, b);
-    for (const auto& [tip, sign] : {std::pair{a, 1.0}, std::pair{b, -1.0}}) {
-        QPainterPath head(tip);
-        head.lineTo(tip + QPointF(sign * Arrow, Arrow / 2.2));
-        head.lineTo(tip + QPointF(sign * Arrow, -Arrow / 2.2));
-        head.closeSubpath();
-        painter.fillPath(head, painter.pen().color());
-    }
-}
-
 /// The strip that a lap adds, and the middle of it, where its number stands.
 struct LapStrip {
     QPainterPath path;
@@ -117,6 +104,18 @@ void PaintCone(QPainter& painter, const QPalette& palette, QRectF place) {
 }
 
 }  // namespace
+
+void PaintDimensionLine(QPainter& painter, QPointF a, QPointF b) {
+    constexpr double Arrow = 5;
+    painter.drawLine(a, b);
+    for (const auto& [tip, sign] : {std::pair{a, 1.0}, std::pair{b, -1.0}}) {
+        QPainterPath head(tip);
+        head.lineTo(tip + QPointF(sign * Arrow, Arrow / 2.2));
+        head.lineTo(tip + QPointF(sign * Arrow, -Arrow / 2.2));
+        head.closeSubpath();
+        painter.fillPath(head, painter.pen().color());
+    }
+}
 
 void PaintLaps(QPainter& painter, const QWidget& widget, const std::array<bool, 3>& used) {
     constexpr double HalfAngle = 46;

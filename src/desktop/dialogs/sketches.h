@@ -1,12 +1,16 @@
 // The sketches on the dialogs, each painted into a widget in the colours of its palette.
 #pragma once
 
+#include <QPointF>
 #include <array>
 
 class QPainter;
 class QWidget;
 
 namespace korvet::desktop {
+
+/// A level line with an arrow at both ends, `a` on the left, in the colour of the pen.
+void PaintDimensionLine(QPainter& painter, QPointF a, QPointF b);
 
 /// A ring sector as a cone develops to, with the laps that can be laid on it: 0 along the top edge, 1 along
 /// the seam, 2 along the base edge, each with its number from 1. Those in use stand out.

@@ -4,8 +4,8 @@
 
 #include "core/checked.h"
 #include "core/constants.h"
-#include "core/lap_join.h"
 #include "core/math_module.h"
+#include "fittings/lap_tests.h"
 
 namespace korvet {
 
@@ -14,7 +14,7 @@ namespace korvet {
 /// triangle with side H - h and the angles d (half angle of the section), b and g:
 ///     L / sin b = (H - h) / sin g
 /// and L, which lies in the section, is L cos d high and so L cos d / cos a long on the generator itself.
-double CRightCone::SlantDistance(double t, Plane plane) const {
+double CRightCone::SlantDistance(double t, CutPlane plane) const {
     const double d = std::atan(Quotient(BaseRad * std::cos(t), ApexHeight));
     const double b = plane.tilt + QuarterTurn;
     const double g = PI - (b + d);
@@ -28,7 +28,7 @@ C3DPoint CRightCone::SlantPoint(double t, double distance) const {
     return {std::cos(t) * q, std::sin(t) * q, ApexHeight - std::cos(ConeAngle) * distance, PlainStation};
 }
 
-C3DPoint CRightCone::RingPoint(double t, Plane plane) const {
+C3DPoint CRightCone::RingPoint(double t, CutPlane plane) const {
     return SlantPoint(t, SlantDistance(t, plane));
 }
 
@@ -39,7 +39,7 @@ void CRightCone::AddStation(double t, const Cut& cut, int upperFlag, int lowerFl
 }
 
 void CRightCone::AddPlainCut() {
-    const Cut cut = {{CPAngle1, CPHeight1}, Plane{CPAngle2, CPHeight2}};
+    const Cut cut = {{CPAngle1, CPHeight1}, CutPlane{CPAngle2, CPHeight2}};
     const double step = FullTurn / inputs.segs;
     double t = inputs.JoinAngle;
     for (int i = 1; i <= inputs.segs + 1; ++i) {
@@ -75,15 +75,15 @@ void CRightCone::AddRoof(double ridgeHeight, const Cut& near, const Cut& far, in
 /// The planes of a roof cross the axis at h = tan(tilt) * Offset + ridge height, so that both meet in the
 /// ridge.
 void CRightCone::AddUpperRoof() {
-    const Plane nearPlane = {CPAngle1, std::tan(CPAngle1) * Offset + CPHeight1};
-    const Plane farPlane = {CPAngle3, std::tan(CPAngle3) * Offset + CPHeight1};
+    const CutPlane nearPlane = {CPAngle1, std::tan(CPAngle1) * Offset + CPHeight1};
+    const CutPlane farPlane = {CPAngle3, std::tan(CPAngle3) * Offset + CPHeight1};
     AddRoof(CPHeight1, {nearPlane, {}}, {farPlane, {}}, CornerRuleStation, RuleStation);
 }
 
 void CRightCone::AddLowerRoof() {
-    const Plane top = {CPAngle1, CPHeight1};
-    const Plane nearPlane = {CPAngle2, std::tan(CPAngle2) * Offset + CPHeight2};
-    const Plane farPlane = {CPAngle3, std::tan(CPAngle3) * Offset + CPHeight2};
+    const CutPlane top = {CPAngle1, CPHeight1};
+    const CutPlane nearPlane = {CPAngle2, std::tan(CPAngle2) * Offset + CPHeight2};
+    const CutPlane farPlane = {CPAngle3, std::tan(CPAngle3) * Offset + CPHeight2};
     AddRoof(CPHeight2, {top, nearPlane}, {top, farPlane}, RuleStation, CornerRuleStation);
 }
 
@@ -141,24 +141,20 @@ void CRightCone::DevelopModel() {
     }
     pattern.RefPoint = F;
     pattern.RefPointDisplay = true;
-    if (inputs.JoinType > 0) {
-        ApplyLaps(pattern);
-    }
+    ApplyLaps(pattern);
     results.PatternSurface = pattern;
 }
 
 void CRightCone::ApplyLaps(CRuleSurf& pattern) {
     const C3DPoint F;
-    for (const C3DPoint& point : *pattern.List1) {
-        if (Distance3D(F, point) < inputs.LapSize0) {
-            results.warnings.push_back({TopLapTooLarge});
-            break;
-        }
+    const bool reachesApex = TopLapReachesApex(*pattern.List1, F, inputs.LapSize0);
+    if (!AddLaps(pattern, inputs)) {
+        return;
     }
-    ApplyLapJoin(pattern, inputs.JoinType, inputs.LapSize0, inputs.LapSize1, inputs.LapSize2);
-    const C3DPoints& lapped = *pattern.List1;
-    const std::size_t m = lapped.Count();
-    if (m > 1 && PlanAngle(F, lapped.Item(m - 1)) > PlanAngle(F, lapped.Item(m))) {
+    if (reachesApex) {
+        results.warnings.push_back({TopLapTooLarge});
+    }
+    if (SeamLapPassesStart(*pattern.List1, F)) {
         results.warnings.push_back({SeamLapTooLarge});
     }
 }

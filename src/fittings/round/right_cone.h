@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "core/fitting.h"
+#include "fittings/round/plane_cut.h"
 
 namespace korvet {
 
@@ -42,21 +43,15 @@ struct CRightCone {
     void DevelopModel();
 
   private:
-    /// A cutting plane, tilted towards +x by `tilt` and crossing the axis at `height`.
-    struct Plane {
-        double tilt;
-        double height;
-    };
-
     /// The planes that bound a stretch of the cone; without a lower plane it stands on the base circle.
     struct Cut {
-        Plane upper;
-        std::optional<Plane> lower;
+        CutPlane upper;
+        std::optional<CutPlane> lower;
     };
 
-    [[nodiscard]] double SlantDistance(double t, Plane plane) const;
+    [[nodiscard]] double SlantDistance(double t, CutPlane plane) const;
     [[nodiscard]] C3DPoint SlantPoint(double t, double distance) const;
-    [[nodiscard]] C3DPoint RingPoint(double t, Plane plane) const;
+    [[nodiscard]] C3DPoint RingPoint(double t, CutPlane plane) const;
     void AddStation(double t, const Cut& cut, int upperFlag, int lowerFlag);
     void AddPlainCut();
     void AddRoof(double ridgeHeight, const Cut& near, const Cut& far, int upperFlag, int lowerFlag);

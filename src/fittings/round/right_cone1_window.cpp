@@ -3,42 +3,34 @@
 #include <cmath>
 
 #include "core/math_module.h"
+#include "fittings/mean_sizes.h"
 #include "fittings/round/right_cone.h"
 #include "fittings/windows.h"
 
 namespace korvet {
 namespace {
 
-/// The sizes that every group comes down to; radii as typed, not yet those of the mean line.
-struct Frustum {
-    double baseRadius;
-    double topRadius;
-    double coneAngle;
-    double height;
+/// The boxes of a cone's two diameters.
+struct DiameterBoxes {
+    int base;
+    int top;
 };
 
-struct MeanRadii {
-    double base;
-    double top;
-};
-
-MeanRadii Compensated(const FittingForm& form, const Frustum& frustum) {
-    const CThickCompensator compensator = form.Compensator(SlopingRoundWall);
-    return {compensator.NewDistance(frustum.baseRadius, frustum.coneAngle, 0),
-            compensator.NewDistance(frustum.topRadius, frustum.coneAngle, 0)};
+/// The top must be the smaller one: true after a failure.
+bool CheckDiameters(FittingForm& form, DiameterBoxes boxes) {
+    return form.CheckLessThan(boxes.top, form.Value(boxes.base));
 }
 
-/// The thickness tests of both diameters; then the sizes go to the cone.
-bool SetFrustum(FittingForm& form, CRightCone& cone, const Frustum& frustum, int baseBox, int topBox) {
-    const MeanRadii mean = Compensated(form, frustum);
-    const double allowance = std::cos(frustum.coneAngle) * form.settings.Thickness / 2;
-    if (form.CheckRoomForThickness(baseBox, mean.base, allowance) ||
-        form.CheckRoomForThickness(topBox, mean.top, allowance)) {
+/// The thickness tests of both diameters; then the sizes that every group comes down to go to the cone.
+bool SetFrustum(FittingForm& form, CRightCone& cone, DiameterBoxes boxes, double coneAngle, double height) {
+    const double R = MeanConeRadius(form, boxes.base, coneAngle);
+    if (CheckConeWall(form, boxes.base, R, coneAngle) ||
+        CheckConeWall(form, boxes.top, MeanConeRadius(form, boxes.top, coneAngle), coneAngle)) {
         return false;
     }
-    cone.BaseRad = mean.base;
-    cone.ConeAngle = frustum.coneAngle;
-    cone.CPHeight1 = frustum.height;
+    cone.BaseRad = R;
+    cone.ConeAngle = coneAngle;
+    cone.CPHeight1 = height;
     return true;
 }
 
@@ -49,11 +41,11 @@ bool BuildFromApexHeight(FittingForm& form, CRightCone& cone) {
     const double R = form.Value(0) / 2;
     const double r = form.Value(1) / 2;
     const double H = form.Value(2);
-    if (form.CheckLessThan(1, form.Value(0))) {
+    if (CheckDiameters(form, {0, 1})) {
         return false;
     }
     // Similar triangles: the top lies r H / R below the apex.
-    return SetFrustum(form, cone, {R, r, std::atan(R / H), H - (r * H) / R}, 0, 1);
+    return SetFrustum(form, cone, {0, 1}, std::atan(R / H), H - (r * H) / R);
 }
 
 bool BuildFromHeight(FittingForm& form, CRightCone& cone) {
@@ -62,11 +54,11 @@ bool BuildFromHeight(FittingForm& form, CRightCone& cone) {
     }
     const double R = form.Value(3) / 2;
     const double r = form.Value(4) / 2;
-    if (form.CheckLessThan(4, form.Value(3))) {
+    if (CheckDiameters(form, {3, 4})) {
         return false;
     }
     const double H = (form.Value(5) * R) / (R - r);
-    return SetFrustum(form, cone, {R, r, std::atan(R / H), form.Value(5)}, 3, 4);
+    return SetFrustum(form, cone, {3, 4}, std::atan(R / H), form.Value(5));
 }
 
 bool BuildFromConeAngle(FittingForm& form, CRightCone& cone) {
@@ -76,21 +68,10 @@ bool BuildFromConeAngle(FittingForm& form, CRightCone& cone) {
     const double R = form.Value(6) / 2;
     const double r = form.Value(7) / 2;
     const double coneAngle = DegToRad(form.Value(8) / 2);
-    if (form.CheckLessThan(7, form.Value(6)) || form.CheckPositive(8) || form.CheckLessThan(8, 180)) {
+    if (CheckDiameters(form, {6, 7}) || form.CheckPositive(8) || form.CheckLessThan(8, 180)) {
         return false;
     }
-    return SetFrustum(form, cone, {R, r, coneAngle, (R - r) / std::tan(coneAngle)}, 6, 7);
-}
-
-bool Build(FittingForm& form, CRightCone& cone) {
-    switch (form.dtype) {
-        case 0:
-            return BuildFromApexHeight(form, cone);
-        case 1:
-            return BuildFromHeight(form, cone);
-        default:
-            return BuildFromConeAngle(form, cone);
-    }
+    return SetFrustum(form, cone, {6, 7}, coneAngle, (R - r) / std::tan(coneAngle));
 }
 
 // The top is List1, the base List2.
@@ -137,7 +118,7 @@ constexpr std::array<PageEntry, 3> Pages = {{{ApexHeightBoxes, ApexHeightLabels,
 const WindowTable frmRightCone1 = {
     .pages = Pages,
     .newFitting = FittingHandle::Make<CRightCone>,
-    .buildFitting = BuildAs<CRightCone, Build>,
+    .buildFitting = BuildByType<CRightCone, BuildFromApexHeight, BuildFromHeight, BuildFromConeAngle>,
     .firstDtype = 1,
     .checksAllFields = false,
     .positionLine = true,

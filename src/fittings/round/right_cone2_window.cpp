@@ -5,35 +5,29 @@
 
 #include "core/constants.h"
 #include "core/math_module.h"
+#include "fittings/mean_sizes.h"
 #include "fittings/round/right_cone.h"
+#include "fittings/tilt.h"
 #include "fittings/windows.h"
 
 namespace korvet {
 namespace {
 
-/// The angle, in degrees, up to a point y high and x away: the steepest tilt of a plane that ends there.
-double ConeLimit(double y, double x) {
-    return RadToDeg(std::atan(y / x));
+/// Sets the wall of the cone and makes the thickness test: true after a failure.
+bool SetWall(FittingForm& form, CRightCone& cone, int diameterBox, double coneAngle) {
+    cone.ConeAngle = coneAngle;
+    cone.BaseRad = MeanConeRadius(form, diameterBox, coneAngle);
+    return CheckConeWall(form, diameterBox, cone.BaseRad, coneAngle);
 }
 
-/// Half of the material's thickness as it lies in a wall of this cone.
-double HalfThickness(const FittingForm& form, double coneAngle) {
-    return std::cos(coneAngle) * form.settings.Thickness / 2;
+/// The half angle of the cone as typed, by its diameter and the height of its apex.
+double TypedConeAngle(const FittingForm& form, int diameterBox, int apexBox) {
+    return std::atan((form.Value(diameterBox) / 2) / form.Value(apexBox));
 }
 
-double MeanRadius(const FittingForm& form, int diameterBox, double coneAngle) {
-    return form.Compensator(SlopingRoundWall).NewDistance(form.Value(diameterBox) / 2, coneAngle, 0);
-}
-
-/// The thickness test of a diameter whose mean radius is R.
-bool CheckWall(FittingForm& form, int diameterBox, double R, double coneAngle) {
-    return form.CheckRoomForThickness(diameterBox, R, HalfThickness(form, coneAngle));
-}
-
-/// The tilt in a box must stay below the cone limit of the height it turns about, to either side.
-bool CheckTilt(FittingForm& form, int angleBox, double height, double R) {
-    const double m = ConeLimit(height, R);
-    return form.CheckGreaterThan(angleBox, -m) || form.CheckLessThan(angleBox, m);
+/// Height of the mean cone's apex above its base.
+double MeanApexHeight(const CRightCone& cone) {
+    return cone.BaseRad / std::tan(cone.ConeAngle);
 }
 
 bool BuildPlaneByConeAngle(FittingForm& form, CRightCone& cone) {
@@ -41,15 +35,15 @@ bool BuildPlaneByConeAngle(FittingForm& form, CRightCone& cone) {
         return false;
     }
     // Here alone the whole half thickness counts, as the diameter is read before the angle of the wall.
-    cone.BaseRad = MeanRadius(form, 0, 0);
+    cone.BaseRad = MeanConeRadius(form, 0, 0);
     cone.CPHeight1 = form.Value(1);
     cone.ConeAngle = DegToRad(form.Value(2) / 2);
     cone.CPAngle1 = DegToRad(form.Value(3));
-    if (CheckWall(form, 0, cone.BaseRad, cone.ConeAngle)) {
+    if (CheckConeWall(form, 0, cone.BaseRad, cone.ConeAngle)) {
         return false;
     }
-    const double H = cone.BaseRad / std::tan(cone.ConeAngle);
-    return !form.CheckLessThan(1, H) && !CheckTilt(form, 3, cone.CPHeight1, cone.BaseRad);
+    const double H = MeanApexHeight(cone);
+    return !form.CheckLessThan(1, H) && !CheckPlaneTilt(form, 3, cone.CPHeight1, cone.BaseRad);
 }
 
 bool BuildPlaneByApexHeight(FittingForm& form, CRightCone& cone) {
@@ -58,13 +52,11 @@ bool BuildPlaneByApexHeight(FittingForm& form, CRightCone& cone) {
     }
     cone.CPAngle1 = DegToRad(form.Value(5));
     cone.CPHeight1 = form.Value(7);
-    cone.ConeAngle = std::atan((form.Value(4) / 2) / form.Value(6));
-    cone.BaseRad = MeanRadius(form, 4, cone.ConeAngle);
-    if (CheckWall(form, 4, cone.BaseRad, cone.ConeAngle)) {
+    if (SetWall(form, cone, 4, TypedConeAngle(form, 4, 6))) {
         return false;
     }
-    const double H = cone.BaseRad / std::tan(cone.ConeAngle);
-    return !form.CheckLessThan(7, H) && !CheckTilt(form, 5, cone.CPHeight1, cone.BaseRad);
+    const double H = MeanApexHeight(cone);
+    return !form.CheckLessThan(7, H) && !CheckPlaneTilt(form, 5, cone.CPHeight1, cone.BaseRad);
 }
 
 bool BuildTwoPlanes(FittingForm& form, CRightCone& cone) {
@@ -76,29 +68,27 @@ bool BuildTwoPlanes(FittingForm& form, CRightCone& cone) {
     cone.CPAngle1 = DegToRad(form.Value(12));
     // A positive entry tilts the lower plane the opposite way to the upper one.
     cone.CPAngle2 = -DegToRad(form.Value(10));
-    cone.ConeAngle = std::atan((form.Value(8) / 2) / form.Value(13));
-    cone.BaseRad = MeanRadius(form, 8, cone.ConeAngle);
-    if (CheckWall(form, 8, cone.BaseRad, cone.ConeAngle)) {
+    if (SetWall(form, cone, 8, TypedConeAngle(form, 8, 13))) {
         return false;
     }
-    const double H = cone.BaseRad / std::tan(cone.ConeAngle);
+    const double H = MeanApexHeight(cone);
     return !form.CheckLessThan(9, H) && !form.CheckLessThan(11, H) &&
-           !CheckTilt(form, 12, cone.CPHeight1, cone.BaseRad) &&
-           !CheckTilt(form, 10, cone.CPHeight2, cone.BaseRad);
+           !CheckPlaneTilt(form, 12, cone.CPHeight1, cone.BaseRad) &&
+           !CheckPlaneTilt(form, 10, cone.CPHeight2, cone.BaseRad);
 }
 
 /// Both tilts of an upper roof: neither plane may leave the cone through its base, nor pass by its apex.
 bool CheckUpperRoofTilts(FittingForm& form, const CRightCone& cone, double H) {
     const double toApex = H - cone.CPHeight1;
-    if (form.CheckLessThan(14, ConeLimit(cone.CPHeight1, cone.BaseRad + cone.Offset))) {
+    if (form.CheckLessThan(14, TiltLimit(cone.CPHeight1, cone.BaseRad + cone.Offset))) {
         return true;
     }
-    const double farLimit = cone.Offset > 0 ? ConeLimit(toApex, cone.Offset) : 90;
+    const double farLimit = cone.Offset > 0 ? TiltLimit(toApex, cone.Offset) : 90;
     if (form.CheckGreaterThan(14, -farLimit) ||
-        form.CheckLessThan(16, ConeLimit(cone.CPHeight1, cone.BaseRad - cone.Offset))) {
+        form.CheckLessThan(16, TiltLimit(cone.CPHeight1, cone.BaseRad - cone.Offset))) {
         return true;
     }
-    const double nearLimit = cone.Offset >= 0 ? 90 : -ConeLimit(toApex, cone.Offset);
+    const double nearLimit = cone.Offset >= 0 ? 90 : TiltLimit(toApex, -cone.Offset);
     return form.CheckGreaterThan(16, -nearLimit);
 }
 
@@ -110,12 +100,10 @@ bool BuildUpperRoof(FittingForm& form, CRightCone& cone) {
     cone.CPAngle3 = -DegToRad(form.Value(14));
     cone.CPAngle1 = DegToRad(form.Value(16));
     cone.Offset = form.Value(15);
-    cone.ConeAngle = std::atan((form.Value(19) / 2) / form.Value(17));
-    cone.BaseRad = MeanRadius(form, 19, cone.ConeAngle);
-    if (CheckWall(form, 19, cone.BaseRad, cone.ConeAngle)) {
+    if (SetWall(form, cone, 19, TypedConeAngle(form, 19, 17))) {
         return false;
     }
-    const double H = cone.BaseRad / std::tan(cone.ConeAngle);
+    const double H = MeanApexHeight(cone);
     if (form.CheckLessThan(18, H)) {
         return false;
     }
@@ -131,7 +119,7 @@ bool BuildUpperRoof(FittingForm& form, CRightCone& cone) {
 /// The upper limit, in degrees, of a lower plane's tilt: it must pass below the top edge, which on that side
 /// lies `run` away from the ridge.
 double BelowTopLimit(double run, double rise) {
-    return run <= 0 ? 90 : 90 - ConeLimit(run, rise);
+    return run <= 0 ? 90 : 90 - TiltLimit(run, rise);
 }
 
 bool BuildLowerRoof(FittingForm& form, CRightCone& cone) {
@@ -148,17 +136,15 @@ bool BuildLowerRoof(FittingForm& form, CRightCone& cone) {
     }
     const double typedR = form.Value(20) / 2;
     const double typedH = (form.Value(22) * typedR) / (typedR - form.Value(21) / 2);
-    cone.ConeAngle = std::atan(typedR / typedH);
-    cone.BaseRad = MeanRadius(form, 20, cone.ConeAngle);
-    if (CheckWall(form, 20, cone.BaseRad, cone.ConeAngle)) {
+    if (SetWall(form, cone, 20, std::atan(typedR / typedH))) {
         return false;
     }
-    const double H = cone.BaseRad / std::tan(cone.ConeAngle);
+    const double H = MeanApexHeight(cone);
     if (form.CheckLessThan(22, H) || form.CheckLessThan(23, cone.CPHeight1)) {
         return false;
     }
-    const double r = MeanRadius(form, 21, cone.ConeAngle);
-    if (CheckWall(form, 21, r, cone.ConeAngle)) {
+    const double r = MeanConeRadius(form, 21, cone.ConeAngle);
+    if (CheckConeWall(form, 21, r, cone.ConeAngle)) {
         return false;
     }
     const double rc = ((H - cone.CPHeight2) * cone.BaseRad) / H;
@@ -174,52 +160,23 @@ bool BuildLowerRoof(FittingForm& form, CRightCone& cone) {
 }
 
 /// Breaks of a roof are measured from plan angle 0, so the seam of types 4 and 5 stands there.
-void HoldSeam(std::int16_t dtype, CPatternSettings& settings) {
-    settings.JoinAngleDisable = dtype > 2;
-    if (settings.JoinAngleDisable) {
-        settings.JoinAngle = 0;
-    }
+void HoldSeamOfRoofs(std::int16_t dtype, CPatternSettings& settings) {
+    HoldSeam(settings, dtype > 2);
 }
 
-bool Build(FittingForm& form, CRightCone& cone) {
+bool Build(FittingForm& form, const FittingHandle& fitting) {
     // A file may hold any seam angle, so that the change of type is not enough.
-    HoldSeam(form.dtype, form.settings);
+    HoldSeamOfRoofs(form.dtype, form.settings);
+    auto& cone = fitting.As<CRightCone>();
     cone.CPAngle1 = cone.CPAngle2 = cone.CPAngle3 = cone.Offset = cone.CPHeight2 = 0;
-    switch (form.dtype) {
-        case 0:
-            return BuildPlaneByConeAngle(form, cone);
-        case 1:
-            return BuildPlaneByApexHeight(form, cone);
-        case 2:
-            return BuildTwoPlanes(form, cone);
-        case 3:
-            return BuildUpperRoof(form, cone);
-        default:
-            return BuildLowerRoof(form, cone);
-    }
+    return BuildByType<CRightCone, BuildPlaneByConeAngle, BuildPlaneByApexHeight, BuildTwoPlanes,
+                       BuildUpperRoof, BuildLowerRoof>(form, fitting);
 }
 
 // The top is List1, the bottom List2. Planes are measured on the axis, a roof at its ridge, and every tilt
 // against the level in the elevation.
 constexpr SketchPoint BaseLeft = AtXZ(-200, 0);
 constexpr SketchPoint BaseRight = AtXZ(200, 0);
-
-/// A level ray to the right of the left end of a line.
-constexpr SketchPoint LevelFromLeft(int list) {
-    return SpotOf(list, Spot::MinX, 100);
-}
-
-/// The tilt of a plane between its left and its right end.
-constexpr SketchDimension TiltSize(int list) {
-    return AngleSize(Side::Right, SpotOf(list, Spot::MinX), SpotOf(list, Spot::MaxX), LevelFromLeft(list));
-}
-
-/// The tilt of one side of a roof, away from the ridge to the end of the roof given.
-constexpr SketchDimension RoofTiltSize(Side side, const SketchPoint& ridge, int list) {
-    const bool left = side == Side::Left;
-    return AngleSize(side, ridge, SpotOf(list, left ? Spot::MinX : Spot::MaxX),
-                     AtXZ(ridge.dx + (left ? -100 : 100), ridge.dz));
-}
 
 constexpr SketchPoint ConeAngleApex = OnAxis(321.6760380764337);  // 150 / tan 25 degrees
 constexpr std::array<BoxEntry, 4> ConeAngleBoxes = {
@@ -324,8 +281,8 @@ constexpr std::array<PageEntry, 5> Pages = {{{ConeAngleBoxes, ConeAngleLabels, F
 const WindowTable frmRightCone2 = {
     .pages = Pages,
     .newFitting = FittingHandle::Make<CRightCone>,
-    .buildFitting = BuildAs<CRightCone, Build>,
-    .onTypeChanged = HoldSeam,
+    .buildFitting = Build,
+    .onTypeChanged = HoldSeamOfRoofs,
     .positionLine = true,
 };
 

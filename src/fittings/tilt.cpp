@@ -1,0 +1,22 @@
+#include "fittings/tilt.h"
+
+#include <cmath>
+
+#include "core/math_module.h"
+
+namespace korvet {
+
+double TiltLimit(double height, double run) {
+    return RadToDeg(std::atan(height / run));
+}
+
+bool CheckTiltWithin(FittingForm& form, int angleBox, double low, double high) {
+    return form.CheckGreaterThan(angleBox, low) || form.CheckLessThan(angleBox, high);
+}
+
+bool CheckPlaneTilt(FittingForm& form, int angleBox, double height, double run) {
+    const double m = TiltLimit(height, run);
+    return CheckTiltWithin(form, angleBox, -m, m);
+}
+
+}  // namespace korvet

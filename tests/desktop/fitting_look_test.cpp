@@ -1,0 +1,164 @@
+// What holds for the look of all fitting windows, on every page: all of the panel can be read, nothing lies
+// over anything else, and the panel is no wider than it must be. The environment variable KORVET_PICTURES
+// names a folder that gets a picture of each.
+#include <QDir>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTemporaryDir>
+
+#include "shell/catalogue.h"
+#include "tests/desktop/desktop_test.h"
+#include "tests/desktop/fitting_views.h"
+
+namespace korvet::desktop {
+namespace {
+
+QPalette DarkPalette() {
+    QPalette palette(QColor(50, 50, 50));
+    palette.setColor(QPalette::Base, QColor(30, 30, 30));
+    palette.setColor(QPalette::Text, Qt::white);
+    palette.setColor(QPalette::WindowText, Qt::white);
+    return palette;
+}
+
+/// What stands on the panel and has nothing else on it.
+QList<QWidget*> ShownControls(const QWidget& panel) {
+    QList<QWidget*> shown;
+    for (QWidget* widget : panel.findChildren<QWidget*>()) {
+        const bool control = qobject_cast<QAbstractButton*>(widget) != nullptr ||
+                             qobject_cast<QLineEdit*>(widget) != nullptr ||
+                             qobject_cast<QLabel*>(widget) != nullptr;
+        if (control && widget->isVisible()) {
+            shown.append(widget);
+        }
+    }
+    return shown;
+}
+
+QRect PlaceOn(const QWidget& panel, const QWidget& widget) {
+    return {widget.mapTo(&panel, QPoint(0, 0)), widget.size()};
+}
+
+void VerifyPanel(const QWidget& panel, const QString& page) {
+    const QList<QWidget*> controls = ShownControls(panel);
+    QVERIFY2(controls.size() > 15, qPrintable(page));
+    for (const QWidget* widget : controls) {
+        const QString name = page + ": " + widget->objectName();
+        const QRect place = PlaceOn(panel, *widget);
+        QVERIFY2(panel.rect().contains(place), qPrintable(name));
+        const auto* label = qobject_cast<const QLabel*>(widget);
+        const QSize needed = label != nullptr && label->wordWrap()
+                                 ? QSize(0, label->heightForWidth(label->width()))
+                                 : widget->minimumSizeHint();
+        QVERIFY2(place.width() >= needed.width() && place.height() >= needed.height(), qPrintable(name));
+        for (const QWidget* other : controls) {
+            QVERIFY2(widget == other || !place.intersects(PlaceOn(panel, *other)),
+                     qPrintable(name + " over " + other->objectName()));
+        }
+    }
+}
+
+/// Shows every page of every window that is built.
+void ForEachPage(const std::function<void(const QString& page, ViewOfTable& shown)>& look) {
+    int windows = 0;
+    for (const CatalogueRow& row : Catalogue) {
+        if (row.table == nullptr) {
+            continue;
+        }
+        ++windows;
+        ViewOfTable shown(*row.table);
+        while (shown.Get("btnPoint_1").isEnabled()) {
+            shown.Get("btnPoint_1").click();
+        }
+        for (std::size_t page = 0; page < row.table->pages.size(); ++page) {
+            QApplication::processEvents();
+            look(QString::fromUtf8(row.window.data(), static_cast<qsizetype>(row.window.size())) +
+                     QStringLiteral("-%1").arg(page + 1),
+                 shown);
+            shown.Get("btnPoint_0").click();
+        }
+    }
+    QVERIFY(windows > 0);
+}
+
+}  // namespace
+
+class FittingLook : public QObject {
+    Q_OBJECT
+  private slots:
+    void everyPageIsWhole() {
+        ForEachPage([](const QString& page, ViewOfTable& shown) {
+            const auto* scroll = shown.view.findChild<QScrollArea*>();
+            VerifyPanel(*scroll->widget(), page);
+            QVERIFY2(!scroll->horizontalScrollBar()->isVisible(), qPrintable(page));
+        });
+    }
+
+    void aLowWindowScrollsToTheLastControl() {
+        ForEachPage([](const QString& page, ViewOfTable& shown) {
+            shown.view.resize(1000, 360);
+            QApplication::processEvents();
+            const auto* scroll = shown.view.findChild<QScrollArea*>();
+            VerifyPanel(*scroll->widget(), page);
+            QVERIFY2(scroll->verticalScrollBar()->isVisible(), qPrintable(page));
+            QVERIFY2(!scroll->horizontalScrollBar()->isVisible(), qPrintable(page));
+        });
+    }
+
+    void thePanelGrowsWithTheFont() {
+        ViewOfTable shown(frmRightCone1);
+        QApplication::processEvents();
+        const auto* scroll = shown.view.findChild<QScrollArea*>();
+        const int before = scroll->width();
+        QFont font = shown.view.font();
+        font.setPointSizeF(font.pointSizeF() * 1.7);
+        shown.view.setFont(font);
+        QApplication::processEvents();
+        VerifyPanel(*scroll->widget(), QStringLiteral("large"));
+        QVERIFY(scroll->width() > before);
+        QVERIFY(!scroll->horizontalScrollBar()->isVisible());
+    }
+
+    void optionsDoNotWidenThePanel() {
+        ForEachPage([](const QString& page, ViewOfTable& shown) {
+            int widest = shown.Get<QGroupBox>("fraControls").minimumSizeHint().width();
+            for (const auto* sketch : shown.view.findChildren<SketchPage*>()) {
+                widest = std::max(widest, sketch->minimumSizeHint().width());
+            }
+            const auto* scroll = shown.view.findChild<QScrollArea*>();
+            constexpr int Margins = 2 * 10;
+            const int bar = scroll->verticalScrollBar()->sizeHint().width();
+            QVERIFY2(scroll->width() <= widest + Margins + bar, qPrintable(page));
+        });
+    }
+
+    void picturesAreTaken() {
+        const QTemporaryDir otherwise;
+        const QString folder = qEnvironmentVariable("KORVET_PICTURES", otherwise.path());
+        QVERIFY(QDir().mkpath(folder));
+        const QPalette usual = QApplication::palette();
+        for (const bool dark : {false, true}) {
+            QApplication::setPalette(dark ? DarkPalette() : usual);
+            ForEachPage([&](const QString& page, ViewOfTable& shown) {
+                auto* first = shown.Find("optPatternSelect_0");
+                if (first != nullptr) {
+                    first->click();
+                }
+                const auto* scroll = shown.view.findChild<QScrollArea*>();
+                const QString file = page + (dark ? QStringLiteral("-dark.png") : QStringLiteral(".png"));
+                QVERIFY(scroll->widget()->grab().save(QDir(folder).filePath(file)));
+            });
+        }
+        QApplication::setPalette(usual);
+    }
+};
+
+static const Registered<FittingLook> registered("FittingLook");
+
+}  // namespace korvet::desktop
+
+#include "fitting_look_test.moc"
