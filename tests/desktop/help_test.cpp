@@ -243,7 +243,7 @@ class HelpTest : public QObject {
                  QStringLiteral("counter-clockwise"));
         words.clear();
         QTest::keyClicks(&words, "ridge");
-        QCOMPARE(found.item(0)->text(), QString::fromUtf8("Ridge – Truncated Right Cone"));
+        QCOMPARE(found.item(0)->text(), QString::fromUtf8("Ridge – Right Cylinder"));
         words.clear();
         QTest::keyClicks(&words, "ridge nonsense");
         QCOMPARE(found.count(), 0);
