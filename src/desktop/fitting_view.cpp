@@ -40,8 +40,7 @@ void SelectOnEntry(QLineEdit& box, Qt::FocusReason reason) {
 
 }  // namespace
 
-FittingView::FittingView(CFittingWindow& window, QWidget* parent)
-    : QWidget(parent), window_(&window), boxes_(window.controls.txtParameter.size()) {
+FittingView::FittingView(CFittingWindow& window, QWidget* parent) : QWidget(parent), window_(&window) {
     NameWidget(*this, std::string(window.Row().window), Text(std::string(window.Row().category)));
     drawing_ = new DrawingArea(window, this);
     drawing_->afterEvent = [this] { After(); };
@@ -120,10 +119,10 @@ bool FittingView::eventFilter(QObject* watched, QEvent* event) {
     if (window_ != nullptr && event->type() == QEvent::FocusIn &&
         watched->objectName().toStdString() != window_->controls.focus) {
         window_->controls.focus = watched->objectName().toStdString();
-        for (std::size_t i = 0; i < boxes_.size(); ++i) {
-            if (boxes_[i] == watched) {
-                window_->FocusBox(i);
-                SelectOnEntry(*boxes_[i], static_cast<const QFocusEvent&>(*event).reason());
+        for (const BoundBox& box : boxes_) {
+            if (box.edit == watched) {
+                window_->FocusBox(box.index);
+                SelectOnEntry(*box.edit, static_cast<const QFocusEvent&>(*event).reason());
             }
         }
         shownFocus_ = window_->controls.focus;
@@ -190,7 +189,9 @@ void FittingView::TakeShape(int state) {
 }
 
 void FittingView::FocusFirstBox() {
-    ShownPage().Boxes().front()->setFocus(Qt::OtherFocusReason);
+    const std::vector<QLineEdit*>& boxes = ShownPage().Boxes();
+    QWidget* const first = boxes.empty() ? static_cast<QWidget*>(drawing_) : boxes.front();
+    first->setFocus(Qt::OtherFocusReason);
 }
 
 SketchPage& FittingView::ShownPage() const {
@@ -207,8 +208,8 @@ void FittingView::Project() {
             pageStack_->setCurrentIndex(static_cast<int>(i));
         }
     }
-    for (std::size_t i = 0; i < boxes_.size(); ++i) {
-        ShowBox(*boxes_[i], model.txtParameter[i]);
+    for (const BoundBox& box : boxes_) {
+        ShowBox(*box.edit, model.txtParameter.at(box.index));
     }
     ShowBox(*textSize_, model.txtTextSize);
     for (std::size_t i = 0; i < viewButtons_.size(); ++i) {
@@ -245,8 +246,12 @@ void FittingView::ProjectFocus() {
             ShowSelection(edit, box);
         }
     };
-    for (std::size_t i = 0; i < boxes_.size(); ++i) {
-        project(*boxes_[i], model.txtParameter[i]);
+    for (const BoundBox& box : boxes_) {
+        // Of a box that several pages bear, the one on the page that is shown has the focus.
+        const QLineEdit* const shown = ShownPage().Box(static_cast<int>(box.index));
+        if (shown == nullptr || shown == box.edit) {
+            project(*box.edit, model.txtParameter.at(box.index));
+        }
     }
     project(*textSize_, model.txtTextSize);
 }

@@ -94,6 +94,11 @@ class FittingView : public QWidget {
 
     void Do(const std::function<void(CFittingWindow&)>& action);
 
+    /// A box on one of the pages that bear it.
+    struct BoundBox {
+        QLineEdit* edit;
+        std::size_t index;  ///< in txtParameter
+    };
     struct Options {
         OptionGroup FittingOptions::*group;
         std::vector<QRadioButton*> buttons;
@@ -107,7 +112,7 @@ class FittingView : public QWidget {
     DrawingArea* drawing_ = nullptr;
     QScrollArea* panel_ = nullptr;
     std::vector<SketchPage*> pages_;
-    std::vector<QLineEdit*> boxes_;  ///< by their index in txtParameter
+    std::vector<BoundBox> boxes_;
     QStackedLayout* pageStack_ = nullptr;
     std::vector<Options> options_;
     std::vector<Shown> shown_;  ///< what the window has beside the controls of every window

@@ -78,8 +78,8 @@ SketchPage* FittingView::MakeSketch(std::size_t index, QWidget* parent) {
     NameWidget(*page, "Picture1_" + std::to_string(index), tr("Sizes of type %1").arg(index + 1));
     for (const BoxEntry& entry : window_->Table().pages[index].boxes) {
         const auto box = static_cast<std::size_t>(entry.index);
-        boxes_.at(box) = page->Box(entry.index);
-        Connect(boxes_.at(box), window_->controls.txtParameter.at(box),
+        boxes_.push_back({page->Box(entry.index), box});
+        Connect(boxes_.back().edit, window_->controls.txtParameter.at(box),
                 [box](CFittingWindow& window, const std::string& text) { window.ChangeBox(box, text); });
     }
     pages_.push_back(page);

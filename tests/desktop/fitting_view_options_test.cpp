@@ -7,6 +7,7 @@
 #include <QStringList>
 #include <array>
 
+#include "fittings/round/right_cone.h"
 #include "shell/branch_additional_dialog.h"
 #include "tests/desktop/desktop_test.h"
 #include "tests/desktop/fitting_views.h"
@@ -32,6 +33,14 @@ WindowTable FullTable() {
     table.moreButtons = true;
     table.branchMaterialEnable = true;
     return table;
+}
+
+/// A cone whatever the boxes hold.
+bool BuildAnyCone(FittingForm&, const FittingHandle& fitting) {
+    fitting.As<CRightCone>().BaseRad = 100;
+    fitting.As<CRightCone>().ConeAngle = 0.5;
+    fitting.As<CRightCone>().CPHeight1 = 50;
+    return true;
 }
 
 /// The buttons of a group that are on.
@@ -64,6 +73,38 @@ class FittingViewOptionsTest : public QObject {
         for (const char* name : {"fraPatternSelect", "fraFlushSide", "fraTopAngle", "fraBaseAngle"}) {
             QVERIFY2(shown.Find<QGroupBox>(name) == nullptr, name);
         }
+    }
+
+    void aBoxOfTwoPagesIsOneText() {
+        const std::array<PageEntry, 2> pages = {frmRightCone1.pages[1], frmRightCone1.pages[1]};
+        WindowTable table = frmRightCone1;
+        table.pages = pages;
+        table.firstDtype = 0;
+        table.buildFitting = BuildAnyCone;
+        ViewOfTable shown(table);
+        const QList<QLineEdit*> edits = shown.view.findChildren<QLineEdit*>("txtParameter_4");
+        QCOMPARE(edits.size(), 2);
+        QTest::keyClicks(edits[0], "25");
+        QCOMPARE(edits[1]->text(), edits[0]->text());
+        shown.window.ClickPoint(0);
+        for (const std::size_t box : {3U, 4U}) {
+            shown.window.FocusBox(box);
+            shown.view.Project();
+        }
+        QVERIFY(edits[1]->hasFocus());
+    }
+
+    void aPageWithoutBoxesLeavesTheFocusToTheDrawing() {
+        std::array<PageEntry, 1> pages = {frmRightCone1.pages[1]};
+        WindowTable table = frmRightCone1;
+        table.pages = pages;
+        table.firstDtype = 0;
+        pages[0].boxes = pages[0].boxes.first(0);
+        pages[0].labels = {};
+        table.buildFitting = BuildAnyCone;
+        ViewOfTable shown(table);
+        shown.view.FocusFirstBox();
+        QCOMPARE(QApplication::focusWidget()->accessibleName(), QString("Drawing"));
     }
 
     void aPatternIsSelectedAndNothingIsDrawn() {
