@@ -91,7 +91,8 @@ class FittingViewOptionsTest : public QObject {
             shown.window.FocusBox(box);
             shown.view.Project();
         }
-        QVERIFY(edits[1]->hasFocus());
+        QLineEdit* const shownEdit = edits[edits[0]->isVisible() ? 0 : 1];
+        QVERIFY(shownEdit->isVisible() && shownEdit->hasFocus());
     }
 
     void aPageWithoutBoxesLeavesTheFocusToTheDrawing() {
