@@ -139,11 +139,13 @@ void FittingView::resizeEvent(QResizeEvent* event) {
     }
 }
 
-/// As wide as it needs, with its bar; where the window is narrower than that, the panel scrolls.
+/// As wide as it needs, with its bar; where the window is narrower than that, the panel scrolls. The drawing has
+/// what is left at once: a file that is opened next is fitted into it.
 void FittingView::FitPanel() {
     const int whole =
         panel_->widget()->minimumSizeHint().width() + panel_->verticalScrollBar()->sizeHint().width();
     panel_->setFixedWidth(std::min(whole, width()));
+    layout()->activate();
 }
 
 void FittingView::changeEvent(QEvent* event) {

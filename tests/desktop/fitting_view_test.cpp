@@ -1,6 +1,7 @@
 // A fitting window as a fabricator uses it: typing, building, refusals, views, the mouse, closing.
 #include <QAction>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -275,6 +276,19 @@ class FittingViewTest : public QObject {
         const auto* panel = desk.ActiveView().findChild<QScrollArea*>();
         QVERIFY(panel->width() <= desk.ActiveView().width());
         QVERIFY(panel->horizontalScrollBar()->maximum() > 0);
+    }
+
+    void theDrawingHasWhatThePanelLeavesAtOnce() {
+        Desk desk;
+        desk.New();
+        FittingView& view = desk.ActiveView().View();
+        const auto* panel = view.findChild<QScrollArea*>();
+        const int before = panel->width();
+        panel->widget()->layout()->setContentsMargins(20, 0, 60, 0);
+        view.resize(1000, 600);
+        QVERIFY(panel->width() > before);
+        const int margin = view.layout()->contentsMargins().right();
+        QCOMPARE(view.findChild<DrawingArea*>()->width(), view.width() - panel->width() - margin);
     }
 
     void closingAsksAndDoesAsItIsTold_data() {
