@@ -15,6 +15,7 @@
 
 #include "desktop/bindings.h"
 #include "desktop/icons.h"
+#include "desktop/sketch_scroll.h"
 #include "desktop/view_icons.h"
 #include "shell/views.h"
 
@@ -139,8 +140,8 @@ void FittingView::resizeEvent(QResizeEvent* event) {
     }
 }
 
-/// As wide as it needs, with its bar; where the window is narrower than that, the panel scrolls. The drawing has
-/// what is left at once: a file that is opened next is fitted into it.
+/// As wide as it needs, with its bar; where the window is narrower than that, the panel scrolls. The drawing
+/// has what is left at once: a file that is opened next is fitted into it.
 void FittingView::FitPanel() {
     const int whole =
         panel_->widget()->minimumSizeHint().width() + panel_->verticalScrollBar()->sizeHint().width();
@@ -194,6 +195,7 @@ void FittingView::FocusFirstBox() {
     const std::vector<QLineEdit*>& boxes = ShownPage().Boxes();
     QWidget* const first = boxes.empty() ? static_cast<QWidget*>(drawing_) : boxes.front();
     first->setFocus(Qt::OtherFocusReason);
+    SketchScroll::Reveal(*first);
 }
 
 SketchPage& FittingView::ShownPage() const {
@@ -242,7 +244,7 @@ void FittingView::ProjectFocus() {
         if (model.focus != shownFocus_) {
             shownFocus_ = model.focus;
             edit.setFocus(Qt::OtherFocusReason);
-            panel_->ensureWidgetVisible(&edit);
+            SketchScroll::Reveal(edit);
         }
         if (box.selectionLength > 0) {
             ShowSelection(edit, box);

@@ -66,7 +66,7 @@ class FittingView : public QWidget {
     QWidget* MakePanel();
     QWidget* MakePages();
     QWidget* MakePage(std::size_t index);
-    SketchPage* MakeSketch(std::size_t index, QWidget* parent);
+    SketchPage* MakeSketch(std::size_t index);
     QGroupBox* MakeOptions(const std::string& name, const QString& title, OptionGroup FittingOptions::*group,
                            const SelectButton& select, int room = 0);
     QWidget* MakeAngleOptions();

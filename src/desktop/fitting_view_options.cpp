@@ -10,6 +10,7 @@
 
 #include "desktop/bindings.h"
 #include "desktop/fitting_view.h"
+#include "desktop/sketch_scroll.h"
 
 namespace korvet::desktop {
 namespace {
@@ -109,7 +110,7 @@ QWidget* FittingView::MakePage(std::size_t index) {
     auto* holder = new QWidget;
     auto* column = new QVBoxLayout(holder);
     column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(MakeSketch(index, holder), 1);
+    column->addWidget(new SketchScroll(MakeSketch(index)), 1);
     if (window_->Table().pages[index].angleOptions) {
         column->addWidget(MakeAngleOptions());
     }

@@ -43,7 +43,7 @@ QString ViewName(int button) {
 
 }  // namespace
 
-/// The panel scrolls where the window is too low for it.
+/// The sketch scrolls where the window is too low for the panel, and where it is lower still the panel does.
 QWidget* FittingView::MakePanel() {
     auto* content = new QWidget;
     NameWidget(*content, "fraControls1", tr("Sizes and views"));
@@ -73,8 +73,8 @@ QWidget* FittingView::MakePages() {
     return holder;
 }
 
-SketchPage* FittingView::MakeSketch(std::size_t index, QWidget* parent) {
-    auto* page = new SketchPage(window_->Table(), index, parent);
+SketchPage* FittingView::MakeSketch(std::size_t index) {
+    auto* page = new SketchPage(window_->Table(), index, nullptr);
     NameWidget(*page, "Picture1_" + std::to_string(index), tr("Sizes of type %1").arg(index + 1));
     for (const BoxEntry& entry : window_->Table().pages[index].boxes) {
         const auto box = static_cast<std::size_t>(entry.index);
@@ -180,7 +180,7 @@ QWidget* FittingView::MakePatternControls() {
     NameWidget(*patternFrame_, "fraControls2", tr("Pattern"));
     auto* layout = new QHBoxLayout(patternFrame_);
     auto* caption = new QLabel(Text(window_->controls.fraControls2.caption), patternFrame_);
-    caption->setWordWrap(true);
+    // Not wrapped: a panel whose height went by its width would not let the sketch shrink.
     NameWidget(*caption, "lblPattern", caption->text());
     QToolButton* pattern = MakeViewButton(PatternButton, patternFrame_);
     pattern->setIconSize({PatternIconSize, PatternIconSize});

@@ -33,7 +33,7 @@ constexpr int PlaceTwips = 15;
 constexpr QMargins WindowFrame = {8, 36, 8, 8};
 
 /// Large enough for a fitting window with a fair drawing beside its panel.
-constexpr QSize ComfortableSize = {1180, 860};
+constexpr QSize ComfortableSize = {1280, 1000};
 
 /// A caption is shown as it stands: the toolkit's mark for unsaved windows is no part of it.
 QString Title(const std::string& caption) {

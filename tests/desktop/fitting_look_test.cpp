@@ -10,6 +10,7 @@
 #include <QScrollBar>
 #include <QTemporaryDir>
 
+#include "desktop/sketch_scroll.h"
 #include "shell/catalogue.h"
 #include "tests/desktop/desktop_test.h"
 #include "tests/desktop/fitting_views.h"
@@ -43,23 +44,41 @@ QRect PlaceOn(const QWidget& panel, const QWidget& widget) {
     return {widget.mapTo(&panel, QPoint(0, 0)), widget.size()};
 }
 
-void VerifyPanel(const QWidget& panel, const QString& page) {
-    const QList<QWidget*> controls = ShownControls(panel);
-    QVERIFY2(controls.size() > 15, qPrintable(page));
+void VerifyControls(const QWidget& panel, const QList<QWidget*>& controls, const QString& page) {
     for (const QWidget* widget : controls) {
         const QString name = page + ": " + widget->objectName();
         const QRect place = PlaceOn(panel, *widget);
         QVERIFY2(panel.rect().contains(place), qPrintable(name));
-        const auto* label = qobject_cast<const QLabel*>(widget);
-        const QSize needed = label != nullptr && label->wordWrap()
-                                 ? QSize(0, label->heightForWidth(label->width()))
-                                 : widget->minimumSizeHint();
+        const QSize needed = widget->minimumSizeHint();
         QVERIFY2(place.width() >= needed.width() && place.height() >= needed.height(), qPrintable(name));
         for (const QWidget* other : controls) {
             QVERIFY2(widget == other || !place.intersects(PlaceOn(panel, *other)),
                      qPrintable(name + " over " + other->objectName()));
         }
     }
+}
+
+/// The sketch of the page that is shown.
+SketchPage* ShownSketch(const QWidget& panel) {
+    SketchPage* shown = nullptr;
+    for (auto* sketch : panel.findChildren<SketchPage*>()) {
+        if (sketch->isVisible()) {
+            shown = sketch;
+        }
+    }
+    return shown;
+}
+
+/// The sketch on its own, as it may scroll, and what stands around it.
+void VerifyPanel(const QWidget& panel, const QString& page) {
+    const SketchPage* const sketch = ShownSketch(panel);
+    QVERIFY2(sketch != nullptr, qPrintable(page));
+    const QList<QWidget*> boxes = ShownControls(*sketch);
+    VerifyControls(*sketch, boxes, page);
+    QList<QWidget*> controls = ShownControls(panel);
+    controls.removeIf([&](QWidget* control) { return boxes.contains(control); });
+    QVERIFY2(controls.size() > 10, qPrintable(page));
+    VerifyControls(panel, controls, page);
 }
 
 /// Shows every page of every window that is built.
@@ -98,6 +117,23 @@ class FittingLook : public QObject {
         });
     }
 
+    void onAMonitorOfMiddlingHeightOnlyTheSketchScrolls() {
+        ForEachPage([](const QString& page, ViewOfTable& shown) {
+            shown.view.resize(1000, 700);
+            QApplication::processEvents();
+            const auto* scroll = shown.view.findChild<QScrollArea*>();
+            VerifyPanel(*scroll->widget(), page);
+            QVERIFY2(!scroll->verticalScrollBar()->isVisible(), qPrintable(page));
+            SketchPage* const sketch = ShownSketch(*scroll->widget());
+            QVERIFY2(sketch->width() >= sketch->minimumSizeHint().width(), qPrintable(page));
+            for (QLineEdit* box : sketch->Boxes()) {
+                SketchScroll::Reveal(*box);
+                QVERIFY2(box->visibleRegion().boundingRect() == box->rect(),
+                         qPrintable(page + box->objectName()));
+            }
+        });
+    }
+
     void aLowWindowScrollsToTheLastControl() {
         ForEachPage([](const QString& page, ViewOfTable& shown) {
             shown.view.resize(1000, 360);
@@ -125,13 +161,13 @@ class FittingLook : public QObject {
 
     void optionsDoNotWidenThePanel() {
         ForEachPage([](const QString& page, ViewOfTable& shown) {
+            const auto* scroll = shown.view.findChild<QScrollArea*>();
+            const int bar = scroll->verticalScrollBar()->sizeHint().width();
             int widest = shown.Get<QGroupBox>("fraControls").minimumSizeHint().width();
             for (const auto* sketch : shown.view.findChildren<SketchPage*>()) {
-                widest = std::max(widest, sketch->minimumSizeHint().width());
+                widest = std::max(widest, sketch->minimumSizeHint().width() + bar);
             }
-            const auto* scroll = shown.view.findChild<QScrollArea*>();
             constexpr int Margins = 2 * 10;
-            const int bar = scroll->verticalScrollBar()->sizeHint().width();
             QVERIFY2(scroll->width() <= widest + Margins + bar, qPrintable(page));
         });
     }
@@ -148,6 +184,8 @@ class FittingLook : public QObject {
                 if (first != nullptr) {
                     first->click();
                 }
+                shown.view.resize(1000, 1200);
+                QApplication::processEvents();
                 const auto* scroll = shown.view.findChild<QScrollArea*>();
                 const QString file = page + (dark ? QStringLiteral("-dark.png") : QStringLiteral(".png"));
                 QVERIFY(scroll->widget()->grab().save(QDir(folder).filePath(file)));
