@@ -3,6 +3,7 @@
 
 #include "core/constants.h"
 #include "desktop/application.h"
+#include "desktop/indicator_style.h"
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
@@ -10,5 +11,6 @@ int main(int argc, char** argv) {
         QString::fromUtf8(korvet::ProductTitle.data(), korvet::ProductTitle.size()));
     QApplication::setApplicationVersion(
         QString::fromUtf8(korvet::ProgramVersion.data(), korvet::ProgramVersion.size()));
+    QApplication::setStyle(new korvet::desktop::IndicatorStyle);
     return korvet::desktop::RunApplication(QCoreApplication::arguments().mid(1));
 }

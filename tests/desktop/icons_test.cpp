@@ -13,6 +13,7 @@
 #include <array>
 #include <cmath>
 
+#include "tests/desktop/contrast.h"
 #include "tests/desktop/desktop_test.h"
 
 namespace korvet::desktop {
@@ -105,20 +106,6 @@ int DifferentPixels(const QImage& first, const QImage& second) {
 bool Near(const QColor& a, const QColor& b) {
     return std::abs(a.red() - b.red()) <= 2 && std::abs(a.green() - b.green()) <= 2 &&
            std::abs(a.blue() - b.blue()) <= 2;
-}
-
-double Luminance(const QColor& color) {
-    const auto linear = [](double c) {
-        return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
-/// The contrast ratio of WCAG 2.1, from 1 to 21.
-double Contrast(const QColor& a, const QColor& b) {
-    const double first = Luminance(a) + 0.05;
-    const double second = Luminance(b) + 0.05;
-    return std::max(first, second) / std::min(first, second);
 }
 
 /// The colour at the middle of a large picture of the sign of zooming out, which is a bar in the accent.
