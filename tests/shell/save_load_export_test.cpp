@@ -288,6 +288,41 @@ TEST_F(ExportTest, DiagonalsFollowTheDisplayWhenDimensionsGoOut) {
     EXPECT_NE(shell.files.files["out.dxf"].find("LINE\r\n8\r\nDimensionLayer"), std::string::npos);
 }
 
+TEST_F(ExportTest, ALabelWithItsCommentsGoesThroughTheFileIntoTheDrawingUntilItIsTakenAway) {
+    auto window = shell.OpenSample("Right Cone", 2);
+    window->ClickView(PatternButton);
+    const auto labelDialog = [this](CFittingWindow& labelled, bool shown) {
+        shell.ui.onLabel = [shown](LabelDialog& dialog) {
+            dialog.txtLabelItem[0].text = "Order 7";
+            dialog.txtLabelItem[1].text = "two off";
+            dialog.chkDisplayLabel.checked = shown;
+            dialog.lblStatus = "OK";
+        };
+        labelled.PlaceLabel();
+    };
+    labelDialog(*window, true);
+    window->display.LabelPoint = C3DPoint{12, 34, 0, 0};
+    ASSERT_TRUE(window->SaveFile("labelled.Kvt"));
+
+    const auto loaded = shell.Open("Right Cone");
+    ASSERT_TRUE(loaded->LoadFile("labelled.Kvt"));
+    ASSERT_TRUE(loaded->Export("labelled.dxf", ExportMode::Dxf));
+    const std::string& drawing = shell.files.files["labelled.dxf"];
+    const std::size_t first = drawing.find("\r\n1\r\nOrder 7\r\n");
+    const std::size_t second = drawing.find("\r\n1\r\ntwo off\r\n");
+    const std::size_t third = drawing.find("\r\n1\r\nBase diameter = 300\r\n");
+    ASSERT_NE(third, std::string::npos);
+    EXPECT_LT(first, second);
+    EXPECT_LT(second, third);
+
+    labelDialog(*loaded, false);
+    ASSERT_TRUE(loaded->SaveFile("bare.Kvt"));
+    EXPECT_NE(shell.files.files["bare.Kvt"].find("Start LabelPoint\r\nEnd LabelPoint"), std::string::npos);
+    EXPECT_NE(shell.files.files["bare.Kvt"].find("Order 7"), std::string::npos);
+    ASSERT_TRUE(loaded->Export("bare.dxf", ExportMode::Dxf));
+    EXPECT_EQ(shell.files.files["bare.dxf"].find("Order 7"), std::string::npos);
+}
+
 TEST_F(ExportTest, CancelWritesNothing) {
     const auto window = shell.OpenSample("Right Cone", 2);
     window->ClickView(PatternButton);
