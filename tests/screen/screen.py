@@ -156,6 +156,11 @@ class Screen:
     def click(self, name, role=None, button=1):
         self.click_at(self.middle(self.area(self.find(name, role))), button)
 
+    def press(self, name, role=None):
+        """Presses a button as a screen reader does, wherever it has scrolled to."""
+        self.find(name, role).queryAction().doAction(0)
+        self.settle()
+
     def click_at(self, place, button=1):
         self.xdotool("mousemove", *place, "click", button)
         self.settle()

@@ -104,7 +104,7 @@ class Pictures:
             if page == 0 and fitting.category == "Right Cone":
                 self.take("catalogue")
             others = len(screen.children())
-            screen.click(fitting.category, "push button")
+            screen.press(fitting.category, "push button")
             screen.wait(lambda: len(screen.children()) == others + 1, "new window")
             screen.wait_active("Main window")
             screen.settle(0.3)
@@ -119,13 +119,13 @@ class Pictures:
             screen.click("Zoom Extents", "push button")
             self.take(f"{name}-type{page + 1}-model")
         if fitting.option:
-            screen.click(f"Select Pattern: {fitting.option}", "radio button")
+            screen.press(f"Select Pattern: {fitting.option}", "radio button")
         screen.key("ctrl+0")
         screen.wait_drawing("Flat pattern")
         screen.click("Zoom Extents", "push button")
         self.take(f"{name}-pattern")
         if screen.search("Additional Options", "push button"):
-            screen.click("Additional Options", "push button")
+            screen.press("Additional Options", "push button")
             screen.wait_active("Additional Options")
             for type_name in ("SET-IN type join", "SET-ON type join", "MEAN  to MEAN  type join"):
                 screen.click(type_name, "radio button")
