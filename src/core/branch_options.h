@@ -12,7 +12,7 @@ enum BranchJoin : int {
 
 struct BranchOptions {
     BranchJoin join = MeanToMeanJoin;
-    bool heelCompensation = false;  ///< a set-on branch is turned up until its outside touches at the heel
+    bool heelCompensation = false;  ///< a set-on branch leans until its outside touches at the heel
 };
 
 }  // namespace korvet

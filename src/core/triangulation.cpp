@@ -51,8 +51,10 @@ void CTriangulation::DevelopSurface() {
         const C3DPoint& a = first.Item(i);
         const C3DPoint& b = second.Item(i);
         double ab = Distance3D(a, b);
-        const FlatRuling next =
-            i < n ? NextRuling(ruling, ab, a, b, first.Item(i + 1), second.Item(i + 1)) : ruling;
+        // Behind the last station comes the first again, as round a closed fitting; only the last ruling
+        // itself is used of that step.
+        const std::size_t following = i < n ? i + 1 : 1;
+        const FlatRuling next = NextRuling(ruling, ab, a, b, first.Item(following), second.Item(following));
         flatFirst.Add(ruling.start).Flag = a.Flag;
         flatSecond.Add(PolarPoint(ruling.start, ruling.direction, ab)).Flag = b.Flag;
         ruling = next;

@@ -1,7 +1,11 @@
 #include "desktop/tile_picture.h"
 
+#include <QCryptographicHash>
+#include <QDataStream>
 #include <QFontMetricsF>
+#include <QIODevice>
 #include <QPainter>
+#include <QPixmapCache>
 #include <algorithm>
 #include <cmath>
 
@@ -84,10 +88,8 @@ void DrawNotBuilt(QPainter& painter, const QRectF& area, const QPalette& palette
     painter.restore();
 }
 
-}  // namespace
-
-QPixmap TilePicture(const CatalogueRow& row, const QSize& size, qreal devicePixelRatio,
-                    const QPalette& palette, const QFont& font) {
+QPixmap DrawTile(const CatalogueRow& row, const QSize& size, qreal devicePixelRatio, const QPalette& palette,
+                 const QFont& font) {
     QPixmap picture((QSizeF(size) * devicePixelRatio).toSize());
     picture.setDevicePixelRatio(devicePixelRatio);
     picture.fill(Qt::transparent);
@@ -103,6 +105,30 @@ QPixmap TilePicture(const CatalogueRow& row, const QSize& size, qreal devicePixe
         DrawFitting(painter, row, area, palette);
     } else {
         DrawNotBuilt(painter, area, palette);
+    }
+    return picture;
+}
+
+/// Everything that a tile's picture goes by.
+QString TileKey(const CatalogueRow& row, const QSize& size, qreal devicePixelRatio, const QPalette& palette,
+                const QFont& font) {
+    QByteArray look;
+    QDataStream stream(&look, QIODevice::WriteOnly);
+    stream << CategoryOf(row) << (row.table != nullptr) << size << devicePixelRatio << palette << font;
+    return QStringLiteral("tile ") +
+           QString::fromLatin1(QCryptographicHash::hash(look, QCryptographicHash::Sha1).toHex());
+}
+
+}  // namespace
+
+/// The menu is opened many times and looks the same each time, so the pictures are kept.
+QPixmap TilePicture(const CatalogueRow& row, const QSize& size, qreal devicePixelRatio,
+                    const QPalette& palette, const QFont& font) {
+    const QString key = TileKey(row, size, devicePixelRatio, palette, font);
+    QPixmap picture;
+    if (!QPixmapCache::find(key, &picture)) {
+        picture = DrawTile(row, size, devicePixelRatio, palette, font);
+        QPixmapCache::insert(key, picture);
     }
     return picture;
 }

@@ -35,12 +35,15 @@ KvtControls EmptyControls(const WindowModel& controls) {
     return kvt;
 }
 
-/// Turns a group's buttons on and off as the file says, in their order.
+/// Turns a group's buttons on and off as the file says, in their order. One of which it says nothing stays as
+/// it is.
 template <typename Select>
-void SelectOptions(const std::vector<std::optional<bool>>& values, Select select) {
+void SelectOptions(const std::vector<std::optional<bool>>& values, OptionGroup& group, Select select) {
     for (std::size_t i = 0; i < values.size(); ++i) {
-        if (values[i].value_or(false)) {
+        if (values[i] == true) {
             select(i);
+        } else if (values[i] == false && group.IsOn(i)) {
+            group.selected.reset();
         }
     }
 }
@@ -52,13 +55,16 @@ void FillControls(CFittingWindow& window, const KvtControls& kvt) {
             window.ChangeBox(i, *kvt.txtParameter[i]);
         }
     }
-    const auto click = [&](OptionGroup FittingOptions::*group) {
-        return [&window, group](std::size_t i) { window.SelectOption(group, i); };
+    FittingOptions& options = window.controls.options;
+    const auto fill = [&](const std::vector<std::optional<bool>>& values,
+                          OptionGroup FittingOptions::*group) {
+        SelectOptions(values, options.*group, [&](std::size_t i) { window.SelectOption(group, i); });
     };
-    SelectOptions(kvt.optTopAngle, click(&FittingOptions::optTopAngle));
-    SelectOptions(kvt.optBaseAngle, click(&FittingOptions::optBaseAngle));
-    SelectOptions(kvt.optPatternSelect, [&](std::size_t i) { window.SelectPattern(i); });
-    SelectOptions(kvt.optFlushSide, click(&FittingOptions::optFlushSide));
+    fill(kvt.optTopAngle, &FittingOptions::optTopAngle);
+    fill(kvt.optBaseAngle, &FittingOptions::optBaseAngle);
+    SelectOptions(kvt.optPatternSelect, options.optPatternSelect,
+                  [&](std::size_t i) { window.SelectPattern(i); });
+    fill(kvt.optFlushSide, &FittingOptions::optFlushSide);
 }
 
 /// The settings of a file, with the flags that a file does not carry as the window sets them at its start.

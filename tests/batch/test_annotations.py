@@ -57,7 +57,7 @@ class TableTest(FolderTest):
         table, report = self.table(*CONE, "--view", "model")
         self.assertEqual(table, table_of(report["pattern"]))
 
-    def test_that_cannot_be_written_leaves_the_old_one(self):
+    def test_that_cannot_be_written_is_told(self):
         missing = self.folder / "no folder" / "table.txt"
         result = run(*CONE, "--table", missing)
         self.assertEqual(result.status, REFUSED)

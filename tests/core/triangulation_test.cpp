@@ -136,6 +136,12 @@ TEST(Triangulation, ARulingBelowTheSnapHasNoLengthInTheFlat) {
     EXPECT_NEAR(Distance3D(flat.List1->Item(1), flat.List2->Item(1)), 4, Near);
 }
 
+TEST(Triangulation, TheLastRulingHasNoLengthBelowTheSnapEither) {
+    const CRuleSurf flat = Unfolded(Strip({{0, 0, 0, 0}, {3, 0, 0, 0}}, {{0, 4, 0, 0}, {3, 5e-9, 0, 0}}));
+    EXPECT_EQ(Distance3D(flat.List1->Item(1), flat.List2->Item(1)), 0);
+    EXPECT_NEAR(Distance3D(flat.List1->Item(2), flat.List2->Item(2)), 4, Near);
+}
+
 TEST(Triangulation, AllPointsInOnePlaceAreNoError) {
     const CRuleSurf flat = Unfolded(Strip({{1, 2, 3, 0}, {1, 2, 3, 0}}, {{1, 2, 3, 0}, {1, 2, 3, 0}}));
     ExpectAt(flat.List1->Item(1), 0, 0);

@@ -9,6 +9,8 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTemporaryDir>
+#include <memory>
+#include <vector>
 
 #include "desktop/sketch_scroll.h"
 #include "shell/catalogue.h"
@@ -81,34 +83,24 @@ void VerifyPanel(const QWidget& panel, const QString& page) {
     VerifyControls(panel, controls, page);
 }
 
-/// Shows every page of every window that is built.
-void ForEachPage(const std::function<void(const QString& page, ViewOfTable& shown)>& look) {
-    int windows = 0;
-    for (const CatalogueRow& row : Catalogue) {
-        if (row.table == nullptr) {
-            continue;
-        }
-        ++windows;
-        ViewOfTable shown(*row.table);
-        while (shown.Get("btnPoint_1").isEnabled()) {
-            shown.Get("btnPoint_1").click();
-        }
-        for (std::size_t page = 0; page < row.table->pages.size(); ++page) {
-            QApplication::processEvents();
-            look(QString::fromUtf8(row.window.data(), static_cast<qsizetype>(row.window.size())) +
-                     QStringLiteral("-%1").arg(page + 1),
-                 shown);
-            shown.Get("btnPoint_0").click();
-        }
-    }
-    QVERIFY(windows > 0);
-}
-
 }  // namespace
 
 class FittingLook : public QObject {
     Q_OBJECT
   private slots:
+    void initTestCase() {
+        for (const CatalogueRow& row : Catalogue) {
+            if (row.table != nullptr) {
+                windows_.push_back(
+                    {QString::fromUtf8(row.window.data(), static_cast<qsizetype>(row.window.size())),
+                     std::make_unique<ViewOfTable>(*row.table)});
+            }
+        }
+        QVERIFY(!windows_.empty());
+    }
+
+    void cleanupTestCase() { windows_.clear(); }
+
     void everyPageIsWhole() {
         ForEachPage([](const QString& page, ViewOfTable& shown) {
             const auto* scroll = shown.view.findChild<QScrollArea*>();
@@ -193,6 +185,29 @@ class FittingLook : public QObject {
         }
         QApplication::setPalette(usual);
     }
+
+  private:
+    struct NamedView {
+        QString name;
+        std::unique_ptr<ViewOfTable> shown;
+    };
+
+    /// Shows every page of every window that is built.
+    void ForEachPage(const std::function<void(const QString& page, ViewOfTable& shown)>& look) {
+        for (const auto& [name, shown] : windows_) {
+            shown->view.resize(1000, 900);
+            while (shown->Get("btnPoint_1").isEnabled()) {
+                shown->Get("btnPoint_1").click();
+            }
+            for (std::size_t page = 0; page < shown->table.pages.size(); ++page) {
+                QApplication::processEvents();
+                look(name + QStringLiteral("-%1").arg(page + 1), *shown);
+                shown->Get("btnPoint_0").click();
+            }
+        }
+    }
+
+    std::vector<NamedView> windows_;
 };
 
 static const Registered<FittingLook> registered("FittingLook");

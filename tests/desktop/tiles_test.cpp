@@ -90,6 +90,7 @@ class Tiles : public QObject {
   private slots:
     void aTileHasTheSizeInPixelsOfTheDevice();
     void aBuiltFittingIsDrawnAndAnotherSaysItIsNot();
+    void aTileIsDrawnOnceForEachLook();
     void everyCategoryHasRoomBelowItsPicture();
     void noGroundShinesBetweenTheFaces();
     void aPaletteDecidesBetweenLightAndDark();
@@ -131,6 +132,18 @@ void Tiles::aBuiltFittingIsDrawnAndAnotherSaysItIsNot() {
     QVERIFY(HasInk(notBuilt, {40, 40, 60, 25}));
     QVERIFY(HasInk(built, {20, 108, 100, 30}));
     QCOMPARE(built.copy(0, 110, 140, 30), notBuilt.copy(0, 110, 140, 30));
+}
+
+void Tiles::aTileIsDrawnOnceForEachLook() {
+    const QSize size(140, 140);
+    const auto tile = [&](const QPalette& palette) {
+        return TilePicture(RightConeRow(), size, 1, palette, {});
+    };
+    const QPixmap first = tile(LightPalette());
+    QCOMPARE(tile(LightPalette()).cacheKey(), first.cacheKey());
+    QVERIFY(tile(DarkPalette()).toImage() != first.toImage());
+    QCOMPARE(tile(LightPalette()).cacheKey(), first.cacheKey());
+    QCOMPARE(TilePicture(RightConeRow(), size, 2, LightPalette(), {}).size(), 2 * size);
 }
 
 void Tiles::everyCategoryHasRoomBelowItsPicture() {

@@ -206,7 +206,7 @@ class HeelTest : public testing::Test {
     std::unique_ptr<CFittingWindow> window;
 };
 
-TEST_F(HeelTest, TurnsASetOnBranchUp) {
+TEST_F(HeelTest, LeansASetOnBranch) {
     window->branch = {SetOnJoin, true};
     // An inside diameter of 96 covers 96 / sin 60 of the trunk, and the wall of 4 stands 4 sin 30 = 2 off it,
     // 4 cos 30 nearer.
@@ -235,6 +235,21 @@ TEST_F(HeelTest, LeavesSquareBranchesAlone) {
     square->branch = {SetOnJoin, true};
     ASSERT_TRUE(square->BuildFitting());
     EXPECT_EQ(square->fitting->As<CBranch>().AxialAngle, QuarterTurn);
+}
+
+TEST_F(HeelTest, NeedsAnInsideOfTheBranch) {
+    window->branch = {SetOnJoin, true};
+    window->settings.ThicknessA = 8;
+    // On the mean a diameter of 8 is all wall, and one of 6 less than that.
+    for (const char* diameter : {"8", "6"}) {
+        TypeBoxes(*window, {{5, diameter}});
+        shell.ui.messages.clear();
+        window->ClickView(0);
+        EXPECT_FALSE(window->hasModel);
+        ASSERT_EQ(shell.ui.messages.size(), 1U);
+        EXPECT_EQ(shell.ui.messages[0].detail,
+                  "the material is too thick for the diameter of the branch pipe");
+    }
 }
 
 TEST_F(HeelTest, ThatLeavesNoAngleIsRefused) {

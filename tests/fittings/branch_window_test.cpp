@@ -119,6 +119,18 @@ TEST(BranchLimits, TheLimitsThemselvesAreAllowed) {
     }
 }
 
+TEST(BranchLimits, ASquareBranchOfTheSecondTypeMayTouchBothEnds) {
+    TestShell shell;
+    const auto window = shell.OpenSample("Branch", 2);
+    // Half the branch from the end of the trunk; the trunk as long as half its diameter.
+    TypeBoxes(*window, {{10, "90"}, {5, "100"}, {6, "200"}, {8, "50"}, {9, "100"}});
+    EXPECT_TRUE(window->BuildFitting());
+    EXPECT_TRUE(shell.ui.messages.empty());
+    TypeBoxes(*window, {{8, "49.99"}});
+    EXPECT_FALSE(window->BuildFitting());
+    ExpectUserError(shell.ui, *window, AtLeast + "50", 8);
+}
+
 TEST(BranchLimits, ASlantingBranchMayStandBeyondTheEndOfItsTrunk) {
     TestShell shell;
     const auto window = shell.OpenSample("Branch", 2);

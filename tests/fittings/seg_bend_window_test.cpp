@@ -128,8 +128,26 @@ TEST(SegBendLimits, MorePiecesThanCanBeCountedAreNotMade) {
     EXPECT_FALSE(window->hasModel);
     ASSERT_EQ(shell.ui.messages.size(), 1U);
     EXPECT_EQ(shell.ui.messages[0].text, "This fitting cannot be made with these sizes");
+    EXPECT_EQ(shell.ui.messages[0].detail, "a bend has 32768 segments at most");
     TypeBoxes(*window, {{2, "32768"}});
     EXPECT_EQ(Built(*window).BendSegments, 32767);
+}
+
+TEST(SegBendLimits, ManyPiecesOfManyFoldLinesAreNotMade) {
+    TestShell shell;
+    const auto window = shell.OpenSample(Category, 1);
+    window->settings.segs = 100000;
+    // A piece has 200,001 stations, and all pieces together may have two million.
+    TypeBoxes(*window, {{2, "9"}});
+    EXPECT_EQ(Built(*window).BendSegments, 8);
+    TypeBoxes(*window, {{2, "10"}});
+    window->ClickView(0);
+    EXPECT_FALSE(window->hasModel);
+    ASSERT_EQ(shell.ui.messages.size(), 1U);
+    EXPECT_EQ(shell.ui.messages[0].text, "This fitting cannot be made with these sizes");
+    EXPECT_EQ(
+        shell.ui.messages[0].detail,
+        "so many segments with 100000 fold lines each are too much: make one of the two numbers smaller");
 }
 
 TEST(SegBendSizes, ComeFromTheBoxesOfTheType) {

@@ -51,9 +51,12 @@ bool CheckSlanting(FittingForm& form, const PipeBoxes& boxes) {
     }
     const double alpha = TypedAngle(form, boxes);
     const double sine = std::sin(alpha);
-    const double tangent = std::tan(alpha);
-    return form.CheckAtLeast(boxes.distance, walls.r / sine + walls.R / tangent) ||
-           form.CheckAtLeast(boxes.mainLength, walls.r / tangent + walls.R / sine);
+    // Nothing for a square branch: a size at its limit is not refused for the rounding of a quarter turn.
+    const auto overTangent = [&](double radius) {
+        return alpha < QuarterTurn ? radius / std::tan(alpha) : 0;
+    };
+    return form.CheckAtLeast(boxes.distance, walls.r / sine + overTangent(walls.R)) ||
+           form.CheckAtLeast(boxes.mainLength, overTangent(walls.r) + walls.R / sine);
 }
 
 }  // namespace

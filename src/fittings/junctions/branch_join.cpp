@@ -20,6 +20,13 @@ double SetInDepth(const BranchWalls& walls) {
     return walls.R + walls.tB / 2 - walls.tA / 2;
 }
 
+/// Ends the build when the material has used up a width of the branch.
+void RequireBranchWidth(double width) {
+    if (!(width > 0)) {
+        throw ArithmeticError("the material is too thick for the diameter of the branch pipe");
+    }
+}
+
 }  // namespace
 
 CutRadii BranchCutRadii(BranchJoin join, const BranchWalls& walls) {
@@ -47,9 +54,7 @@ CutRadii TrunkHoleRadii(BranchJoin join, const BranchWalls& walls) {
 }
 
 bool BranchMeetsTrunk(const CutRadii& radii, double offset) {
-    if (!(radii.pipeA > 0)) {
-        throw ArithmeticError("the material is too thick for the diameter of the branch pipe");
-    }
+    RequireBranchWidth(radii.pipeA);
     return radii.pipeA + AbsValue(offset) <= radii.pipeB;
 }
 
@@ -61,7 +66,9 @@ bool BranchMeetsTrunk(const CutRadii& radii, double offset) {
 ///     cos(result) = (p^2 + q^2 - tA^2) / (2 q p)
 double BranchAngComp(double r, double alpha, double tA) {
     const double b = QuarterTurn - alpha;
-    const double p = Quotient(2 * (r - tA) + tA, std::sin(alpha));
+    const double width = 2 * (r - tA) + tA;
+    RequireBranchWidth(width);
+    const double p = Quotient(width, std::sin(alpha));
     const double q = SquareRoot(tA * tA + p * p - 2 * tA * p * std::cos(b));
     return ArcCos(Quotient(p * p + q * q - tA * tA, 2 * q * p));
 }

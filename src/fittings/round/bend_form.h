@@ -2,6 +2,9 @@
 // to.
 #pragma once
 
+#include <limits>
+#include <string>
+
 #include "core/checked.h"
 #include "form/fitting_form.h"
 
@@ -22,13 +25,31 @@ inline bool CheckPieces(FittingForm& form, int piecesBox) {
     return form.CheckInteger(piecesBox) || form.CheckAtLeast(piecesBox, 2);
 }
 
+/// The stations that all pieces of a bend may have together. Each of the two numbers has a limit of its own,
+/// but pieces by the thousand with fold lines by the thousand would take more memory than a machine has.
+inline constexpr double MostBendStations = 2'000'000;
+
+/// Throws ArithmeticError for more pieces than a bend can count, or more than it can have at `segs` fold
+/// lines.
+inline void RequireCountable(double pieces, int segs) {
+    constexpr int MostPieces = std::numeric_limits<std::int16_t>::max() + 1;
+    if (pieces > MostPieces) {
+        throw ArithmeticError("a bend has " + std::to_string(MostPieces) + " segments at most");
+    }
+    if (pieces * (2.0 * segs + 1) > MostBendStations) {
+        throw ArithmeticError("so many segments with " + std::to_string(segs) +
+                              " fold lines each are too much: make one of the two numbers smaller");
+    }
+}
+
 /// The last test, that a pattern is chosen; then the sizes and the kerf go to a bend such as
-/// CSegBendParallel. False after a failure. Throws ArithmeticError for more pieces than a bend can count.
+/// CSegBendParallel. False after a failure. Throws ArithmeticError for pieces that are not RequireCountable.
 template <typename Bend>
 bool SetBend(FittingForm& form, Bend& bend, const BendSizes& sizes) {
     if (form.CheckPatternSelected()) {
         return false;
     }
+    RequireCountable(sizes.pieces, form.settings.segs);
     bend.BaseRad = sizes.baseRadius;
     bend.BendSegments = RoundToInt16(sizes.pieces - 1);
     bend.BendAngle = sizes.bendAngle;
