@@ -2,7 +2,7 @@
 
 add_library(korvet_rules INTERFACE)
 target_compile_options(korvet_rules INTERFACE
-    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror
+    -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Werror
     # The same bytes on every compiler and at every optimisation level: no fused multiply-add, no fast maths.
     -ffp-contract=off -fno-fast-math)
 target_include_directories(korvet_rules INTERFACE ${PROJECT_SOURCE_DIR}/src)
