@@ -33,6 +33,13 @@ QPen PenOf(const Pen& pen, double pixelRatio) {
 constexpr std::size_t FontsKept = 4;
 constexpr std::size_t WidthsKept = 5000;
 
+/// A line of one pixel along a row or a column of pixels covers them whole: the same picture, but for dots
+/// that stay sharp, is drawn many times faster without smoothing. The leaders of a dimension grid are such
+/// lines.
+bool IsCrisp(const QPolygonF& line, double penWidth) {
+    return penWidth == 1 && line.size() == 2 && (line[0].x() == line[1].x() || line[0].y() == line[1].y());
+}
+
 QFont MakeFont(int pixels) {
     QFont font(QStringLiteral("Arial"));
     font.setPixelSize(pixels);
@@ -93,6 +100,7 @@ void PainterDevice::Polyline(const Pen& pen, std::span<const PixelPoint> points)
         for (const ClippedPoint& point : part) {
             line.append(QPointF(point.x + 0.5, point.y + 0.5));  // the middle of the pixel
         }
+        painter->setRenderHint(QPainter::Antialiasing, !IsCrisp(line, painter->pen().widthF()));
         painter->drawPolyline(line);
     }
 }

@@ -80,19 +80,39 @@ TEST(Png, WidePensAreWide) {
 }
 
 TEST(Png, DottedLinesHaveGaps) {
-    PictureDevice device(PictureFormat::Png, 100, 20);
-    const PixelPoint line[] = {{0, 10}, {99, 10}};
+    PictureDevice device(PictureFormat::Png, 100, 100);
+    const PixelPoint line[] = {{0, 10}, {99, 70}};
     device.Polyline({Red, DrawStyle::Dotted, 1}, line);
     const QImage image = ImageOf(device);
     int bright = 0;
     int dark = 0;
     for (int x = 0; x < 100; ++x) {
-        const unsigned red = ColorAt(image, x, 10) >> 16U;
+        const unsigned red = ColorAt(image, x, 10 + x * 60 / 99) >> 16U;
         bright += red > 100 ? 1 : 0;
         dark += red < 20 ? 1 : 0;
     }
     EXPECT_GT(bright, 20);
     EXPECT_GT(dark, 20);
+}
+
+TEST(Png, DotsAlongARowOrAColumnOfPixelsAreSharp) {
+    PictureDevice device(PictureFormat::Png, 100, 100);
+    const PixelPoint row[] = {{0, 10}, {99, 10}};
+    const PixelPoint column[] = {{50, 20}, {50, 99}};
+    device.Polyline({Red, DrawStyle::Dotted, 1}, row);
+    device.Polyline({Red, DrawStyle::Dotted, 1}, column);
+    const QImage image = ImageOf(device);
+    int dots = 0;
+    for (int y = 0; y < 100; ++y) {
+        for (int x = 0; x < 100; ++x) {
+            if (ColorAt(image, x, y) != 0) {
+                EXPECT_EQ(ColorAt(image, x, y), 0xFF0000U) << x << ", " << y;
+                EXPECT_TRUE(y == 10 || (x == 50 && y >= 20)) << x << ", " << y;
+                ++dots;
+            }
+        }
+    }
+    EXPECT_NEAR(dots, 180 / 3, 3);  // a dot and a gap of two
 }
 
 TEST(Png, LinesOfFewerThanTwoPointsAreNothing) {
