@@ -98,7 +98,6 @@ void SketchPage::MeasureTexts() {
                     .toSize()
                     .expandedTo({SmallestPage, SmallestPage});
     updateGeometry();
-    LayOut();
 }
 
 void SketchPage::LayOut() {
@@ -119,6 +118,9 @@ void SketchPage::changeEvent(QEvent* event) {
     const QEvent::Type type = event->type();
     if (type == QEvent::FontChange || type == QEvent::StyleChange) {
         MeasureTexts();
+        if (layout_.width > 0) {  // a page that was never shown has no size to be laid out in
+            LayOut();
+        }
     } else if (type == QEvent::PaletteChange) {
         update();
     }

@@ -127,15 +127,14 @@ double SketchBoard::CostOfLine(const SketchLine& line) const {
     return cost;
 }
 
-double SketchBoard::Cost(const SketchPlacement& placement, std::size_t owner, double limit) const {
+double SketchBoard::CostOfTexts(const SketchPlacement& placement, std::size_t owner, double limit) const {
     const SketchRect grown = Union(Union(bounds_, placement.box), placement.label);
     const double growth = Growth * (grown.width - bounds_.width + grown.height - bounds_.height);
     if (growth > limit || grown.width > room_.x || grown.height > room_.y || IsBlocked(placement.box) ||
         IsBlocked(placement.label)) {
         return std::numeric_limits<double>::infinity();
     }
-    return CostOfText(placement.box, owner) + CostOfText(placement.label, owner) +
-           CostOfLines(placement.lines) + growth;
+    return CostOfText(placement.box, owner) + CostOfText(placement.label, owner) + growth;
 }
 
 double SketchBoard::CostOfLines(const std::vector<SketchLine>& lines) const {

@@ -29,12 +29,12 @@ class SketchBoard {
     /// A line that dimension `owner` will need wherever it comes to stand; others had better leave it free.
     void Reserve(const SketchLine& line, std::size_t owner);
 
-    /// How bad it would be to put the texts of dimension `owner` there with their leader: infinite when a
-    /// text would lie over a text or over the shape, otherwise in pixels of distance that it would be worth
-    /// to avoid it. A cost of `limit` or more may come as infinite.
-    [[nodiscard]] double Cost(const SketchPlacement& placement, std::size_t owner, double limit) const;
+    /// How bad it would be to put the texts of dimension `owner` there: infinite when a text would lie over a
+    /// text or over the shape, otherwise in pixels of distance that it would be worth to avoid it. A cost of
+    /// `limit` or more may come as infinite.
+    [[nodiscard]] double CostOfTexts(const SketchPlacement& placement, std::size_t owner, double limit) const;
 
-    /// The same for lines alone.
+    /// The same for lines.
     [[nodiscard]] double CostOfLines(const std::vector<SketchLine>& lines) const;
 
     /// How far the shape reaches in direction `away` between two lines across direction `along`; minus

@@ -46,12 +46,24 @@ class Choice {
         return static_cast<int>(std::min(board_.Reach(), FarthestPlace) / Step);
     }
 
-    /// Tries texts with the lines that they have besides.
+    /// Tries texts without lines of their own.
     void Try(SketchPlacement placement, double extra) {
+        Try(std::move(placement), extra, [](const SketchPlacement&) { return 0.0; });
+    }
+
+    /// Tries texts. Those that have room are given to `finish`, which adds the lines that they have besides
+    /// and tells what else speaks against them.
+    template <typename Finish>
+    void Try(SketchPlacement placement, double extra, Finish finish) {
         if (!IsOpen(extra)) {
             return;
         }
-        const double cost = common_ + extra + board_.Cost(placement, owner_, best_ - common_ - extra + 1);
+        double cost = common_ + extra;
+        cost += board_.CostOfTexts(placement, owner_, best_ - cost + 1);
+        if (cost >= best_) {
+            return;
+        }
+        cost += finish(placement) + board_.CostOfLines(placement.lines);
         if (cost < best_) {
             best_ = cost;
             placement_ = std::move(placement);
@@ -207,8 +219,10 @@ void TryAtEnds(const SketchTask& task, const LineFrame& frame, double v, double 
         for (const bool labelAbove : {true, false}) {
             SketchPlacement placement = frame.level ? BoxAt(task, frame.At(u, v), labelAbove)
                                                     : BlockAt(task, frame.At(u, v), labelAbove);
-            placement.lines.push_back({.points = {frame.At(end, v), frame.At(u, v)}});
-            choice.Try(placement, cost + AtEndCost);
+            choice.Try(std::move(placement), cost + AtEndCost, [&](SketchPlacement& finished) {
+                finished.lines.push_back({.points = {frame.At(end, v), frame.At(u, v)}});
+                return 0.0;
+            });
         }
     }
 }
@@ -230,6 +244,26 @@ std::optional<SketchPlacement> PlaceLine(const SketchTask& task, const SketchBoa
     return choice.Best();
 }
 
+/// Tries box and label about a place near a point, with a leader to the closer one of them.
+void TryBlock(const SketchTask& task, SketchXY centre, SketchXY point, double cost, const SketchLine& leader,
+              Choice& choice) {
+    for (const bool labelAbove : {true, false}) {
+        const SketchPlacement placement = BlockAt(task, centre, labelAbove);
+        const SketchXY onBox = ClosestPoint(placement.box, point);
+        const SketchXY onLabel = ClosestPoint(placement.label, point);
+        const bool toBox = Length(onBox - point) <= Length(onLabel - point) + TextGap;
+        const double extra = cost + (labelAbove ? 0 : OddLabelCost) + (toBox ? 0 : OddLabelCost);
+        choice.Try(placement, extra, [&](SketchPlacement& finished) {
+            if (!leader.points.empty()) {
+                finished.lines.push_back(leader);
+                finished.lines.back().points = {toBox ? onBox : onLabel, point};
+            }
+            const bool over = choice.IsOverLines(finished.box) || choice.IsOverLines(finished.label);
+            return over ? OverOwnLineCost : 0.0;
+        });
+    }
+}
+
 /// Tries the places all round a point, with a leader from the box to it; a leader without points is none.
 void TryAround(const SketchTask& task, SketchXY point, SketchXY preferred, const SketchLine& leader,
                Choice& choice) {
@@ -245,24 +279,8 @@ void TryAround(const SketchTask& task, SketchXY point, SketchXY preferred, const
                                           block.y / 2 / std::max(std::abs(way.y), 1e-9));
             const SketchXY centre = point + way * (toRim + 2 * task.gap + i * Step);
             const double cost = i * Step + 20 * (1 - turned) + (turned < -0.1 ? WrongWayCost : 0);
-            if (!choice.IsOpen(cost)) {
-                continue;
-            }
-            for (const bool labelAbove : {true, false}) {
-                SketchPlacement placement = BlockAt(task, centre, labelAbove);
-                const bool toBox = Length(ClosestPoint(placement.box, point) - point) <=
-                                   Length(ClosestPoint(placement.label, point) - point) + TextGap;
-                const double extra = cost + (labelAbove ? 0 : OddLabelCost) + (toBox ? 0 : OddLabelCost);
-                if (!choice.IsOpen(extra)) {
-                    continue;
-                }
-                if (!leader.points.empty()) {
-                    placement.lines.push_back(leader);
-                    placement.lines.back().points = {
-                        ClosestPoint(toBox ? placement.box : placement.label, point), point};
-                }
-                const bool over = choice.IsOverLines(placement.box) || choice.IsOverLines(placement.label);
-                choice.Try(std::move(placement), extra + (over ? OverOwnLineCost : 0));
+            if (choice.IsOpen(cost)) {
+                TryBlock(task, centre, point, cost, leader, choice);
             }
         }
     }
