@@ -151,7 +151,7 @@ void WriteBranchMaterial(KvtText& text, const CPatternSettings& settings, const 
     text.Start("Branch Material");
     text.Number(settings.ThicknessA);
     text.Number(settings.ThicknessB);
-    text.Integer(branch.join);
+    text.Integer(static_cast<int>(branch.join));
     text.Boolean(branch.heelCompensation);
     text.End("Branch Material");
 }

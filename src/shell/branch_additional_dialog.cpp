@@ -30,7 +30,7 @@ BranchAdditionalDialog::BranchAdditionalDialog(const BranchOptions& options)
     : optInOrOn{.captions = {"SET-IN type join", "SET-ON type join", "MEAN  to MEAN  type join"}},
       chkHeelCompensation{.caption = "Apply Heel Compensation", .checked = options.heelCompensation},
       fraDescription{{SetIn, SetOn, MeanToMean}} {
-    SelectJoin(static_cast<std::size_t>(options.join));
+    SelectJoin(options.join);
 }
 
 void BranchAdditionalDialog::SelectJoin(std::size_t join) {

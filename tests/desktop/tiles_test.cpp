@@ -252,8 +252,8 @@ void Tiles::theViewFromTheOtherSideIsItsMirrorImage() {
 }
 
 void Tiles::thereAreTenViews() {
-    QVERIFY_EXCEPTION_THROWN(ViewPicture(10), ListError);
-    QVERIFY_EXCEPTION_THROWN(ViewPicture(-1), ListError);
+    QVERIFY_THROWS_EXCEPTION(ListError, ViewPicture(10));
+    QVERIFY_THROWS_EXCEPTION(ListError, ViewPicture(-1));
 }
 
 void Tiles::aViewIconFillsItsSizeAndFadesWhenDisabled() {

@@ -166,7 +166,8 @@ TEST(MainFrameCommandsTest, EveryToolDoesWhatItsMenuEntryDoes) {
 
 TEST(MainFrameCommandsTest, TheTablesNameRealCommands) {
     for (const auto* const table : {&Said, &Done}) {
-        for (const auto& [name, texts] : *table) {
+        for (const auto& entryAndTexts : *table) {
+            const auto& name = entryAndTexts.first;
             const auto menu = FrameMenu();
             const bool known = std::any_of(menu.begin(), menu.end(),
                                            [&](const MenuEntry& entry) { return entry.name == name; });
