@@ -102,21 +102,17 @@ class FittingLook : public QObject {
     void cleanupTestCase() { windows_.clear(); }
 
     void everyPageIsWhole() {
-        ForEachPage([](const QString& page, ViewOfTable& shown) {
-            const auto* scroll = shown.view.findChild<QScrollArea*>();
-            VerifyPanel(*scroll->widget(), page);
-            QVERIFY2(!scroll->horizontalScrollBar()->isVisible(), qPrintable(page));
+        ForEachPage(UsualHeight, [](const QString& page, ViewOfTable&, const QScrollArea& scroll) {
+            VerifyPanel(*scroll.widget(), page);
+            QVERIFY2(!scroll.horizontalScrollBar()->isVisible(), qPrintable(page));
         });
     }
 
     void onAMonitorOfMiddlingHeightOnlyTheSketchScrolls() {
-        ForEachPage([](const QString& page, ViewOfTable& shown) {
-            shown.view.resize(1000, 700);
-            QApplication::processEvents();
-            const auto* scroll = shown.view.findChild<QScrollArea*>();
-            VerifyPanel(*scroll->widget(), page);
-            QVERIFY2(!scroll->verticalScrollBar()->isVisible(), qPrintable(page));
-            SketchPage* const sketch = ShownSketch(*scroll->widget());
+        ForEachPage(700, [](const QString& page, ViewOfTable&, const QScrollArea& scroll) {
+            VerifyPanel(*scroll.widget(), page);
+            QVERIFY2(!scroll.verticalScrollBar()->isVisible(), qPrintable(page));
+            SketchPage* const sketch = ShownSketch(*scroll.widget());
             QVERIFY2(sketch->width() >= sketch->minimumSizeHint().width(), qPrintable(page));
             for (QLineEdit* box : sketch->Boxes()) {
                 SketchScroll::Reveal(*box);
@@ -127,13 +123,10 @@ class FittingLook : public QObject {
     }
 
     void aLowWindowScrollsToTheLastControl() {
-        ForEachPage([](const QString& page, ViewOfTable& shown) {
-            shown.view.resize(1000, 360);
-            QApplication::processEvents();
-            const auto* scroll = shown.view.findChild<QScrollArea*>();
-            VerifyPanel(*scroll->widget(), page);
-            QVERIFY2(scroll->verticalScrollBar()->isVisible(), qPrintable(page));
-            QVERIFY2(!scroll->horizontalScrollBar()->isVisible(), qPrintable(page));
+        ForEachPage(360, [](const QString& page, ViewOfTable&, const QScrollArea& scroll) {
+            VerifyPanel(*scroll.widget(), page);
+            QVERIFY2(scroll.verticalScrollBar()->isVisible(), qPrintable(page));
+            QVERIFY2(!scroll.horizontalScrollBar()->isVisible(), qPrintable(page));
         });
     }
 
@@ -152,15 +145,14 @@ class FittingLook : public QObject {
     }
 
     void optionsDoNotWidenThePanel() {
-        ForEachPage([](const QString& page, ViewOfTable& shown) {
-            const auto* scroll = shown.view.findChild<QScrollArea*>();
-            const int bar = scroll->verticalScrollBar()->sizeHint().width();
+        ForEachPage(UsualHeight, [](const QString& page, ViewOfTable& shown, const QScrollArea& scroll) {
+            const int bar = scroll.verticalScrollBar()->sizeHint().width();
             int widest = shown.Get<QGroupBox>("fraControls").minimumSizeHint().width();
             for (const auto* sketch : shown.view.findChildren<SketchPage*>()) {
                 widest = std::max(widest, sketch->minimumSizeHint().width() + bar);
             }
             constexpr int Margins = 2 * 10;
-            QVERIFY2(scroll->width() <= widest + Margins + bar, qPrintable(page));
+            QVERIFY2(scroll.width() <= widest + Margins + bar, qPrintable(page));
         });
     }
 
@@ -171,16 +163,14 @@ class FittingLook : public QObject {
         const QPalette usual = QApplication::palette();
         for (const bool dark : {false, true}) {
             QApplication::setPalette(dark ? DarkPalette() : usual);
-            ForEachPage([&](const QString& page, ViewOfTable& shown) {
+            ForEachPage(1200, [&](const QString& page, ViewOfTable& shown, const QScrollArea& scroll) {
                 auto* first = shown.Find("optPatternSelect_0");
                 if (first != nullptr) {
                     first->click();
+                    QApplication::processEvents();
                 }
-                shown.view.resize(1000, 1200);
-                QApplication::processEvents();
-                const auto* scroll = shown.view.findChild<QScrollArea*>();
                 const QString file = page + (dark ? QStringLiteral("-dark.png") : QStringLiteral(".png"));
-                QVERIFY(scroll->widget()->grab().save(QDir(folder).filePath(file)));
+                QVERIFY(scroll.widget()->grab().save(QDir(folder).filePath(file)));
             });
         }
         QApplication::setPalette(usual);
@@ -192,16 +182,21 @@ class FittingLook : public QObject {
         std::unique_ptr<ViewOfTable> shown;
     };
 
-    /// Shows every page of every window that is built.
-    void ForEachPage(const std::function<void(const QString& page, ViewOfTable& shown)>& look) {
+    static constexpr int UsualHeight = 900;
+
+    using Look = std::function<void(const QString& page, ViewOfTable& shown, const QScrollArea& scroll)>;
+
+    /// Shows every page of every window that is built, at a height; `scroll` is the frame of the whole panel.
+    void ForEachPage(int height, const Look& look) {
         for (const auto& [name, shown] : windows_) {
-            shown->view.resize(1000, 900);
+            shown->view.resize(1000, height);
             while (shown->Get("btnPoint_1").isEnabled()) {
                 shown->Get("btnPoint_1").click();
             }
             for (std::size_t page = 0; page < shown->table.pages.size(); ++page) {
                 QApplication::processEvents();
-                look(name + QStringLiteral("-%1").arg(page + 1), *shown);
+                look(name + QStringLiteral("-%1").arg(page + 1), *shown,
+                     *shown->view.findChild<QScrollArea*>());
                 shown->Get("btnPoint_0").click();
             }
         }
