@@ -8,7 +8,8 @@
 
 namespace korvet {
 
-// All of these show rule stations only, and edges of unequal numbers of them up to the shorter one.
+// All of these show rule stations only. Of edges with unequal numbers of them, lengths and diagonals go up to
+// the shorter one.
 
 /// The drawn surfaces with the frame about them (BuildExtentFrame), which is empty when there is no point.
 struct AnnotatedPattern {

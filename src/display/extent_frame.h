@@ -12,7 +12,7 @@ const C3DPoints& PointsOf(const PointList& list);
 /// The closed bounding rectangle of List1 and List2 of every drawn surface, five points: minimum x minimum y,
 /// maximum x minimum y, maximum x maximum y, minimum x maximum y, and the first again, z 0. It also takes in
 /// the first point of List1 of the first true surface, where the search begins; List3 and laps do not count.
-/// Empty when there is no point. Throws ListError when List2 is shorter than List1.
+/// Empty when there is no point.
 C3DPoints BuildExtentFrame(const CRuleSurfs& surfaces, const CRuleSurfs& screenSurfaces);
 
 }  // namespace korvet

@@ -22,9 +22,11 @@ void CMeasure::DisplayDistance(MessageBoxes& boxes) const {
     const auto rounded = [this](double value) { return RoundedText(value, Decimals, DecimalMark); };
     const std::string blankLine = std::string("  ") + LineEnd;
     const std::string indent = "    ";
+    // Just below level, the direction rounds up to a whole turn.
+    const double bearing = RadToDeg(PlanAngle(Pt1, Pt2));
     const C3DPoint apart = {Pt2.x - Pt1.x, Pt2.y - Pt1.y, Pt2.z - Pt1.z, PlainStation};
     const std::string text = "Distance = " + rounded(Distance3D(Pt1, Pt2)) + LineEnd +
-                             "Angle = " + rounded(RadToDeg(PlanAngle(Pt1, Pt2))) + LineEnd + blankLine +
+                             "Angle = " + rounded(bearing < 360 ? bearing : 0) + LineEnd + blankLine +
                              "Point 1:" + LineEnd + CoordinateLines(indent, Pt1, rounded) + blankLine +
                              "Point 2:" + LineEnd + CoordinateLines(indent, Pt2, rounded) + blankLine +
                              CoordinateLines("Distance ", apart, rounded);

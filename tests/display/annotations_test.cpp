@@ -124,6 +124,25 @@ TEST_F(Annotations, CoordinatesOfASingleSurfaceHaveNoNumber) {
     EXPECT_THAT(device.Strings(), ElementsAre("A1", "B1", "A2", "B2", "C1", "C2"));
 }
 
+TEST_F(Annotations, AThirdLineCountsFromTwoPointsAndByItsRuleStations) {
+    CRuleSurf single = Sheet();
+    single.List3 = Points({{15, 20, 0, 1}});
+    surfaces.Add(single);
+    DisplayCoordinates(drawing, surfaces, false);
+    DisplayTrueLengths(drawing, surfaces);
+    EXPECT_THAT(device.Strings(), ElementsAre("A1", "B1", "A2", "B2", "30", "30", "40", "40"));
+
+    CRuleSurfs dropped;
+    CRuleSurf surface = Sheet();
+    surface.List3 = Points({{0, 20, 0, 1}, {12, 20, 0, 0}, {30, 20, 0, 1}});
+    dropped.Add(surface);
+    device.calls.clear();
+    DisplayCoordinates(drawing, dropped, false);
+    DisplayTrueLengths(drawing, dropped);
+    EXPECT_THAT(device.Strings(),
+                ElementsAre("A1", "B1", "A2", "B2", "C1", "C2", "30", "30", "40", "40", "30"));
+}
+
 TEST_F(Annotations, GridLeadersGoToTheNearerSidesWithTheDistancesFromTheCorner) {
     surfaces.Add(Sheet(10, -20));
     const C3DPoints frame = BuildExtentFrame(surfaces, surfaces);

@@ -1,6 +1,7 @@
 // The catalogue as data, and the view history.
 #include <gtest/gtest.h>
 
+#include <map>
 #include <set>
 
 #include "core/math_module.h"
@@ -34,6 +35,22 @@ TEST(CatalogueRows, HoldTheirTiles) {
     EXPECT_EQ(Catalogue[35].helpContextId, 0);
     EXPECT_EQ(Catalogue[37].helpContextId, 2100);
     EXPECT_EQ(Catalogue[38].lapEnable, NoLaps);
+}
+
+TEST(CatalogueRows, NameTheHelpOfTheirWindows) {
+    const std::map<std::string_view, int> topics = {{"frmRightCylinder", 2150}, {"frmSegBendParallel", 2160},
+                                                    {"frmRectRound1", 2330},    {"frmRectRound2", 2180},
+                                                    {"frmRectEllipse", 2300},   {"frmRectToRectRad", 2390},
+                                                    {"frmOvalToOval", 2400},    {"frmBranch", 2170}};
+    std::size_t found = 0;
+    for (const CatalogueRow& row : Catalogue) {
+        const auto topic = topics.find(row.window);
+        if (topic != topics.end()) {
+            EXPECT_EQ(row.helpContextId, topic->second) << row.window;
+            ++found;
+        }
+    }
+    EXPECT_EQ(found, topics.size());
 }
 
 TEST(CatalogueRows, FourAreHidden) {

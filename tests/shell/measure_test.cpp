@@ -44,7 +44,8 @@ TEST(Measure, ThePointItselfIsNoDistanceAway) {
 TEST(Measure, TheBearingRunsRoundWithoutASign) {
     for (const auto& [end, angle] : {std::pair{C3DPoint{-1, 0, 0, 0}, "Angle = 180"},
                                      {C3DPoint{0, -1, 0, 0}, "Angle = 270"},
-                                     {C3DPoint{1, -1, 50, 0}, "Angle = 315"}}) {
+                                     {C3DPoint{1, -1, 50, 0}, "Angle = 315"},
+                                     {C3DPoint{265, -5e-14, 0, 0}, "Angle = 0"}}) {
         RecordingUi ui;
         CMeasure{{0, 0, 0, 0}, end, 1, '.'}.DisplayDistance(ui);
         EXPECT_EQ(Lines(ui)[1], angle);

@@ -42,6 +42,18 @@ TEST_F(MouseEditsTest, ADimensionNamesThePickedPoints) {
     EXPECT_EQ(window->dimensions->Count(), 2U);
 }
 
+TEST_F(MouseEditsTest, ADimensionKeepsTheOrderOfItsPicks) {
+    const auto window = Cone(PatternButton);
+    window->AddDimension(1);
+    const C3DPoint from = BasePoint(*window, 9);
+    const C3DPoint to = BasePoint(*window, 4);
+    const auto at = [](double value) { return static_cast<float>(value); };
+    Drag(*window, at(from.x), at(from.y), at(to.x), at(to.y));
+    ASSERT_EQ(window->dimensions->Count(), 1U);
+    EXPECT_EQ(window->dimensions->Item(1).PointNo1, 10);
+    EXPECT_EQ(window->dimensions->Item(1).PointNo2, 5);
+}
+
 TEST_F(MouseEditsTest, TwoPicksOfOnePointMakeNoDimension) {
     const auto window = Cone(PatternButton);
     window->AddDimension(1);
