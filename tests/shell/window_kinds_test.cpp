@@ -227,9 +227,12 @@ TEST_F(WindowKindsTest, TheFurtherOptionsAreStoredByOkAndTheWindowIsDrawnAnew) {
         dialog.chkHeelCompensation.checked = true;
         dialog.ClickCancel();
     };
+    const auto before = TextBlock();
+    window->settings.ThicknessA = 2.5;
     window->ClickPosition();
     EXPECT_EQ(window->branch.join, MeanToMeanJoin);
     EXPECT_FALSE(window->branch.heelCompensation);
+    EXPECT_NE(TextBlock(), before) << "the window is drawn anew after Cancel too";
     shell.ui.onBranchAdditional = [](BranchAdditionalDialog& dialog) {
         dialog.SelectJoin(SetOnJoin);
         dialog.chkHeelCompensation.checked = true;
