@@ -113,6 +113,15 @@ TEST(FindClosestPoint, GivesTheTruePointOfWhatIsSeen) {
     EXPECT_EQ(nearest.TruePoint.x, 1000);
 }
 
+TEST(FindClosestPoint, MeasuresInSpace) {
+    CRuleSurfs surfaces;
+    CRuleSurf surface;
+    surface.List1 = Points({{0, 0, 100, 1}});  // right under the click, but far behind it
+    surface.List2 = Points({{3, 0, 0, 1}});
+    surfaces.Add(surface);
+    ExpectNumbers(Nearest(0, 0, surfaces), 1, SecondEdgeList, 1);
+}
+
 TEST(FindClosestPoint, FindsNothingWithoutAPoint) {
     EXPECT_FALSE(FindClosestPoint({}, {}, {}, {}).has_value());
     CRuleSurfs hollow;

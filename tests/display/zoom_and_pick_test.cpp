@@ -1,12 +1,16 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <memory>
 
 #include "display/object_display.h"
 #include "tests/display/display_fixture.h"
+#include "tests/support/memory_file_store.h"
 
 namespace korvet {
 namespace {
+
+using testing::ElementsAre;
 
 TEST_F(ObjectDisplay, FrameCornersArePickedOnlyWhenTheFrameIsRequested) {
     AddView(true);
@@ -45,6 +49,52 @@ TEST_F(ObjectDisplay, TheDimensionWithTheNearestMiddleIsRemoved) {
     EXPECT_EQ(display.DimensionList->Count(), 1U);
     display.DimensionList->Remove(1);
     EXPECT_FALSE(display.DimRemove(0, 0));
+}
+
+TEST_F(ObjectDisplay, ADimensionIsRemovedInAModelViewByItsPlaceOnTheModel) {
+    AddView(false);
+    AddDimension(FirstEdgeList, 1, FirstEdgeList, 2);    // middle (15, 40), drawn at (15, -40)
+    AddDimension(SecondEdgeList, 1, SecondEdgeList, 2);  // middle (15, 0)
+    display.DisplayObject();
+    EXPECT_TRUE(display.DimRemove(15, 35));
+    ASSERT_EQ(display.DimensionList->Count(), 1U);
+    EXPECT_EQ(display.DimensionList->Item(1).ListNo1, SecondEdgeList);
+}
+
+TEST_F(ObjectDisplay, ADimensionToTheFrameFollowsTheSizes) {
+    AddView(true);
+    AddDimension(ExtentFrameList, 1, ExtentFrameList, 3);
+    display.DisplayObject();
+    fitting->canned.PatternSurface.List1 = Points({{0, 72, 0, 1}, {30, 72, 0, 1}});
+    screen.calls.clear();
+    display.DisplayObject();
+    EXPECT_THAT(screen.Strings(), ElementsAre("78")) << "30 by 72 now";
+}
+
+TEST_F(ObjectDisplay, ADimensionComesBackWithItsPoint) {
+    AddView(true);
+    AddDimension(FirstEdgeList, 1, FirstEdgeList, 3);
+    AddDimension(FirstEdgeList, 1, FirstEdgeList, 2);
+    display.DisplayObject();
+    EXPECT_THAT(screen.Strings(), ElementsAre());
+    fitting->canned.PatternSurface.List1 = Points({{0, 40, 0, 1}, {30, 40, 0, 1}, {70, 40, 0, 1}});
+    fitting->canned.PatternSurface.List2 = Points({{0, 0, 0, 1}, {30, 0, 0, 1}, {70, 0, 0, 1}});
+    display.DisplayObject();
+    EXPECT_THAT(screen.Strings(), ElementsAre("70", "30"));
+}
+
+TEST_F(ObjectDisplay, TheTableCountsFromTheFrameOfWhatIsShownNow) {
+    MemoryFileStore files;
+    AddView(true);
+    display.FrameRequested = true;
+    display.DisplayObject();
+    display.PrintCoordinateTable(files, "before");
+    display.FrameRequested = false;
+    display.MovePoint2 = {100, 50, 0, 0};
+    display.DisplayObject();
+    EXPECT_EQ(display.Surfaces.Item(1).List2->Item(1).x, 100);
+    display.PrintCoordinateTable(files, "after");
+    EXPECT_EQ(files.files.at("after"), files.files.at("before"));
 }
 
 class Zoom : public ObjectDisplay {
