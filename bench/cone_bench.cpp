@@ -7,7 +7,7 @@
 
 #include "core/math_module.h"
 #include "exchange/dxf.h"
-#include "fittings/round/right_cone.h"
+#include "fittings/cones/right_cone.h"
 
 namespace korvet {
 namespace {

@@ -6,9 +6,9 @@
 #include <QApplication>
 #include <QtGlobal>
 
-#include "desktop/fitting_view.h"
-#include "shell/views.h"
-#include "tests/support/test_shell.h"
+#include "desktop/fitting/fitting_view.h"
+#include "tests/support/test_context.h"
+#include "window/views.h"
 
 namespace korvet::desktop {
 namespace {

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <string>
 
-#include "shell/catalogue.h"
+#include "frame/catalogue.h"
 #include "sketch/sample_model.h"
 
 namespace korvet {

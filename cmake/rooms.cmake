@@ -1,4 +1,4 @@
-# How a room of src/ becomes a library: all its sources, the rooms it may use, and the project's compile rules.
+# How a room of src/ becomes a library: all its sources, the rooms of rooms.txt, and the project's compile rules.
 
 add_library(korvet_rules INTERFACE)
 target_compile_options(korvet_rules INTERFACE
@@ -16,13 +16,22 @@ if(KORVET_FUZZ)
     target_link_options(korvet_rules INTERFACE -fsanitize=address,undefined)
 endif()
 
-# korvet_room(NAME FOLDER [ROOM...]): library korvet_NAME of the sources below FOLDER; main.cpp is left out.
-function(korvet_room name folder)
-    file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${folder}/*.cpp)
-    list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
-    add_library(korvet_${name} STATIC ${sources})
-    target_link_libraries(korvet_${name} PUBLIC korvet_rules)
+# korvet_rooms(NAME...): a library korvet_NAME for each of these rooms, of the sources below src/NAME without main.cpp,
+# linked with the rooms that rooms.txt lets it use.
+function(korvet_rooms)
+    file(STRINGS ${PROJECT_SOURCE_DIR}/cmake/rooms.txt table REGEX "^[a-z]+:")
     foreach(room IN LISTS ARGN)
-        target_link_libraries(korvet_${name} PUBLIC korvet_${room})
+        set(row ${table})
+        list(FILTER row INCLUDE REGEX "^${room}:")
+        if(NOT row MATCHES "^${room}:([a-z ]*)")
+            message(FATAL_ERROR "cmake/rooms.txt has no room ${room}")
+        endif()
+        separate_arguments(used UNIX_COMMAND "${CMAKE_MATCH_1}")
+        list(TRANSFORM used PREPEND korvet_)
+        file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${room}/*.cpp)
+        list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
+        add_library(korvet_${room} STATIC ${sources})
+        target_link_libraries(korvet_${room} PUBLIC korvet_rules ${used})
     endforeach()
 endfunction()
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/rooms.txt)

@@ -3,7 +3,9 @@
 #include <cstdlib>
 #include <string>
 
-#include "tests/support/test_shell.h"
+#include "frame/catalogue.h"
+#include "frame/new_fitting.h"
+#include "tests/support/test_context.h"
 
 namespace {
 

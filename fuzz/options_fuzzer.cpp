@@ -2,8 +2,8 @@
 #include <cstdlib>
 #include <string>
 
-#include "shell/options_file.h"
-#include "tests/support/test_shell.h"
+#include "dialogs/options_file.h"
+#include "tests/support/test_context.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace korvet;

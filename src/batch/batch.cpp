@@ -6,9 +6,9 @@
 #include "batch/catalogue_text.h"
 #include "batch/input_run.h"
 #include "batch/set_values.h"
+#include "dialogs/options_file.h"
 #include "platform/disk_files.h"
 #include "platform/system_clock.h"
-#include "shell/options_file.h"
 
 namespace korvet::batch {
 namespace {
@@ -119,8 +119,8 @@ class BatchRun {
     SystemClock clock_;
     FrameModel frame_;
     PatternSettingsDialog patternSettingsDialog_;
-    ShellContext context_ = {options_,           ui_, files_, clock_, frame_, patternSettingsDialog_,
-                             SystemDecimalMark()};
+    WindowContext context_ = {options_,           ui_, files_, clock_, frame_, patternSettingsDialog_,
+                              SystemDecimalMark()};
     std::string reports_;
     int status_ = Done;
 };

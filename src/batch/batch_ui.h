@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "batch/arguments.h"
-#include "shell/dialogs.h"
-#include "shell/user_interface.h"
+#include "dialogs/small_dialogs.h"
+#include "dialogs/user_interface.h"
 
 namespace korvet::batch {
 

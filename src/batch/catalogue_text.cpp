@@ -1,6 +1,6 @@
 #include "batch/catalogue_text.h"
 
-#include "shell/catalogue.h"
+#include "frame/catalogue.h"
 
 namespace korvet::batch {
 namespace {

@@ -1,9 +1,10 @@
 #include "batch/input_run.h"
 
 #include "batch/set_values.h"
-#include "shell/form_services.h"
-#include "shell/new_fitting.h"
-#include "shell/views.h"
+#include "frame/catalogue.h"
+#include "frame/new_fitting.h"
+#include "window/saving.h"
+#include "window/views.h"
 
 namespace korvet::batch {
 namespace {
@@ -21,7 +22,7 @@ CRuleSurfs OneSurface(const CRuleSurf& surface) {
 
 }  // namespace
 
-InputRun::InputRun(const Arguments& arguments, ShellContext& context, BatchUi& ui, std::string input)
+InputRun::InputRun(const Arguments& arguments, WindowContext& context, BatchUi& ui, std::string input)
     : arguments_(arguments), context_(context), ui_(ui), input_(std::move(input)) {}
 
 void InputRun::Run() {

@@ -8,14 +8,14 @@
 #include "batch/batch_ui.h"
 #include "batch/json_text.h"
 #include "platform/picture_device.h"
-#include "shell/fitting_window.h"
+#include "window/fitting_window.h"
 
 namespace korvet::batch {
 
 class InputRun {
   public:
     /// `input` is the path of a parameter file, empty for the new window of the command line.
-    InputRun(const Arguments& arguments, ShellContext& context, BatchUi& ui, std::string input);
+    InputRun(const Arguments& arguments, WindowContext& context, BatchUi& ui, std::string input);
 
     /// Does everything that the command line asks for, short of the JSON. Nothing goes further than a
     /// refusal, which has then been said. Throws UsageError when the window lacks what the command line
@@ -41,7 +41,7 @@ class InputRun {
     bool WritePicture(const std::string& path, PictureFormat format);
 
     const Arguments& arguments_;
-    ShellContext& context_;
+    WindowContext& context_;
     BatchUi& ui_;
     std::string input_;
     std::string category_;

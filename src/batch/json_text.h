@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "form/message_boxes.h"
-#include "shell/fitting_window.h"
+#include "window/fitting_window.h"
 
 namespace korvet::batch {
 

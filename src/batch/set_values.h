@@ -4,7 +4,7 @@
 #include <string>
 #include <utility>
 
-#include "shell/fitting_window.h"
+#include "window/fitting_window.h"
 
 namespace korvet::batch {
 

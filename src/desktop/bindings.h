@@ -4,8 +4,8 @@
 #include <QString>
 #include <string>
 
+#include "dialogs/dialog_controls.h"
 #include "form/controls.h"
-#include "shell/dialog_controls.h"
 
 class QAbstractButton;
 class QColor;

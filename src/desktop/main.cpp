@@ -2,7 +2,7 @@
 #include <QApplication>
 
 #include "core/constants.h"
-#include "desktop/application.h"
+#include "desktop/frame/application.h"
 #include "desktop/indicator_style.h"
 
 int main(int argc, char** argv) {

@@ -7,7 +7,7 @@
 #include <functional>
 
 #include "desktop/dialogs/dialog_host.h"
-#include "shell/user_interface.h"
+#include "dialogs/user_interface.h"
 
 namespace korvet::desktop {
 
@@ -18,7 +18,7 @@ class QtUi final : public UserInterface {
     void SetParent(QWidget* parent) { parent_ = parent; }
 
     /// What dialogs that open the global options work with; null until it is made.
-    ShellContext* context = nullptr;
+    WindowContext* context = nullptr;
 
     /// Called before a box or a dialog is shown, so that the windows below it show what their models say.
     std::function<void()> beforeModal;

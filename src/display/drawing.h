@@ -4,9 +4,9 @@
 #include <cstdint>
 #include <string>
 
+#include "core/display_colors.h"
 #include "core/points.h"
 #include "core/rule_surf.h"
-#include "display/display_colors.h"
 #include "display/polyline.h"
 #include "display/text.h"
 #include "display/world_window.h"

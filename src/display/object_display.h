@@ -6,11 +6,11 @@
 #include <vector>
 
 #include "core/dimensions.h"
+#include "core/display_colors.h"
 #include "core/file_store.h"
 #include "core/fitting.h"
 #include "core/points.h"
 #include "core/rule_surf.h"
-#include "display/display_colors.h"
 #include "display/drawing.h"
 #include "display/drawing_device.h"
 #include "display/picking.h"

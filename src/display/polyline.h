@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <vector>
 
+#include "core/display_colors.h"
 #include "core/points.h"
-#include "display/display_colors.h"
 #include "display/world_window.h"
 
 namespace korvet {

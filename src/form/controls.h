@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "display/drawing_device.h"
+#include "core/color.h"
 
 namespace korvet {
 

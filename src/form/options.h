@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "display/display_colors.h"
+#include "core/display_colors.h"
 
 namespace korvet {
 

@@ -1,7 +1,7 @@
 // The settings that the user's system keeps for the program.
 #pragma once
 
-#include "shell/settings_store.h"
+#include "frame/settings_store.h"
 
 namespace korvet {
 

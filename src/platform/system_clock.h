@@ -1,7 +1,7 @@
 // The clock of the system the program runs on.
 #pragma once
 
-#include "shell/clock.h"
+#include "window/clock.h"
 
 namespace korvet {
 

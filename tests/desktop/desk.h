@@ -8,10 +8,10 @@
 #include <string>
 #include <vector>
 
-#include "desktop/main_window.h"
-#include "shell/views.h"
+#include "desktop/frame/main_window.h"
 #include "tests/support/recording_desktop.h"
-#include "tests/support/test_shell.h"
+#include "tests/support/test_context.h"
+#include "window/views.h"
 
 namespace korvet::desktop {
 

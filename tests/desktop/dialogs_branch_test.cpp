@@ -7,7 +7,7 @@
 #include <set>
 
 #include "desktop/dialogs/branch_sketches.h"
-#include "shell/branch_additional_dialog.h"
+#include "dialogs/branch_additional_dialog.h"
 #include "tests/desktop/desktop_test.h"
 #include "tests/desktop/dialogs_fixture.h"
 

@@ -13,8 +13,8 @@
 #include <utility>
 
 #include "desktop/qt_ui.h"
-#include "shell/context.h"
 #include "tests/support/memory_file_store.h"
+#include "window/context.h"
 
 namespace korvet::desktop {
 
@@ -31,7 +31,7 @@ struct DialogDesk {
     FrameModel frame;
     PatternSettingsDialog settings;
     QtUi ui{nullptr};
-    ShellContext context{options, ui, files, clock, frame, settings, '.'};
+    WindowContext context{options, ui, files, clock, frame, settings, '.'};
 
     DialogDesk() { ui.context = &context; }
 };

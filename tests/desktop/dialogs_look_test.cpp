@@ -16,10 +16,10 @@
 #include <map>
 
 #include "desktop/dialogs/about_dialogs.h"
-#include "shell/about.h"
-#include "shell/branch_additional_dialog.h"
-#include "shell/dialogs.h"
-#include "shell/options_dialog.h"
+#include "dialogs/branch_additional_dialog.h"
+#include "dialogs/options_dialog.h"
+#include "dialogs/small_dialogs.h"
+#include "frame/about.h"
 #include "tests/desktop/desktop_test.h"
 #include "tests/desktop/dialogs_fixture.h"
 
@@ -82,7 +82,7 @@ std::map<QString, std::function<void(DialogDesk&)>> AllDialogs() {
         desk.ui.RunModal(dialog);
     };
     all["rotate"] = [](DialogDesk& desk) {
-        RotateDialog dialog(desk.context, 0.5);
+        RotateDialog dialog(desk.context.ui, desk.context.options, desk.context.decimalMark, 0.5);
         desk.ui.RunModal(dialog);
     };
     for (std::size_t join = 0; join < 3; ++join) {

@@ -6,8 +6,8 @@
 #include <QRadioButton>
 #include <QTabWidget>
 
-#include "shell/options_dialog.h"
-#include "shell/options_file.h"
+#include "dialogs/options_dialog.h"
+#include "dialogs/options_file.h"
 #include "tests/desktop/desktop_test.h"
 #include "tests/desktop/dialogs_fixture.h"
 

@@ -7,8 +7,8 @@
 #include <QTabWidget>
 
 #include "desktop/dialogs/about_dialogs.h"
-#include "shell/about.h"
-#include "shell/dialogs.h"
+#include "dialogs/small_dialogs.h"
+#include "frame/about.h"
 #include "tests/desktop/desktop_test.h"
 #include "tests/desktop/dialogs_fixture.h"
 
@@ -38,8 +38,11 @@ class SmallDialogs : public QObject {
         CheckEnds<DimensionOptionsDialog>();
         CheckEnds<LabelDialog>();
         CheckEnds<DxfOptionsDialog>();
-        CheckEnds([this] { return RotateDialog(desk_.context, 0); },
-                  [](QDialog& window) { Child<QLineEdit>(window, "txtAngle_1").setText("1"); });
+        CheckEnds(
+            [this] {
+                return RotateDialog(desk_.context.ui, desk_.context.options, desk_.context.decimalMark, 0);
+            },
+            [](QDialog& window) { Child<QLineEdit>(window, "txtAngle_1").setText("1"); });
     }
 
     void GridAndTableExcludeEachOther() {
@@ -155,7 +158,8 @@ class SmallDialogs : public QObject {
     }
 
     void RotateRefusesWhatIsNoAngle() {
-        RotateDialog dialog(desk_.context, HalfRightAngle);
+        RotateDialog dialog(desk_.context.ui, desk_.context.options, desk_.context.decimalMark,
+                            HalfRightAngle);
         Run(dialog, [](QDialog& window) {
             auto& angle = Child<QLineEdit>(window, "txtAngle_1");
             QCOMPARE(window.focusWidget(), &angle);
@@ -180,7 +184,7 @@ class SmallDialogs : public QObject {
     void F1OpensTheTopicOfADialog() {
         std::vector<int> topics;
         desk_.ui.showHelp = [&](int topic) { topics.push_back(topic); };
-        RotateDialog rotate(desk_.context, 0);
+        RotateDialog rotate(desk_.context.ui, desk_.context.options, desk_.context.decimalMark, 0);
         const auto press = [](QDialog& window) {
             window.activateWindow();
             QVERIFY(QTest::qWaitForWindowActive(&window));

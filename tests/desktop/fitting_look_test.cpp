@@ -12,8 +12,8 @@
 #include <memory>
 #include <vector>
 
-#include "desktop/sketch_scroll.h"
-#include "shell/catalogue.h"
+#include "desktop/sketch/sketch_scroll.h"
+#include "frame/catalogue.h"
 #include "tests/desktop/desktop_test.h"
 #include "tests/desktop/fitting_views.h"
 

@@ -7,8 +7,8 @@
 #include <QStringList>
 #include <array>
 
-#include "fittings/round/right_cone.h"
-#include "shell/branch_additional_dialog.h"
+#include "dialogs/branch_additional_dialog.h"
+#include "fittings/cones/right_cone.h"
 #include "tests/desktop/desktop_test.h"
 #include "tests/desktop/fitting_views.h"
 

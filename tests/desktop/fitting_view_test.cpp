@@ -11,9 +11,9 @@
 #include <cmath>
 #include <stdexcept>
 
-#include "shell/views.h"
 #include "tests/desktop/desktop_test.h"
 #include "tests/desktop/fitting_view_hands.h"
+#include "window/views.h"
 
 namespace korvet::desktop {
 namespace {

@@ -5,9 +5,9 @@
 #include <QApplication>
 #include <QTest>
 
-#include "desktop/fitting_view.h"
+#include "desktop/fitting/fitting_view.h"
 #include "fittings/windows.h"
-#include "tests/support/test_shell.h"
+#include "tests/support/test_context.h"
 
 namespace korvet::desktop {
 

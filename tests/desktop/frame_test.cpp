@@ -7,11 +7,11 @@
 #include <QToolButton>
 #include <sstream>
 
-#include "shell/frame_menu.h"
-#include "shell/views.h"
+#include "frame/frame_menu.h"
 #include "tests/desktop/desk.h"
 #include "tests/desktop/desktop_test.h"
 #include "tests/support/recording_device.h"
+#include "window/views.h"
 
 namespace korvet::desktop {
 namespace {

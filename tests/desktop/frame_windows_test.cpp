@@ -9,9 +9,9 @@
 #include <QTest>
 #include <QToolButton>
 
-#include "shell/views.h"
 #include "tests/desktop/desk.h"
 #include "tests/desktop/desktop_test.h"
+#include "window/views.h"
 
 namespace korvet::desktop {
 

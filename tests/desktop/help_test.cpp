@@ -19,10 +19,10 @@
 #include <QXmlStreamReader>
 #include <set>
 
-#include "desktop/help_book.h"
-#include "desktop/help_window.h"
-#include "shell/catalogue.h"
-#include "shell/frame_menu.h"
+#include "desktop/help/help_book.h"
+#include "desktop/help/help_window.h"
+#include "frame/catalogue.h"
+#include "frame/frame_menu.h"
 #include "tests/desktop/desktop_test.h"
 
 namespace korvet::desktop {

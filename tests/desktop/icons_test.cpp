@@ -1,4 +1,4 @@
-#include "desktop/icons.h"
+#include "desktop/frame/icons.h"
 
 #include <QDir>
 #include <QFile>

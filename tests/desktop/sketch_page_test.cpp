@@ -1,4 +1,4 @@
-#include "desktop/sketch_page.h"
+#include "desktop/sketch/sketch_page.h"
 
 #include <QApplication>
 #include <QImage>
@@ -7,8 +7,8 @@
 #include <QTest>
 #include <set>
 
-#include "desktop/sketch_painter.h"
-#include "shell/catalogue.h"
+#include "desktop/sketch/sketch_painter.h"
+#include "frame/catalogue.h"
 #include "tests/desktop/desktop_test.h"
 
 namespace korvet::desktop {

@@ -12,10 +12,11 @@
 #include <numbers>
 
 #include "core/checked.h"
-#include "desktop/category_menu_window.h"
-#include "desktop/solid_painter.h"
-#include "desktop/tile_picture.h"
-#include "desktop/view_icons.h"
+#include "desktop/fitting/view_icons.h"
+#include "desktop/frame/category_menu_window.h"
+#include "desktop/frame/tile_picture.h"
+#include "desktop/sketch/solid_painter.h"
+#include "frame/catalogue.h"
 #include "sketch/sample_model.h"
 #include "tests/desktop/desktop_test.h"
 

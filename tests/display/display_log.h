@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "core/display_colors.h"
 #include "core/fitting.h"
-#include "display/display_colors.h"
 #include "tests/support/recording_device.h"
 
 namespace korvet {

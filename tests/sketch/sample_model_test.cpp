@@ -8,7 +8,7 @@
 
 #include "fittings/windows.h"
 #include "form/messages.h"
-#include "shell/catalogue.h"
+#include "frame/catalogue.h"
 
 namespace korvet {
 namespace {

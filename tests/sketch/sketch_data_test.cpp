@@ -9,7 +9,7 @@
 
 #include "core/checked.h"
 #include "core/math_module.h"
-#include "shell/catalogue.h"
+#include "frame/catalogue.h"
 #include "sketch/sample_model.h"
 #include "sketch/sketch_points.h"
 #include "sketch/solid.h"

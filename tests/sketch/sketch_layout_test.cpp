@@ -6,7 +6,7 @@
 #include <cmath>
 #include <string>
 
-#include "shell/catalogue.h"
+#include "frame/catalogue.h"
 #include "sketch/sketch_outline.h"
 #include "sketch/sketch_plane.h"
 

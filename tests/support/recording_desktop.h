@@ -8,11 +8,11 @@
 #include <string>
 #include <vector>
 
-#include "shell/about.h"
-#include "shell/category_menu.h"
-#include "shell/frame_desktop.h"
-#include "shell/help.h"
-#include "shell/settings_store.h"
+#include "frame/about.h"
+#include "frame/category_menu.h"
+#include "frame/frame_desktop.h"
+#include "frame/help.h"
+#include "frame/settings_store.h"
 
 namespace korvet {
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/support/test_shell.h"
+#include "tests/support/test_context.h"
 
 namespace korvet {
 

@@ -12,7 +12,7 @@
 #include "desktop/dialogs/painted_widget.h"
 #include "desktop/dialogs/parts.h"
 #include "desktop/dialogs/sketches.h"
-#include "shell/about.h"
+#include "frame/about.h"
 
 namespace korvet::desktop {
 namespace {

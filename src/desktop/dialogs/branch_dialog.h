@@ -2,7 +2,7 @@
 #pragma once
 
 #include "desktop/dialogs/dialog_host.h"
-#include "shell/branch_additional_dialog.h"
+#include "dialogs/branch_additional_dialog.h"
 
 namespace korvet::desktop {
 

@@ -3,12 +3,12 @@
 
 #include <functional>
 
-#include "shell/user_interface.h"
+#include "dialogs/user_interface.h"
 
 class QWidget;
 
 namespace korvet {
-struct ShellContext;
+struct WindowContext;
 }
 
 namespace korvet::desktop {
@@ -16,7 +16,7 @@ namespace korvet::desktop {
 struct DialogHost {
     QWidget* parent = nullptr;  ///< the window to stand over; null: the middle of the screen
     UserInterface& ui;
-    ShellContext* context = nullptr;              ///< null where there is none yet
+    WindowContext* context = nullptr;             ///< null where there is none yet
     std::function<void(int)> showHelp = nullptr;  ///< by context number, 0 where there is no topic
 };
 

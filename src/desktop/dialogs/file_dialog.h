@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "shell/user_interface.h"
+#include "dialogs/user_interface.h"
 
 class QWidget;
 

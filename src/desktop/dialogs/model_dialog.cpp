@@ -18,8 +18,8 @@
 #include <utility>
 
 #include "desktop/bindings.h"
-#include "shell/context.h"
-#include "shell/options_dialog.h"
+#include "dialogs/options_dialog.h"
+#include "window/context.h"
 
 namespace korvet::desktop {
 namespace {

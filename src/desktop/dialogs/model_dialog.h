@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "desktop/dialogs/dialog_host.h"
+#include "dialogs/dialog_controls.h"
 #include "form/controls.h"
-#include "shell/dialog_controls.h"
 
 class QBoxLayout;
 class QCheckBox;

@@ -4,7 +4,7 @@
 #include <QFormLayout>
 
 #include "desktop/dialogs/model_dialog.h"
-#include "shell/options_dialog.h"
+#include "dialogs/options_dialog.h"
 
 class QWidget;
 

@@ -13,7 +13,7 @@
 #include "desktop/dialogs/painted_widget.h"
 #include "desktop/dialogs/parts.h"
 #include "desktop/dialogs/sketches.h"
-#include "shell/context.h"
+#include "window/context.h"
 
 namespace korvet::desktop {
 namespace {

@@ -11,7 +11,7 @@
 
 #include "desktop/bindings.h"
 #include "desktop/dialogs/parts.h"
-#include "shell/dialogs.h"
+#include "dialogs/small_dialogs.h"
 
 namespace korvet::desktop {
 namespace {

@@ -1,0 +1,132 @@
+// A fitting window on the desktop: a projection of its plain model, in both directions.
+#pragma once
+
+#include <QWidget>
+#include <array>
+#include <functional>
+#include <vector>
+
+#include "desktop/fitting/drawing_area.h"
+#include "desktop/sketch/sketch_page.h"
+#include "window/fitting_window.h"
+
+class QBoxLayout;
+class QFrame;
+class QGridLayout;
+class QGroupBox;
+class QKeyEvent;
+class QLabel;
+class QLayout;
+class QLineEdit;
+class QRadioButton;
+class QScrollArea;
+class QStackedLayout;
+class QToolButton;
+
+namespace korvet::desktop {
+
+class FittingView : public QWidget {
+    Q_OBJECT
+  public:
+    /// Builds the widgets of the window's table. The window must outlive the view or be taken away by Detach.
+    FittingView(CFittingWindow& window, QWidget* parent);
+    ~FittingView() override;
+
+    /// Cuts the view off its window, which is about to go.
+    void Detach();
+
+    [[nodiscard]] CFittingWindow* Window() const { return window_; }
+
+    /// Shows what the model says, focus and selection included.
+    void Project();
+
+    /// Adds the name of the window to the spoken name of each control, so that none is the same in two
+    /// windows side by side; nothing for the window that is worked in.
+    void SpeakWindow(const QString& name);
+
+    /// Puts the focus into the first box of the page, where typing begins.
+    void FocusFirstBox();
+
+    /// The sizes and the state of the view into the model.
+    void TakeShape(int state);
+
+    /// What a click on the button of a group of options does.
+    using SelectButton = std::function<void(CFittingWindow&, std::size_t button)>;
+
+    std::function<void()> afterEvent;  ///< a command or an edit has run
+    std::function<void()> closeWindow;
+    std::function<void(const QPoint&)> popUpMenu;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+  private:
+    QWidget* MakePanel();
+    QWidget* MakePages();
+    QWidget* MakePage(std::size_t index);
+    SketchPage* MakeSketch(std::size_t index);
+    QGroupBox* MakeOptions(const std::string& name, const QString& title, OptionGroup FittingOptions::*group,
+                           const SelectButton& select, int room = 0);
+    QWidget* MakeAngleOptions();
+    QLayout* MakeSteps(std::size_t page);
+    QToolButton* MakeStep(const std::string& name, std::size_t page, const Control& model,
+                          const QString& spoken, void (CFittingWindow::*click)(std::size_t));
+    void AddWindowOptions(QBoxLayout& column);
+    QWidget* MakeControls();
+    QWidget* MakePatternControls();
+    QGridLayout* MakeViewButtons(QWidget* parent);
+    QWidget* MakeTextSize(QWidget* parent);
+    QToolButton* MakeViewButton(int button, QWidget* parent);
+    QToolButton* MakeButton(const std::string& name, const QString& accessibleName, QWidget* parent);
+    void AddShortcuts();
+    using ChangeText = std::function<void(CFittingWindow&, const std::string&)>;
+    void Connect(QLineEdit* edit, TextBox& box, const ChangeText& change);
+    void FitPanel();
+    void ShowIcons();
+    void ShowPointer();
+    void ProjectFocus();
+    void ProjectOptions();
+    [[nodiscard]] SketchPage& ShownPage() const;
+    [[nodiscard]] bool IsShortcut(const QKeyEvent& event) const;
+    void After();
+
+    void Do(const std::function<void(CFittingWindow&)>& action);
+
+    /// A box on one of the pages that bear it.
+    struct BoundBox {
+        QLineEdit* edit;
+        std::size_t index;  ///< in txtParameter
+    };
+    struct Options {
+        OptionGroup FittingOptions::*group;
+        std::vector<QRadioButton*> buttons;
+    };
+    struct Shown {
+        QWidget* widget;
+        const Control* control;
+    };
+
+    CFittingWindow* window_;
+    DrawingArea* drawing_ = nullptr;
+    QScrollArea* panel_ = nullptr;
+    std::vector<SketchPage*> pages_;
+    std::vector<BoundBox> boxes_;
+    QStackedLayout* pageStack_ = nullptr;
+    std::vector<Options> options_;
+    std::vector<Shown> shown_;  ///< what the window has beside the controls of every window
+    std::array<QToolButton*, 10> viewButtons_ = {};
+    std::array<QToolButton*, 2> typeButtons_ = {};
+    QLabel* typeLabel_ = nullptr;
+    QLabel* textSizeLabel_ = nullptr;
+    QLineEdit* textSize_ = nullptr;
+    QToolButton* redraw_ = nullptr;
+    QToolButton* settings_ = nullptr;
+    QToolButton* close_ = nullptr;
+    QGroupBox* patternFrame_ = nullptr;
+    std::string shownFocus_;
+    QString spokenWindow_;
+};
+
+}  // namespace korvet::desktop

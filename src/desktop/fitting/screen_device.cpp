@@ -1,0 +1,39 @@
+#include "desktop/fitting/screen_device.h"
+
+#include <QColor>
+
+namespace korvet::desktop {
+
+void ScreenDevice::Cls(Color backColor) {
+    if (painter_.isActive()) {
+        painter_.end();
+    }
+    const double ratio = pixelRatio();
+    const QSize wanted = size() * ratio;
+    if (image_.size() != wanted) {
+        image_ = QImage(wanted, QImage::Format_RGB32);
+    }
+    if (image_.isNull()) {
+        return;
+    }
+    image_.setDevicePixelRatio(1);  // the drawing counts device pixels
+    painter_.begin(&image_);
+    PrepareDrawing(painter_);
+    painter_.fillRect(image_.rect(), ColorOf(backColor));
+    image_.setDevicePixelRatio(ratio);
+    changed();
+}
+
+PixelSize ScreenDevice::ScaleSize() const {
+    return {static_cast<double>(image_.width()), static_cast<double>(image_.height())};
+}
+
+QPainter* ScreenDevice::Painter() {
+    if (!painter_.isActive()) {
+        return nullptr;
+    }
+    changed();
+    return &painter_;
+}
+
+}  // namespace korvet::desktop

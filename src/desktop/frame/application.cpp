@@ -1,0 +1,75 @@
+#include "desktop/frame/application.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QPrinterInfo>
+#include <QTimer>
+
+#include "core/constants.h"
+#include "desktop/frame/icons.h"
+#include "desktop/frame/main_window.h"
+#include "desktop/help/help_window.h"
+#include "desktop/qt_ui.h"
+#include "desktop/sketch/sketch_painter.h"
+#include "frame/catalogue.h"
+#include "frame/start_up.h"
+#include "platform/disk_files.h"
+#include "platform/registry_settings.h"
+#include "platform/system_clock.h"
+
+namespace korvet::desktop {
+namespace {
+
+/// A sketch for the help pages; none for a fitting or page that there isn't.
+QImage SketchOfPage(const QString& category, int page, QSize size, const QPalette& palette) {
+    const CatalogueRow* row = FindCategory(category.toStdString());
+    if (row == nullptr || row->table == nullptr || page < 1 ||
+        static_cast<std::size_t>(page) > row->table->pages.size()) {
+        return {};
+    }
+    return SketchImage(*row->table, static_cast<std::size_t>(page - 1), size, qApp->devicePixelRatio(),
+                       palette, QApplication::font());
+}
+
+/// Everything that lives as long as the run, in the order in which it is needed.
+struct Application {
+    COptions options;
+    DiskFiles files;
+    SystemClock clock;
+    FrameModel frame;
+    PatternSettingsDialog patternSettingsDialog;
+    RegistrySettings settings;
+    QtUi ui{nullptr};
+    WindowContext context{options, ui, files, clock, frame, patternSettingsDialog, SystemDecimalMark()};
+    HelpWindow help{HelpWindow::FileBesideProgram(), SketchOfPage};
+};
+
+/// A caption is the file's name for later saves, so it must not hang on the current folder.
+QStringList WholeNames(QStringList files) {
+    for (QString& file : files) {
+        file = QFileInfo(file).absoluteFilePath();
+    }
+    return files;
+}
+
+}  // namespace
+
+int RunApplication(const QStringList& files) {
+    HoldNumericLocale();
+    QApplication::setWindowIcon(ApplicationIcon());
+    Application application;
+    application.ui.context = &application.context;
+    if (!SetupStartup(application.context, QPrinterInfo::defaultPrinterName().toStdString())) {
+        return 1;
+    }
+    MainWindow window(application.context, application.help, application.settings);
+    application.ui.SetParent(&window);
+    application.ui.beforeModal = [&window] { window.Project(); };
+    application.ui.showHelp = window.HelpByContext();
+    window.Place(application.settings.Get("MainWidth").has_value());
+    window.show();
+    QTimer::singleShot(0, &window, [&] { window.Start(WholeNames(files)); });
+    return QApplication::exec();
+}
+
+}  // namespace korvet::desktop

@@ -1,0 +1,26 @@
+#include "fittings/bends/bend_pieces.h"
+
+#include <cmath>
+
+#include "core/checked.h"
+
+namespace korvet {
+
+/// The axes of the pieces touch the centre line's arc at the middle of each piece. Every cut lies in a plane
+/// through the centre of the bend, half a gore's angle from square, and so crosses the axes
+/// tan(half the angle) * radius from where they touch.
+BendPieces PiecesOfBend(double bendAngle, double bendRadius, int gores, double length1, double length2) {
+    const double g = Quotient(bendAngle, gores);
+    const double a = g / 2;
+    const double h = Finite(std::tan(a) * bendRadius, "the length of a gore");
+    return {.BendAngle = bendAngle,
+            .BendRadius = bendRadius,
+            .gores = gores,
+            .goreAngle = g,
+            .halfGore = h,
+            .first = {.CPHeight1 = h, .CPHeight2 = -length1, .CPAngle1 = a, .CPAngle2 = 0},
+            .middle = {.CPHeight1 = h, .CPHeight2 = -h, .CPAngle1 = a, .CPAngle2 = a},
+            .last = {.CPHeight1 = length2, .CPHeight2 = -h, .CPAngle1 = 0, .CPAngle2 = a}};
+}
+
+}  // namespace korvet

@@ -1,0 +1,102 @@
+#include "fittings/branches/branch_form.h"
+
+#include <cmath>
+
+#include "core/constants.h"
+#include "core/math_module.h"
+#include "fittings/mean_sizes.h"
+
+namespace korvet {
+namespace {
+
+bool CheckDiametersAndLength(FittingForm& form, const PipeBoxes& boxes) {
+    return form.CheckAllPositive(boxes.branchDiameter, boxes.mainDiameter, boxes.branchLength);
+}
+
+/// The branch reaches out of the trunk.
+bool CheckBranchLength(FittingForm& form, const PipeBoxes& boxes, const BranchWalls& walls) {
+    return form.CheckAtLeast(boxes.branchLength, walls.tB / 2 + walls.R);
+}
+
+/// A branch beside the trunk's axis stays within the trunk's width.
+bool CheckOffset(FittingForm& form, const PipeBoxes& boxes, const BranchWalls& walls) {
+    const int box = boxes.offset;
+    const double limit = walls.R - walls.r;
+    return box != NoBox && form.Value(box) != 0 &&
+           (form.CheckAtMost(box, limit) || form.CheckAtLeast(box, -limit));
+}
+
+/// The hole lies between the ends of the trunk.
+bool CheckSquare(FittingForm& form, const PipeBoxes& boxes) {
+    if (CheckDiametersAndLength(form, boxes)) {
+        return true;
+    }
+    const BranchWalls walls = WallsOf(form, boxes);
+    return CheckBranchLength(form, boxes, walls) || form.CheckAtLeast(boxes.distance, walls.r) ||
+           form.CheckAtLeast(boxes.mainLength, walls.r + form.Value(boxes.distance)) ||
+           CheckOffset(form, boxes, walls);
+}
+
+/// The hole of a slanting branch lies r / sin(alpha) to either side of where the axis comes out of the trunk,
+/// R / tan(alpha) from where the axes cross. The trunk's length is asked for without the distance to the
+/// crossing, and a trunk that is shorter than its hole needs is thus let through.
+bool CheckSlanting(FittingForm& form, const PipeBoxes& boxes) {
+    if (CheckDiametersAndLength(form, boxes)) {
+        return true;
+    }
+    const BranchWalls walls = WallsOf(form, boxes);
+    if (CheckOffset(form, boxes, walls) || CheckBranchLength(form, boxes, walls) ||
+        form.CheckGreaterThan(boxes.angle, 0) || form.CheckAtMost(boxes.angle, 90)) {
+        return true;
+    }
+    const double alpha = TypedAngle(form, boxes);
+    const double sine = std::sin(alpha);
+    // Nothing for a square branch: a size at its limit is not refused for the rounding of a quarter turn.
+    const auto overTangent = [&](double radius) {
+        return alpha < QuarterTurn ? radius / std::tan(alpha) : 0;
+    };
+    return form.CheckAtLeast(boxes.distance, walls.r / sine + overTangent(walls.R)) ||
+           form.CheckAtLeast(boxes.mainLength, overTangent(walls.r) + walls.R / sine);
+}
+
+}  // namespace
+
+double TypedAngle(const FittingForm& form, const PipeBoxes& boxes) {
+    return boxes.angle == NoBox ? QuarterTurn : DegToRad(form.Value(boxes.angle));
+}
+
+BranchWalls WallsOf(const FittingForm& form, const PipeBoxes& boxes) {
+    const double tA = form.settings.ThicknessA;
+    const double tB = form.settings.ThicknessB;
+    return {MeanRadiusOfDiameter(form, boxes.branchDiameter, tA),
+            MeanRadiusOfDiameter(form, boxes.mainDiameter, tB), tA, tB};
+}
+
+bool CheckPipes(FittingForm& form, const PipeBoxes& boxes) {
+    return boxes.angle == NoBox ? CheckSquare(form, boxes) : CheckSlanting(form, boxes);
+}
+
+bool CheckMeeting(FittingForm& form, const CutRadii& radii, double offset) {
+    return !BranchMeetsTrunk(radii, offset) && form.Refuse(BranchTooLarge);
+}
+
+void SetPipes(const FittingForm& form, const PipeBoxes& boxes, CBranch& branch) {
+    branch.LengthPipeA = form.Value(boxes.branchLength);
+    branch.LengthPipeB = form.Value(boxes.mainLength);
+    branch.LengthToIP = form.Value(boxes.distance);
+    branch.BranchThickness = form.settings.ThicknessA;
+    branch.TrunkThickness = form.settings.ThicknessB;
+    branch.TemplateType = form.settings.TemplateType;
+}
+
+void SetEdgeRadii(CBranch& branch, const CutRadii& edge) {
+    branch.BranchRadiusPipeA = edge.pipeA;
+    branch.BranchRadiusPipeB = edge.pipeB;
+}
+
+void SetHoleRadii(CBranch& branch, const CutRadii& hole) {
+    branch.TrunkRadiusPipeA = hole.pipeA;
+    branch.TrunkRadiusPipeB = hole.pipeB;
+}
+
+}  // namespace korvet

@@ -1,0 +1,193 @@
+// The main frame's own life: its load, the windows it opens and closes, its end.
+#include "frame/main_frame.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "core/constants.h"
+#include "core/number_text.h"
+#include "frame/about.h"
+#include "frame/category_menu.h"
+#include "frame/new_fitting.h"
+#include "window/saving.h"
+
+namespace korvet {
+namespace {
+
+constexpr int FarthestTwips = 1000000;  // no desktop is that large
+
+}  // namespace
+
+CMainFrame::CMainFrame(WindowContext& context, FrameDesktop& desktop, HelpViewer& help,
+                       SettingsStore& settings)
+    : context_(context), desktop_(desktop), help_(help), settings_(settings) {}
+
+void CMainFrame::Load() {
+    context_.frame.caption = ProductTitle;
+    place = {StoredTwips("MainLeft", 1000, -FarthestTwips), StoredTwips("MainTop", 1000, -FarthestTwips),
+             StoredTwips("MainWidth", 6500, 1), StoredTwips("MainHeight", 6500, 1)};
+    ShowCadLink(context_.frame);
+    DisableFittingCommands(context_.frame);
+}
+
+/// A number of the last run, or another value for a text that can't be one.
+int CMainFrame::StoredTwips(const std::string& key, int otherwise, int lowest) const {
+    const auto number = ParseFileNumber(settings_.Get(key).value_or(""));
+    return number && *number >= lowest && *number <= FarthestTwips ? static_cast<int>(std::nearbyint(*number))
+                                                                   : otherwise;
+}
+
+void CMainFrame::SavePlace(const Place& last) {
+    settings_.Set("MainLeft", std::to_string(last.left));
+    settings_.Set("MainTop", std::to_string(last.top));
+    settings_.Set("MainWidth", std::to_string(last.width));
+    settings_.Set("MainHeight", std::to_string(last.height));
+}
+
+void CMainFrame::Activate() {
+    if (splashShown_) {
+        return;
+    }
+    splashShown_ = true;  // before it is shown: the frame becomes active once more when it closes
+    Guarded([&] {
+        SplashDialog splash;
+        desktop_.RunModal(splash);
+    });
+}
+
+/// Nothing that fails in a command may end the program and the user's work with it.
+void CMainFrame::Guarded(const std::function<void()>& work) {
+    try {
+        work();
+    } catch (const std::exception& error) {
+        ShowPlain(context_.ui, error.what());
+    }
+}
+
+void CMainFrame::ActivateChild(CFittingWindow* window) {
+    active_ = window;
+    if (window != nullptr) {
+        window->Activate();
+    }
+}
+
+/// A new window of the category that the user picks, or of the one of the file. Null when none opened; it is
+/// counted all the same.
+CFittingWindow* CMainFrame::NewFitting(bool fromFile) {
+    if (!fromFile) {
+        CategoryMenuDialog dialog;
+        desktop_.RunModal(dialog);
+        pendingCategory_ = dialog.lblCategory;
+    }
+    std::unique_ptr<CFittingWindow> window = korvet::NewFitting(context_, pendingCategory_, nullptr);
+    if (!window) {
+        return nullptr;
+    }
+    CFittingWindow& child = *children_.emplace_back(std::move(window));
+    desktop_.ShowWindow(child);
+    ActivateChild(&child);
+    return &child;
+}
+
+void CMainFrame::OpenFile(const std::string& path) {
+    Guarded([&] {
+        if (!ReadCategory(path)) {
+            return;
+        }
+        // The window that is active now must not be loaded into when no new one opens.
+        if (CFittingWindow* const child = NewFitting(true)) {
+            LoadInto(*child, path);
+        }
+    });
+}
+
+/// Takes the category from the header of a parameter file. False, with a message, when there is none to be
+/// had.
+bool CMainFrame::ReadCategory(const std::string& path) {
+    CKvtFile file;
+    file.FileName = path;
+    try {
+        file.ReadHeader(context_.files);
+    } catch (const ForeignProductError& error) {
+        // Once from the header's reader and once from the frame.
+        ShowPlain(context_.ui, context_.Message(NotAValidFile), error.what());
+        ShowPlain(context_.ui, context_.Message(NotAValidFile));
+        return false;
+    } catch (const HeaderError& error) {
+        ShowHeaderError(context_.ui, error);
+        return false;
+    } catch (const std::exception& error) {
+        ShowLoadError(context_, error);
+        return false;
+    }
+    pendingCategory_ = file.Category;
+    return true;
+}
+
+/// A window that could not be filled stays as a new one, with what was read: under the file's name its next
+/// save would replace a good file by half of it.
+void CMainFrame::LoadInto(CFittingWindow& child, const std::string& path) {
+    const std::string newCaption = child.controls.caption;
+    child.controls.caption = child.LoadFile(path) ? path : newCaption;
+}
+
+bool CMainFrame::CloseChild(CFittingWindow& window) {
+    bool closed = false;
+    Guarded([&] {
+        closed = window.CloseForm();
+        if (closed) {
+            Remove(window);
+        }
+    });
+    return closed;
+}
+
+/// The desktop tells which window is active next, if there is another.
+void CMainFrame::Remove(CFittingWindow& window) {
+    if (active_ == &window) {
+        active_ = nullptr;
+    }
+    desktop_.RemoveWindow(window);
+    std::erase_if(children_, [&](const auto& child) { return child.get() == &window; });
+    if (children_.empty()) {
+        context_.frame.statusText.clear();
+    }
+}
+
+bool CMainFrame::AskAllToClose() {
+    return std::all_of(children_.begin(), children_.end(), [](const auto& child) {
+        return ConfirmSave(*child) != static_cast<int>(Answer::Cancel);
+    });
+}
+
+/// When the user logs off, the desktop closes a dialog together with the frame, and the command that showed
+/// it has yet to come back: its window stays whole until the frame goes.
+void CMainFrame::RemoveAll() {
+    leaving_ = std::move(children_);
+    children_.clear();
+    active_ = nullptr;
+    for (auto window = leaving_.rbegin(); window != leaving_.rend(); ++window) {
+        (*window)->closed = true;
+        desktop_.RemoveWindow(**window);
+    }
+    active_ = nullptr;
+    context_.frame.statusText.clear();
+}
+
+bool CMainFrame::QueryUnload(const Place& last, bool minimised) {
+    bool unloads = false;
+    Guarded([&] {
+        if (!AskAllToClose()) {
+            return;
+        }
+        unloads = true;
+        context_.patternSettingsDialog = PatternSettingsDialog();
+        RemoveAll();
+        if (!minimised) {
+            SavePlace(last);
+        }
+    });
+    return unloads;
+}
+
+}  // namespace korvet

@@ -1,0 +1,115 @@
+// The main frame: it holds the fitting windows and forwards each command of its menus to the active one.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "frame/frame_desktop.h"
+#include "frame/help.h"
+#include "frame/settings_store.h"
+#include "window/fitting_window.h"
+
+namespace korvet {
+
+class CMainFrame {
+  public:
+    /// Everything must outlive the frame.
+    CMainFrame(WindowContext& context, FrameDesktop& desktop, HelpViewer& help, SettingsStore& settings);
+
+    /// The frame's load: caption, place as it was left, fitting commands disabled.
+    void Load();
+
+    /// The first activation shows the splash; later ones do nothing.
+    void Activate();
+
+    /// Does what the menu entry of that control name does; a name without an action does nothing.
+    void RunMenu(std::string_view name);
+
+    /// Does what the tool button at that position, from 1, does.
+    void ClickTool(int position);
+
+    /// Opens a parameter file as File > Open does after its dialog.
+    void OpenFile(const std::string& path);
+
+    /// A child window became the active one; null: none is.
+    void ActivateChild(CFittingWindow* window);
+
+    /// The close box or button of a child window: asks about saving and then takes it away. False when it
+    /// stays.
+    bool CloseChild(CFittingWindow& window);
+
+    /// The frame is about to close: all windows are asked first, and they close when none was kept. False
+    /// when the frame stays. `place` in twips and `minimised` are the frame's, to be remembered.
+    bool QueryUnload(const Place& place, bool minimised);
+
+    [[nodiscard]] CFittingWindow* ActiveChild() const { return active_; }
+    [[nodiscard]] const std::vector<std::unique_ptr<CFittingWindow>>& Children() const { return children_; }
+    [[nodiscard]] WindowContext& Context() const { return context_; }
+
+    Place place;  ///< of the frame as Load found it, twips
+
+  private:
+    struct Command;
+    static std::span<const Command> Commands();
+
+    void RunCommand(std::string_view name);
+    void Refuse(int message);
+    void Guarded(const std::function<void()>& work);
+
+    // Windows.
+    CFittingWindow* NewFitting(bool fromFile);
+    void LoadInto(CFittingWindow& child, const std::string& path);
+    bool ReadCategory(const std::string& path);
+    bool AskAllToClose();
+    void Remove(CFittingWindow& window);
+    void RemoveAll();
+    void SavePlace(const Place& last);
+    [[nodiscard]] int StoredTwips(const std::string& key, int otherwise, int lowest) const;
+
+    // Commands that do without a fitting window.
+    void FileNew();
+    void FileOpen();
+    void FilePrintPreview();
+    void FileExit();
+    void ViewToolbar();
+    void ViewStatusBar();
+    void ToolsOptions();
+    void WindowCascade();
+    void WindowTileHorizontal();
+    void WindowTileVertical();
+    void WindowArrangeIcons();
+    void HelpContents();
+    void HelpSearch();
+    void Disclaimer();
+    void HelpAbout();
+
+    // Commands on the active fitting window that are more than a call of its member.
+    void FileClose(CFittingWindow& child);
+    void FileSave(CFittingWindow& child);
+    void FileSaveAs(CFittingWindow& child);
+    void ExportDxf(CFittingWindow& child);
+    void ExportHpgl(CFittingWindow& child);
+    void SendToAcad(CFittingWindow& child);
+    void PrintFrames(CFittingWindow& child);
+    void ZoomIn(CFittingWindow& child);
+    void ZoomOut(CFittingWindow& child);
+    void AlignedDimension(CFittingWindow& child);
+    void MovePattern(CFittingWindow& child);
+
+    WindowContext& context_;
+    FrameDesktop& desktop_;
+    HelpViewer& help_;
+    SettingsStore& settings_;
+    std::vector<std::unique_ptr<CFittingWindow>> children_;
+    std::vector<std::unique_ptr<CFittingWindow>> leaving_;  ///< of a frame that is closed
+    CFittingWindow* active_ = nullptr;
+    std::string pendingCategory_;
+    bool splashShown_ = false;
+};
+
+}  // namespace korvet

@@ -1,0 +1,25 @@
+#include "frame/new_fitting.h"
+
+#include "frame/catalogue.h"
+#include "window/saving.h"
+
+namespace korvet {
+
+std::unique_ptr<CFittingWindow> NewFitting(WindowContext& context, const std::string& category,
+                                           DrawingDevice* drawingArea) {
+    ++context.frame.documentCounter;
+    const CatalogueRow* row = FindCategory(category);
+    if (row == nullptr) {
+        return nullptr;
+    }
+    if (row->table == nullptr) {
+        ShowPlain(context.ui, "The fitting \"" + category + "\" is not built yet");
+        return nullptr;
+    }
+    auto window = std::make_unique<CFittingWindow>(context, *row, drawingArea);
+    window->controls.caption =
+        std::string(NewWindowCaption) + " " + std::to_string(context.frame.documentCounter);
+    return window;
+}
+
+}  // namespace korvet

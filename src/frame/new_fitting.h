@@ -1,0 +1,17 @@
+// Opening fitting windows.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "window/fitting_window.h"
+
+namespace korvet {
+
+/// A new window of a category, captioned "Development " and its number. Null, with nothing said, for a
+/// category that the catalogue does not have; null, with a plain box that says so, for one whose window is
+/// not built yet. The number counts up in either case.
+std::unique_ptr<CFittingWindow> NewFitting(WindowContext& context, const std::string& category,
+                                           DrawingDevice* drawingArea);
+
+}  // namespace korvet

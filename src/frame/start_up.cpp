@@ -1,0 +1,34 @@
+#include "frame/start_up.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include "dialogs/options_file.h"
+
+namespace korvet {
+namespace {
+
+/// By its whole name, so that the file stays the same one if the current folder changes later on.
+std::string IniFileOfCurrentFolder() {
+    std::error_code error;
+    const std::filesystem::path folder = std::filesystem::current_path(error);
+    return error ? "settings.ini" : (folder / "settings.ini").string();
+}
+
+}  // namespace
+
+bool SetupStartup(WindowContext& context, const std::string& currentPrinterName) {
+    context.options.IniFileName = IniFileOfCurrentFolder();
+    try {
+        ReadIniFile(context.options, context.files, context.ui, context.decimalMark);
+    } catch (const std::exception& error) {
+        ShowPlain(context.ui, error.what());
+        return false;
+    }
+    if (currentPrinterName.empty()) {
+        ShowPlain(context.ui, context.Message(NoPrinterAvailable));
+    }
+    return true;
+}
+
+}  // namespace korvet

@@ -1,0 +1,28 @@
+// What all fitting windows of a run share.
+#pragma once
+
+#include "core/file_store.h"
+#include "dialogs/pattern_settings_dialog.h"
+#include "dialogs/user_interface.h"
+#include "form/fields.h"
+#include "form/messages.h"
+#include "form/options.h"
+#include "window/clock.h"
+#include "window/frame_model.h"
+
+namespace korvet {
+
+struct WindowContext {
+    COptions& options;
+    UserInterface& ui;
+    FileStore& files;
+    const Clock& clock;
+    FrameModel& frame;
+    PatternSettingsDialog& patternSettingsDialog;  ///< one for the whole program
+    char decimalMark = '.';
+
+    /// The text of a message in the language of the options.
+    [[nodiscard]] std::string Message(int id) const { return GetMessage(id, options.Language); }
+};
+
+}  // namespace korvet

@@ -1,0 +1,119 @@
+#include "window/export_fitting.h"
+
+#include "dialogs/small_dialogs.h"
+#include "exchange/dxf.h"
+#include "window/views.h"
+
+namespace korvet {
+namespace {
+
+/// How far an export came, for the message when it fails.
+enum ExportStep : int {
+    AtStart = 1,
+    ObjectsMade,
+    DialogLoaded,
+    ViewExamined,
+    DiagonalsOffered,
+    DimensionsOffered,
+    LabelOffered
+};
+
+/// Fills the dialog for the view that is shown: boxes are offered for what the display shows.
+void FillDialog(const CFittingWindow& window, ExportMode mode, DxfOptionsDialog& dialog, ExportStep& step) {
+    const WindowContext& context = window.Context();
+    const CObjectDisplay& display = window.display;
+    const bool plotter = mode == ExportMode::Plotter;  // takes neither polylines nor text
+    dialog.optPolyMode.selected = context.options.PolyMode == 1 && !plotter ? 1 : 0;
+    dialog.optPolyMode.enabled = !plotter;
+    step = DialogLoaded;
+    const bool pattern = InPatternView(*window.views);
+    step = ViewExamined;
+    dialog.chkSurfaceMesh.enabled = !pattern;
+    dialog.lblExportType = context.Message(pattern ? ExportingPattern : ExportingModel);
+    if (!pattern) {
+        return;
+    }
+    dialog.Offer(DxfOptionsDialog::Diagonals, display.DiagonalsRequested);
+    step = DiagonalsOffered;
+    dialog.Offer(
+        DxfOptionsDialog::Dimensions,
+        !plotter && (window.dimensions->Count() > 0 || display.TrueLengthsRequested ||
+                     display.CoordGridRequested || display.CoordTableRequested || display.FrameRequested));
+    step = DimensionsOffered;
+    dialog.Offer(DxfOptionsDialog::Label, !plotter && display.LabelPoint.has_value());
+    step = LabelOffered;
+}
+
+CDXF DxfOf(const CFittingWindow& window, const DxfOptionsDialog& dialog, const std::string& path) {
+    const CObjectDisplay& display = window.display;
+    const COptions& options = window.Context().options;
+    const auto ticked = [&](std::size_t index) { return dialog.chkDXFOutput.at(index).checked; };
+    CDXF dxf;
+    dxf.SurfaceList = display.Surfaces;
+    dxf.Pattern = InPatternView(*window.views);
+    dxf.FileName = path;
+    dxf.OutlinesRequested = ticked(DxfOptionsDialog::Outlines);
+    dxf.BendLinesRequested = ticked(DxfOptionsDialog::BendLines);
+    dxf.DiagonalsRequested = ticked(DxfOptionsDialog::Diagonals);
+    dxf.DimensionsRequested = ticked(DxfOptionsDialog::Dimensions);
+    dxf.LabelRequested = ticked(DxfOptionsDialog::Label);
+    dxf.PolyMode = dialog.optPolyMode.IsOn(1) ? 1 : 0;
+    dxf.AcadPolygonMesh = dialog.chkSurfaceMesh.checked;
+    dxf.CutLayer = options.DXFCutLayer;
+    dxf.TextLayer = options.DXFTextLayer;
+    dxf.FoldLayer = options.DXFFoldLayer;
+    dxf.DimensionLayer = options.DXFDimensionLayer;
+    dxf.BorderLayer = options.DXFBorderLayer;
+    dxf.TextSize = options.DXFTextSize;
+    dxf.Decimals = options.Decimals;
+    if (dxf.DimensionsRequested) {
+        // Whenever dimensions go out, diagonals follow the display and not their own box.
+        dxf.TrueLengthsRequested = display.TrueLengthsRequested;
+        dxf.CoordinatesRequested = display.CoordGridRequested;
+        dxf.DiagonalsRequested = display.DiagonalsRequested;
+        dxf.FrameRequested = display.FrameRequested;
+        dxf.DimensionList = *window.dimensions;
+    }
+    if (dxf.LabelRequested) {
+        dxf.LabelList = *window.labels;
+        dxf.LabelPoint = display.LabelPoint;
+    }
+    return dxf;
+}
+
+/// The export itself; the step it has come to stands in `step` when it throws.
+bool RunExport(CFittingWindow& window, const std::string& path, ExportMode mode, ExportStep& step) {
+    WindowContext& context = window.Context();
+    DxfOptionsDialog dialog;
+    dialog.caption = "Exporting " + path;
+    step = ObjectsMade;
+    FillDialog(window, mode, dialog, step);
+    context.ui.RunModal(dialog);
+    if (dialog.lblStatus != "OK") {
+        return false;
+    }
+    if (mode != ExportMode::Dxf) {
+        ShowPlain(context.ui, "This version writes DXF files only");
+        return false;
+    }
+    DxfOf(window, dialog, path).WriteDXF(context.files);
+    context.ui.Show(
+        {context.Message(DxfSaved) + path, InformationBox, std::string(ProductTitle), {}, std::nullopt});
+    return true;
+}
+
+}  // namespace
+
+bool ExportFitting(CFittingWindow& window, const std::string& path, ExportMode mode) {
+    WindowContext& context = window.Context();
+    const HourglassWhile working(window.controls);
+    ExportStep step = AtStart;
+    try {
+        return RunExport(window, path, mode, step);
+    } catch (const std::exception& error) {
+        ShowPlain(context.ui, context.Message(DxfProblem) + " " + std::to_string(step), error.what());
+        return false;
+    }
+}
+
+}  // namespace korvet

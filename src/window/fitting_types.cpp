@@ -1,0 +1,53 @@
+#include "window/fitting_types.h"
+
+namespace korvet {
+namespace {
+
+/// Every button that leads to the next or the previous type.
+void EnableSteps(WindowModel& controls, bool next, bool previous) {
+    controls.btnPoint[0].enabled = next;
+    controls.btnPoint[1].enabled = previous;
+    for (Control& button : controls.btnMore) {
+        button.enabled = next;
+    }
+    for (Control& button : controls.btnBack) {
+        button.enabled = previous;
+    }
+}
+
+}  // namespace
+
+std::string TypeCaption(std::int16_t dtype) {
+    return "Type " + std::to_string(dtype + 1);
+}
+
+void EnableTypeButtons(CFittingWindow& window, std::int16_t dtype) {
+    const auto last = static_cast<std::int16_t>(window.controls.Picture1.size() - 1);
+    EnableSteps(window.controls, dtype != last, dtype != 0);
+}
+
+void LockType(CFittingWindow& window) {
+    EnableSteps(window.controls, false, false);
+}
+
+std::int16_t StepFittingType(CFittingWindow& window, std::size_t button, std::int16_t dtype) {
+    WindowModel& controls = window.controls;
+    for (Control& page : controls.pboxMore) {
+        page.visible = false;
+    }
+    const auto last = static_cast<std::int16_t>(controls.Picture1.size() - 1);
+    const bool next = button == 0 && dtype < last;
+    const bool previous = button == 1 && dtype > 0;
+    if (next || previous) {
+        Control& left = controls.Picture1[static_cast<std::size_t>(dtype)];
+        left.visible = left.enabled = false;
+        dtype = static_cast<std::int16_t>(next ? dtype + 1 : dtype - 1);
+        Control& entered = controls.Picture1[static_cast<std::size_t>(dtype)];
+        entered.visible = entered.enabled = true;
+    }
+    controls.lblDtype.caption = TypeCaption(dtype);
+    EnableTypeButtons(window, dtype);
+    return dtype;
+}
+
+}  // namespace korvet

@@ -1,0 +1,222 @@
+#include "window/fitting_window.h"
+
+#include <cmath>
+
+#include "core/constants.h"
+#include "core/number_text.h"
+#include "dialogs/branch_additional_dialog.h"
+#include "window/export_fitting.h"
+#include "window/fitting_types.h"
+#include "window/saving.h"
+#include "window/views.h"
+#include "window/window_layout.h"
+
+namespace korvet {
+
+CFittingWindow::CFittingWindow(WindowContext& context, const CatalogueRow& row, DrawingDevice* drawingArea)
+    : dimensions(std::make_shared<CDimensions>()),
+      views(std::make_shared<CViewList>()),
+      category(row.category),
+      context_(context),
+      row_(&row),
+      goodTextSize_(context.options.DisplayTextSize) {
+    display.DisplayDevice = drawingArea;
+    InitialiseFitting();
+    SetupFittingWindow(*this);
+    edited = true;
+}
+
+/// The defaults of the window and the flags of its pattern settings.
+void CFittingWindow::InitialiseFitting() {
+    const WindowTable& table = Table();
+    settings = StartSettings(table, context_.options.DefaultSegs);
+    settings.LapEnable = row_->lapEnable;
+    dtype = table.firstDtype;
+    miscellaneous = table.miscellaneous;
+    controls.Picture1.resize(table.pages.size());
+    controls.txtParameter.resize(table.BoxCount());
+    for (std::size_t i = 0; i < controls.txtParameter.size(); ++i) {
+        controls.txtParameter[i].name = "txtParameter_" + std::to_string(i);
+        controls.txtParameter[i].parameterIndex = static_cast<int>(i);
+    }
+    for (const PageEntry& page : table.pages) {
+        for (const BoxEntry& box : page.boxes) {
+            controls.txtParameter.at(static_cast<std::size_t>(box.index)).text = box.start;
+        }
+    }
+    controls.options = StartOptions(table);
+    if (table.moreButtons) {
+        controls.btnMore.resize(table.pages.size());
+        controls.btnBack.resize(table.pages.size());
+        controls.btnMore.back().visible = controls.btnBack.front().visible = false;
+    }
+    controls.btnPosition.visible = table.branchMaterialEnable;
+}
+
+FieldContext CFittingWindow::Fields() {
+    return {context_.ui, context_.options, context_.decimalMark, controls.focus};
+}
+
+void CFittingWindow::ChangeBox(std::size_t index, const std::string& text) {
+    TextBox& box = controls.txtParameter.at(index);
+    if (box.text == text) {
+        return;
+    }
+    box.text = text;
+    CheckFieldChange(Fields(), box);
+    box.textColor = Red;
+    edited = true;
+}
+
+void CFittingWindow::FocusBox(std::size_t index) {
+    TextBox& box = controls.txtParameter.at(index);
+    controls.focus = box.name;
+    SelectFieldText(box);
+}
+
+void CFittingWindow::ChangeTextSize(const std::string& text) {
+    controls.txtTextSize.text = text;
+    CheckFieldChange(Fields(), controls.txtTextSize);
+    controls.txtTextSize.textColor = Red;
+}
+
+void CFittingWindow::ClickView(int button) {
+    AddPresetView(button, *views);
+    UpdateFitting();
+    if (!hasModel) {
+        views->Remove(views->Count());
+    }
+}
+
+void CFittingWindow::ClickPoint(std::size_t index) {
+    if (!controls.btnPoint.at(index).enabled) {
+        return;
+    }
+    dtype = StepFittingType(*this, index, dtype);
+    if (Table().onTypeChanged != nullptr) {
+        Table().onTypeChanged(dtype, settings);
+    }
+}
+
+/// A type with one page only has the next type behind it.
+void CFittingWindow::ClickMore(std::size_t page) {
+    if (controls.pboxMore.empty()) {
+        ClickPoint(0);
+        return;
+    }
+    controls.Picture1.at(page).visible = false;
+    controls.pboxMore.at(page).visible = true;
+}
+
+void CFittingWindow::ClickBack(std::size_t page) {
+    if (controls.pboxMore.empty()) {
+        ClickPoint(1);
+        return;
+    }
+    controls.Picture1.at(page).visible = true;
+    controls.pboxMore.at(page).visible = false;
+}
+
+void CFittingWindow::SelectPattern(std::size_t index) {
+    controls.options.optPatternSelect.selected = index;
+    miscellaneous = static_cast<std::int16_t>(index + 1);
+}
+
+void CFittingWindow::SelectOption(OptionGroup FittingOptions::*group, std::size_t index) {
+    (controls.options.*group).selected = index;
+}
+
+void CFittingWindow::ClickPosition() {
+    BranchAdditionalDialog dialog(branch);
+    context_.ui.RunModal(dialog);
+    if (dialog.lblStatus == "OK") {
+        branch = dialog.Chosen();
+    }
+    Redraw();
+}
+
+void CFittingWindow::PressKeyInDrawing() {
+    CancelMouseModes();
+    UpdateFitting();
+}
+
+void CFittingWindow::Resize(const Place& scale) {
+    controls.scale = scale;
+    ArrangeFittingWindow(*this);
+}
+
+/// The line is not composed anew: it tells of the settings that the drawing was made with.
+void CFittingWindow::Activate() {
+    context_.frame.statusText = statusString;
+}
+
+/// Clears every mouse mode but the removal of a dimension, which ends by itself.
+void CFittingWindow::CancelMouseModes() {
+    modes = MouseModes();
+    controls.pboxGraphicWindow.rubberBand.reset();
+    controls.pboxGraphicWindow.toolTip.clear();
+}
+
+bool CFittingWindow::CloseForm() {
+    if (ConfirmSave(*this) == static_cast<int>(Answer::Cancel)) {
+        return false;
+    }
+    context_.patternSettingsDialog = PatternSettingsDialog();
+    closed = true;
+    return true;
+}
+
+bool CFittingWindow::FillFromFile(const std::string& path) {
+    views = std::make_shared<CViewList>();
+    hasModel = false;  // no view, no model: there is nothing to save until the next build
+    try {
+        const CKvtFile file = LoadFitting(*this, path);
+        comment1 = file.Comment1;
+        comment2 = file.Comment2;
+        return true;
+    } catch (const std::exception& error) {
+        ShowLoadError(context_, error);
+        return false;
+    }
+}
+
+bool CFittingWindow::LoadFile(const std::string& path) {
+    if (!FillFromFile(path)) {
+        return false;
+    }
+    UpdateFitting();
+    try {
+        ShowExtents();
+    } catch (const std::exception& error) {
+        ShowPlain(context_.ui, context_.Message(ErrorLoading), error.what());
+        return false;
+    }
+    return true;
+}
+
+bool CFittingWindow::SaveFile(const std::string& path) {
+    if (RefuseWithoutModel()) {
+        return false;
+    }
+    UpdateFitting();
+    return SaveFitting(*this, path);
+}
+
+bool CFittingWindow::WriteTable(const std::string& path) {
+    if (RefuseWithoutModel() || !RequirePatternView(context_.ui, context_.options, *views)) {
+        return false;
+    }
+    try {
+        display.PrintCoordinateTable(context_.files, path);
+        return true;
+    } catch (const std::exception& error) {
+        ShowPlain(context_.ui, "Error in COptions:WriteTableFile", error.what());
+        return false;
+    }
+}
+
+bool CFittingWindow::Export(const std::string& path, ExportMode mode) {
+    return !RefuseWithoutModel() && ExportFitting(*this, path, mode);
+}
+
+}  // namespace korvet

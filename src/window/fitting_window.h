@@ -1,0 +1,194 @@
+// A fitting window: one fitting, one drawing area, one panel of parameter boxes. All windows are this one
+// class driven by the table of their catalogue row.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "core/branch_options.h"
+#include "core/fitting.h"
+#include "core/pattern_settings.h"
+#include "display/object_display.h"
+#include "display/view_point.h"
+#include "exchange/kvt_file.h"
+#include "form/catalogue_row.h"
+#include "window/context.h"
+#include "window/window_model.h"
+
+namespace korvet {
+
+/// Where an export goes.
+enum class ExportMode : int { Dxf = 1, Plotter = 2, CadLink = 3 };
+
+/// The button of a mouse event; in a move, the one that is held.
+enum class MouseButton : int { None = 0, Left = 1, Right = 2 };
+
+/// The mouse mode that is armed; the commands that arm one clear the others first.
+struct MouseModes {
+    bool panMode = false;
+    bool zoomWindowMode = false;
+    bool measureMode = false;
+    bool labelMode = false;
+    bool selectFramesMode = false;
+    bool rotateMode = false;
+    int dimensionMode = 0;   ///< above 0: a user dimension of that kind is being added
+    bool mouseDown = false;  ///< the left button went down in the drawing area while the mode is armed
+    float startX = 0;        ///< ends of the rubber band in the drawing plane
+    float startY = 0;
+    float currentX = 0;
+    float currentY = 0;
+};
+
+class CFittingWindow {
+  public:
+    /// A window of a catalogue row whose table is built. `drawingArea` is where it draws; null: nowhere, its
+    /// surfaces are made all the same.
+    CFittingWindow(WindowContext& context, const CatalogueRow& row, DrawingDevice* drawingArea);
+
+    // Commands of the main frame. Those that need a model refuse with message 76 when there is none.
+    void SetCategory(const std::string& category);
+    void UpdateOptions();
+    void DimensionOptionsDialog();
+    void RotatePattern();
+    void PlaceLabel();
+    void Settings();
+    void Redraw();
+    void ZoomExtents();
+    void ZoomPrevious();
+    void ZoomX(double factor);
+    void ZoomWindow();
+    void PanView();
+    void MeasureDistance();
+    void AddDimension(int kind);
+    void RemoveDimension();
+    void RemoveAllDimensions();
+    void PrinterSetup();
+    void PrintDrawing();
+    void SelectPrintFrames();
+    void SetupPrintFrames();
+
+    /// Exports what the last display showed. True when the file was written.
+    bool Export(const std::string& path, ExportMode mode);
+
+    /// Writes the coordinate table of the pattern that is shown. True when it was written.
+    bool WriteTable(const std::string& path);
+
+    /// Updates and writes the parameter file; the caption becomes its path. True when it was written.
+    bool SaveFile(const std::string& path);
+
+    /// Fills the window from a parameter file, shows it and zooms to it. False after message 109.
+    bool LoadFile(const std::string& path);
+
+    /// Asks about saving, then closes. False when the user keeps the window open.
+    bool CloseForm();
+
+    // Events of the controls.
+    void ChangeBox(std::size_t index, const std::string& text);
+    void FocusBox(std::size_t index);
+    void ChangeTextSize(const std::string& text);
+    void ClickView(int button);
+    void ClickPoint(std::size_t index);
+    void ClickMore(std::size_t page);
+    void ClickBack(std::size_t page);
+    void SelectPattern(std::size_t index);
+
+    /// A click on a button of optTopAngle, optBaseAngle or optFlushSide.
+    void SelectOption(OptionGroup FittingOptions::*group, std::size_t index);
+    void ClickPosition();
+    void PressKeyInDrawing();
+
+    /// The mouse over the drawing area, at a point of the drawing plane. MouseDown gives true when the View
+    /// menu is to pop up.
+    [[nodiscard]] bool MouseDown(MouseButton button, float x, float y);
+    void MouseMove(MouseButton button, float x, float y);
+    void MouseUp(MouseButton button, float x, float y);
+
+    void Resize(const Place& scale);
+    void Activate();
+
+    /// The part of LoadFile before the first update: header to comments into controls, settings, display.
+    /// False after message 109; what was read before the fault stays.
+    bool FillFromFile(const std::string& path);
+
+    /// Checks every box in order and derives the fitting's properties and the text block. True when all is
+    /// well; after the first failed check its message has been shown and hasModel is false.
+    bool BuildFitting();
+
+    /// The number of sides in the box of the type that is shown; nothing where the section has none.
+    [[nodiscard]] std::optional<int> TypedSides() const;
+
+    /// Puts the settings into the fitting, as every display does.
+    void ApplySettings();
+
+    /// The one path by which anything is rebuilt or redrawn; nothing happens before the first view.
+    void UpdateFitting();
+
+    /// Says that the sizes led to no shape and leaves the window without a model.
+    void RefuseBuild(const std::exception& error);
+
+    /// Shows what a fitting class had to say while it was built, in its order.
+    void ShowWarnings(const std::vector<FittingWarning>& warnings);
+
+    void CancelMouseModes();
+
+    [[nodiscard]] const CatalogueRow& Row() const { return *row_; }
+    [[nodiscard]] const WindowTable& Table() const { return *row_->table; }
+    [[nodiscard]] WindowContext& Context() const { return context_; }
+    [[nodiscard]] FieldContext Fields();
+
+    // State of the window, by the names of the system.
+    WindowModel controls;
+    CObjectDisplay display;
+    std::shared_ptr<CDimensions> dimensions;
+    std::shared_ptr<CLabels> labels;  ///< the text block; null before the first build
+    CPatternSettings settings;
+    std::shared_ptr<CViewList> views;
+    std::int16_t dtype = 0;
+    std::int16_t miscellaneous = 0;
+    std::int16_t noOfSides = 0;
+    BranchOptions branch;
+    bool hasModel = false;
+    bool edited = true;
+    std::string category;
+    std::string comment1;
+    std::string comment2;
+    bool diagonalsAllowed = true;
+    MouseModes modes;
+    bool removeDimensionMode = false;
+    bool labelSeen = false;
+    bool closed = false;
+    std::optional<CNearestPoint> nearest1;  ///< points picked last for a measurement, dimension or rotation
+    std::optional<CNearestPoint> nearest2;
+    std::optional<FittingHandle> fitting;
+    std::string statusString;  ///< line for the status bar, as it was last composed
+
+  private:
+    void InitialiseFitting();
+    bool RefuseWithoutModel();
+    void ShowExtents();
+    bool AllFieldsValid();
+    void AddTextBlock();
+    void TakeNoOfSides();
+    void ResetFieldColours();
+    void DevelopAndDisplay();
+    float DrawnTextSize();
+    template <typename Step>
+    bool RunMouseStep(Step step);
+    void BeginMouseOperation(float x, float y);
+    bool EndRubberBand();
+    bool FinishMouseOperation(float x, float y);
+    void FinishDrag();
+    bool RemoveDimensionAt(float x, float y);
+    void PanByRubberBand();
+    void MeasureAt();
+    void AddDimensionAt();
+    void PlaceLabelAt(float x, float y);
+    void RotateAt();
+
+    WindowContext& context_;
+    const CatalogueRow* row_;
+    double goodTextSize_;  ///< for while the text size box holds no number
+};
+
+}  // namespace korvet

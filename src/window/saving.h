@@ -1,0 +1,41 @@
+// Parameter files of fitting windows: saving, loading, and the question before a window closes.
+#pragma once
+
+#include <exception>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "window/fitting_window.h"
+
+namespace korvet {
+
+/// How the caption of a window begins that has no file yet.
+inline constexpr std::string_view NewWindowCaption = "Development";
+
+/// Whether the window has no file yet, by its caption.
+bool HasNoFile(const CFittingWindow& window);
+
+/// Saves the window's boxes, settings, view and annotations to `path`, which becomes its caption. False, with
+/// a message, when the file could not be written; the caption and an old file then stay as they were.
+bool SaveFitting(CFittingWindow& window, const std::string& path);
+
+/// Fills the window from a parameter file. Throws FileError and ParameterFileError; what was read before the
+/// fault stays in the controls.
+CKvtFile LoadFitting(CFittingWindow& window, const std::string& path);
+
+/// Asks under which name a parameter file is to be saved; nothing after Cancel.
+std::optional<std::string> ChooseSaveName(UserInterface& ui);
+
+/// Says that the header of a parameter file is faulty.
+void ShowHeaderError(MessageBoxes& boxes, const std::exception& error);
+
+/// Says what is wrong with a parameter file that could not be read: a box of its own for a foreign product or
+/// a faulty header, before message 109.
+void ShowLoadError(WindowContext& context, const std::exception& error);
+
+/// The close question. Returns 0 when none was needed, 6 after a save, 7 for No, 2 when the window stays
+/// open: Cancel, in the question or the file dialog, or a save that failed.
+int ConfirmSave(CFittingWindow& window);
+
+}  // namespace korvet

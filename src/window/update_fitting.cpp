@@ -1,0 +1,196 @@
+// The update cycle of a fitting window: from typed text to a drawing.
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "core/constants.h"
+#include "core/math_module.h"
+#include "core/number_text.h"
+#include "window/fitting_types.h"
+#include "window/fitting_window.h"
+#include "window/views.h"
+#include "window/window_layout.h"
+
+namespace korvet {
+namespace {
+
+MessageId BranchTypeText(BranchJoin join) {
+    switch (join) {
+        case SetInJoin:
+            return SetInText;
+        case SetOnJoin:
+            return SetOnText;
+        default:
+            return MeanToMeanText;
+    }
+}
+
+}  // namespace
+
+void CFittingWindow::UpdateFitting() {
+    if (views->Count() == 0) {
+        return;
+    }
+    try {
+        if (BuildFitting()) {
+            DevelopAndDisplay();
+        }
+    } catch (const std::exception& error) {
+        RefuseBuild(error);
+    }
+}
+
+/// A size so far out that the arithmetic ends: the window stays, with no model to save or print.
+void CFittingWindow::RefuseBuild(const std::exception& error) {
+    hasModel = false;
+    ShowPlain(context_.ui, "This fitting cannot be made with these sizes", error.what());
+}
+
+bool CFittingWindow::BuildFitting() {
+    hasModel = false;
+    if (Table().checksAllFields && !AllFieldsValid()) {
+        return false;
+    }
+    labels = std::make_shared<CLabels>();
+    labels->Add({comment1});
+    labels->Add({comment2});
+    if (!fitting) {
+        fitting = Table().newFitting();
+    }
+    FittingForm form(Fields(), {controls.txtParameter, settings, controls.options, branch, category, dtype,
+                                miscellaneous, InPatternView(*views)});
+    if (!Table().buildFitting(form, *fitting)) {
+        return false;
+    }
+    AddTextBlock();
+    TakeNoOfSides();
+    if (Table().completeFitting != nullptr && !Table().completeFitting(form, *fitting)) {
+        return false;
+    }
+    fitting->Inputs().Dtype = dtype;
+    hasModel = true;
+    edited = false;
+    ResetFieldColours();
+    return true;
+}
+
+bool CFittingWindow::AllFieldsValid() {
+    const FieldContext fields = Fields();
+    return std::all_of(controls.txtParameter.begin(), controls.txtParameter.end(),
+                       [&](TextBox& box) { return IsNumericField(fields, box); }) &&
+           IsNumericField(fields, controls.txtTextSize);
+}
+
+/// Another number of sides has its corners elsewhere, so that the seam starts anew at the first one.
+void CFittingWindow::TakeNoOfSides() {
+    const std::optional<int> sides = TypedSides();
+    if (sides && *sides != noOfSides) {
+        settings.JoinAngle = 0;
+        noOfSides = static_cast<std::int16_t>(*sides);
+    }
+}
+
+/// The number of sides in the box of the type that is shown, if it has one with a number in it.
+std::optional<int> CFittingWindow::TypedSides() const {
+    const int box = Table().pages[static_cast<std::size_t>(dtype)].sidesBox;
+    if (box == NoBox) {
+        return std::nullopt;
+    }
+    const auto typed =
+        ParseNumber(controls.txtParameter.at(static_cast<std::size_t>(box)).text, context_.decimalMark);
+    return typed ? std::optional<int>(RoundToInt16(*typed)) : std::nullopt;
+}
+
+/// The sizes as typed, then what the window's table asks for of the common lines.
+void CFittingWindow::AddTextBlock() {
+    for (const LabelEntry& line : Table().pages[static_cast<std::size_t>(dtype)].labels) {
+        const std::string text = line.box == NoBox
+                                     ? std::string(line.text)
+                                     : controls.txtParameter.at(static_cast<std::size_t>(line.box)).text;
+        labels->Add({std::string(line.label) + text});
+    }
+    const auto addThickness = [&](MessageId label, double thickness) {
+        labels->Add({context_.Message(label) + NumberText(thickness, context_.decimalMark)});
+    };
+    if (Table().branchMaterialEnable) {
+        addThickness(BranchThicknessText, settings.ThicknessA);
+        addThickness(TrunkThicknessText, settings.ThicknessB);
+        labels->Add({context_.Message(BranchTypeText(branch.join))});
+    } else {
+        addThickness(ThicknessText, settings.Thickness);
+    }
+    if (Table().positionLine) {
+        labels->Add({context_.Message(DimensionsBasedOn) + settings.PositionString});
+    }
+    const bool half = settings.HalfPattern && !Table().fullPatternLine;
+    labels->Add({category + "  " + context_.Message(half ? HalfPatternText : FullPatternText) + "  " +
+                 context_.clock.ShortDate()});
+}
+
+void CFittingWindow::ResetFieldColours() {
+    for (TextBox& box : controls.txtParameter) {
+        box.textColor = Black;
+    }
+    controls.txtTextSize.textColor = Black;
+}
+
+void CFittingWindow::ApplySettings() {
+    FittingInputs& inputs = fitting->Inputs();
+    inputs.JoinAngle = DegToRad(settings.JoinAngle);
+    inputs.segs = settings.segs;
+    inputs.HalfPattern = settings.HalfPattern;
+    inputs.JoinType = settings.JoinType;
+    inputs.LapSize0 = settings.LapSize0;
+    inputs.LapSize1 = settings.LapSize1;
+    inputs.LapSize2 = settings.LapSize2;
+    inputs.Miscellaneous = miscellaneous;
+}
+
+/// The number in the text size box, or the last one that was good while it holds none.
+float CFittingWindow::DrawnTextSize() {
+    const auto typed = ParseNumber(controls.txtTextSize.text, context_.decimalMark);
+    if (typed) {
+        if (std::fabs(*typed) > std::numeric_limits<float>::max()) {
+            throw ArithmeticError("the text size is too large");
+        }
+        goodTextSize_ = *typed;
+    }
+    return static_cast<float>(goodTextSize_);
+}
+
+/// Hands the fitting over to the display, which builds and draws it.
+void CFittingWindow::DevelopAndDisplay() {
+    const HourglassWhile working(controls);
+    controls.pboxGraphicWindow.backColor = context_.options.Colors.DisplayBackColor;
+    ApplySettings();
+    display.TextSize = DrawnTextSize();
+    display.Decimals = context_.options.Decimals;
+    display.DecimalMark = context_.decimalMark;
+    display.Colors = context_.options.Colors;
+    display.Multiple = Table().multiple;
+    display.NewObject = fitting;
+    display.DimensionList = dimensions;
+    display.LabelList = labels;
+    display.ViewList = views;
+    try {
+        display.DisplayObject();
+    } catch (const std::exception&) {
+        ShowWarnings(display.Warnings);  // they came before what ended the build
+        throw;
+    }
+    UpdateSettings(*this);
+    LockType(*this);
+    ShowWarnings(display.Warnings);
+}
+
+void CFittingWindow::ShowWarnings(const std::vector<FittingWarning>& warnings) {
+    for (const FittingWarning& warning : warnings) {
+        if (warning.userError) {
+            ShowUserError(context_.ui, context_.Message(warning.messageId));
+        } else {
+            ShowPlain(context_.ui, context_.Message(warning.messageId));
+        }
+    }
+}
+
+}  // namespace korvet

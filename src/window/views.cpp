@@ -1,0 +1,97 @@
+#include "window/views.h"
+
+#include <array>
+
+#include "core/math_module.h"
+#include "form/messages.h"
+
+namespace korvet {
+namespace {
+
+struct PresetAngles {
+    double fromXY;
+    double aroundZ;
+};
+
+PresetAngles AnglesOfButton(int button) {
+    const double slant = DegToRad(35);
+    const std::array<PresetAngles, 10> angles = {{{slant, DegToRad(135)},
+                                                  {0, QuarterTurn},
+                                                  {slant, DegToRad(45)},
+                                                  {0, PI},
+                                                  {QuarterTurn, 0},
+                                                  {0, 0},
+                                                  {slant, DegToRad(225)},
+                                                  {0, DegToRad(270)},
+                                                  {slant, DegToRad(315)},
+                                                  {QuarterTurn, QuarterTurn}}};
+    if (button < 0 || button > PatternButton) {
+        throw ListError("view button " + std::to_string(button));
+    }
+    return angles[static_cast<std::size_t>(button)];
+}
+
+/// Whether the zoom of the last view can take another step.
+bool IsZoomWithinLimits(MessageBoxes& boxes, const COptions& options, const CViewList& views) {
+    const auto zoom = static_cast<float>(views.Last().ZoomFactor);
+    const bool within = !(zoom > 10000.0F || zoom < 0.0001F);
+    if (!within) {
+        ShowPlain(boxes, GetMessage(MaximumZoom, options.Language));
+    }
+    return within;
+}
+
+}  // namespace
+
+void AddPresetView(int button, CViewList& views) {
+    const PresetAngles angles = AnglesOfButton(button);
+    CViewPoint view = CurrentOrDefaultView(views);
+    view.FromXY = angles.fromXY;
+    view.AroundZ = angles.aroundZ;
+    view.Patternview = button == PatternButton;
+    views.Add(view);
+}
+
+CViewPoint CopyCurrentView(const CViewList& views) {
+    return views.Last();
+}
+
+void PreviousView(MessageBoxes& boxes, CViewList& views) {
+    if (views.Count() > 1) {
+        views.Remove(views.Count());
+    } else {
+        ShowPlain(boxes, "No Previous View");
+    }
+}
+
+bool ZoomView(MessageBoxes& boxes, const COptions& options, double factor, CViewList& views) {
+    if (!IsZoomWithinLimits(boxes, options, views)) {
+        return false;
+    }
+    CViewPoint view = CopyCurrentView(views);
+    view.ZoomFactor *= factor;
+    views.Add(view);
+    return true;
+}
+
+bool BeginZoomWindow(MessageBoxes& boxes, const COptions& options, const CViewList& views) {
+    return IsZoomWithinLimits(boxes, options, views);
+}
+
+bool InPatternView(const CViewList& views) {
+    return views.Count() > 0 && views.Last().Patternview;
+}
+
+bool RequirePatternView(MessageBoxes& boxes, const COptions& options, const CViewList& views) {
+    if (InPatternView(views)) {
+        return true;
+    }
+    ShowPlain(boxes, GetMessage(PatternViewOnly, options.Language));
+    return false;
+}
+
+int RequirePatternViewValue(MessageBoxes& boxes, const COptions& options, const CViewList& views, int value) {
+    return RequirePatternView(boxes, options, views) ? value : 0;
+}
+
+}  // namespace korvet

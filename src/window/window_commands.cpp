@@ -1,0 +1,220 @@
+// The commands that the main frame forwards to the active fitting window.
+#include "core/constants.h"
+#include "dialogs/small_dialogs.h"
+#include "window/fitting_window.h"
+#include "window/views.h"
+
+namespace korvet {
+
+bool CFittingWindow::RefuseWithoutModel() {
+    if (!hasModel) {
+        ShowUserError(context_.ui, context_.Message(NotAtThisTime));
+    }
+    return !hasModel;
+}
+
+void CFittingWindow::SetCategory(const std::string& name) {
+    category = name;
+}
+
+void CFittingWindow::UpdateOptions() {
+    if (hasModel) {
+        UpdateFitting();
+    }
+}
+
+void CFittingWindow::Redraw() {
+    UpdateFitting();
+}
+
+void CFittingWindow::Settings() {
+    settings.NoOfSides = noOfSides;
+    LoadDialog(context_.patternSettingsDialog, settings, context_.ui, context_.options, context_.decimalMark);
+    UpdateFitting();
+}
+
+void CFittingWindow::DimensionOptionsDialog() {
+    if (RefuseWithoutModel() || !RequirePatternView(context_.ui, context_.options, *views)) {
+        return;
+    }
+    korvet::DimensionOptionsDialog dialog;
+    using Dialog = korvet::DimensionOptionsDialog;
+    const std::array<std::pair<std::size_t, bool*>, 5> requests = {
+        {{Dialog::TrueLengths, &display.TrueLengthsRequested},
+         {Dialog::Diagonals, &display.DiagonalsRequested},
+         {Dialog::CoordGrid, &display.CoordGridRequested},
+         {Dialog::CoordTable, &display.CoordTableRequested},
+         {Dialog::FrameAndArea, &display.FrameRequested}}};
+    for (const auto& [index, request] : requests) {
+        dialog.Click(index, *request);
+    }
+    dialog.chkDimensions[Dialog::Diagonals].enabled = diagonalsAllowed;
+    context_.ui.RunModal(dialog);
+    if (dialog.lblStatus == "OK") {
+        for (const auto& [index, request] : requests) {
+            *request = dialog.chkDimensions.at(index).checked;
+        }
+    }
+    UpdateFitting();
+}
+
+void CFittingWindow::RotatePattern() {
+    CancelMouseModes();
+    if (RefuseWithoutModel()) {
+        return;
+    }
+    if (!InPatternView(*views)) {
+        ShowUserError(context_.ui, context_.Message(PatternViewOnly));
+        return;
+    }
+    modes.rotateMode = true;
+    controls.pboxGraphicWindow.toolTip = context_.Message(RotationReferencePoints);
+}
+
+void CFittingWindow::PlaceLabel() {
+    CancelMouseModes();
+    if (RefuseWithoutModel()) {
+        return;
+    }
+    modes.labelMode = true;
+    LabelDialog dialog;
+    dialog.Load(*labels, display.LabelPoint.has_value(), labelSeen);
+    context_.ui.RunModal(dialog);
+    if (dialog.lblStatus != "OK") {
+        modes.labelMode = false;
+        return;
+    }
+    labelSeen = true;
+    comment1 = dialog.txtLabelItem[0].text;
+    comment2 = dialog.txtLabelItem[1].text;
+    labels->Item(1).LabelString = comment1;
+    labels->Item(2).LabelString = comment2;
+    if (dialog.chkDisplayLabel.checked) {
+        controls.pboxGraphicWindow.toolTip = context_.Message(PositionLabel);
+    } else {
+        display.LabelPoint.reset();
+        modes.labelMode = false;
+        UpdateFitting();
+    }
+}
+
+void CFittingWindow::ZoomExtents() {
+    try {
+        ShowExtents();
+    } catch (const std::exception& error) {
+        ShowPlain(context_.ui, context_.Message(NoExtents), error.what());
+    }
+}
+
+/// Adds the view of the extents and draws it. Throws ArithmeticError when they are too small or too large for
+/// one.
+void CFittingWindow::ShowExtents() {
+    if (!hasModel) {
+        ShowPlain(context_.ui, context_.Message(NoExtents));
+        return;
+    }
+    display.ZoomExtents();
+    UpdateFitting();
+}
+
+void CFittingWindow::ZoomPrevious() {
+    PreviousView(context_.ui, *views);
+    UpdateFitting();
+}
+
+void CFittingWindow::ZoomX(double factor) {
+    CancelMouseModes();
+    if (hasModel) {
+        ZoomView(context_.ui, context_.options, factor, *views);
+        UpdateFitting();
+    }
+}
+
+void CFittingWindow::ZoomWindow() {
+    CancelMouseModes();
+    if (hasModel) {
+        modes.zoomWindowMode = BeginZoomWindow(context_.ui, context_.options, *views);
+    }
+}
+
+/// Panning is armed with or without a model: a drag then works as soon as there is a view.
+void CFittingWindow::PanView() {
+    CancelMouseModes();
+    modes.panMode = true;
+    controls.pboxGraphicWindow.toolTip = context_.Message(FirstAndSecondPoint);
+}
+
+void CFittingWindow::MeasureDistance() {
+    CancelMouseModes();
+    if (RefuseWithoutModel()) {
+        return;
+    }
+    modes.measureMode = true;
+    controls.pboxGraphicWindow.toolTip = context_.Message(FirstAndSecondPoint);
+}
+
+void CFittingWindow::AddDimension(int kind) {
+    CancelMouseModes();
+    if (RefuseWithoutModel()) {
+        return;
+    }
+    if (RequirePatternViewValue(context_.ui, context_.options, *views, kind) > 0) {
+        modes.dimensionMode = kind;
+    }
+    controls.pboxGraphicWindow.toolTip = context_.Message(FirstAndSecondPoint);
+}
+
+void CFittingWindow::RemoveDimension() {
+    CancelMouseModes();
+    controls.pboxGraphicWindow.mousePointer = Cursor::Arrow;
+    controls.pboxGraphicWindow.toolTip = context_.Message(SelectDimensionForRemoval);
+    removeDimensionMode = true;
+}
+
+void CFittingWindow::RemoveAllDimensions() {
+    CancelMouseModes();
+    dimensions = std::make_shared<CDimensions>();
+    UpdateFitting();
+}
+
+/// Another paper has other frames, so they are computed anew, or switched off with their menu entry.
+void CFittingWindow::PrinterSetup() {
+    ShowPlain(context_.ui, context_.Message(NoPrinterAvailable));
+    if (hasModel) {
+        SetupPrintFrames();
+    }
+}
+
+void CFittingWindow::PrintDrawing() {
+    if (!hasModel) {
+        ShowUserError(context_.ui, context_.Message(NothingToPrint));
+        return;
+    }
+    ShowPlain(context_.ui, context_.Message(NoPrinterAvailable));
+}
+
+void CFittingWindow::SelectPrintFrames() {
+    ShowPlain(context_.ui,
+              "Select Frames for printing by left-clicking with the mouse. \r\n"
+              "De-Select by left-clicking again on a selected frame");
+    CancelMouseModes();
+    modes.selectFramesMode = true;
+}
+
+void CFittingWindow::SetupPrintFrames() {
+    if (RefuseWithoutModel()) {
+        return;
+    }
+    if (!context_.frame.printFramesTicked) {
+        context_.frame.menuEnabled["mnuSelectFrames"] = false;
+        UpdateFitting();
+        return;
+    }
+    if (!InPatternView(*views)) {
+        ShowUserError(context_.ui, context_.Message(PatternViewOnly));
+        return;
+    }
+    ShowPlain(context_.ui, "No printer");
+}
+
+}  // namespace korvet

@@ -1,0 +1,391 @@
+#include "dialogs/options_file.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "tests/support/memory_file_store.h"
+#include "tests/support/recording_ui.h"
+
+namespace korvet {
+namespace {
+
+constexpr const char* Path = "/home/user/settings.ini";
+
+/// The file that the first start leaves, line by line.
+std::vector<std::string> DefaultLines() {
+    return {"3.b",       " 24 ",       " 1 ",         "English",
+            " 2 ",       " 16776960 ", " 255 ",       " 65280 ",
+            " 0 ",       " 65535 ",    " 16776960 ",  "TextLayer",
+            "FoldLayer", "CutLayer",   "BorderLayer", "DimensionLayer",
+            " 1 ",       " 200 ",      " 150 ",       " 0 ",
+            " 1 ",       " 0 ",        " 6 ",         " 1 ",
+            " 1 "};
+}
+
+std::string Joined(const std::vector<std::string>& lines, const std::string& end = "\r\n") {
+    std::string text;
+    for (const std::string& line : lines) {
+        text += line + end;
+    }
+    return text;
+}
+
+class OptionsFile : public ::testing::Test {
+  protected:
+    OptionsFile() { options.IniFileName = Path; }
+
+    void Read(char decimalMark = '.') { ReadIniFile(options, files, ui, decimalMark); }
+
+    /// The error of a file with one line replaced; line numbers count from 1.
+    std::string ErrorWithLine(std::size_t number, const std::string& text) {
+        std::vector<std::string> lines = DefaultLines();
+        lines.at(number - 1) = text;
+        return ErrorOf(Joined(lines));
+    }
+
+    /// The error of a file, after a look that nothing has changed.
+    std::string ErrorOf(const std::string& contents) {
+        files.files[Path] = contents;
+        files.writes.clear();
+        options.DefaultSegs = 77;
+        options.DXFCutLayer = "kept";
+        std::string error;
+        try {
+            Read();
+        } catch (const OptionsFileError& e) {
+            error = e.what();
+        }
+        if (!error.empty()) {
+            EXPECT_EQ(options.DefaultSegs, 77);
+            EXPECT_EQ(options.DXFCutLayer, "kept");
+        }
+        EXPECT_EQ(files.files[Path], contents);
+        EXPECT_TRUE(files.writes.empty());
+        EXPECT_TRUE(ui.messages.empty());
+        return error;
+    }
+
+    COptions options;
+    MemoryFileStore files;
+    RecordingUi ui;
+};
+
+TEST_F(OptionsFile, HasTwentyFiveLinesInTheirOrder) {
+    options.DefaultSegs = 36;
+    options.Decimals = 2;
+    options.Language = "Language";
+    options.DisplayTextSize = 2.5;
+    options.Colors.DisplayFoldColor = 101;
+    options.Colors.DisplayCutColor = 102;
+    options.Colors.DisplayTextColor = 103;
+    options.Colors.DisplayBackColor = 104;
+    options.Colors.DisplayDimensionColor = 105;
+    options.Colors.DisplayBorderColor = 106;
+    options.DXFTextLayer = "Text";
+    options.DXFFoldLayer = "Fold";
+    options.DXFCutLayer = "Cut";
+    options.DXFBorderLayer = "Border";
+    options.DXFDimensionLayer = "Dimension";
+    options.DXFTextSize = 0.75;
+    options.PolyMode = 1;
+    options.PrintOrientation = 2;
+    options.PrintScale = -0.5;
+    options.PrintUnits = 5;
+    options.PrintXCalibration = 1.001;
+    options.PrintYCalibration = 0.999;
+    WriteIniFile(options, files, '.');
+    EXPECT_EQ(
+        files.files[Path],
+        "3.b\r\n 36 \r\n 2 \r\nLanguage\r\n 2.5 \r\n 101 \r\n 102 \r\n 103 \r\n 104 \r\n 105 \r\n 106 \r\n"
+        "Text\r\nFold\r\nCut\r\nBorder\r\nDimension\r\n 0.75 \r\n 200 \r\n 150 \r\n 1 \r\n 2 \r\n"
+        "-0.5 \r\n 5 \r\n 1.001 \r\n 0.999 \r\n");
+    ASSERT_EQ(files.writes.size(), 1U);
+    EXPECT_EQ(files.writes[0].flush, Flush::Yes);
+}
+
+TEST_F(OptionsFile, ReadsBackEverythingThatItWrites) {
+    COptions written;
+    written.IniFileName = Path;
+    written.DefaultSegs = 100000;
+    written.Decimals = 5;
+    written.Language = "German";
+    written.DisplayTextSize = 12.25;
+    written.Colors = {1, 2, 3, 4, 5, 6};
+    written.DXFBorderLayer = "a b";
+    written.DXFDimensionLayer = "b";
+    written.DXFTextLayer = "c";
+    written.DXFFoldLayer = "d";
+    written.DXFCutLayer = "Schnittlinien \xC3\xBC";
+    written.DXFTextSize = 3.5;
+    written.PolyMode = 1;
+    written.PrintUnits = 5;
+    written.PrintScale = 0.2;
+    written.PrintOrientation = 2;
+    written.PrintXCalibration = 1.01;
+    written.PrintYCalibration = 0.98;
+    written.WindowState = 2;
+    for (const char mark : {'.', ','}) {
+        options = COptions();
+        options.IniFileName = Path;
+        WriteIniFile(written, files, mark);
+        Read(mark);
+        EXPECT_EQ(options.DefaultSegs, 100000);
+        EXPECT_EQ(options.Decimals, 5);
+        EXPECT_EQ(options.Language, "German");
+        EXPECT_EQ(options.DisplayTextSize, 12.25);
+        EXPECT_EQ(options.Colors.DisplayDimensionColor, 1);
+        EXPECT_EQ(options.Colors.DisplayBorderColor, 2);
+        EXPECT_EQ(options.Colors.DisplayFoldColor, 3);
+        EXPECT_EQ(options.Colors.DisplayCutColor, 4);
+        EXPECT_EQ(options.Colors.DisplayTextColor, 5);
+        EXPECT_EQ(options.Colors.DisplayBackColor, 6);
+        EXPECT_EQ(options.DXFBorderLayer, "a b");
+        EXPECT_EQ(options.DXFDimensionLayer, "b");
+        EXPECT_EQ(options.DXFTextLayer, "c");
+        EXPECT_EQ(options.DXFFoldLayer, "d");
+        EXPECT_EQ(options.DXFCutLayer, "Schnittlinien \xC3\xBC");
+        EXPECT_EQ(options.DXFTextSize, 3.5);
+        EXPECT_EQ(options.PolyMode, 1);
+        EXPECT_EQ(options.PrintUnits, 5);
+        EXPECT_EQ(options.PrintScale, 0.2);
+        EXPECT_EQ(options.PrintOrientation, 2);
+        EXPECT_EQ(options.PrintXCalibration, 1.01);
+        EXPECT_EQ(options.PrintYCalibration, 0.98);
+        EXPECT_EQ(options.WindowState, -1) << "not in the file";
+        EXPECT_EQ(options.IniFileName, Path);
+    }
+    EXPECT_TRUE(ui.messages.empty());
+}
+
+TEST_F(OptionsFile, WritesTheLocalesMarkAndReadsBoth) {
+    options.DisplayTextSize = 2.5;
+    WriteIniFile(options, files, ',');
+    EXPECT_NE(files.files[Path].find("English\r\n 2,5 \r\n"), std::string::npos);
+
+    std::vector<std::string> lines = DefaultLines();
+    lines[4] = " 3.5 ";
+    lines[23] = " 1,25 ";
+    files.files[Path] = Joined(lines);
+    Read(',');
+    EXPECT_EQ(options.DisplayTextSize, 3.5);
+    EXPECT_EQ(options.PrintXCalibration, 1.25);
+}
+
+TEST_F(OptionsFile, ALineBreakInALayerNameMovesNoOtherLine) {
+    options.DXFTextLayer = "two\r\nlines";
+    WriteIniFile(options, files, '.');
+    Read();
+    EXPECT_EQ(options.DXFTextLayer, "two  lines");
+    EXPECT_EQ(options.DXFFoldLayer, "FoldLayer");
+}
+
+TEST_F(OptionsFile, AMissingFileBecomesTheDefaultsInSilence) {
+    Read();
+    EXPECT_EQ(files.files[Path], Joined(DefaultLines()));
+    EXPECT_EQ(files.files.size(), 1U) << "there was nothing to keep";
+    EXPECT_TRUE(ui.messages.empty());
+    EXPECT_EQ(options.DefaultSegs, 24);
+}
+
+TEST_F(OptionsFile, AnotherVersionMakesWayAfterAMessageAndIsKeptBeside) {
+    for (const char* old : {"3.a\r\n 99 \r\n", "", "3.b2\r\n", "settings\n", "x"}) {
+        ui.messages.clear();
+        files.files = {{Path, old}};
+        files.writes.clear();
+        options = COptions();
+        options.IniFileName = Path;
+        Read();
+        ASSERT_EQ(ui.messages.size(), 1U) << old;
+        EXPECT_EQ(ui.messages[0].text, "\r\n The Settings.ini file is being updated.");
+        EXPECT_EQ(ui.messages[0].style, PlainBox);
+        EXPECT_EQ(ui.messages[0].title, "Korvet Development");
+        EXPECT_EQ(files.files[Path], Joined(DefaultLines()));
+        EXPECT_EQ(files.files[std::string(Path) + ".bak"], old);
+        ASSERT_EQ(files.writes.size(), 2U);
+        EXPECT_EQ(files.writes[0].path, std::string(Path) + ".bak") << "kept before it is replaced";
+        EXPECT_EQ(files.writes[0].flush, Flush::Yes);
+        EXPECT_EQ(files.writes[1].flush, Flush::Yes);
+        EXPECT_EQ(options.DefaultSegs, 24);
+    }
+}
+
+TEST_F(OptionsFile, TheVersionLineMayStandBetweenBlanks) {
+    std::vector<std::string> lines = DefaultLines();
+    lines[0] = "  3.b  ";
+    lines[1] = " 48 ";
+    files.files[Path] = Joined(lines);
+    Read();
+    EXPECT_EQ(options.DefaultSegs, 48);
+    EXPECT_TRUE(ui.messages.empty());
+    EXPECT_TRUE(files.writes.empty());
+}
+
+TEST_F(OptionsFile, AFirstStartInAnUnwritableFolderGoesOnWithTheDefaults) {
+    files.unwritable.insert(Path);
+    options.DefaultSegs = 48;
+    Read();
+    ASSERT_EQ(ui.messages.size(), 1U);
+    EXPECT_EQ(ui.messages[0].text, std::string(Path) + ": cannot be written");
+    EXPECT_EQ(ui.messages[0].style, PlainBox);
+    EXPECT_EQ(options.DefaultSegs, 48);
+    EXPECT_TRUE(files.files.empty());
+}
+
+TEST_F(OptionsFile, AnOldFileThatCannotBeReplacedOrKeptStays) {
+    for (const std::string& unwritable : {std::string(Path), std::string(Path) + ".bak"}) {
+        files.files = {{Path, "3.a\r\n"}};
+        files.unwritable = {unwritable};
+        ui.messages.clear();
+        Read();
+        EXPECT_EQ(ui.Texts(), (std::vector<std::string>{"\r\n The Settings.ini file is being updated.",
+                                                        unwritable + ": cannot be written"}));
+        EXPECT_EQ(files.files[Path], "3.a\r\n");
+        EXPECT_EQ(options.DefaultSegs, 24);
+    }
+}
+
+TEST_F(OptionsFile, TakesUnixLineEndsAndALastLineWithoutOne) {
+    std::vector<std::string> lines = DefaultLines();
+    lines[1] = "12";
+    lines[24] = "1.5";
+    std::string text = Joined(lines, "\n");
+    text.pop_back();
+    files.files[Path] = text;
+    Read();
+    EXPECT_EQ(options.DefaultSegs, 12);
+    EXPECT_EQ(options.Language, "English");
+    EXPECT_EQ(options.PrintYCalibration, 1.5);
+    EXPECT_EQ(files.files[Path], text);
+}
+
+TEST_F(OptionsFile, TrimsLayerNamesButNotTheLanguage) {
+    std::vector<std::string> lines = DefaultLines();
+    lines[3] = "English ";
+    for (std::size_t i = 11; i <= 15; ++i) {
+        lines[i] = "  My " + lines[i] + " \t";
+    }
+    files.files[Path] = Joined(lines);
+    Read();
+    EXPECT_EQ(options.Language, "English ");
+    EXPECT_EQ(options.DXFTextLayer, "My TextLayer");
+    EXPECT_EQ(options.DXFFoldLayer, "My FoldLayer");
+    EXPECT_EQ(options.DXFCutLayer, "My CutLayer");
+    EXPECT_EQ(options.DXFBorderLayer, "My BorderLayer");
+    EXPECT_EQ(options.DXFDimensionLayer, "My DimensionLayer");
+}
+
+TEST_F(OptionsFile, ReadsNamesFromTheTimeBeforeUnicode) {
+    std::vector<std::string> lines = DefaultLines();
+    lines[13] =
+        "Au\xDF"
+        "en";
+    files.files[Path] = Joined(lines);
+    Read();
+    EXPECT_EQ(options.DXFCutLayer,
+              "Au\xC3\x9F"
+              "en");
+}
+
+TEST_F(OptionsFile, DropsTheTwoFormerLinesAndWhatFollowsTheLast) {
+    std::vector<std::string> lines = DefaultLines();
+    lines[17] = "anything";
+    lines[18] = "";
+    lines.emplace_back("and more");
+    files.files[Path] = Joined(lines);
+    EXPECT_NO_THROW(Read());
+    EXPECT_EQ(options.PolyMode, 0);
+}
+
+TEST_F(OptionsFile, AWordInLine20LeavesThePolyMode) {
+    std::vector<std::string> lines = DefaultLines();
+    lines[19] = "polylines";
+    files.files[Path] = Joined(lines);
+    options.PolyMode = 1;
+    Read();
+    EXPECT_EQ(options.PolyMode, 1);
+}
+
+TEST_F(OptionsFile, IntegersAreRoundedHalvesToEven) {
+    std::vector<std::string> lines = DefaultLines();
+    lines[2] = "2.5";
+    lines[19] = "0.6";
+    files.files[Path] = Joined(lines);
+    Read();
+    EXPECT_EQ(options.Decimals, 2);
+    EXPECT_EQ(options.PolyMode, 1);
+}
+
+TEST_F(OptionsFile, AWordForANumberIsNamedWithItsFileAndLine) {
+    for (const unsigned line : {2U, 3U, 5U, 6U, 7U, 8U, 9U, 10U, 11U, 17U, 21U, 22U, 23U, 24U, 25U}) {
+        const std::string error = ErrorWithLine(line, " word ");
+        EXPECT_EQ(error, std::string(Path) + ", line " + std::to_string(line) + ": \"word\" is not a number");
+    }
+    EXPECT_EQ(ErrorWithLine(5, ""), std::string(Path) + ", line 5: \"\" is not a number");
+    EXPECT_EQ(ErrorWithLine(22, "inf"), std::string(Path) + ", line 22: \"inf\" is not a number");
+    EXPECT_EQ(ErrorWithLine(22, "1e999"), std::string(Path) + ", line 22: \"1e999\" is not a number");
+}
+
+struct Range {
+    std::size_t line;
+    std::vector<const char*> good;
+    std::vector<const char*> bad;
+};
+
+TEST_F(OptionsFile, ValuesThatWouldBreakLaterAreRefused) {
+    const std::vector<Range> ranges = {{2, {"1", "100000", "24.0"}, {"0", "-1", "100001", "24.5", "1e300"}},
+                                       {3, {"0", "5"}, {"-1", "6", "99999"}},
+                                       {5, {"0.1", "0", "-1", "1e38"}, {"1e39", "-1e39"}},
+                                       {6, {"0", "16777215", "-1"}, {"2147483648", "1e300"}},
+                                       {17, {"1e-9", "1e38"}, {"0", "-1", "1e39"}},
+                                       {20, {"1", "32767", "-32768"}, {"32768", "-32769", "150000"}},
+                                       {21, {"1", "2"}, {"40000"}},
+                                       {22, {"0", "1", "-0.5", "1e300"}, {}},
+                                       {23, {"5", "6"}, {"70000"}},
+                                       {24, {"0.5", "2"}, {"0", "-1"}},
+                                       {25, {"0.5", "2"}, {"0", "-1"}}};
+    for (const Range& range : ranges) {
+        for (const char* text : range.good) {
+            EXPECT_EQ(ErrorWithLine(range.line, text), "") << range.line;
+        }
+        for (const char* text : range.bad) {
+            const std::string start =
+                std::string(Path) + ", line " + std::to_string(range.line) + ": \"" + text + "\" ";
+            EXPECT_EQ(ErrorWithLine(range.line, text).substr(0, start.size()), start) << text;
+        }
+    }
+}
+
+TEST_F(OptionsFile, TooFewLinesAreAnErrorWhereverItEnds) {
+    const std::vector<std::string> lines = DefaultLines();
+    for (std::size_t count = 1; count < lines.size(); ++count) {
+        const std::string error =
+            ErrorOf(Joined({lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(count)}));
+        EXPECT_EQ(error,
+                  std::string(Path) + ", line " + std::to_string(count + 1) + ": the file ends before it");
+    }
+}
+
+TEST_F(OptionsFile, AFileThatCannotBeReadIsAFileError) {
+    files.files[Path] = Joined(DefaultLines());
+    files.unreadable.insert(Path);
+    EXPECT_THROW(Read(), FileError);
+    EXPECT_EQ(files.files[Path], Joined(DefaultLines()));
+}
+
+TEST_F(OptionsFile, AFileOfMoreThan64KibibytesIsNotRead) {
+    const std::string whole = Joined(DefaultLines());
+    files.files[Path] = whole + std::string(64 * 1024 - whole.size(), ' ');
+    EXPECT_NO_THROW(Read());
+    files.files[Path] += ' ';
+    EXPECT_THROW(Read(), FileError);
+    EXPECT_TRUE(files.writes.empty());
+}
+
+TEST_F(OptionsFile, WritingToAFullDiskIsAFileError) {
+    files.unwritable.insert(Path);
+    EXPECT_THROW(WriteIniFile(options, files, '.'), FileError);
+}
+
+}  // namespace
+}  // namespace korvet

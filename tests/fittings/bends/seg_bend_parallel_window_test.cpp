@@ -1,0 +1,259 @@
+// The window of the segmented bend: how it starts, every limit in its place, the choice of the pattern, the
+// sizes that it hands on, text lines. The sample bends have a diameter of 200.
+#include <gtest/gtest.h>
+
+#include "core/constants.h"
+#include "core/math_module.h"
+#include "fittings/bends/seg_bend_parallel.h"
+#include "tests/support/refusals.h"
+#include "window/views.h"
+
+namespace korvet {
+namespace {
+
+const std::string AboveZero = "This dimension must be greater than 0";
+const std::string GreaterThan = "This dimension must be greater than ";
+const std::string AtLeast = "This dimension must be equal to or greater than ";
+const std::string AtMost = "This dimension must be equal to or less than ";
+const std::string Whole = "This dimension must be an integer (whole number)";
+const std::string NoRoom = "This dimension must be increased to allow for material thickness";
+constexpr const char* Category = "Segmented Bend";
+
+const CSegBendParallel& Built(CFittingWindow& window) {
+    EXPECT_TRUE(window.BuildFitting());
+    return window.fitting->As<CSegBendParallel>();
+}
+
+TEST(SegBendWindow, StartsAsABendDoes) {
+    TestShell shell;
+    const auto window = shell.Open(Category);
+    EXPECT_EQ(window->Row().helpContextId, 2160);
+    EXPECT_EQ(window->dtype, 0);
+    EXPECT_EQ(window->miscellaneous, 0);
+    EXPECT_TRUE(window->Table().multiple);
+    EXPECT_EQ(window->settings.LapEnable, SeamLapOnly);
+    EXPECT_FALSE(window->settings.JoinAngleDisable);
+    EXPECT_TRUE(window->settings.TemplateTypeEnabled);
+    EXPECT_TRUE(window->settings.KerfEnabled);
+    EXPECT_FALSE(window->settings.HalfPatternDisable);
+    const OptionGroup& patterns = window->controls.options.optPatternSelect;
+    EXPECT_EQ(patterns.captions, (std::vector<std::string>{"Full Pattern", "First, Last, one intermediate"}));
+    EXPECT_FALSE(patterns.selected);
+    ASSERT_EQ(window->controls.txtParameter.size(), 11U);
+    for (const TextBox& box : window->controls.txtParameter) {
+        EXPECT_EQ(box.text, "0");
+    }
+}
+
+class SegBendRefusals : public testing::TestWithParam<Refusal> {};
+
+TEST_P(SegBendRefusals, NameTheBox) {
+    TestShell shell;
+    const auto window = shell.OpenSample(Category, GetParam().type);
+    TypeBoxes(*window, GetParam().boxes);
+    EXPECT_FALSE(window->BuildFitting());
+    ExpectUserError(shell.ui, *window, GetParam().message, GetParam().box);
+}
+
+// The box that is refused later in the order is wrong too.
+INSTANTIATE_TEST_SUITE_P(Quarter, SegBendRefusals,
+                         testing::Values(Refusal{1, {{0, "-200"}, {1, "-200"}}, NoRoom, 0},
+                                         Refusal{1, {{1, "100"}, {2, "2.5"}}, GreaterThan + "100", 1},
+                                         Refusal{1, {{2, "1.5"}, {3, "-1"}}, Whole, 2},
+                                         Refusal{1, {{2, "2.5"}, {3, "-1"}}, Whole, 2},
+                                         Refusal{1, {{2, "1"}, {3, "-1"}}, AtLeast + "2", 2},
+                                         Refusal{1, {{2, "-5"}}, AtLeast + "2", 2},
+                                         Refusal{1, {{3, "-0.1"}, {4, "-1"}}, AtLeast + "0", 3},
+                                         Refusal{1, {{4, "-0.1"}}, AtLeast + "0", 4}));
+
+INSTANTIATE_TEST_SUITE_P(AnyAngle, SegBendRefusals,
+                         testing::Values(Refusal{2, {{5, "-200"}, {6, "0"}}, NoRoom, 5},
+                                         Refusal{2, {{6, "100"}, {7, "0"}}, GreaterThan + "100", 6},
+                                         Refusal{2, {{7, "360.1"}, {8, "-1"}}, AtMost + "360", 7},
+                                         Refusal{2, {{7, "0"}, {8, "-1"}}, AboveZero, 7},
+                                         Refusal{2, {{7, "-60"}, {8, "-1"}}, AboveZero, 7},
+                                         Refusal{2, {{8, "-0.1"}, {9, "-1"}}, AtLeast + "0", 8},
+                                         Refusal{2, {{9, "-0.1"}, {10, "1.5"}}, AtLeast + "0", 9},
+                                         Refusal{2, {{10, "3.2"}}, Whole, 10},
+                                         Refusal{2, {{10, "1"}}, AtLeast + "2", 10}));
+
+TEST(SegBendLimits, TheLimitsThemselvesAreAllowed) {
+    const std::vector<std::pair<int, BoxTexts>> cases = {{1, {{1, "100.1"}}},
+                                                         {1, {{2, "2"}}},
+                                                         {1, {{3, "0"}, {4, "0"}}},
+                                                         {2, {{6, "100.1"}}},
+                                                         {2, {{7, "360"}, {10, "12"}}},
+                                                         {2, {{7, "0.1"}}},
+                                                         {2, {{8, "0"}, {9, "0"}, {10, "2"}}}};
+    for (const auto& [type, boxes] : cases) {
+        TestShell shell;
+        const auto window = shell.OpenSample(Category, type);
+        TypeBoxes(*window, boxes);
+        EXPECT_TRUE(window->BuildFitting());
+        EXPECT_TRUE(shell.ui.messages.empty());
+        window->fitting->DevelopModel();
+    }
+}
+
+TEST(SegBendLimits, WallMustFitIntoThePipe) {
+    for (const auto& [type, box] : {std::pair{1, 0}, {2, 5}}) {
+        TestShell shell;
+        const auto window = shell.OpenSample(Category, type);
+        window->settings.InOutMean = OutsideDimension;
+        window->settings.Thickness = 100;
+        EXPECT_TRUE(window->BuildFitting());
+        // The bend radius is wrong as well, but comes after.
+        TypeBoxes(*window, {{box + 1, "1"}});
+        window->settings.Thickness = 100.1;
+        EXPECT_FALSE(window->BuildFitting());
+        ExpectUserError(shell.ui, *window, NoRoom, box);
+    }
+}
+
+TEST(SegBendLimits, BendRadiusIsHeldAgainstTheMeanRadius) {
+    TestShell shell;
+    const auto window = shell.OpenSample(Category, 1);
+    window->settings.Thickness = 10;
+    window->settings.InOutMean = InsideDimension;
+    TypeBoxes(*window, {{1, "105"}});
+    EXPECT_FALSE(window->BuildFitting());
+    ExpectUserError(shell.ui, *window, GreaterThan + "105", 1);
+}
+
+TEST(SegBendLimits, MorePiecesThanCanBeCountedAreNotMade) {
+    TestShell shell;
+    const auto window = shell.OpenSample(Category, 1);
+    TypeBoxes(*window, {{2, "32769"}});
+    window->ClickView(0);
+    EXPECT_FALSE(window->hasModel);
+    ASSERT_EQ(shell.ui.messages.size(), 1U);
+    EXPECT_EQ(shell.ui.messages[0].text, "This fitting cannot be made with these sizes");
+    EXPECT_EQ(shell.ui.messages[0].detail, "a bend has 32768 segments at most");
+    TypeBoxes(*window, {{2, "32768"}});
+    EXPECT_EQ(Built(*window).BendSegments, 32767);
+}
+
+TEST(SegBendLimits, ManyPiecesOfManyFoldLinesAreNotMade) {
+    TestShell shell;
+    const auto window = shell.OpenSample(Category, 1);
+    window->settings.segs = 100000;
+    // A piece has 200,001 stations, and all pieces together may have two million.
+    TypeBoxes(*window, {{2, "9"}});
+    EXPECT_EQ(Built(*window).BendSegments, 8);
+    TypeBoxes(*window, {{2, "10"}});
+    window->ClickView(0);
+    EXPECT_FALSE(window->hasModel);
+    ASSERT_EQ(shell.ui.messages.size(), 1U);
+    EXPECT_EQ(shell.ui.messages[0].text, "This fitting cannot be made with these sizes");
+    EXPECT_EQ(
+        shell.ui.messages[0].detail,
+        "so many segments with 100000 fold lines each are too much: make one of the two numbers smaller");
+}
+
+TEST(SegBendSizes, ComeFromTheBoxesOfTheType) {
+    TestShell shell;
+    const auto quarter = shell.OpenSample(Category, 1);
+    EXPECT_EQ(Built(*quarter).BendAngle, QuarterTurn);
+    EXPECT_EQ(Built(*quarter).BaseRad, 100);
+    EXPECT_EQ(Built(*quarter).BendRadius, 300);
+    EXPECT_EQ(Built(*quarter).BendSegments, 4);
+    EXPECT_EQ(Built(*quarter).Length1, 100);
+    EXPECT_EQ(Built(*quarter).Length2, 150);
+    EXPECT_EQ(Built(*quarter).inputs.Dtype, 0);
+    const auto any = shell.OpenSample(Category, 2);
+    EXPECT_DOUBLE_EQ(Built(*any).BendAngle, DegToRad(60));
+    EXPECT_EQ(Built(*any).BendRadius, 400);
+    EXPECT_EQ(Built(*any).BendSegments, 3);
+    EXPECT_EQ(Built(*any).Length1, 100);
+    EXPECT_EQ(Built(*any).Length2, 120);
+    EXPECT_EQ(Built(*any).inputs.Dtype, 1);
+}
+
+TEST(SegBendSizes, MaterialAndKerfComeFromTheSettings) {
+    TestShell shell;
+    for (const int type : {1, 2}) {
+        const auto window = shell.OpenSample(Category, type);
+        window->settings.Thickness = 4;
+        window->settings.InOutMean = OutsideDimension;
+        window->settings.TemplateType = 1;
+        window->settings.KerfSpacing = 12.5;
+        const CSegBendParallel& bend = Built(*window);
+        EXPECT_EQ(bend.BaseRad, 98);
+        EXPECT_EQ(bend.Thickness, 4);
+        EXPECT_EQ(bend.TemplateType, 1);
+        EXPECT_EQ(bend.KerfSpacing, 12.5);
+    }
+}
+
+TEST(SegBendPattern, MustBeChosenForAPatternView) {
+    TestShell shell;
+    for (const int type : {1, 2}) {
+        const auto window = shell.OpenSample(Category, type);
+        window->ClickView(PatternButton);
+        ExpectUserError(shell.ui, *window, "A pattern must be selected");
+        EXPECT_EQ(window->views->Count(), 0U);
+        shell.ui.messages.clear();
+    }
+}
+
+TEST(SegBendPattern, ComesAfterAllLimits) {
+    TestShell shell;
+    const auto quarter = shell.OpenSample(Category, 1);
+    TypeBoxes(*quarter, {{4, "-1"}});
+    quarter->ClickView(PatternButton);
+    ExpectUserError(shell.ui, *quarter, AtLeast + "0", 4);
+    shell.ui.messages.clear();
+    const auto any = shell.OpenSample(Category, 2);
+    TypeBoxes(*any, {{10, "1"}});
+    any->ClickView(PatternButton);
+    ExpectUserError(shell.ui, *any, AtLeast + "2", 10);
+}
+
+TEST(SegBendPattern, NeedNotBeChosenForTheModel) {
+    TestShell shell;
+    const auto window = shell.OpenSample(Category, 1);
+    window->ClickView(0);
+    EXPECT_TRUE(window->hasModel);
+    EXPECT_TRUE(shell.ui.messages.empty());
+    EXPECT_EQ(window->fitting->Results().ModelSurfaceList.Count(), 5U);
+}
+
+TEST(SegBendPattern, ChoiceTellsThePiecesLaidOut) {
+    TestShell shell;
+    const auto window = shell.OpenSample(Category, 1);
+    window->SelectPattern(0);
+    EXPECT_EQ(window->miscellaneous, 1);
+    window->ClickView(PatternButton);
+    EXPECT_TRUE(shell.ui.messages.empty());
+    EXPECT_EQ(window->fitting->Results().PatternSurfaceList.Count(), 5U);
+    window->SelectPattern(1);
+    EXPECT_EQ(window->miscellaneous, 2);
+    window->Redraw();
+    EXPECT_EQ(window->fitting->Results().PatternSurfaceList.Count(), 3U);
+    EXPECT_TRUE(shell.ui.messages.empty());
+}
+
+TEST(SegBendTextBlock, TellsTheSizesAsTyped) {
+    const std::map<int, std::vector<std::string>> expected = {
+        {1,
+         {"Base diameter = 200", "Bend radius = 300", "Bend angle = 90", "Length 1 = 100", "Length 2 = 150",
+          "Number of segments = 5"}},
+        {2,
+         {"Base diameter = 200", "Bend radius = 400", "Bend angle = 60", "Length 1 = 100", "Length 2 = 120",
+          "Number of segments = 4"}}};
+    for (const auto& [type, sizes] : expected) {
+        TestShell shell;
+        const auto window = shell.OpenSample(Category, type);
+        window->settings.Thickness = 1.5;
+        window->settings.PositionString = "inside";
+        ASSERT_TRUE(window->BuildFitting());
+        std::vector<std::string> lines = {"", ""};
+        lines.insert(lines.end(), sizes.begin(), sizes.end());
+        // No line tells which side of the material the sizes mean.
+        lines.insert(lines.end(), {"Thickness = 1.5", "Segmented Bend  Full pattern  21 Nov 2026"});
+        EXPECT_EQ(TextBlock(*window), lines);
+    }
+}
+
+}  // namespace
+}  // namespace korvet

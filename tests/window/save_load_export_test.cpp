@@ -1,0 +1,354 @@
+// What a window writes and reads: parameter files, and the choices of an export.
+#include <gtest/gtest.h>
+
+#include "core/constants.h"
+#include "frame/catalogue.h"
+#include "tests/support/test_context.h"
+#include "window/views.h"
+
+namespace korvet {
+namespace {
+
+class SaveLoadTest : public testing::Test {
+  protected:
+    void SetUp() override { AcceptExports(shell.ui); }
+
+    /// A saved pattern of the cone's sample, as the bytes of its file.
+    std::string SavedCone() {
+        const auto window = shell.OpenSample("Right Cone", 2);
+        window->ClickView(PatternButton);
+        EXPECT_TRUE(window->SaveFile("cone.Kvt"));
+        return shell.files.files["cone.Kvt"];
+    }
+
+    /// The file with one line (from 1) replaced.
+    static std::string WithLine(const std::string& text, int number, const std::string& line) {
+        std::size_t at = 0;
+        for (int i = 1; i < number; ++i) {
+            at = text.find("\r\n", at) + 2;
+        }
+        return text.substr(0, at) + line + text.substr(text.find("\r\n", at));
+    }
+
+    TestShell shell;
+};
+
+TEST_F(SaveLoadTest, AFileComesBackAsItWasSaved) {
+    const auto window = shell.OpenSample("Truncated Right Cone", 3);
+    window->settings.Thickness = 2;
+    window->settings.JoinAngle = 45;
+    window->settings.JoinType = 1;
+    window->settings.LapSize2 = 4;
+    window->comment2 = "second";
+    window->display.FrameRequested = true;
+    window->display.MovePoint2 = {5, 6, 0, 0};
+    window->display.RotationAngle = 0.25;
+    window->display.LabelPoint = C3DPoint{1, 2, 0, 0};
+    window->dimensions->Add({1, 1, 2, 1, 3, 4});
+    window->ClickView(PatternButton);
+    ASSERT_TRUE(window->SaveFile("a.Kvt"));
+
+    const auto loaded = shell.Open("Truncated Right Cone");
+    ASSERT_TRUE(loaded->LoadFile("a.Kvt"));
+    EXPECT_EQ(loaded->dtype, 2);
+    EXPECT_EQ(loaded->controls.lblDtype.caption, "3");
+    EXPECT_TRUE(loaded->controls.Picture1[2].visible);
+    EXPECT_FALSE(loaded->controls.Picture1[0].visible);
+    EXPECT_EQ(loaded->controls.caption, "a.Kvt");
+    EXPECT_EQ(loaded->comment2, "second");
+    EXPECT_TRUE(loaded->hasModel);
+    EXPECT_TRUE(InPatternView(*loaded->views));
+    ASSERT_TRUE(loaded->SaveFile("b.Kvt"));
+    // The view may have been zoomed to the extents; everything else is the same.
+    EXPECT_EQ(shell.files.files["a.Kvt"].substr(shell.files.files["a.Kvt"].find("End ViewPoint")),
+              shell.files.files["b.Kvt"].substr(shell.files.files["b.Kvt"].find("End ViewPoint")));
+}
+
+TEST_F(SaveLoadTest, TheRotationPointOfAFileIsItsFirstMovePoint) {
+    const auto window = shell.OpenSample("Right Cone", 2);
+    window->display.MovePoint1 = {7, 8, 0, 0};
+    window->display.RotationPoint = {1, 1, 0, 0};
+    window->ClickView(PatternButton);
+    ASSERT_TRUE(window->SaveFile("a.Kvt"));
+    const auto loaded = shell.Open("Right Cone");
+    ASSERT_TRUE(loaded->LoadFile("a.Kvt"));
+    EXPECT_EQ(loaded->display.RotationPoint.x, 7);
+    EXPECT_EQ(loaded->display.RotationPoint.y, 8);
+}
+
+TEST_F(SaveLoadTest, AFileWithoutDimensionsLeavesThoseOfTheWindow) {
+    SavedCone();
+    const auto window = shell.Open("Right Cone");
+    window->dimensions->Add({1, 1, 2, 1, 3, 4});
+    ASSERT_TRUE(window->LoadFile("cone.Kvt"));
+    EXPECT_EQ(window->dimensions->Count(), 1U);
+}
+
+TEST_F(SaveLoadTest, ALoadClosesTheSharedSettingsDialog) {
+    SavedCone();
+    shell.patternSettingsDialog.optJoinType.selected = PatternSettingsDialog::Lap;
+    const auto window = shell.Open("Right Cone");
+    ASSERT_TRUE(window->LoadFile("cone.Kvt"));
+    EXPECT_EQ(shell.patternSettingsDialog.optJoinType.selected, PatternSettingsDialog::Butt);
+}
+
+TEST_F(SaveLoadTest, AFaultyFileIsToldAndTheCaptionStays) {
+    const std::string good = SavedCone();
+    for (const auto& [line, text] : {std::pair{17, "0"}, {3, "3"}, {3, "-1"}, {16, "nan"}, {1, "Other"}}) {
+        shell.files.files["bad.Kvt"] = WithLine(good, line, text);
+        const auto window = shell.Open("Right Cone");
+        const std::string caption = window->controls.caption;
+        shell.ui.messages.clear();
+        EXPECT_FALSE(window->LoadFile("bad.Kvt"));
+        ASSERT_FALSE(shell.ui.messages.empty());
+        EXPECT_EQ(shell.ui.messages.back().text, "Error loading parameter file");
+        EXPECT_EQ(shell.ui.messages.back().style, PlainBox);
+        EXPECT_EQ(shell.ui.messages.back().detail.find("line " + std::to_string(line)), 0U);
+        EXPECT_EQ(shell.ui.messages.size(), line == 1 ? 2U : 1U);
+        EXPECT_EQ(shell.ui.messages.front().text,
+                  line == 1 ? "Not a valid " : "Error loading parameter file");
+        EXPECT_EQ(window->controls.caption, caption);
+        EXPECT_EQ(window->views->Count(), 0U);
+    }
+}
+
+TEST_F(SaveLoadTest, ControlsFilledBeforeAFaultStayFilled) {
+    const std::string good = SavedCone();
+    const std::size_t rotation = good.find("Start Rotation");
+    shell.files.files["bad.Kvt"] = good.substr(0, rotation);
+    const auto window = shell.Open("Right Cone");
+    EXPECT_FALSE(window->LoadFile("bad.Kvt"));
+    EXPECT_EQ(window->controls.txtParameter[3].text, "300");
+    EXPECT_EQ(window->controls.txtParameter[3].textColor, Red);
+}
+
+TEST_F(SaveLoadTest, AMissingFileIsTold) {
+    const auto window = shell.Open("Right Cone");
+    EXPECT_FALSE(window->LoadFile("none.Kvt"));
+    EXPECT_EQ(shell.ui.messages.at(0).detail, "none.Kvt: no such file");
+}
+
+TEST_F(SaveLoadTest, ALoadedBoxThatIsNoNumberIsTestedLikeTyping) {
+    const std::string good = SavedCone();
+    std::string bad = good;
+    bad.replace(bad.find("\r\n250\r\n") + 2, 3, "abc");
+    shell.files.files["bad.Kvt"] = bad;
+    const auto window = shell.Open("Right Cone");
+    EXPECT_TRUE(window->LoadFile("bad.Kvt"));
+    const std::vector<std::string> expected = {"Not a valid number", "Not a valid number",
+                                               "The item has no extents"};
+    EXPECT_EQ(shell.ui.Texts(), expected);
+    EXPECT_FALSE(window->hasModel);
+}
+
+TEST_F(SaveLoadTest, AFailedSaveIsToldAndLeavesCaptionAndFile) {
+    const auto window = shell.OpenSample("Right Cone", 2);
+    window->ClickView(PatternButton);
+    shell.files.files["a.Kvt"] = "old";
+    shell.files.unwritable.insert("a.Kvt");
+    EXPECT_FALSE(window->SaveFile("a.Kvt"));
+    EXPECT_EQ(shell.ui.messages.at(0).text, "a.Kvt: cannot be written");
+    EXPECT_EQ(shell.ui.messages.at(0).style, PlainBox);
+    EXPECT_EQ(window->controls.caption, "Development 1");
+    EXPECT_EQ(shell.files.files["a.Kvt"], "old");
+}
+
+TEST_F(SaveLoadTest, EveryPageOfEveryBuiltWindowHasAValidSample) {
+    int pages = 0;
+    for (const CatalogueRow& row : Catalogue) {
+        if (row.table == nullptr) {
+            continue;
+        }
+        for (std::size_t type = 1; type <= row.table->pages.size(); ++type, ++pages) {
+            const auto window = shell.OpenSample(std::string(row.category), static_cast<int>(type));
+            window->ClickView(0);
+            EXPECT_GT(window->display.Surfaces.Count(), 0U) << row.category << " type " << type;
+            if (!window->controls.options.optPatternSelect.captions.empty()) {
+                window->SelectPattern(0);
+            }
+            window->ClickView(PatternButton);
+            EXPECT_TRUE(window->hasModel) << row.category << " type " << type;
+        }
+    }
+    EXPECT_GT(pages, 0);
+    EXPECT_TRUE(shell.ui.messages.empty());
+}
+
+class ExportTest : public SaveLoadTest {
+  protected:
+    /// What the export dialog shows when the user gets to see it.
+    DxfOptionsDialog Shown(CFittingWindow& window, ExportMode mode = ExportMode::Dxf) {
+        DxfOptionsDialog shown;
+        shell.ui.onDxfOptions = [&](DxfOptionsDialog& dialog) { shown = dialog; };
+        window.Export("out.dxf", mode);
+        AcceptExports(shell.ui);
+        return shown;
+    }
+
+    static bool IsOffered(const DxfOptionsDialog& dialog, std::size_t index) {
+        EXPECT_EQ(dialog.chkDXFOutput.at(index).checked, dialog.chkDXFOutput.at(index).enabled);
+        return dialog.chkDXFOutput.at(index).checked;
+    }
+};
+
+TEST_F(ExportTest, OffersWhatThePatternShows) {
+    const auto window = shell.OpenSample("Right Cone", 2);
+    window->ClickView(PatternButton);
+    DxfOptionsDialog dialog = Shown(*window);
+    EXPECT_EQ(dialog.caption, "Exporting out.dxf");
+    EXPECT_EQ(dialog.lblExportType, "Exporting unfolded pattern");
+    EXPECT_TRUE(IsOffered(dialog, DxfOptionsDialog::Outlines));
+    EXPECT_TRUE(IsOffered(dialog, DxfOptionsDialog::BendLines));
+    EXPECT_FALSE(IsOffered(dialog, DxfOptionsDialog::Diagonals));
+    EXPECT_FALSE(IsOffered(dialog, DxfOptionsDialog::Dimensions));
+    EXPECT_FALSE(IsOffered(dialog, DxfOptionsDialog::Label));
+    EXPECT_FALSE(dialog.chkSurfaceMesh.enabled);
+    EXPECT_TRUE(dialog.optPolyMode.IsOn(0));
+    window->display.DiagonalsRequested = true;
+    EXPECT_TRUE(IsOffered(Shown(*window), DxfOptionsDialog::Diagonals));
+    EXPECT_FALSE(IsOffered(Shown(*window), DxfOptionsDialog::Dimensions));
+    window->display.LabelPoint = C3DPoint{};
+    EXPECT_TRUE(IsOffered(Shown(*window), DxfOptionsDialog::Label));
+    for (bool CObjectDisplay::*request :
+         {&CObjectDisplay::TrueLengthsRequested, &CObjectDisplay::CoordGridRequested,
+          &CObjectDisplay::CoordTableRequested, &CObjectDisplay::FrameRequested}) {
+        window->display.*request = true;
+        EXPECT_TRUE(IsOffered(Shown(*window), DxfOptionsDialog::Dimensions));
+        window->display.*request = false;
+    }
+    window->dimensions->Add({1, 1, 2, 1, 1, 1});
+    EXPECT_TRUE(IsOffered(Shown(*window), DxfOptionsDialog::Dimensions));
+    shell.options.PolyMode = 1;
+    EXPECT_TRUE(Shown(*window).optPolyMode.IsOn(1));
+}
+
+TEST_F(ExportTest, APlotterTakesNeitherPolylinesNorText) {
+    const auto window = shell.OpenSample("Right Cone", 2);
+    window->display.FrameRequested = window->display.DiagonalsRequested = true;
+    window->display.LabelPoint = C3DPoint{};
+    shell.options.PolyMode = 1;
+    for (const int button : {PatternButton, 0}) {
+        window->ClickView(button);
+        const DxfOptionsDialog dialog = Shown(*window, ExportMode::Plotter);
+        EXPECT_TRUE(dialog.optPolyMode.IsOn(0));
+        EXPECT_FALSE(dialog.optPolyMode.enabled);
+        EXPECT_EQ(IsOffered(dialog, DxfOptionsDialog::Diagonals), button == PatternButton);
+        EXPECT_FALSE(IsOffered(dialog, DxfOptionsDialog::Dimensions));
+        EXPECT_FALSE(IsOffered(dialog, DxfOptionsDialog::Label));
+    }
+}
+
+TEST_F(ExportTest, OtherTargetsThanDxfAreRefusedForNow) {
+    const auto window = shell.OpenSample("Right Cone", 2);
+    window->ClickView(PatternButton);
+    EXPECT_FALSE(window->Export("plot", ExportMode::Plotter));
+    EXPECT_EQ(shell.ui.Texts(), (std::vector<std::string>{"This version writes DXF files only"}));
+    EXPECT_TRUE(shell.files.files.empty());
+}
+
+TEST_F(ExportTest, OffersAMeshForAModel) {
+    const auto window = shell.OpenSample("Right Cone", 2);
+    window->ClickView(0);
+    window->display.DiagonalsRequested = true;
+    const DxfOptionsDialog dialog = Shown(*window);
+    EXPECT_EQ(dialog.lblExportType, "Exporting wire-frame model");
+    EXPECT_TRUE(dialog.chkSurfaceMesh.enabled);
+    EXPECT_FALSE(IsOffered(dialog, DxfOptionsDialog::Diagonals));
+}
+
+TEST_F(ExportTest, WritesTheFileAndSaysSo) {
+    const auto window = shell.OpenSample("Right Cone", 2);
+    window->ClickView(PatternButton);
+    EXPECT_TRUE(window->Export("out.dxf", ExportMode::Dxf));
+    ASSERT_EQ(shell.ui.messages.size(), 1U);
+    EXPECT_EQ(shell.ui.messages[0].text, "DXF successfully saved to: out.dxf");
+    EXPECT_EQ(shell.ui.messages[0].style, InformationBox);
+    const std::string& dxf = shell.files.files["out.dxf"];
+    EXPECT_EQ(dxf.find("0\r\nSECTION\r\n2\r\nENTITIES\r\n"), 0U);
+    EXPECT_NE(dxf.find("ARC\r\n8\r\nCutLayer\r\n"), std::string::npos);
+    EXPECT_NE(dxf.find("LINE\r\n8\r\nFoldLayer\r\n"), std::string::npos);
+}
+
+TEST_F(ExportTest, DiagonalsFollowTheDisplayWhenDimensionsGoOut) {
+    const auto window = shell.OpenSample("Right Cone", 2);
+    window->display.TrueLengthsRequested = true;
+    window->ClickView(PatternButton);
+    shell.ui.onDxfOptions = [](DxfOptionsDialog& dialog) {
+        dialog.chkDXFOutput[DxfOptionsDialog::Diagonals].checked = true;
+        dialog.lblStatus = "OK";
+    };
+    ASSERT_TRUE(window->Export("out.dxf", ExportMode::Dxf));
+    EXPECT_EQ(shell.files.files["out.dxf"].find("LINE\r\n8\r\nDimensionLayer"), std::string::npos);
+    shell.ui.onDxfOptions = [](DxfOptionsDialog& dialog) {
+        dialog.chkDXFOutput[DxfOptionsDialog::Diagonals].checked = true;
+        dialog.chkDXFOutput[DxfOptionsDialog::Dimensions].checked = false;
+        dialog.lblStatus = "OK";
+    };
+    ASSERT_TRUE(window->Export("out.dxf", ExportMode::Dxf));
+    EXPECT_NE(shell.files.files["out.dxf"].find("LINE\r\n8\r\nDimensionLayer"), std::string::npos);
+}
+
+TEST_F(ExportTest, ALabelWithItsCommentsGoesThroughTheFileIntoTheDrawingUntilItIsTakenAway) {
+    auto window = shell.OpenSample("Right Cone", 2);
+    window->ClickView(PatternButton);
+    const auto labelDialog = [this](CFittingWindow& labelled, bool shown) {
+        shell.ui.onLabel = [shown](LabelDialog& dialog) {
+            dialog.txtLabelItem[0].text = "Order 7";
+            dialog.txtLabelItem[1].text = "two off";
+            dialog.chkDisplayLabel.checked = shown;
+            dialog.lblStatus = "OK";
+        };
+        labelled.PlaceLabel();
+    };
+    labelDialog(*window, true);
+    window->display.LabelPoint = C3DPoint{12, 34, 0, 0};
+    ASSERT_TRUE(window->SaveFile("labelled.Kvt"));
+
+    const auto loaded = shell.Open("Right Cone");
+    ASSERT_TRUE(loaded->LoadFile("labelled.Kvt"));
+    ASSERT_TRUE(loaded->Export("labelled.dxf", ExportMode::Dxf));
+    const std::string& drawing = shell.files.files["labelled.dxf"];
+    const std::size_t first = drawing.find("\r\n1\r\nOrder 7\r\n");
+    const std::size_t second = drawing.find("\r\n1\r\ntwo off\r\n");
+    const std::size_t third = drawing.find("\r\n1\r\nBase diameter = 300\r\n");
+    ASSERT_NE(third, std::string::npos);
+    EXPECT_LT(first, second);
+    EXPECT_LT(second, third);
+
+    labelDialog(*loaded, false);
+    ASSERT_TRUE(loaded->SaveFile("bare.Kvt"));
+    EXPECT_NE(shell.files.files["bare.Kvt"].find("Start LabelPoint\r\nEnd LabelPoint"), std::string::npos);
+    EXPECT_NE(shell.files.files["bare.Kvt"].find("Order 7"), std::string::npos);
+    ASSERT_TRUE(loaded->Export("bare.dxf", ExportMode::Dxf));
+    EXPECT_EQ(shell.files.files["bare.dxf"].find("Order 7"), std::string::npos);
+}
+
+TEST_F(ExportTest, CancelWritesNothing) {
+    const auto window = shell.OpenSample("Right Cone", 2);
+    window->ClickView(PatternButton);
+    shell.ui.onDxfOptions = nullptr;
+    EXPECT_FALSE(window->Export("out.dxf", ExportMode::Dxf));
+    EXPECT_TRUE(shell.files.files.empty());
+    EXPECT_TRUE(shell.ui.messages.empty());
+}
+
+TEST_F(ExportTest, AFailureNamesTheStepItCameTo) {
+    shell.files.unwritable.insert("out.dxf");
+    shell.files.files["out.dxf"] = "old";
+    for (const auto& [button, step] : {std::pair{PatternButton, "7"}, {0, "4"}}) {
+        const auto window = shell.OpenSample("Right Cone", 2);
+        window->ClickView(button);
+        shell.ui.messages.clear();
+        EXPECT_FALSE(window->Export("out.dxf", ExportMode::Dxf));
+        ASSERT_EQ(shell.ui.messages.size(), 1U);
+        EXPECT_EQ(shell.ui.messages[0].text,
+                  std::string("A problem has occured creating the DXF file ") + step);
+        EXPECT_EQ(shell.ui.messages[0].style, PlainBox);
+        EXPECT_EQ(shell.ui.messages[0].detail, "out.dxf: cannot be written");
+        EXPECT_EQ(window->controls.mousePointer, Cursor::Default);
+    }
+    EXPECT_EQ(shell.files.files["out.dxf"], "old");
+}
+
+}  // namespace
+}  // namespace korvet
