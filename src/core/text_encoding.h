@@ -14,10 +14,6 @@ std::string DecodeText(std::string_view bytes);
 /// will not be taken for UTF-8 when they are read back, else UTF-8. Plain ASCII is the same in both.
 std::string EncodeText(std::string_view text);
 
-/// The UTF-16 units of a text, a character above U+FFFF as two. What is no valid UTF-8 is read as DecodeText
-/// reads it.
-std::u16string Utf16Units(std::string_view text);
-
 /// The text on one line: every control character becomes a blank.
 std::string OnOneLine(std::string_view text);
 
