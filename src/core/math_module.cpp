@@ -35,6 +35,19 @@ void SnapSide(double& side) {
     }
 }
 
+/// Snaps the sides of a triangle; whether none of them is 0.
+bool SnapSides(double& a, double& b, double& c) {
+    SnapSide(a);
+    SnapSide(b);
+    SnapSide(c);
+    return a != 0 && b != 0 && c != 0;
+}
+
+/// a^2 = b^2 + c^2 - 2 b c cos A
+double TriangleCosine(double a, double b, double c) {
+    return Quotient(b * b + c * c - a * a, (b + b) * c);
+}
+
 }  // namespace
 
 C3DPoint PolarPoint(const C3DPoint& p, double a, double d) {
@@ -100,14 +113,27 @@ double ArcSin(double x) {
 }
 
 double TriangleAngle(double& a, double& b, double& c) {
-    SnapSide(a);
-    SnapSide(b);
-    SnapSide(c);
-    if (a == 0 || b == 0 || c == 0) {
+    return SnapSides(a, b, c) ? ArcCos(TriangleCosine(a, b, c)) : 0;
+}
+
+/// tan(A / 2) = sqrt((s - b)(s - c) / (s (s - a))), with s half the perimeter and each factor doubled: sides
+/// that differ in their last digits alone still tell a small angle from none.
+double UnfoldingAngle(double& a, double& b, double& c) {
+    if (!SnapSides(a, b, c)) {
         return 0;
     }
-    // a^2 = b^2 + c^2 - 2 b c cos A
-    return ArcCos(Quotient(b * b + c * c - a * a, (b + b) * c));
+    const double cosine = TriangleCosine(a, b, c);
+    const double rounded = RoundPlaces(cosine, 8);
+    if (rounded != 1 && rounded != -1) {
+        return ArcCos(cosine);
+    }
+    const double perimeter = a + b + c;
+    const auto factor = [perimeter](double excess) { return excess < 1e-12 * perimeter ? 0 : excess; };
+    const double excessA = factor(b + c - a);
+    if (excessA == 0) {
+        return PI;
+    }
+    return 2 * std::atan2(std::sqrt(factor(a - b + c) * factor(a + b - c)), std::sqrt(perimeter * excessA));
 }
 
 double Hypotenuse(double a, double b) {

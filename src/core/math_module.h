@@ -48,6 +48,13 @@ double ArcSin(double x);
 /// variable too. Throws ArithmeticError when the sides cannot close.
 double TriangleAngle(double& a, double& b, double& c);
 
+/// The same angle for laying a surface flat, where the small angles of many narrow triangles add up:
+/// TriangleAngle's, but where its cosine rounds to 1 or -1 at 8 decimals (below 1e-04, above PI - 1e-04) it
+/// is worked out from the sides' differences and comes out right to the digits that they leave. A side within
+/// 1e-12 of the perimeter of the sum or the difference of the other two makes the angle 0 or PI. Sides snap
+/// as in TriangleAngle. Throws ArithmeticError when the sides cannot close.
+double UnfoldingAngle(double& a, double& b, double& c);
+
 /// sqrt(a * a + b * b).
 double Hypotenuse(double a, double b);
 

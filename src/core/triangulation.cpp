@@ -14,15 +14,15 @@ struct FlatRuling {
 /// The ruling of the next station. a and b are the ends of this station's ruling in space and ab its length,
 /// c and d the ends of the next. Both triangles are fanned from a: the one with c places the next start, the
 /// one with d the line on which the next ruling lies. Each turns clockwise from this ruling. A side within
-/// the snap of TriangleAngle is 0 from there on, ab for the caller too.
+/// the snap of UnfoldingAngle is 0 from there on, ab for the caller too.
 FlatRuling NextRuling(const FlatRuling& ruling, double& ab, const C3DPoint& a, const C3DPoint& b,
                       const C3DPoint& c, const C3DPoint& d) {
     double ac = Distance3D(a, c);
     double bd = Distance3D(b, d);
     double ad = Distance3D(a, d);
     double bc = Distance3D(b, c);
-    const double u = TriangleAngle(bc, ac, ab);
-    const double v = TriangleAngle(bd, ab, ad);
+    const double u = UnfoldingAngle(bc, ac, ab);
+    const double v = UnfoldingAngle(bd, ab, ad);
     const C3DPoint flatC = PolarPoint(ruling.start, ruling.direction - u, ac);
     const C3DPoint flatD = PolarPoint(ruling.start, ruling.direction - v, ad);
     return {flatC, PlanAngle(flatC, flatD)};

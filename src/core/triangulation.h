@@ -21,10 +21,10 @@ struct CTriangulation {
     /// Makes Pattern from ModelSurface: new lists of the same count n in the reverse order, station 1 of the
     /// model being station n of the pattern, flags with their points. The first ruling runs from BasePoint
     /// along +x and the strip turns clockwise from there. A side shorter than 1e-08 counts as 0, and a
-    /// triangle with such a side as closed flat: it turns nothing. Nor does an angle below 1e-04, whose
-    /// cosine is 1 at the 8 decimals of ArcCos: edges of less than a ten-thousandth of their ruling are lost.
-    /// BasePoint takes the flag of the first station. Throws ListError when List1 or List2 is absent or List2
-    /// the shorter, ArithmeticError when the sides of a triangle do not close.
+    /// triangle with such a side as closed flat: it turns nothing. Angles are UnfoldingAngle's, so that
+    /// narrow triangles keep their width. BasePoint takes the flag of the first station. Throws ListError
+    /// when List1 or List2 is absent or List2 the shorter, ArithmeticError when the sides of a triangle do
+    /// not close.
     void DevelopSurface();
 };
 

@@ -194,6 +194,18 @@ def triangle_angle(a, b, c):
     return arc_cos((b * b + c * c - a * a) / ((b + b) * c))
 
 
+def unfolding_angle(a, b, c):
+    """The same, but an angle whose cosine rounds to 1 or -1 by the half-angle formula."""
+    if a == 0 or b == 0 or c == 0:
+        return 0.0
+    cosine = round((b * b + c * c - a * a) / ((b + b) * c), 8)
+    if abs(cosine) != 1:
+        return triangle_angle(a, b, c)
+    whole = a + b + c
+    beyond_b, beyond_c, left = (0.0 if part < 1e-12 * whole else part for part in (a - b + c, a + b - c, b + c - a))
+    return 2 * math.atan2(math.sqrt(beyond_b * beyond_c), math.sqrt(whole * left)) if left else PI
+
+
 def unfolded(model):
     """The strip laid flat triangle by triangle, the last station of the model first."""
     count = len(model.List1)
@@ -204,8 +216,8 @@ def unfolded(model):
         after = (i + 1) % count
         c, d = model.List1[after], model.List2[after]
         ab, ac, bd, ad, bc = (snapped(distance(*pair)) for pair in ((a, b), (a, c), (b, d), (a, d), (b, c)))
-        to_c = triangle_angle(bc, ac, ab)
-        to_d = triangle_angle(bd, ab, ad)
+        to_c = unfolding_angle(bc, ac, ab)
+        to_d = unfolding_angle(bd, ab, ad)
         upper.append(here[:3] + (a[3],))
         lower.append(polar_point(here, direction, ab, b[3]))
         flat_c = polar_point(here, direction - to_c, ac)

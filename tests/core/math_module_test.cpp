@@ -219,6 +219,63 @@ TEST(TriangleAngle, SidesThatCannotCloseAreAnError) {
     EXPECT_THROW(TriangleAngle(a, b, c), ArithmeticError);
 }
 
+double UnfoldingAngleOf(double a, double b, double c) {
+    return UnfoldingAngle(a, b, c);
+}
+
+double TriangleAngleOf(double a, double b, double c) {
+    return TriangleAngle(a, b, c);
+}
+
+TEST(UnfoldingAngle, IsTheTriangleAngleToTheLastDigitWhereItsCosineTellsIt) {
+    for (double angle = 2e-4; angle < 3.1413; angle += 0.0037) {
+        const double a = std::sqrt(9 + 16 - 24 * std::cos(angle));
+        EXPECT_EQ(UnfoldingAngleOf(a, 3, 4), TriangleAngleOf(a, 3, 4)) << angle;
+    }
+}
+
+TEST(UnfoldingAngle, OfAnIsoscelesTriangleHoweverNarrow) {
+    // The base of a triangle with two sides of 1500 is 3000 sin(A / 2).
+    for (const double base : {0.1, 0.01, 1e-4, 1e-6, 1e-7}) {
+        EXPECT_NEAR(UnfoldingAngleOf(base, 1500, 1500), 2 * std::asin(base / 3000), 5e-16) << base;
+    }
+    EXPECT_EQ(TriangleAngleOf(0.1, 1500, 1500), 0) << "which counts as closed in its own way";
+}
+
+TEST(UnfoldingAngle, OfAnAlmostStraightTriangle) {
+    // The far side of two sides of 1 falls short of 2 by 1 - cos(A / 2 from straight).
+    const double bend = 1e-5;
+    EXPECT_NEAR(UnfoldingAngleOf(2 * std::cos(bend / 2), 1, 1), PI - bend, 1e-9);
+    EXPECT_EQ(TriangleAngleOf(2 * std::cos(bend / 2), 1, 1), PI);
+}
+
+TEST(UnfoldingAngle, ATriangleThatIsClosedFlatIsExactlyThat) {
+    EXPECT_EQ(UnfoldingAngleOf(3, 1, 2), PI);
+    EXPECT_EQ(UnfoldingAngleOf(3 - 2e-12, 1, 2), PI) << "within 1e-12 of the perimeter";
+    EXPECT_LT(UnfoldingAngleOf(3 - 1e-11, 1, 2), PI);
+    EXPECT_EQ(UnfoldingAngleOf(3 + 1e-9, 1, 2), PI) << "open, but within the rounding of the cosine";
+    EXPECT_EQ(UnfoldingAngleOf(1, 3, 2), 0);
+    EXPECT_EQ(UnfoldingAngleOf(1, 2, 3), 0);
+    EXPECT_EQ(UnfoldingAngleOf(1 - 1e-9, 3, 2), 0);
+    EXPECT_EQ(UnfoldingAngleOf(1 + 2e-12, 3, 2), 0);
+    EXPECT_GT(UnfoldingAngleOf(1 + 1e-11, 3, 2), 0);
+}
+
+TEST(UnfoldingAngle, SidesSnapAsInTheTriangleAngle) {
+    double a = 5e-09;
+    double b = 1;
+    double c = 1;
+    EXPECT_EQ(UnfoldingAngle(a, b, c), 0);
+    EXPECT_EQ(a, 0);
+    EXPECT_EQ(UnfoldingAngleOf(1, 0, 1), 0);
+    EXPECT_EQ(UnfoldingAngleOf(1, 1, 0), 0);
+}
+
+TEST(UnfoldingAngle, SidesThatCannotCloseAreAnError) {
+    EXPECT_THROW(UnfoldingAngleOf(10, 1, 2), ArithmeticError);
+    EXPECT_THROW(UnfoldingAngleOf(1, 10, 2), ArithmeticError);
+}
+
 TEST(RightTriangle, HypotenuseAndLeg) {
     EXPECT_EQ(Hypotenuse(3, 4), 5);
     EXPECT_EQ(Hypotenuse(0, -2), 2);

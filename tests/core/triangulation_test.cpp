@@ -196,13 +196,13 @@ TEST(Triangulation, ACylinderUnrollsToARectangle) {
     }
 }
 
-TEST(Triangulation, AnAngleBelowTheRoundingOfTheArcCosineIsNoTurn) {
-    // A pointed strip of length 80 whose far edge is 0.016 (angle 2e-04) and 0.004 (5e-05) wide: the cosine
-    // of the second is 1 at 8 decimals.
-    for (const auto& [width, turn] : {std::pair{0.016, 2e-4}, std::pair{0.004, 0.0}}) {
+TEST(Triangulation, ANarrowStripKeepsItsWidth) {
+    // Pointed strips of length 80: the cosine of their angle is not 1 at 8 decimals in the first, and is in
+    // the others.
+    for (const double width : {0.016, 0.004, 1e-4, 1e-6}) {
         const CRuleSurf flat =
-            Unfolded(Strip({{0, 0, 0, 0}, {0, 0, 0, 0}}, {{80, 0, 0, 0}, {80, width, 0, 0}}));
-        EXPECT_NEAR(PlanAngle(flat.List2->Item(1), {}), turn == 0 ? PI : PI - turn, 1e-9);
+            Unfolded(Strip({{0, 0, 0, 0}, {0, 0, 0, 0}}, {{80, -width / 2, 0, 0}, {80, width / 2, 0, 0}}));
+        EXPECT_NEAR(Distance3D(flat.List2->Item(1), flat.List2->Item(2)), width, 1e-9);
     }
 }
 
