@@ -22,8 +22,8 @@ void CMeasure::DisplayDistance(MessageBoxes& boxes) const {
     const auto rounded = [this](double value) { return RoundedText(value, Decimals, DecimalMark); };
     const std::string blankLine = std::string("  ") + LineEnd;
     const std::string indent = "    ";
-    // Just below level, the direction rounds up to a whole turn.
-    const double bearing = RadToDeg(PlanAngle(Pt1, Pt2));
+    // Just below level, a direction rounds up to the whole turn that is none.
+    const double bearing = RoundPlaces(RadToDeg(PlanAngle(Pt1, Pt2)), Decimals);
     const C3DPoint apart = {Pt2.x - Pt1.x, Pt2.y - Pt1.y, Pt2.z - Pt1.z, PlainStation};
     const std::string text = "Distance = " + rounded(Distance3D(Pt1, Pt2)) + LineEnd +
                              "Angle = " + rounded(bearing < 360 ? bearing : 0) + LineEnd + blankLine +

@@ -15,8 +15,8 @@ struct CMeasure {
     int Decimals = 1;  ///< places of every number of DisplayDistance
     char DecimalMark = '.';
 
-    /// Distance in space, bearing in x and y in degrees (from 0 to below 360, before it is rounded), both
-    /// points and the differences from Pt1 to Pt2, each on a line of its own that ends in CR LF. Throws
+    /// Distance in space, bearing in x and y in degrees (from 0 to below 360, as it is shown), both points
+    /// and the differences from Pt1 to Pt2, each on a line of its own that ends in CR LF. Throws
     /// ArithmeticError for coordinates too large to be told.
     void DisplayDistance(MessageBoxes& boxes) const;
 

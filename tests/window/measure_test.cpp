@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <tuple>
 
 #include "core/checked.h"
 #include "tests/support/recording_ui.h"
@@ -48,6 +49,17 @@ TEST(Measure, TheBearingRunsRoundWithoutASign) {
                                      {C3DPoint{265, -5e-14, 0, 0}, "Angle = 0"}}) {
         RecordingUi ui;
         CMeasure{{0, 0, 0, 0}, end, 1, '.'}.DisplayDistance(ui);
+        EXPECT_EQ(Lines(ui)[1], angle);
+    }
+}
+
+TEST(Measure, ABearingThatRoundsToAWholeTurnIsNone) {
+    for (const auto& [end, decimals, angle] : {std::tuple{C3DPoint{1000, -0.5, 0, 0}, 1, "Angle = 0"},
+                                               {C3DPoint{1000, -0.5, 0, 0}, 2, "Angle = 359.97"},
+                                               {C3DPoint{1000, -5, 0, 0}, 0, "Angle = 0"},
+                                               {C3DPoint{1000, -5, 0, 0}, 1, "Angle = 359.7"}}) {
+        RecordingUi ui;
+        CMeasure{{0, 0, 0, 0}, end, decimals, '.'}.DisplayDistance(ui);
         EXPECT_EQ(Lines(ui)[1], angle);
     }
 }
