@@ -25,11 +25,11 @@ std::string ZonedLine(const std::array<std::string, 4>& items) {
 
 }  // namespace
 
-std::string PointText(const std::optional<C3DPoint>& point, bool withZ, int decimals, char decimalMark) {
+std::string PointText(const std::optional<C3DPoint>& point, bool withZ, int decimals) {
     if (!point) {
         return "";
     }
-    const auto rounded = [&](double value) { return RoundedText(value, decimals, decimalMark); };
+    const auto rounded = [&](double value) { return RoundedText(value, decimals); };
     std::string text = rounded(point->x) + "," + rounded(point->y);
     if (withZ) {
         text += "," + rounded(point->z);
@@ -46,7 +46,7 @@ C3DPoints OffsetList(const C3DPoints& list, const C3DPoint& origin) {
     return moved;
 }
 
-std::string CoordinateTable(const AnnotatedPattern& pattern, int decimals, char decimalMark) {
+std::string CoordinateTable(const AnnotatedPattern& pattern, int decimals) {
     const C3DPoint& corner = pattern.extentFrame.Item(1);
     std::string table = std::string(ProductTitle) + "\r\n";
     std::size_t surfaceNo = 0;
@@ -60,9 +60,7 @@ std::string CoordinateTable(const AnnotatedPattern& pattern, int decimals, char 
         const C3DPoints A = OffsetList(stations.A, corner);
         const C3DPoints B = OffsetList(stations.B, corner);
         const C3DPoints C = OffsetList(stations.C, corner);
-        const auto text = [&](const C3DPoint& point) {
-            return PointText(point, false, decimals, decimalMark);
-        };
+        const auto text = [&](const C3DPoint& point) { return PointText(point, false, decimals); };
         for (std::size_t i = 1; i <= A.Count(); ++i) {
             // A number has a blank for its sign and one behind it.
             table += ZonedLine({" " + std::to_string(i) + " ", text(A.Item(i)), text(B.Item(i)),

@@ -9,8 +9,9 @@
 
 namespace korvet {
 
-/// "x,y", or "x,y,z", each rounded to `decimals` places; nothing for a point that is not there.
-std::string PointText(const std::optional<C3DPoint>& point, bool withZ, int decimals, char decimalMark);
+/// "x,y", or "x,y,z", each rounded to `decimals` places, with a decimal point on every desktop since commas
+/// stand between them; nothing for a point that is not there.
+std::string PointText(const std::optional<C3DPoint>& point, bool withZ, int decimals);
 
 /// A new list with x and y told from `origin`; z is 0 and no flag is kept.
 C3DPoints OffsetList(const C3DPoints& list, const C3DPoint& origin);
@@ -19,6 +20,6 @@ C3DPoints OffsetList(const C3DPoints& list, const C3DPoint& origin);
 /// station with the points of List1, List2 and, where present, List3, told from the lower left corner of the
 /// frame. Columns are 14 characters apart. Throws ListError when there is no point at all, or when List2 or a
 /// present List3 has fewer stations than List1.
-std::string CoordinateTable(const AnnotatedPattern& pattern, int decimals, char decimalMark);
+std::string CoordinateTable(const AnnotatedPattern& pattern, int decimals);
 
 }  // namespace korvet

@@ -220,7 +220,7 @@ std::optional<CNearestPoint> CObjectDisplay::FindClosestPoint(const C3DPoint& cl
 
 void CObjectDisplay::PrintCoordinateTable(FileStore& files, const std::string& path) {
     BuildExtentFrame();
-    files.Write(path, CoordinateTable({screenSurfaces_, extentFrame_}, Decimals, DecimalMark), Flush::No);
+    files.Write(path, CoordinateTable({screenSurfaces_, extentFrame_}, Decimals), Flush::No);
 }
 
 void CObjectDisplay::BuildExtentFrame() {

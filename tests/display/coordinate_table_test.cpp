@@ -10,11 +10,10 @@ namespace {
 
 TEST(PointText, RoundsEachCoordinate) {
     const C3DPoint point = {1.25, -0.04, 7.75, PlainStation};
-    EXPECT_EQ(PointText(point, false, 1, '.'), "1.2,0");
-    EXPECT_EQ(PointText(point, true, 2, '.'), "1.25,-0.04,7.75");
-    EXPECT_EQ(PointText(point, true, 0, ','), "1,0,8");
-    EXPECT_EQ(PointText(point, false, 2, ','), "1,25,-0,04");
-    EXPECT_EQ(PointText(std::nullopt, true, 1, '.'), "");
+    EXPECT_EQ(PointText(point, false, 1), "1.2,0");
+    EXPECT_EQ(PointText(point, true, 2), "1.25,-0.04,7.75");
+    EXPECT_EQ(PointText(point, true, 0), "1,0,8");
+    EXPECT_EQ(PointText(std::nullopt, true, 1), "");
 }
 
 TEST(OffsetList, TellsThePointsFromTheOriginWithoutFlagsOrHeights) {
@@ -39,7 +38,7 @@ CRuleSurf Sheet() {
 }
 
 std::string TableOf(const CRuleSurfs& surfaces) {
-    return CoordinateTable({surfaces, BuildExtentFrame(surfaces, surfaces)}, 2, '.');
+    return CoordinateTable({surfaces, BuildExtentFrame(surfaces, surfaces)}, 2);
 }
 
 TEST(CoordinateTable, IsTheSameByteForByte) {

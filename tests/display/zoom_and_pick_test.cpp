@@ -97,6 +97,21 @@ TEST_F(ObjectDisplay, TheTableCountsFromTheFrameOfWhatIsShownNow) {
     EXPECT_EQ(files.files.at("after"), files.files.at("before"));
 }
 
+TEST_F(ObjectDisplay, TheTableHasAPointWhateverTheDesktopWrites) {
+    MemoryFileStore files;
+    AddView(true);
+    fitting->canned.PatternSurface.List1 = Points({{0.5, 40.25, 0, 1}, {70, 40.25, 0, 1}});
+    fitting->canned.PatternSurface.List2 = Points({{0, 0, 0, 1}, {70, 0, 0, 1}});
+    display.Decimals = 2;
+    for (const char mark : {'.', ','}) {
+        display.DecimalMark = mark;
+        display.DisplayObject();
+        display.PrintCoordinateTable(files, std::string("mark ") + mark);
+    }
+    EXPECT_NE(files.files.at("mark ,").find("0.5,40.25"), std::string::npos);
+    EXPECT_EQ(files.files.at("mark ,"), files.files.at("mark ."));
+}
+
 class Zoom : public ObjectDisplay {
   protected:
     Zoom() {
