@@ -150,14 +150,15 @@ int VersionDigit(const std::string& version, std::size_t position) {
 
 void ReadHeader(KvtLines& lines, CKvtFile& file) {
     const std::string line{lines.ReadLine()};
-    file.Product = line.substr(0, ProductTitle.size());
+    // A separator and the version follow the name: the name by itself is that of another product.
+    file.Product = line.size() > ProductTitle.size() ? line.substr(0, ProductTitle.size()) : "";
     file.Version = line.size() > ProductTitle.size() + 1 ? line.substr(ProductTitle.size() + 1) : "";
     file.VersionNo = VersionDigit(file.Version, 0);
     file.SubVersion = VersionDigit(file.Version, 2);
     file.SubVersionIndex = VersionDigit(file.Version, 4);
     if (file.Product != ProductTitle) {
-        throw ForeignProductError("line 1: \"" + line.substr(0, 60) + "\" does not begin with \"" +
-                                  std::string(ProductTitle) + "\"");
+        throw ForeignProductError("line 1: \"" + line.substr(0, 60) + "\" is not \"" +
+                                  std::string(ProductTitle) + "\" with a version behind it");
     }
     file.Category = lines.ReadLine();
     try {

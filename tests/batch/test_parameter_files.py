@@ -29,12 +29,12 @@ class VersionTest(FolderTest):
         for version in ("3.3", "3.3.0", "3.3.3", "3.9", "4.3.1", "9.9.9", "3.3.3 beta"):
             self.assertEqual(self.laps(version, ["2.5", "3", "4.25"]), ["2.5", "3", "4.25"])
 
-    def test_product_line_alone(self):
-        path = self.write("in.Kvt", cone_file(product="Korvet Development", laps=["2.5"]))
+    def test_product_line_without_a_version(self):
+        path = self.write("in.Kvt", cone_file(product="Korvet Development-", laps=["2.5"]))
         self.assertEqual(run(path).status, DONE)
 
     def test_foreign_product(self):
-        for product in ("Other Development-3.3.3", "korvet development-3.3.3", "Korvet Developmen", "",
+        for product in ("Other Development-3.3.3", "korvet development-3.3.3", "Korvet Development", "",
                         "\ufeff\ufeffKorvet Development-3.3.3", "Korvet  Development-3.3.3"):
             with self.subTest(product=product):
                 path = self.write("in.Kvt", cone_file(product=product))

@@ -288,6 +288,17 @@ TEST(KvtReader, AForeignProductIsTold) {
     EXPECT_THROW(file.ParseHeader("Korvet\r\n"), ForeignProductError);
 }
 
+TEST(KvtReader, TheProductsNameAloneIsThatOfAnotherProduct) {
+    CKvtFile file = Reader();
+    for (const std::string line : {"Korvet Development", "  Korvet Development  ", "Korvet Developmen"}) {
+        EXPECT_THROW(file.ParseHeader(line + "\r\nRight Cone\r\n1\r\n"), ForeignProductError) << line;
+    }
+    EXPECT_EQ(file.Product, "");
+    file.ParseHeader("Korvet Development-\r\nRight Cone\r\n1\r\n");
+    EXPECT_EQ(file.Product, "Korvet Development");
+    EXPECT_EQ(file.VersionNo, 0);
+}
+
 TEST(KvtReader, NoDimensionLeavesTheListUnset) {
     Lines lines = FullFileLines;
     const auto first = std::find(lines.begin(), lines.end(), "Start Dimensions") + 1;
