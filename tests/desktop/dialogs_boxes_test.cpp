@@ -170,8 +170,15 @@ class DialogBoxes : public QObject {
         QVERIFY(QDir(folder_.path()).mkdir("v1.2"));
         WhenShown([&](QDialog& window) { ChooseName(window, folder_.filePath("v1.2/flat")); });
         QCOMPARE(desk_.ui.ChooseFile(SaveAs), folder_.filePath("v1.2/flat.Kvt").toStdString());
-        WhenShown([&](QDialog& window) { ChooseName(window, folder_.filePath("flat.txt")); });
-        QCOMPARE(desk_.ui.ChooseFile(SaveAs), folder_.filePath("flat.txt").toStdString());
+        const std::pair<const char*, const char*> names[] = {{"cone 1.5mm", "cone 1.5mm.Kvt"},
+                                                             {"flat.txt", "flat.txt.Kvt"},
+                                                             {"flat.", "flat.Kvt"},
+                                                             {"flat.KVT", "flat.KVT"},
+                                                             {"flat.kvt", "flat.kvt"}};
+        for (const auto& [typed, saved] : names) {
+            WhenShown([&](QDialog& window) { ChooseName(window, folder_.filePath(typed)); });
+            QCOMPARE(desk_.ui.ChooseFile(SaveAs), folder_.filePath(saved).toStdString());
+        }
     }
 
     void AFileIsReplacedOnlyAfterAQuestion() {

@@ -43,13 +43,13 @@ void SetUp(QFileDialog& dialog, const FileChoice& choice, const Filter& filter) 
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
 }
 
-/// The name with the suffix of the filter when it was typed without one.
+/// The name with the suffix of the filter when it was typed without it, in any case: another dot in a name is
+/// part of a size more often than the start of a suffix.
 QString WithSuffix(const QString& path, const QString& suffix) {
-    const QString name = QFileInfo(path).fileName();
-    if (suffix.isEmpty() || (name.contains(QLatin1Char('.')) && !name.endsWith(QLatin1Char('.')))) {
+    if (suffix.isEmpty() || path.endsWith(QLatin1Char('.') + suffix, Qt::CaseInsensitive)) {
         return path;
     }
-    return path + (name.endsWith(QLatin1Char('.')) ? QString() : QStringLiteral(".")) + suffix;
+    return path + (path.endsWith(QLatin1Char('.')) ? QString() : QStringLiteral(".")) + suffix;
 }
 
 /// Whether a file may be written at that path; the box that says why not, or asks.
