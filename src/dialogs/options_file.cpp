@@ -177,7 +177,7 @@ bool CheckIniFile(const COptions& options, FileStore& files, MessageBoxes& boxes
 void ReadDrawingOptions(LineReader& reader, COptions& options) {
     options.DefaultSegs = reader.Segs();
     options.Decimals = reader.Decimals();
-    options.Language = reader.Text();
+    options.Language = reader.TrimmedText();
     options.DisplayTextSize = reader.Single(reader.Number());
     DisplayColors& colors = options.Colors;
     for (Color* color :

@@ -104,6 +104,16 @@ TEST_F(OptionsFile, HasTwentyFiveLinesInTheirOrder) {
     EXPECT_EQ(files.writes[0].flush, Flush::Yes);
 }
 
+TEST_F(OptionsFile, BlanksAroundALanguageAreNoPartOfItsName) {
+    for (const char* const line : {"English ", " English", "\tEnglish \t"}) {
+        std::vector<std::string> lines = DefaultLines();
+        lines[3] = line;
+        files.files[Path] = Joined(lines);
+        Read();
+        EXPECT_EQ(options.Language, "English");
+    }
+}
+
 TEST_F(OptionsFile, ReadsBackEverythingThatItWrites) {
     COptions written;
     written.IniFileName = Path;
