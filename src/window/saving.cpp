@@ -1,6 +1,9 @@
 #include "window/saving.h"
 
+#include <algorithm>
+
 #include "core/constants.h"
+#include "core/number_text.h"
 #include "window/fitting_types.h"
 #include "window/window_layout.h"
 
@@ -51,11 +54,21 @@ void SelectOptions(const std::vector<std::optional<bool>>& values, OptionGroup& 
     }
 }
 
+/// The text of a box as it would have been typed here: a number with the comma of another desktop, which is
+/// none here, gets this one's mark. Everything else stays as it is.
+std::string TypedHere(const std::string& text, char decimalMark) {
+    std::string typed = text;
+    if (!ParseNumber(text, decimalMark) && ParseFileNumber(text)) {
+        std::replace(typed.begin(), typed.end(), ',', decimalMark);
+    }
+    return typed;
+}
+
 /// Fills the controls as if the user had typed and clicked.
 void FillControls(CFittingWindow& window, const KvtControls& kvt) {
     for (std::size_t i = 0; i < kvt.txtParameter.size(); ++i) {
         if (kvt.txtParameter[i]) {
-            window.ChangeBox(i, *kvt.txtParameter[i]);
+            window.ChangeBox(i, TypedHere(*kvt.txtParameter[i], window.Context().decimalMark));
         }
     }
     FittingOptions& options = window.controls.options;

@@ -141,6 +141,44 @@ TEST_F(SaveLoadTest, ALoadedBoxThatIsNoNumberIsTestedLikeTyping) {
     EXPECT_FALSE(window->hasModel);
 }
 
+TEST_F(SaveLoadTest, SizesOfADesktopWithAnotherDecimalMarkGetTheMarkOfThisOne) {
+    const std::string good = SavedCone();
+    std::string file = good;
+    file.replace(file.find("\r\n250\r\n") + 2, 3, "2,5e2");
+    shell.files.files["comma.Kvt"] = file;
+    const auto window = shell.Open("Right Cone");
+    EXPECT_TRUE(window->LoadFile("comma.Kvt"));
+    EXPECT_EQ(shell.ui.Texts(), std::vector<std::string>());
+    EXPECT_TRUE(window->hasModel);
+    EXPECT_EQ(window->controls.txtParameter[5].text, "2.5e2");
+    // What is typed is held to this desktop's mark.
+    window->ChangeBox(5, "2,5e2");
+    EXPECT_EQ(shell.ui.Texts(), (std::vector<std::string>{"Not a valid number"}));
+}
+
+TEST_F(SaveLoadTest, ASizeThatIsANumberHereStaysAsItWasTyped) {
+    const std::string good = SavedCone();
+    shell.context.decimalMark = ',';
+    for (const std::string text : {"250.0", "250,0", "2.5e2"}) {
+        std::string file = good;
+        file.replace(file.find("\r\n250\r\n") + 2, 3, text);
+        shell.files.files["size.Kvt"] = file;
+        const auto window = shell.Open("Right Cone");
+        EXPECT_TRUE(window->LoadFile("size.Kvt"));
+        EXPECT_TRUE(window->hasModel) << text;
+        EXPECT_EQ(window->controls.txtParameter[5].text, text);
+    }
+    shell.context.decimalMark = '.';
+    for (const std::string text : {"1,234.5", "1,234,5", ",", "2,5,", "-,"}) {
+        std::string file = good;
+        file.replace(file.find("\r\n250\r\n") + 2, 3, text);
+        shell.files.files["none.Kvt"] = file;
+        const auto window = shell.Open("Right Cone");
+        window->FillFromFile("none.Kvt");
+        EXPECT_EQ(window->controls.txtParameter[5].text, text) << "no number with either mark";
+    }
+}
+
 TEST_F(SaveLoadTest, AFailedSaveIsToldAndLeavesCaptionAndFile) {
     const auto window = shell.OpenSample("Right Cone", 2);
     window->ClickView(PatternButton);
