@@ -51,62 +51,59 @@ class Drawing:
                 return
         self.test.fail(f"no {what} from {segment[0]} to {segment[1]} on {layer}")
 
-    def take_rulings(self, surface):
+    def take_rulings(self, surfaces):
         """The seam's two edges are cut, and every ruled station between them is a fold line."""
-        pairs = [(point(p), point(q)) for p, q in zip(surface["List1"], surface["List2"])]
-        self.take_line(CUT, pairs[0], "first edge")
-        self.take_line(CUT, pairs[-1], "last edge")
-        for pair, p in list(zip(pairs, surface["List1"]))[1:-1]:
-            if p[3] in RULED:
-                self.take_line(FOLD, pair, "fold line")
+        for surface in surfaces:
+            pairs = [(point(p), point(q)) for p, q in zip(surface["List1"], surface["List2"])]
+            self.take_line(CUT, pairs[0], "first edge")
+            self.take_line(CUT, pairs[-1], "last edge")
+            for pair, p in list(zip(pairs, surface["List1"]))[1:-1]:
+                if p[3] in RULED:
+                    self.take_line(FOLD, pair, "fold line")
 
-    def check_model(self, surface):
+    def check_model(self, *surfaces):
         """A model is straight lines and nothing else, one between every two neighbours and along the rulings."""
         self.test.assertEqual(self.kinds, {"LINE"})
-        self.take_rulings(surface)
-        for p, q in (pair for name in EDGES for pair in neighbours(surface[name])):
+        self.take_rulings(surfaces)
+        for p, q in (pair for edge in edges_of(surfaces) for pair in neighbours(edge)):
             if not same(p, q, 0):
                 self.take_line(CUT, (p, q), "edge")
         self.test.assertEqual(self.lines, [])
 
-    def check_polylines(self, surface):
-        self.take_rulings(surface)
+    def check_polylines(self, *surfaces):
+        self.take_rulings(surfaces)
         self.test.assertEqual((self.lines, self.arcs), ([], []))
-        edges = [surface[name] for name in EDGES if surface[name]]
+        edges = edges_of(surfaces)
         self.test.assertEqual([(layer, len(points)) for layer, points in self.polylines],
                               [(CUT, len(edge)) for edge in edges])
         for (_, points), edge in zip(self.polylines, edges):
             for p, q in zip(points, edge):
                 self.test.assertTrue(same(p, point(q)), f"{p} {q}")
 
-    def check_arcs(self, surface):
+    def check_arcs(self, *surfaces):
         """Arcs and lines join the points of each edge in their order, without a gap; the length they make."""
-        self.take_rulings(surface)
+        self.take_rulings(surfaces)
         self.test.assertEqual({layer for layer, _ in self.lines} - {CUT}, set())
         pieces = [Piece(ends, math.dist(*ends)) for _, ends in self.lines if not same(*ends)]
         pieces += [Piece((point(a.start_point), point(a.end_point)), arc_length(a), a) for a in self.arcs]
         total = 0
-        for name in EDGES:
-            points = [point(p) for p in surface[name] or ()]
-            if len(points) == 2:
-                total += self.take_polyline(name, points)
-            elif len(points) > 2:
-                total += self.follow(name, points, pieces)
+        for edge in edges_of(surfaces):
+            points = [point(p) for p in edge]
+            total += self.take_polyline(points) if len(points) == 2 else self.follow(points, pieces)
         left = [piece.ends for piece in pieces if not piece.used]
         self.test.assertEqual(left, [], "entities that belong to no edge")
         self.test.assertEqual(self.polylines, [])
         return total
 
-    def take_polyline(self, name, points):
+    def take_polyline(self, points):
         """Takes out the polyline that an edge of two points is; the length of the edge."""
         for layer, ends in self.polylines:
             if layer == CUT and len(ends) == 2 and same_segment(ends, points):
                 self.polylines.remove((layer, ends))
                 return math.dist(*points)
-        return self.test.fail(f"no polyline for {name}")
+        return self.test.fail(f"no polyline from {points[0]} to {points[1]}")
 
-
-    def follow(self, name, points, pieces):
+    def follow(self, points, pieces):
         """Walks along an edge piece by piece, each spanning one or two segments; the length walked."""
         at, length = 0, 0
         while at < len(points) - 1:
@@ -120,7 +117,7 @@ class Drawing:
                     at += step
                     break
             else:
-                self.test.fail(f"{name} is open after point {at + 1} of {len(points)}, {points[at]}")
+                self.test.fail(f"an edge is open after point {at + 1} of {len(points)}, {points[at]}")
         # Two segments at a time leave the last one of some edges to stand twice.
         spanning(pieces, points[-2:])
         spanning(pieces, points[-3:-1])
@@ -163,6 +160,11 @@ def neighbours(edge):
     return list(zip(points, points[1:]))
 
 
-def edge_length(surface):
-    """The length of the edges of a surface from point to point, without the seam's edges."""
-    return sum(math.dist(p, q) for name in EDGES for p, q in neighbours(surface[name]))
+def edges_of(surfaces):
+    """The lines of all surfaces that are there."""
+    return [surface[name] for surface in surfaces for name in EDGES if surface[name]]
+
+
+def edge_length(*surfaces):
+    """The length of the edges from point to point, without the seams' edges."""
+    return sum(math.dist(p, q) for edge in edges_of(surfaces) for p, q in neighbours(edge))

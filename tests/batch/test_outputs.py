@@ -7,6 +7,7 @@ import struct
 import subprocess
 import unittest
 import xml.etree.ElementTree
+from pathlib import Path
 
 import cone_cases
 import dxf_measure
@@ -15,6 +16,8 @@ from batch_program import (CONE, CUT_CONE, DONE, PROGRAM, REFUSED, FolderTest, c
 from cone_cases import TYPES
 from dxf_measure import Drawing
 from window_checks import number_text
+
+EXAMPLES = Path(__file__).resolve().parents[2] / "examples"
 
 
 class DxfTest(FolderTest):
@@ -36,8 +39,20 @@ class DxfTest(FolderTest):
                     surface = report["model" if n == 2 else "pattern"][0]
                     check(Drawing(self, self.folder / f"{k}{n}.dxf"), surface)
 
-    def check_arcs(self, drawing, surface):
-        total, straight = drawing.check_arcs(surface), dxf_measure.edge_length(surface)
+    def test_every_example(self):
+        """Each type of each fitting with its sample sizes."""
+        files = sorted(EXAMPLES.glob("*.Kvt"))
+        for form, view, check in (((), "pattern", self.check_arcs), (("--polylines",), "pattern", Drawing.check_polylines),
+                                  ((), "model", Drawing.check_model)):
+            reports = run(*files, "--view", view, *form, "--json", "-", "--dxf", self.folder / "{name}.dxf").json
+            self.assertEqual(len(reports), len(files))
+            for path, report in zip(files, reports):
+                with self.subTest(path=path.name, view=view, form=form):
+                    self.assertNotEqual(report[view], [])
+                    check(Drawing(self, self.folder / f"{path.stem}.dxf"), *report[view])
+
+    def check_arcs(self, drawing, *surfaces):
+        total, straight = drawing.check_arcs(*surfaces), dxf_measure.edge_length(*surfaces)
         self.assertGreaterEqual(total, straight * (1 - 1e-9) - 1e-3)
         # Half circles in the place of two chords square to each other are as far as it can go.
         self.assertLessEqual(total, straight * math.pi / 2 + 1e-3)
