@@ -7,12 +7,13 @@ import math
 from dataclasses import dataclass
 
 from cylinder_oracle import Cylinder, radius_of
-from fitting_maths import PI, QUARTER_TURN, deg_to_rad, moved_surface, turned_surface
-from window_checks import answer_to, ask_for_pattern, last_lines
+from fitting_maths import PI, QUARTER_TURN, coordinates, deg_to_rad, moved_surface, turned_surface
+from window_checks import answer_to, ask_for_pattern, last_lines, require_shape, require_within_reach
 
 CATEGORY = "Segmented Bend"
 BOX_COUNT = 11
 FULL_LAYOUT, SHORT_LAYOUT = 0, 1
+BOXES = (range(5), range(5, 11))
 
 LABELS = (
     (("Base diameter = ", 0), ("Bend radius = ", 1), ("Bend angle = ", "90"), ("Length 1 = ", 3), ("Length 2 = ", 4),
@@ -97,10 +98,13 @@ TYPES = (right_angled, any_angle)
 def build(case, box, answer):
     settings = case.settings
     bend = TYPES[case.dtype](box)
+    require_shape(bend.radius != 0 and (90 if case.dtype == 0 else box[7]) / bend.gores < 180)
+    require_within_reach(box[index] for index in BOXES[case.dtype])
     answer.labels = ["", ""] + box.lines(LABELS[case.dtype]) + last_lines(case, settings.HalfPattern)
     seam = deg_to_rad(settings.JoinAngle)
     answer.model = bend.model(settings.segs, seam, settings.HalfPattern)
     answer.pattern = bend.pattern(seam, settings, case.select == FULL_LAYOUT)
+    require_within_reach(coordinates(answer.model + answer.pattern))
     ask_for_pattern(case, answer)
 
 

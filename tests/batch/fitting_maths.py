@@ -48,6 +48,10 @@ class Surface:
 LISTS = ("List1", "List2", "List3", "LapList1", "LapList2")
 
 
+def coordinates(surfaces):
+    return (c for surface in surfaces for name in LISTS for p in getattr(surface, name) or () for c in p[:3])
+
+
 # ------------------------------------------------------------------------------------------ angles and points
 
 

@@ -9,7 +9,7 @@ from bend_oracle import BOX_COUNT, CATEGORY, FULL_LAYOUT, SHORT_LAYOUT
 from fitting_cases import pipe_settings, rng_of, sound, spoilt_case, thick_settings, typed
 from fitting_maths import Settings
 from oracle_test import OracleTest
-from window_checks import NO_PATTERN, USER_ERROR
+from window_checks import IMPOSSIBLE, NO_PATTERN, PRODUCT, USER_ERROR
 
 TYPES = range(2)
 PLAIN = ({0: "100", 1: "150", 2: "5", 3: "20", 4: "0"}, {5: "100", 6: "200", 7: "60", 8: "0", 9: "35.5", 10: "4"})
@@ -77,7 +77,7 @@ class BendTest(OracleTest):
     def test_numbers_of_segments(self):
         cases = [plain_case(1, Settings(segs=6)).with_box(10, text).with_box(7, angle)
                  for text in ("2", "3.0", "7", "1e1", "2.5", "1", "0", "-3", "1.999999", "20")
-                 for angle in ("90", "360", "0", "361", "-1") if (text, angle) not in {("2", "360"), ("3.0", "360")}]
+                 for angle in ("90", "179.99", "180", "200", "360", "0", "361", "-1")]
         self.check(cases)
 
     def test_choice_of_pattern(self):
@@ -99,7 +99,22 @@ class BendTest(OracleTest):
         """Nothing else asks the diameter to be above 0."""
         cases = [replace(plain_case(0, Settings(segs=6, Thickness=10, InOutMean=place)).with_box(0, size), select=0)
                  for place in range(3) for size in ("-1", "0", "1e-9", "9.999", "10", "19.999", "20", "20.001")]
-        cases += [plain_case(0, Settings(segs=6)).with_box(0, "0"), plain_case(0, Settings(segs=6)).with_box(0, "-1")]
+        cases += [plain_case(0, Settings(segs=6)).with_box(0, "-1")]
+        self.check(cases)
+
+    def test_sizes_without_a_shape(self):
+        """They pass every check: no wall, no mitre, or a bend that nobody could cut."""
+        settings = Settings(segs=6)
+        cases = [plain_case(0, settings).with_box(0, "0"), plain_case(1, settings).with_box(5, "0"),
+                 plain_case(1, settings).with_box(10, "2").with_box(7, "180"),
+                 plain_case(1, settings).with_box(10, "3").with_box(7, "360"),
+                 plain_case(1, settings).with_box(10, "2").with_box(7, "270"),
+                 plain_case(0, settings).with_box(3, "1.1e9"),
+                 plain_case(1, settings).with_box(6, "1e12").with_box(7, "1e-9"),
+                 plain_case(1, settings).with_box(10, "2").with_box(7, "179.9999999"),
+                 plain_case(0, Settings(segs=6, KerfSpacing=3e8))]
+        for case in cases:
+            self.assertEqual(case.answer().messages, [(PRODUCT, IMPOSSIBLE, None)])
         self.check(cases)
 
     def test_spoilt_bends(self):

@@ -24,6 +24,7 @@ NO_PATTERN = "A pattern must be selected"
 IMPOSSIBLE = "This fitting cannot be made with these sizes"
 
 POSITION = ("mean", "inside", "outside")
+LARGEST = 1e9  # of a typed size and of a coordinate, where a window has such a limit
 
 
 @dataclass
@@ -40,6 +41,16 @@ class Refusal(Exception):
     def __init__(self, title, text, box):
         super().__init__(text)
         self.message = (title, text, box)
+
+
+def require_shape(is_one):
+    """What sizes that pass every check may still lead to."""
+    if not is_one:
+        raise Refusal(PRODUCT, IMPOSSIBLE, None)
+
+
+def require_within_reach(values):
+    require_shape(all(abs(value) <= LARGEST for value in values))
 
 
 def parse_number(text):

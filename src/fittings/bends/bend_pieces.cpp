@@ -3,8 +3,15 @@
 #include <cmath>
 
 #include "core/checked.h"
+#include "core/constants.h"
 
 namespace korvet {
+namespace {
+
+/// Radians by which a cut must at least lie off the axis: nearer than this it runs along it.
+constexpr double LeastMitre = 1e-12;
+
+}  // namespace
 
 /// The axes of the pieces touch the centre line's arc at the middle of each piece. Every cut lies in a plane
 /// through the centre of the bend, half a gore's angle from square, and so crosses the axes
@@ -12,6 +19,9 @@ namespace korvet {
 BendPieces PiecesOfBend(double bendAngle, double bendRadius, int gores, double length1, double length2) {
     const double g = Quotient(bendAngle, gores);
     const double a = g / 2;
+    if (a > QuarterTurn - LeastMitre) {
+        throw ArithmeticError("no mitre turns a pipe by 180 degrees or more");
+    }
     const double h = Finite(std::tan(a) * bendRadius, "the length of a gore");
     return {.BendAngle = bendAngle,
             .BendRadius = bendRadius,

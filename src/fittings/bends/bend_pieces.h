@@ -29,7 +29,7 @@ struct BendPieces {
 };
 
 /// The pieces of a bend with `gores` cuts and straight lengths at its ends. Throws ArithmeticError when there
-/// is no cut or the numbers leave no length.
+/// is no cut, when a gore would turn by half a turn or more, or when the numbers leave no length.
 BendPieces PiecesOfBend(double bendAngle, double bendRadius, int gores, double length1, double length2);
 
 /// A pipe that can be a piece of a bend.

@@ -1,6 +1,7 @@
 #include "fittings/bends/seg_bend_parallel.h"
 
 #include "core/constants.h"
+#include "fittings/makeable.h"
 
 namespace korvet {
 
@@ -20,8 +21,10 @@ CRightCylinder CSegBendParallel::Pipe() const {
 }
 
 void CSegBendParallel::ConstructModel() {
+    RequireWall(BaseRad);
     CRightCylinder pipe = Pipe();
     results.ModelSurfaceList = AssembleBend(pipe, Pieces(), PI);
+    RequireWithinReach(results.ModelSurfaceList);
 }
 
 void CSegBendParallel::DevelopModel() {
@@ -29,6 +32,7 @@ void CSegBendParallel::DevelopModel() {
     const int middlePieces = inputs.Miscellaneous == LayOutEveryPiece ? BendSegments - 1 : 1;
     CRightCylinder pipe = Pipe();
     LayOutBend(pipe, Pieces(), middlePieces, KerfSpacing, PI, results);
+    RequireWithinReach(results.PatternSurfaceList);
 }
 
 }  // namespace korvet

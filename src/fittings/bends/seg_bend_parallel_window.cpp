@@ -6,6 +6,7 @@
 #include "fittings/bends/bend_form.h"
 #include "fittings/bends/bend_sketch.h"
 #include "fittings/bends/seg_bend_parallel.h"
+#include "fittings/makeable.h"
 #include "fittings/mean_sizes.h"
 #include "fittings/windows.h"
 
@@ -88,7 +89,7 @@ constexpr std::array<std::string_view, 2> PatternChoices = {"Full Pattern", "Fir
 const WindowTable frmSegBendParallel = {
     .pages = Pages,
     .newFitting = FittingHandle::Make<CSegBendParallel>,
-    .buildFitting = BuildByType<CSegBendParallel, BuildQuarterBend, BuildBend>,
+    .buildFitting = WithinReach<Pages, BuildByType<CSegBendParallel, BuildQuarterBend, BuildBend>>,
     .multiple = true,
     .templateTypeEnabled = true,
     .kerfEnabled = true,

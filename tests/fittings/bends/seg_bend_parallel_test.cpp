@@ -373,6 +373,31 @@ TEST(SegBendLayout, TakesOverTheWarningsOfItsPieces) {
     EXPECT_EQ(messages, (std::vector<int>{90, 1, 2, 3, 4}));
 }
 
+TEST(SegBendModel, ABendWithoutAWallIsAnError) {
+    CSegBendParallel bend = QuarterBend();
+    bend.BaseRad = 0;
+    EXPECT_THROW(bend.ConstructModel(), ArithmeticError);
+}
+
+TEST(SegBendModel, ACutTurnsByLessThanHalfATurn) {
+    for (const auto& [degrees, gores] : {std::pair{180.0, 1}, {270.0, 1}, {360.0, 1}, {360.0, 2}}) {
+        CSegBendParallel bend = QuarterBend(static_cast<std::int16_t>(gores));
+        bend.BendAngle = DegToRad(degrees);
+        EXPECT_THROW(bend.ConstructModel(), ArithmeticError) << degrees << " in " << gores;
+        bend.BendAngle = DegToRad(degrees - 181);
+        EXPECT_NO_THROW(bend.ConstructModel());
+    }
+}
+
+TEST(SegBendLayout, StaysWithinReach) {
+    CSegBendParallel bend = QuarterBend();
+    bend.KerfSpacing = 0.3e9;
+    EXPECT_NO_THROW(bend.ConstructModel());
+    EXPECT_THROW(bend.DevelopModel(), ArithmeticError);
+    bend.inputs.Miscellaneous = 0;  // three pieces instead of five
+    EXPECT_NO_THROW(bend.DevelopModel());
+}
+
 TEST(SegBendModel, ABendWithoutCutsIsAnError) {
     CSegBendParallel bend = QuarterBend(0);
     EXPECT_THROW(bend.ConstructModel(), ArithmeticError);

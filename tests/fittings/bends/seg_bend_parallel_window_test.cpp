@@ -150,6 +150,37 @@ TEST(SegBendLimits, ManyPiecesOfManyFoldLinesAreNotMade) {
         "so many segments with 100000 fold lines each are too much: make one of the two numbers smaller");
 }
 
+struct NoShape {
+    BoxTexts boxes;
+    std::string reason;
+};
+
+void PrintTo(const NoShape& example, std::ostream* out) {
+    *out << example.reason;
+}
+
+class BendsWithoutAShape : public testing::TestWithParam<NoShape> {};
+
+TEST_P(BendsWithoutAShape, AreNotMade) {
+    TestShell shell;
+    const auto window = shell.OpenSample(Category, 2);
+    TypeBoxes(*window, GetParam().boxes);
+    window->ClickView(0);
+    EXPECT_FALSE(window->hasModel);
+    ASSERT_EQ(shell.ui.messages.size(), 1U);
+    EXPECT_EQ(shell.ui.messages[0].text, "This fitting cannot be made with these sizes");
+    EXPECT_EQ(shell.ui.messages[0].detail, GetParam().reason);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Sizes, BendsWithoutAShape,
+    testing::Values(NoShape{{{5, "0"}}, "a pipe with a diameter of 0 has no wall"},
+                    NoShape{{{7, "180"}, {10, "2"}}, "no mitre turns a pipe by 180 degrees or more"},
+                    NoShape{{{7, "360"}, {10, "3"}}, "no mitre turns a pipe by 180 degrees or more"},
+                    NoShape{{{8, "1.1e9"}}, "Length 1 is above a thousand million"},
+                    NoShape{{{7, "179.9999999"}, {10, "2"}},
+                            "the fitting is larger than a thousand million"}));
+
 TEST(SegBendSizes, ComeFromTheBoxesOfTheType) {
     TestShell shell;
     const auto quarter = shell.OpenSample(Category, 1);
