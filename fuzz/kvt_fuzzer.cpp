@@ -19,22 +19,22 @@ void LoadAndSave(const std::string& text, const std::string& category) {
     AcceptExports(shell.ui);
     const auto window = NewFitting(shell.context, category, nullptr);
     shell.files.Write("in.Kvt", text, Flush::No);
-    if (!window->FillFromFile("in.Kvt") || window->settings.segs > MostSegs) {
+    if (window->FillFromFile("in.Kvt") == Refused || window->settings.segs > MostSegs) {
         return;
     }
     window->UpdateFitting();
     window->ZoomExtents();
-    window->Export("out.dxf", ExportMode::Dxf);
-    if (!window->SaveFile("out.Kvt")) {
+    (void)window->Export("out.dxf", ExportMode::Dxf);
+    if (window->SaveFile("out.Kvt") == Refused) {
         return;
     }
     const std::string saved = shell.files.Read("out.Kvt", std::string::npos);
     const auto again = NewFitting(shell.context, category, nullptr);
-    if (!again->FillFromFile("out.Kvt")) {
+    if (again->FillFromFile("out.Kvt") == Refused) {
         std::abort();
     }
     again->UpdateFitting();
-    if (again->hasModel && again->SaveFile("again.Kvt") &&
+    if (again->hasModel && again->SaveFile("again.Kvt") == Passed &&
         shell.files.Read("again.Kvt", std::string::npos) != saved) {
         std::abort();
     }

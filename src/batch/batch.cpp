@@ -25,7 +25,7 @@ class BatchRun {
             }
         }
         if (!ReadOptions()) {
-            return Refused;
+            return Failed;
         }
         const std::vector<std::string> inputs = InputsOf(arguments_);
         for (std::size_t i = 0; i < inputs.size(); ++i) {
@@ -110,7 +110,7 @@ class BatchRun {
     /// A fault of the run itself and not of one input.
     void Say(const std::string& text) { ui_.PrintLine("korvet-batch: " + text); }
 
-    void Fail() { status_ = status_ == WrongUsage ? WrongUsage : Refused; }
+    void Fail() { status_ = status_ == WrongUsage ? WrongUsage : Failed; }
 
     const Arguments& arguments_;
     BatchUi ui_;

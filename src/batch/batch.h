@@ -6,7 +6,7 @@
 namespace korvet::batch {
 
 /// Exit statuses of the program.
-enum ExitStatus : int { Done = 0, Refused = 1, WrongUsage = 2 };
+enum ExitStatus : int { Done = 0, Failed = 1, WrongUsage = 2 };
 
 /// Does what the command line asks for and returns the exit status. Messages go to the standard error.
 int Run(const Arguments& arguments);

@@ -67,7 +67,7 @@ bool InputRun::OpenWindow() {
         return false;
     }
     if (isFile) {
-        return window_->FillFromFile(input_);
+        return window_->FillFromFile(input_) == Passed;
     }
     PrepareNewWindow();
     return true;
@@ -126,7 +126,7 @@ bool InputRun::SetValues() {
     }
     bool good = true;
     for (const auto& [name, value] : arguments_.sets) {
-        good = SetValue(*window_, name, value) && good;
+        good = SetValue(*window_, name, value) == Passed && good;
     }
     return good;
 }
@@ -137,7 +137,7 @@ bool InputRun::BuildForReport() {
         return true;
     }
     try {
-        const bool built = window_->BuildFitting();
+        const bool built = window_->BuildFitting() == Passed;
         labels_ = window_->labels;
         if (!built) {
             return false;
@@ -173,7 +173,7 @@ bool InputRun::WriteOutputs() {
     const std::string name = InputName(arguments_, input_);
     bool written = true;
     if (!arguments_.save.empty()) {
-        written = window_->SaveFile(OutputPath(arguments_.save, name)) && written;
+        written = window_->SaveFile(OutputPath(arguments_.save, name)) == Passed && written;
     }
     if (!arguments_.dxf.empty()) {
         written = ExportDxf(OutputPath(arguments_.dxf, name)) && written;
@@ -196,7 +196,7 @@ bool InputRun::WriteTable(const std::string& path) {
     if (!InPatternView(*window_->views)) {
         window_->ClickView(PatternButton);
     }
-    return window_->WriteTable(path);
+    return window_->WriteTable(path) == Passed;
 }
 
 /// Exports the view. Diagonals that the command line asks for are shown for as long as this takes, so that
@@ -204,7 +204,7 @@ bool InputRun::WriteTable(const std::string& path) {
 bool InputRun::ExportDxf(const std::string& path) {
     const bool shown = window_->display.DiagonalsRequested;
     window_->display.DiagonalsRequested = shown || arguments_.diagonals;
-    const bool written = window_->Export(path, ExportMode::Dxf);
+    const bool written = window_->Export(path, ExportMode::Dxf) == Passed;
     window_->display.DiagonalsRequested = shown;
     return written;
 }

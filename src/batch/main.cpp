@@ -20,6 +20,6 @@ int main(int argc, char** argv) {
         return WrongUsage;
     } catch (const std::exception& error) {
         std::cerr << "korvet-batch: " << error.what() << '\n';
-        return Refused;
+        return Failed;
     }
 }

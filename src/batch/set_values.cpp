@@ -80,21 +80,21 @@ TextBox DialogBox(const std::string& name, const std::string& value) {
     return {.name = name, .text = value};
 }
 
-bool SetSegs(CFittingWindow& window, const std::string& value) {
+Outcome SetSegs(CFittingWindow& window, const std::string& value) {
     TextBox box = DialogBox("segs", value);
     if (CheckSegs(window.Fields(), box)) {
-        return false;
+        return Refused;
     }
     window.settings.segs = static_cast<int>(FieldValue(window.Fields(), box));
-    return true;
+    return Passed;
 }
 
-bool SetMember(CFittingWindow& window, const std::string& name, const std::string& value) {
+Outcome SetMember(CFittingWindow& window, const std::string& name, const std::string& value) {
     const Member& member = Members().at(name);
     if (const auto* number = std::get_if<double CPatternSettings::*>(&member)) {
         TextBox box = DialogBox(name, value);
-        if (!IsNumericField(window.Fields(), box)) {
-            return false;
+        if (CheckNumber(window.Fields(), box)) {
+            return Refused;
         }
         window.settings.** number = FieldValue(window.Fields(), box);
     } else if (const auto* flag = std::get_if<bool CPatternSettings::*>(&member)) {
@@ -113,7 +113,7 @@ bool SetMember(CFittingWindow& window, const std::string& name, const std::strin
             window.settings.PositionString = PositionWord(window.settings.InOutMean);
         }
     }
-    return true;
+    return Passed;
 }
 
 void SetOption(CFittingWindow& window, const std::string& name, const std::string& value) {
@@ -156,7 +156,7 @@ bool IsSettableName(const std::string& name) {
            name == "segs" || Members().contains(name) || Groups().contains(name) || IsBranchOption(name);
 }
 
-bool SetValue(CFittingWindow& window, const std::string& name, const std::string& value) {
+Outcome SetValue(CFittingWindow& window, const std::string& name, const std::string& value) {
     if (const auto index = BoxIndex(name)) {
         if (*index >= window.controls.txtParameter.size()) {
             throw UsageError(std::string(window.Row().window) + " has no " + name);
@@ -177,7 +177,7 @@ bool SetValue(CFittingWindow& window, const std::string& name, const std::string
     } else {
         SetOption(window, name, value);
     }
-    return true;
+    return Passed;
 }
 
 }  // namespace korvet::batch

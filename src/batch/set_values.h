@@ -12,8 +12,8 @@ namespace korvet::batch {
 bool IsSettableName(const std::string& name);
 
 /// Puts one value into the window: a box (box3), comment1, comment2, textsize, a pattern setting or an
-/// annotation request by its member name, an option group by index or "none". False after a message when the
-/// value is not one for its place. Throws UsageError when the window has no such place.
-bool SetValue(CFittingWindow& window, const std::string& name, const std::string& value);
+/// annotation request by its member name, an option group by index or "none". Refuses a value that is
+/// not one for its place. Throws UsageError when the window has no such place.
+Outcome SetValue(CFittingWindow& window, const std::string& name, const std::string& value);
 
 }  // namespace korvet::batch

@@ -122,13 +122,14 @@ void OptionsDialog::ClickOK() {
         return;
     }
     if (ApplyDialog()) {
-        lblStatus = "OK";
-        visible = false;
+        return;
     }
+    lblStatus = "OK";
+    visible = false;
 }
 
 void OptionsDialog::ClickSave() {
-    if (!ApplyDialog()) {
+    if (ApplyDialog()) {
         return;
     }
     try {
@@ -145,31 +146,31 @@ void OptionsDialog::ClickCancel() {
     visible = false;
 }
 
-bool OptionsDialog::ApplyDialog() {
+Outcome OptionsDialog::ApplyDialog() {
     if (StoreValues()) {
-        return true;
+        tab = TabOf(focus);
+        return Refused;
     }
-    tab = TabOf(focus);
-    return false;
+    return Passed;
 }
 
-bool OptionsDialog::StoreValues() {
+Outcome OptionsDialog::StoreValues() {
     const FieldContext fields = Fields();
     for (TextBox* box :
          {&txtUserScale, &txtDisplayTextSize, &txtDXFTextSize, &txtCalibrate[0], &txtCalibrate[1]}) {
-        if (!IsNumericField(fields, *box)) {
-            return false;
+        if (CheckNumber(fields, *box)) {
+            return Refused;
         }
     }
     if (CheckPositive(fields, txtCalibrate[0]) || CheckPositive(fields, txtCalibrate[1]) ||
         CheckSegs(fields, CmbDefaultSegs.edit)) {
-        return false;
+        return Refused;
     }
     options_.Decimals = static_cast<std::int16_t>(cmbDecimals.selected.value_or(0));
     options_.DefaultSegs = RoundToInt(FieldValue(fields, CmbDefaultSegs.edit));
     options_.Language = cmbLanguage.edit.text;
-    if (!StoreLayers() || !StoreTextSizes()) {
-        return false;
+    if (StoreLayers() || StoreTextSizes()) {
+        return Refused;
     }
     options_.PolyMode = optPolyMode.IsOn(1) ? 1 : 0;
     options_.PrintScale = FieldValue(fields, txtUserScale);
@@ -177,10 +178,10 @@ bool OptionsDialog::StoreValues() {
     options_.PrintYCalibration = FieldValue(fields, txtCalibrate[1]);
     options_.PrintOrientation = optOrientation.IsOn(0) ? Portrait : Landscape;
     options_.PrintUnits = optUnits.IsOn(0) ? Millimetres : Inches;
-    return true;
+    return Passed;
 }
 
-bool OptionsDialog::StoreLayers() {
+Outcome OptionsDialog::StoreLayers() {
     struct Layer {
         const TextBox& box;
         const char* whenEmpty;
@@ -202,10 +203,10 @@ bool OptionsDialog::StoreLayers() {
         }
         layer.option = layer.stored.text;
     }
-    return true;
+    return Passed;
 }
 
-bool OptionsDialog::StoreTextSizes() {
+Outcome OptionsDialog::StoreTextSizes() {
     const double dxfSize = FieldValue(Fields(), txtDXFTextSize);
     if (!IsTextSize(dxfSize)) {
         return Refuse(txtDXFTextSize, "DXF Text size not valid");
@@ -216,14 +217,14 @@ bool OptionsDialog::StoreTextSizes() {
         return Refuse(txtDisplayTextSize, "Display Text size not valid");
     }
     options_.DisplayTextSize = displaySize;
-    return true;
+    return Passed;
 }
 
-/// Says what is wrong with a box, puts the focus on it, and gives false for the caller to return.
-bool OptionsDialog::Refuse(const TextBox& box, const char* text) {
+/// Says what is wrong with a box and puts the focus on it.
+Outcome OptionsDialog::Refuse(const TextBox& box, const char* text) {
     ShowUserError(ui_, text);
     focus = box.name;
-    return false;
+    return Refused;
 }
 
 }  // namespace korvet

@@ -81,16 +81,16 @@ struct OptionsDialog {
     /// Also for Esc and the close box.
     void ClickCancel();
 
-    /// Tests the boxes and stores them in the options, one after the other: false after the first that fails,
-    /// and what stood before it is then already stored. The fold layer is tested but never stored.
-    bool ApplyDialog();
+    /// Tests the boxes and stores them in the options, one after the other. What stood before the first that
+    /// is refused is then already stored. The fold layer is tested but never stored.
+    Outcome ApplyDialog();
 
   private:
     void Fill();
-    bool StoreValues();
-    bool StoreLayers();
-    bool StoreTextSizes();
-    bool Refuse(const TextBox& box, const char* text);
+    Outcome StoreValues();
+    Outcome StoreLayers();
+    Outcome StoreTextSizes();
+    Outcome Refuse(const TextBox& box, const char* text);
     [[nodiscard]] FieldContext Fields() { return {ui_, options_, decimalMark_, focus}; }
 
     COptions& options_;

@@ -1,5 +1,6 @@
 #include "dialogs/pattern_settings_dialog.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "core/checked.h"
@@ -126,14 +127,10 @@ void ReadDialog(PatternSettingsDialog& dialog, CPatternSettings& settings) {
     settings.JoinType = dialog.optJoinType.IsOn(PatternSettingsDialog::Lap) ? 1 : 0;
 }
 
-/// Whether every box of the list holds a number; the first that does not has the message and the focus.
-bool AllNumeric(const FieldContext& fields, std::initializer_list<TextBox*> boxes) {
-    for (TextBox* box : boxes) {
-        if (!IsNumericField(fields, *box)) {
-            return false;
-        }
-    }
-    return true;
+/// CheckNumber on several boxes in the order given, up to the first that refuses.
+Outcome CheckNumbers(const FieldContext& fields, std::initializer_list<TextBox*> boxes) {
+    return RefusedIf(
+        std::any_of(boxes.begin(), boxes.end(), [&](TextBox* box) { return CheckNumber(fields, *box); }));
 }
 
 }  // namespace
@@ -181,8 +178,8 @@ void PatternSettingsDialog::ClickJoinType(std::size_t index) {
 
 void PatternSettingsDialog::ClickOK() {
     const FieldContext fields = Fields();
-    if (!AllNumeric(fields, {&txtThickness, &txtThicknessA, &txtThicknessB, &txtLapSize[0], &txtLapSize[1],
-                             &txtLapSize[2]})) {
+    if (CheckNumbers(fields, {&txtThickness, &txtThicknessA, &txtThicknessB, &txtLapSize[0], &txtLapSize[1],
+                              &txtLapSize[2]})) {
         return;
     }
     bool hasSize = false;
@@ -193,7 +190,7 @@ void PatternSettingsDialog::ClickOK() {
         ShowPlain(*ui, GetMessage(LapWithoutSize, options->Language));
         return;
     }
-    if (!AllNumeric(fields, {&cboSegs.edit, &cboJoinAngle.edit, &txtKerfSpacing}) ||
+    if (CheckNumbers(fields, {&cboSegs.edit, &cboJoinAngle.edit, &txtKerfSpacing}) ||
         CheckSegs(fields, cboSegs.edit)) {
         return;
     }

@@ -92,10 +92,11 @@ void RotateDialog::Change(const std::string& text) {
 }
 
 void RotateDialog::ClickOK() {
-    if (IsNumericField(Fields(), txtAngle[1])) {
-        lblStatus = "OK";
-        visible = false;
+    if (CheckNumber(Fields(), txtAngle[1])) {
+        return;
     }
+    lblStatus = "OK";
+    visible = false;
 }
 
 void RotateDialog::ClickCancel() {

@@ -27,12 +27,12 @@ void RequireWithinReach(const CRuleSurfs& surfaces);
 /// The build function of a window with these pages, from one that makes the checks: what they let through
 /// must be within reach.
 template <const auto& Pages, auto Build>
-bool WithinReach(FittingForm& form, const FittingHandle& fitting) {
-    if (!Build(form, fitting)) {
-        return false;
+Outcome WithinReach(FittingForm& form, const FittingHandle& fitting) {
+    if (Build(form, fitting)) {
+        return Refused;
     }
     RequireWithinReach(form, Pages.at(static_cast<std::size_t>(form.dtype)).boxes);
-    return true;
+    return Passed;
 }
 
 }  // namespace korvet

@@ -24,11 +24,11 @@ double MeanConeRadius(const FittingForm& form, int diameterBox, double coneAngle
     return form.Compensator(SlopingRoundWall).NewDistance(form.Value(diameterBox) / 2, coneAngle, 0);
 }
 
-bool CheckRoundWall(FittingForm& form, int diameterBox, double R) {
+Outcome CheckRoundWall(FittingForm& form, int diameterBox, double R) {
     return form.CheckRoomForThickness(diameterBox, R, form.settings.Thickness / 2);
 }
 
-bool CheckConeWall(FittingForm& form, int diameterBox, double R, double coneAngle) {
+Outcome CheckConeWall(FittingForm& form, int diameterBox, double R, double coneAngle) {
     return form.CheckRoomForThickness(diameterBox, R, std::cos(coneAngle) * form.settings.Thickness / 2);
 }
 

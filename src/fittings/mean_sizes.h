@@ -25,12 +25,12 @@ double MeanLength(const FittingForm& form, int lengthBox);
 /// angle at the apex, radians) counts by the cosine of it. 0: a wall that stands upright.
 double MeanConeRadius(const FittingForm& form, int diameterBox, double coneAngle);
 
-// Checks: true after a failure, with the message shown and the focus on the box.
+// Checks, with the focus on the box after a refusal.
 
 /// Half the thickness must leave room in a diameter whose mean radius is R.
-bool CheckRoundWall(FittingForm& form, int diameterBox, double R);
+Outcome CheckRoundWall(FittingForm& form, int diameterBox, double R);
 
 /// The same in the wall of a cone, where it counts by the cosine of coneAngle (radians).
-bool CheckConeWall(FittingForm& form, int diameterBox, double R, double coneAngle);
+Outcome CheckConeWall(FittingForm& form, int diameterBox, double R, double coneAngle);
 
 }  // namespace korvet

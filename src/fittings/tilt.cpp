@@ -10,11 +10,11 @@ double TiltLimit(double height, double run) {
     return RadToDeg(std::atan(height / run));
 }
 
-bool CheckTiltWithin(FittingForm& form, int angleBox, double low, double high) {
-    return form.CheckGreaterThan(angleBox, low) || form.CheckLessThan(angleBox, high);
+Outcome CheckTiltWithin(FittingForm& form, int angleBox, double low, double high) {
+    return RefusedIf(form.CheckGreaterThan(angleBox, low) || form.CheckLessThan(angleBox, high));
 }
 
-bool CheckPlaneTilt(FittingForm& form, int angleBox, double height, double run) {
+Outcome CheckPlaneTilt(FittingForm& form, int angleBox, double height, double run) {
     const double m = TiltLimit(height, run);
     return CheckTiltWithin(form, angleBox, -m, m);
 }

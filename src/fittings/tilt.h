@@ -10,12 +10,12 @@ namespace korvet {
 /// lower end. 90 for a run of 0; against a negative run the tilt is negative.
 double TiltLimit(double height, double run);
 
-// Checks: true after a failure, with the message shown and the focus on the box.
+// Checks, with the focus on the box after a refusal.
 
 /// The tilt in a box, in degrees, must be above `low` and then below `high`.
-bool CheckTiltWithin(FittingForm& form, int angleBox, double low, double high);
+Outcome CheckTiltWithin(FittingForm& form, int angleBox, double low, double high);
 
 /// A plane that crosses the axis at `height`, `run` from the wall, may fall to either side.
-bool CheckPlaneTilt(FittingForm& form, int angleBox, double height, double run);
+Outcome CheckPlaneTilt(FittingForm& form, int angleBox, double height, double run);
 
 }  // namespace korvet

@@ -31,22 +31,21 @@ void SwapPages(PageSwap pages) {
     }
 }
 
-/// Whether the box holds no number: message 9 on its page, then.
-bool HoldsNoNumber(const FieldContext& context, TextBox& box, PageSwap pages) {
+/// CheckNumber, with the message on the page of the box.
+Outcome CheckNumberOnPage(const FieldContext& context, TextBox& box, PageSwap pages) {
     if (!ParseNumber(box.text, context.decimalMark)) {
         SwapPages(pages);
     }
-    return !IsNumericField(context, box);
+    return CheckNumber(context, box);
 }
 
-/// Shows the message of a failed check on its page and puts the focus on the box, which selects its text;
-/// true, for the caller to return.
-bool Fail(const FieldContext& context, TextBox& box, PageSwap pages, const std::string& text) {
+/// Shows why a box is refused on its page and puts the focus on it, which selects its text.
+Outcome Refuse(const FieldContext& context, TextBox& box, PageSwap pages, const std::string& text) {
     SwapPages(pages);
     ShowAbout(context, box, ExclamationBox, "User Error", text);
     context.focus = box.name;
     SelectFieldText(box);
-    return true;
+    return Refused;
 }
 
 std::string LimitText(const FieldContext& context, int messageId, double limit) {
@@ -56,11 +55,11 @@ std::string LimitText(const FieldContext& context, int messageId, double limit) 
 /// The shape of all the checks of a number: message 9 when it is none, `text()` when `passes(value)` is
 /// false.
 template <typename Passes, typename Text>
-bool Check(const FieldContext& context, TextBox& box, PageSwap pages, Passes passes, Text text) {
-    if (HoldsNoNumber(context, box, pages)) {
-        return true;
+Outcome Check(const FieldContext& context, TextBox& box, PageSwap pages, Passes passes, Text text) {
+    if (CheckNumberOnPage(context, box, pages)) {
+        return Refused;
     }
-    return passes(FieldValue(context, box)) ? false : Fail(context, box, pages, text());
+    return passes(FieldValue(context, box)) ? Passed : Refuse(context, box, pages, text());
 }
 
 }  // namespace
@@ -78,14 +77,14 @@ void CheckFieldChange(const FieldContext& context, TextBox& box) {
     }
 }
 
-bool IsNumericField(const FieldContext& context, TextBox& box) {
+Outcome CheckNumber(const FieldContext& context, TextBox& box) {
     if (ParseNumber(box.text, context.decimalMark)) {
-        return true;
+        return Passed;
     }
     ShowNotANumber(context, box);
     context.focus = box.name;
     SelectFieldText(box);
-    return false;
+    return Refused;
 }
 
 double FieldValue(const FieldContext& context, const TextBox& box) {
@@ -100,76 +99,77 @@ std::string FormatLimit(const FieldContext& context, double value) {
     return RoundedText(value, context.options.Decimals, context.decimalMark);
 }
 
-bool CheckPositive(const FieldContext& context, TextBox& box, PageSwap pages) {
+Outcome CheckPositive(const FieldContext& context, TextBox& box, PageSwap pages) {
     return Check(
         context, box, pages, [](double value) { return value > 0; },
         [&] { return GetMessage(MustBeAboveZero, context.options.Language); });
 }
 
-bool CheckLessThan(const FieldContext& context, TextBox& box, double limit, PageSwap pages) {
+Outcome CheckLessThan(const FieldContext& context, TextBox& box, double limit, PageSwap pages) {
     return Check(
         context, box, pages, [limit](double value) { return value < limit; },
         [&] { return LimitText(context, MustBeLessThan, limit); });
 }
 
-bool CheckGreaterThan(const FieldContext& context, TextBox& box, double limit, PageSwap pages) {
+Outcome CheckGreaterThan(const FieldContext& context, TextBox& box, double limit, PageSwap pages) {
     return Check(
         context, box, pages, [limit](double value) { return value > limit; },
         [&] { return LimitText(context, MustBeGreaterThan, limit); });
 }
 
-bool CheckAtMost(const FieldContext& context, TextBox& box, double limit, PageSwap pages) {
+Outcome CheckAtMost(const FieldContext& context, TextBox& box, double limit, PageSwap pages) {
     return Check(
         context, box, pages, [limit](double value) { return value <= limit; },
         [&] { return LimitText(context, MustBeAtMost, limit); });
 }
 
-bool CheckAtLeast(const FieldContext& context, TextBox& box, double limit, PageSwap pages) {
+Outcome CheckAtLeast(const FieldContext& context, TextBox& box, double limit, PageSwap pages) {
     return Check(
         context, box, pages, [limit](double value) { return value >= limit; },
         [&] { return LimitText(context, MustBeAtLeast, limit); });
 }
 
-bool CheckNotEqual(const FieldContext& context, TextBox& box, double limit, PageSwap pages) {
+Outcome CheckNotEqual(const FieldContext& context, TextBox& box, double limit, PageSwap pages) {
     return Check(
         context, box, pages, [limit](double value) { return value != limit; },
         [&] { return LimitText(context, CannotBeEqualTo, limit); });
 }
 
-bool CheckInteger(const FieldContext& context, TextBox& box, PageSwap pages) {
+Outcome CheckInteger(const FieldContext& context, TextBox& box, PageSwap pages) {
     return Check(
         context, box, pages, [](double value) { return value == std::trunc(value); },
         [&] { return GetMessage(MustBeInteger, context.options.Language); });
 }
 
-bool CheckRoomForThickness(const FieldContext& context, TextBox& box, double value, double allowance,
-                           PageSwap pages) {
+Outcome CheckRoomForThickness(const FieldContext& context, TextBox& box, double value, double allowance,
+                              PageSwap pages) {
     return value >= allowance
-               ? false
-               : Fail(context, box, pages, GetMessage(NoRoomForThickness, context.options.Language));
+               ? Passed
+               : Refuse(context, box, pages, GetMessage(NoRoomForThickness, context.options.Language));
 }
 
-bool CheckBoxRoomForThickness(const FieldContext& context, TextBox& box, double allowance, PageSwap pages) {
-    if (HoldsNoNumber(context, box, pages)) {
-        return true;
+Outcome CheckBoxRoomForThickness(const FieldContext& context, TextBox& box, double allowance,
+                                 PageSwap pages) {
+    if (CheckNumberOnPage(context, box, pages)) {
+        return Refused;
     }
     return CheckRoomForThickness(context, box, FieldValue(context, box), allowance, pages);
 }
 
-bool CheckNotSmaller(const FieldContext& context, double a, double b, TextBox& box, PageSwap pages) {
+Outcome CheckNotSmaller(const FieldContext& context, double a, double b, TextBox& box, PageSwap pages) {
     if (a >= b) {
-        return false;
+        return Passed;
     }
     SwapPages(pages);
     context.focus = box.name;
-    return true;
+    return Refused;
 }
 
-bool CheckSegs(const FieldContext& context, TextBox& box) {
+Outcome CheckSegs(const FieldContext& context, TextBox& box) {
     const auto reachesOne = [](double value) { return value >= MinSegs; };
     const auto aboveZeroText = [&] { return GetMessage(MustBeAboveZero, context.options.Language); };
-    return Check(context, box, {}, reachesOne, aboveZeroText) || CheckInteger(context, box) ||
-           CheckAtMost(context, box, MaxSegs);
+    return RefusedIf(Check(context, box, {}, reachesOne, aboveZeroText) || CheckInteger(context, box) ||
+                     CheckAtMost(context, box, MaxSegs));
 }
 
 }  // namespace korvet

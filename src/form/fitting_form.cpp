@@ -4,23 +4,24 @@
 
 namespace korvet {
 
-bool FittingForm::Refuse(int messageId) {
+Outcome FittingForm::Refuse(int messageId) {
     ShowUserError(context_.boxes, GetMessage(messageId, context_.options.Language));
-    return true;
+    return Refused;
 }
 
-bool FittingForm::CheckAxes(int topBox, int baseBox) {
+Outcome FittingForm::CheckAxes(int topBox, int baseBox) {
     const bool topMissing = Value(topBox) != 0 && !options.optTopAngle.selected;
     const bool baseMissing = Value(baseBox) != 0 && !options.optBaseAngle.selected;
-    return (topMissing || baseMissing) && Refuse(AxisMustBeSelected);
+    return topMissing || baseMissing ? Refuse(AxisMustBeSelected) : Passed;
 }
 
-bool FittingForm::CheckPatternSelected() {
-    return patternView_ && !options.optPatternSelect.selected && Refuse(PatternMustBeSelected);
+Outcome FittingForm::CheckPatternSelected() {
+    const bool missing = patternView_ && !options.optPatternSelect.selected;
+    return missing ? Refuse(PatternMustBeSelected) : Passed;
 }
 
 void FittingForm::RefuseHalfPattern() {
-    Refuse(HalfPatternNotApplicable);
+    ShowUserError(context_.boxes, GetMessage(HalfPatternNotApplicable, context_.options.Language));
     settings.HalfPattern = false;
 }
 

@@ -59,43 +59,43 @@ class FittingForm {
         return {thickness, settings.InOutMean, shape};
     }
 
-    // The checks: true after a failure, with the message shown and the focus on the box.
-    bool CheckNumber(int box) { return !IsNumericField(context_, Box(box)); }
-    bool CheckPositive(int box) { return korvet::CheckPositive(context_, Box(box)); }
-    bool CheckLessThan(int box, double limit) { return korvet::CheckLessThan(context_, Box(box), limit); }
-    bool CheckGreaterThan(int box, double limit) {
+    // The checks of form/fields.h by the index of the box.
+    Outcome CheckNumber(int box) { return korvet::CheckNumber(context_, Box(box)); }
+    Outcome CheckPositive(int box) { return korvet::CheckPositive(context_, Box(box)); }
+    Outcome CheckLessThan(int box, double limit) { return korvet::CheckLessThan(context_, Box(box), limit); }
+    Outcome CheckGreaterThan(int box, double limit) {
         return korvet::CheckGreaterThan(context_, Box(box), limit);
     }
-    bool CheckAtMost(int box, double limit) { return korvet::CheckAtMost(context_, Box(box), limit); }
-    bool CheckAtLeast(int box, double limit) { return korvet::CheckAtLeast(context_, Box(box), limit); }
-    bool CheckNotEqual(int box, double limit) { return korvet::CheckNotEqual(context_, Box(box), limit); }
-    bool CheckInteger(int box) { return korvet::CheckInteger(context_, Box(box)); }
-    bool CheckRoomForThickness(int box, double value, double allowance) {
+    Outcome CheckAtMost(int box, double limit) { return korvet::CheckAtMost(context_, Box(box), limit); }
+    Outcome CheckAtLeast(int box, double limit) { return korvet::CheckAtLeast(context_, Box(box), limit); }
+    Outcome CheckNotEqual(int box, double limit) { return korvet::CheckNotEqual(context_, Box(box), limit); }
+    Outcome CheckInteger(int box) { return korvet::CheckInteger(context_, Box(box)); }
+    Outcome CheckRoomForThickness(int box, double value, double allowance) {
         return korvet::CheckRoomForThickness(context_, Box(box), value, allowance);
     }
-    bool CheckBoxRoomForThickness(int box, double allowance) {
+    Outcome CheckBoxRoomForThickness(int box, double allowance) {
         return korvet::CheckBoxRoomForThickness(context_, Box(box), allowance);
     }
 
-    /// CheckPositive on several boxes in the order given; stops at the first failure.
+    /// CheckPositive on several boxes in the order given, up to the first that refuses.
     template <typename... Index>
-    bool CheckAllPositive(Index... box) {
-        return (CheckPositive(box) || ...);
+    Outcome CheckAllPositive(Index... box) {
+        return RefusedIf((CheckPositive(box) || ...));
     }
 
-    // The refusals that belong to no box: true after a failure, the focus stays where it is.
+    // The refusals that belong to no box: the focus stays where it is.
 
     /// An angle in one of the two boxes, in degrees, has no axis selected to turn about.
-    bool CheckAxes(int topBox, int baseBox);
+    Outcome CheckAxes(int topBox, int baseBox);
 
     /// A pattern is to be drawn and none of optPatternSelect is selected.
-    bool CheckPatternSelected();
+    Outcome CheckPatternSelected();
 
     /// Says that the fitting has no half pattern with these sizes, and takes the whole one in the settings.
     void RefuseHalfPattern();
 
-    /// Shows a message as the user's error; always true.
-    bool Refuse(int messageId);
+    /// Shows a message as the user's error.
+    Outcome Refuse(int messageId);
 
   private:
     [[nodiscard]] TextBox& Box(int box) const { return boxes_.at(static_cast<std::size_t>(box)); }

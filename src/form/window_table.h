@@ -49,16 +49,18 @@ struct PageEntry {
 /// Captions of optTopAngle and optBaseAngle.
 inline constexpr std::string_view AxisCaptions[] = {"Angle about X-axis", "Angle about Y-axis"};
 
+/// One step of the build of a fitting: reads the form and fills the fitting.
+using BuildStep = Outcome(FittingForm& form, const FittingHandle& fitting);
+
 struct WindowTable {
     std::span<const PageEntry> pages;
     FittingHandle (*newFitting)();
 
-    /// Checks the boxes of form.dtype in their fixed order and sets the fitting's own properties. False after
-    /// a failed check, which has shown its message.
-    bool (*buildFitting)(FittingForm& form, const FittingHandle& fitting);
+    /// Checks the boxes of form.dtype in their fixed order and sets the fitting's own properties.
+    BuildStep* buildFitting;
 
     /// What is done once the text block stands, in the same way; null when nothing.
-    bool (*completeFitting)(FittingForm& form, const FittingHandle& fitting) = nullptr;
+    BuildStep* completeFitting = nullptr;
 
     /// What a change of type does to the settings; null when nothing.
     void (*onTypeChanged)(std::int16_t dtype, CPatternSettings& settings) = nullptr;
@@ -133,14 +135,14 @@ inline void HoldSeam(CPatternSettings& settings, bool held) {
 }
 
 /// The build function of a window's table for a fitting of class T, from one that knows the class.
-template <FittingClass T, bool (*Build)(FittingForm&, T&)>
-bool BuildAs(FittingForm& form, const FittingHandle& fitting) {
+template <FittingClass T, Outcome (*Build)(FittingForm&, T&)>
+Outcome BuildAs(FittingForm& form, const FittingHandle& fitting) {
     return Build(form, fitting.As<T>());
 }
 
 /// The same from one function for each type.
-template <FittingClass T, bool (*... Types)(FittingForm&, T&)>
-bool BuildByType(FittingForm& form, const FittingHandle& fitting) {
+template <FittingClass T, Outcome (*... Types)(FittingForm&, T&)>
+Outcome BuildByType(FittingForm& form, const FittingHandle& fitting) {
     constexpr std::array types = {Types...};
     return types.at(static_cast<std::size_t>(form.dtype))(form, fitting.As<T>());
 }

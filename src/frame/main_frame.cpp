@@ -128,7 +128,7 @@ bool CMainFrame::ReadCategory(const std::string& path) {
 /// save would replace a good file by half of it.
 void CMainFrame::LoadInto(CFittingWindow& child, const std::string& path) {
     const std::string newCaption = child.controls.caption;
-    child.controls.caption = child.LoadFile(path) ? path : newCaption;
+    child.controls.caption = child.LoadFile(path) == Passed ? path : newCaption;
 }
 
 bool CMainFrame::CloseChild(CFittingWindow& window) {

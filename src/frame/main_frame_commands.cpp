@@ -140,7 +140,7 @@ void CMainFrame::FileClose(CFittingWindow& child) {
 
 void CMainFrame::FileSave(CFittingWindow& child) {
     if (const auto path = HasNoFile(child) ? ChooseSaveName(context_.ui) : child.controls.caption) {
-        child.SaveFile(*path);
+        (void)child.SaveFile(*path);
     }
 }
 
@@ -153,7 +153,7 @@ void CMainFrame::FileSaveAs(CFittingWindow& child) {
     }
     const std::string oldCaption = child.controls.caption;
     child.controls.caption = *path;
-    if (!child.SaveFile(*path)) {
+    if (child.SaveFile(*path)) {
         child.controls.caption = oldCaption;
     }
 }
@@ -167,11 +167,11 @@ void CMainFrame::ExportDxf(CFittingWindow& child) {
         ShowPlain(context_.ui, context_.Message(OpenElsewhere));
         return;
     }
-    child.Export(*path, ExportMode::Dxf);
+    (void)child.Export(*path, ExportMode::Dxf);
 }
 
 void CMainFrame::ExportHpgl(CFittingWindow& child) {
-    child.Export("Transfer.plt", ExportMode::Plotter);
+    (void)child.Export("Transfer.plt", ExportMode::Plotter);
 }
 
 /// The link needs a CAD program that it can reach, and this one reaches none.

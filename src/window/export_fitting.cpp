@@ -82,7 +82,7 @@ CDXF DxfOf(const CFittingWindow& window, const DxfOptionsDialog& dialog, const s
 }
 
 /// The export itself; the step it has come to stands in `step` when it throws.
-bool RunExport(CFittingWindow& window, const std::string& path, ExportMode mode, ExportStep& step) {
+Outcome RunExport(CFittingWindow& window, const std::string& path, ExportMode mode, ExportStep& step) {
     WindowContext& context = window.Context();
     DxfOptionsDialog dialog;
     dialog.caption = "Exporting " + path;
@@ -90,21 +90,21 @@ bool RunExport(CFittingWindow& window, const std::string& path, ExportMode mode,
     FillDialog(window, mode, dialog, step);
     context.ui.RunModal(dialog);
     if (dialog.lblStatus != "OK") {
-        return false;
+        return Refused;
     }
     if (mode != ExportMode::Dxf) {
         ShowPlain(context.ui, "This version writes DXF files only");
-        return false;
+        return Refused;
     }
     DxfOf(window, dialog, path).WriteDXF(context.files);
     context.ui.Show(
         {context.Message(DxfSaved) + path, InformationBox, std::string(ProductTitle), {}, std::nullopt});
-    return true;
+    return Passed;
 }
 
 }  // namespace
 
-bool ExportFitting(CFittingWindow& window, const std::string& path, ExportMode mode) {
+Outcome ExportFitting(CFittingWindow& window, const std::string& path, ExportMode mode) {
     WindowContext& context = window.Context();
     const HourglassWhile working(window.controls);
     ExportStep step = AtStart;
@@ -112,7 +112,7 @@ bool ExportFitting(CFittingWindow& window, const std::string& path, ExportMode m
         return RunExport(window, path, mode, step);
     } catch (const std::exception& error) {
         ShowPlain(context.ui, context.Message(DxfProblem) + " " + std::to_string(step), error.what());
-        return false;
+        return Refused;
     }
 }
 

@@ -7,7 +7,7 @@
 
 namespace korvet {
 
-/// Asks what goes out and writes it. True when the file was written.
-bool ExportFitting(CFittingWindow& window, const std::string& path, ExportMode mode);
+/// Asks what goes out and writes it. Refused when no file was written, after Cancel too.
+Outcome ExportFitting(CFittingWindow& window, const std::string& path, ExportMode mode);
 
 }  // namespace korvet

@@ -166,57 +166,57 @@ bool CFittingWindow::CloseForm() {
     return true;
 }
 
-bool CFittingWindow::FillFromFile(const std::string& path) {
+Outcome CFittingWindow::FillFromFile(const std::string& path) {
     views = std::make_shared<CViewList>();
     hasModel = false;  // no view, no model: there is nothing to save until the next build
     try {
         const CKvtFile file = LoadFitting(*this, path);
         comment1 = file.Comment1;
         comment2 = file.Comment2;
-        return true;
+        return Passed;
     } catch (const std::exception& error) {
         ShowLoadError(context_, error);
-        return false;
+        return Refused;
     }
 }
 
-bool CFittingWindow::LoadFile(const std::string& path) {
-    if (!FillFromFile(path)) {
-        return false;
+Outcome CFittingWindow::LoadFile(const std::string& path) {
+    if (FillFromFile(path)) {
+        return Refused;
     }
     UpdateFitting();
     try {
         ShowExtents();
     } catch (const std::exception& error) {
         ShowPlain(context_.ui, context_.Message(ErrorLoading), error.what());
-        return false;
+        return Refused;
     }
-    return true;
+    return Passed;
 }
 
-bool CFittingWindow::SaveFile(const std::string& path) {
-    if (RefuseWithoutModel()) {
-        return false;
+Outcome CFittingWindow::SaveFile(const std::string& path) {
+    if (RequireModel()) {
+        return Refused;
     }
     UpdateFitting();
     return SaveFitting(*this, path);
 }
 
-bool CFittingWindow::WriteTable(const std::string& path) {
-    if (RefuseWithoutModel() || !RequirePatternView(context_.ui, context_.options, *views)) {
-        return false;
+Outcome CFittingWindow::WriteTable(const std::string& path) {
+    if (RequireModel() || RequirePatternView(context_.ui, context_.options, *views)) {
+        return Refused;
     }
     try {
         display.PrintCoordinateTable(context_.files, path);
-        return true;
+        return Passed;
     } catch (const std::exception& error) {
         ShowPlain(context_.ui, "Error in COptions:WriteTableFile", error.what());
-        return false;
+        return Refused;
     }
 }
 
-bool CFittingWindow::Export(const std::string& path, ExportMode mode) {
-    return !RefuseWithoutModel() && ExportFitting(*this, path, mode);
+Outcome CFittingWindow::Export(const std::string& path, ExportMode mode) {
+    return RefusedIf(RequireModel() || ExportFitting(*this, path, mode));
 }
 
 }  // namespace korvet

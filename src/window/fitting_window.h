@@ -13,6 +13,7 @@
 #include "display/view_point.h"
 #include "exchange/kvt_file.h"
 #include "form/catalogue_row.h"
+#include "form/outcome.h"
 #include "window/context.h"
 #include "window/window_model.h"
 
@@ -68,17 +69,17 @@ class CFittingWindow {
     void SelectPrintFrames();
     void SetupPrintFrames();
 
-    /// Exports what the last display showed. True when the file was written.
-    bool Export(const std::string& path, ExportMode mode);
+    /// Exports what the last display showed. Refused when no file was written, after Cancel too.
+    Outcome Export(const std::string& path, ExportMode mode);
 
-    /// Writes the coordinate table of the pattern that is shown. True when it was written.
-    bool WriteTable(const std::string& path);
+    /// Writes the coordinate table of the pattern that is shown.
+    Outcome WriteTable(const std::string& path);
 
-    /// Updates and writes the parameter file; the caption becomes its path. True when it was written.
-    bool SaveFile(const std::string& path);
+    /// Updates and writes the parameter file; the caption becomes its path.
+    Outcome SaveFile(const std::string& path);
 
-    /// Fills the window from a parameter file, shows it and zooms to it. False after message 109.
-    bool LoadFile(const std::string& path);
+    /// Fills the window from a parameter file, shows it and zooms to it. Refuses with message 109.
+    Outcome LoadFile(const std::string& path);
 
     /// Asks about saving, then closes. False when the user keeps the window open.
     bool CloseForm();
@@ -108,12 +109,12 @@ class CFittingWindow {
     void Activate();
 
     /// The part of LoadFile before the first update: header to comments into controls, settings, display.
-    /// False after message 109; what was read before the fault stays.
-    bool FillFromFile(const std::string& path);
+    /// Refuses with message 109; what was read before the fault stays.
+    Outcome FillFromFile(const std::string& path);
 
-    /// Checks every box in order and derives the fitting's properties and the text block. True when all is
-    /// well; after the first failed check its message has been shown and hasModel is false.
-    bool BuildFitting();
+    /// Checks every box in order and derives the fitting's properties and the text block. After the first
+    /// refusal hasModel is false.
+    Outcome BuildFitting();
 
     /// The number of sides in the box of the type that is shown; nothing where the section has none.
     [[nodiscard]] std::optional<int> TypedSides() const;
@@ -165,9 +166,9 @@ class CFittingWindow {
 
   private:
     void InitialiseFitting();
-    bool RefuseWithoutModel();
+    Outcome RequireModel();
     void ShowExtents();
-    bool AllFieldsValid();
+    Outcome CheckAllFields();
     void AddTextBlock();
     void TakeNoOfSides();
     void ResetFieldColours();

@@ -141,7 +141,7 @@ void ShowLoadError(WindowContext& context, const std::exception& error) {
     ShowPlain(context.ui, context.Message(ErrorLoading), error.what());
 }
 
-bool SaveFitting(CFittingWindow& window, const std::string& path) {
+Outcome SaveFitting(CFittingWindow& window, const std::string& path) {
     const CObjectDisplay& display = window.display;
     WindowContext& context = window.Context();
     CKvtFile file;
@@ -172,10 +172,10 @@ bool SaveFitting(CFittingWindow& window, const std::string& path) {
         file.SaveFile(context.files, context.decimalMark);
     } catch (const std::exception& error) {
         ShowPlain(context.ui, error.what());
-        return false;
+        return Refused;
     }
     window.controls.caption = path;
-    return true;
+    return Passed;
 }
 
 CKvtFile LoadFitting(CFittingWindow& window, const std::string& path) {
@@ -237,7 +237,7 @@ int ConfirmSave(CFittingWindow& window) {
     }
     const std::optional<std::string> path = HasNoFile(window) ? ChooseSaveName(context.ui) : caption;
     // What was not written must not be thrown away with its window.
-    return static_cast<int>(path && window.SaveFile(*path) ? Answer::Yes : Answer::Cancel);
+    return static_cast<int>(path && window.SaveFile(*path) == Passed ? Answer::Yes : Answer::Cancel);
 }
 
 }  // namespace korvet

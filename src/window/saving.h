@@ -16,9 +16,9 @@ inline constexpr std::string_view NewWindowCaption = "Development";
 /// Whether the window has no file yet, by its caption.
 bool HasNoFile(const CFittingWindow& window);
 
-/// Saves the window's boxes, settings, view and annotations to `path`, which becomes its caption. False, with
-/// a message, when the file could not be written; the caption and an old file then stay as they were.
-bool SaveFitting(CFittingWindow& window, const std::string& path);
+/// Saves the window's boxes, settings, view and annotations to `path`, which becomes its caption. Refuses,
+/// with a message, when the file could not be written; the caption and an old file then stay as they were.
+Outcome SaveFitting(CFittingWindow& window, const std::string& path);
 
 /// Fills the window from a parameter file. Throws FileError and ParameterFileError; what was read before the
 /// fault stays in the controls.

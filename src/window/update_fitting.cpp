@@ -32,7 +32,7 @@ void CFittingWindow::UpdateFitting() {
         return;
     }
     try {
-        if (BuildFitting()) {
+        if (BuildFitting() == Passed) {
             DevelopAndDisplay();
         }
     } catch (const std::exception& error) {
@@ -46,10 +46,10 @@ void CFittingWindow::RefuseBuild(const std::exception& error) {
     ShowPlain(context_.ui, "This fitting cannot be made with these sizes", error.what());
 }
 
-bool CFittingWindow::BuildFitting() {
+Outcome CFittingWindow::BuildFitting() {
     hasModel = false;
-    if (Table().checksAllFields && !AllFieldsValid()) {
-        return false;
+    if (Table().checksAllFields && CheckAllFields()) {
+        return Refused;
     }
     labels = std::make_shared<CLabels>();
     labels->Add({comment1});
@@ -59,26 +59,26 @@ bool CFittingWindow::BuildFitting() {
     }
     FittingForm form(Fields(), {controls.txtParameter, settings, controls.options, branch, category, dtype,
                                 miscellaneous, InPatternView(*views)});
-    if (!Table().buildFitting(form, *fitting)) {
-        return false;
+    if (Table().buildFitting(form, *fitting)) {
+        return Refused;
     }
     AddTextBlock();
     TakeNoOfSides();
-    if (Table().completeFitting != nullptr && !Table().completeFitting(form, *fitting)) {
-        return false;
+    if (Table().completeFitting != nullptr && Table().completeFitting(form, *fitting)) {
+        return Refused;
     }
     fitting->Inputs().Dtype = dtype;
     hasModel = true;
     edited = false;
     ResetFieldColours();
-    return true;
+    return Passed;
 }
 
-bool CFittingWindow::AllFieldsValid() {
+Outcome CFittingWindow::CheckAllFields() {
     const FieldContext fields = Fields();
-    return std::all_of(controls.txtParameter.begin(), controls.txtParameter.end(),
-                       [&](TextBox& box) { return IsNumericField(fields, box); }) &&
-           IsNumericField(fields, controls.txtTextSize);
+    return RefusedIf(std::any_of(controls.txtParameter.begin(), controls.txtParameter.end(),
+                                 [&](TextBox& box) { return CheckNumber(fields, box); }) ||
+                     CheckNumber(fields, controls.txtTextSize));
 }
 
 /// Another number of sides has its corners elsewhere, so that the seam starts anew at the first one.

@@ -31,14 +31,14 @@ PresetAngles AnglesOfButton(int button) {
     return angles[static_cast<std::size_t>(button)];
 }
 
-/// Whether the zoom of the last view can take another step.
-bool IsZoomWithinLimits(MessageBoxes& boxes, const COptions& options, const CViewList& views) {
+/// Refuses another step from a last view that is zoomed too far.
+Outcome CheckZoom(MessageBoxes& boxes, const COptions& options, const CViewList& views) {
     const auto zoom = static_cast<float>(views.Last().ZoomFactor);
-    const bool within = !(zoom > 10000.0F || zoom < 0.0001F);
-    if (!within) {
+    if (zoom > 10000.0F || zoom < 0.0001F) {
         ShowPlain(boxes, GetMessage(MaximumZoom, options.Language));
+        return Refused;
     }
-    return within;
+    return Passed;
 }
 
 }  // namespace
@@ -64,34 +64,34 @@ void PreviousView(MessageBoxes& boxes, CViewList& views) {
     }
 }
 
-bool ZoomView(MessageBoxes& boxes, const COptions& options, double factor, CViewList& views) {
-    if (!IsZoomWithinLimits(boxes, options, views)) {
-        return false;
+Outcome ZoomView(MessageBoxes& boxes, const COptions& options, double factor, CViewList& views) {
+    if (CheckZoom(boxes, options, views)) {
+        return Refused;
     }
     CViewPoint view = CopyCurrentView(views);
     view.ZoomFactor *= factor;
     views.Add(view);
-    return true;
+    return Passed;
 }
 
-bool BeginZoomWindow(MessageBoxes& boxes, const COptions& options, const CViewList& views) {
-    return IsZoomWithinLimits(boxes, options, views);
+Outcome BeginZoomWindow(MessageBoxes& boxes, const COptions& options, const CViewList& views) {
+    return CheckZoom(boxes, options, views);
 }
 
 bool InPatternView(const CViewList& views) {
     return views.Count() > 0 && views.Last().Patternview;
 }
 
-bool RequirePatternView(MessageBoxes& boxes, const COptions& options, const CViewList& views) {
+Outcome RequirePatternView(MessageBoxes& boxes, const COptions& options, const CViewList& views) {
     if (InPatternView(views)) {
-        return true;
+        return Passed;
     }
     ShowPlain(boxes, GetMessage(PatternViewOnly, options.Language));
-    return false;
+    return Refused;
 }
 
 int RequirePatternViewValue(MessageBoxes& boxes, const COptions& options, const CViewList& views, int value) {
-    return RequirePatternView(boxes, options, views) ? value : 0;
+    return RequirePatternView(boxes, options, views) ? 0 : value;
 }
 
 }  // namespace korvet

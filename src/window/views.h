@@ -4,6 +4,7 @@
 #include "display/view_point.h"
 #include "form/message_boxes.h"
 #include "form/options.h"
+#include "form/outcome.h"
 
 namespace korvet {
 
@@ -20,18 +21,18 @@ CViewPoint CopyCurrentView(const CViewList& views);
 /// Takes the last view away; the box "No Previous View" when it is the only one or there is none.
 void PreviousView(MessageBoxes& boxes, CViewList& views);
 
-/// Appends a copy of the last view with its zoom multiplied by `factor`. False, with message 81 shown, when
-/// the last zoom lies outside 0.0001 to 10000 as single precision.
-bool ZoomView(MessageBoxes& boxes, const COptions& options, double factor, CViewList& views);
+/// Appends a copy of the last view with its zoom multiplied by `factor`. Refuses with message 81 when the
+/// last zoom lies outside 0.0001 to 10000 as single precision.
+Outcome ZoomView(MessageBoxes& boxes, const COptions& options, double factor, CViewList& views);
 
-/// Whether a zoom window may be drawn on the last view, by the same limits and message as ZoomView.
-bool BeginZoomWindow(MessageBoxes& boxes, const COptions& options, const CViewList& views);
+/// Lets a zoom window be drawn on the last view, by the same limits and message as ZoomView.
+Outcome BeginZoomWindow(MessageBoxes& boxes, const COptions& options, const CViewList& views);
 
 /// Whether there is a view and the last one shows the pattern.
 bool InPatternView(const CViewList& views);
 
-/// InPatternView; a plain box with message 71 when not.
-bool RequirePatternView(MessageBoxes& boxes, const COptions& options, const CViewList& views);
+/// Refuses any other view than one of the pattern, by a plain box with message 71.
+Outcome RequirePatternView(MessageBoxes& boxes, const COptions& options, const CViewList& views);
 
 /// `value` in a pattern view; 0, with a plain box with message 71, otherwise.
 int RequirePatternViewValue(MessageBoxes& boxes, const COptions& options, const CViewList& views, int value);

@@ -6,11 +6,13 @@
 
 namespace korvet {
 
-bool CFittingWindow::RefuseWithoutModel() {
-    if (!hasModel) {
-        ShowUserError(context_.ui, context_.Message(NotAtThisTime));
+/// What most commands ask for first.
+Outcome CFittingWindow::RequireModel() {
+    if (hasModel) {
+        return Passed;
     }
-    return !hasModel;
+    ShowUserError(context_.ui, context_.Message(NotAtThisTime));
+    return Refused;
 }
 
 void CFittingWindow::SetCategory(const std::string& name) {
@@ -34,7 +36,7 @@ void CFittingWindow::Settings() {
 }
 
 void CFittingWindow::DimensionOptionsDialog() {
-    if (RefuseWithoutModel() || !RequirePatternView(context_.ui, context_.options, *views)) {
+    if (RequireModel() || RequirePatternView(context_.ui, context_.options, *views)) {
         return;
     }
     korvet::DimensionOptionsDialog dialog;
@@ -60,7 +62,7 @@ void CFittingWindow::DimensionOptionsDialog() {
 
 void CFittingWindow::RotatePattern() {
     CancelMouseModes();
-    if (RefuseWithoutModel()) {
+    if (RequireModel()) {
         return;
     }
     if (!InPatternView(*views)) {
@@ -73,7 +75,7 @@ void CFittingWindow::RotatePattern() {
 
 void CFittingWindow::PlaceLabel() {
     CancelMouseModes();
-    if (RefuseWithoutModel()) {
+    if (RequireModel()) {
         return;
     }
     modes.labelMode = true;
@@ -125,7 +127,7 @@ void CFittingWindow::ZoomPrevious() {
 void CFittingWindow::ZoomX(double factor) {
     CancelMouseModes();
     if (hasModel) {
-        ZoomView(context_.ui, context_.options, factor, *views);
+        (void)ZoomView(context_.ui, context_.options, factor, *views);  // drawn anew all the same
         UpdateFitting();
     }
 }
@@ -133,7 +135,7 @@ void CFittingWindow::ZoomX(double factor) {
 void CFittingWindow::ZoomWindow() {
     CancelMouseModes();
     if (hasModel) {
-        modes.zoomWindowMode = BeginZoomWindow(context_.ui, context_.options, *views);
+        modes.zoomWindowMode = BeginZoomWindow(context_.ui, context_.options, *views) == Passed;
     }
 }
 
@@ -146,7 +148,7 @@ void CFittingWindow::PanView() {
 
 void CFittingWindow::MeasureDistance() {
     CancelMouseModes();
-    if (RefuseWithoutModel()) {
+    if (RequireModel()) {
         return;
     }
     modes.measureMode = true;
@@ -155,7 +157,7 @@ void CFittingWindow::MeasureDistance() {
 
 void CFittingWindow::AddDimension(int kind) {
     CancelMouseModes();
-    if (RefuseWithoutModel()) {
+    if (RequireModel()) {
         return;
     }
     if (RequirePatternViewValue(context_.ui, context_.options, *views, kind) > 0) {
@@ -202,7 +204,7 @@ void CFittingWindow::SelectPrintFrames() {
 }
 
 void CFittingWindow::SetupPrintFrames() {
-    if (RefuseWithoutModel()) {
+    if (RequireModel()) {
         return;
     }
     if (!context_.frame.printFramesTicked) {

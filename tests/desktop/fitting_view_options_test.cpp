@@ -36,11 +36,11 @@ WindowTable FullTable() {
 }
 
 /// A cone whatever the boxes hold.
-bool BuildAnyCone(FittingForm&, const FittingHandle& fitting) {
+Outcome BuildAnyCone(FittingForm&, const FittingHandle& fitting) {
     fitting.As<CRightCone>().BaseRad = 100;
     fitting.As<CRightCone>().ConeAngle = 0.5;
     fitting.As<CRightCone>().CPHeight1 = 50;
-    return true;
+    return Passed;
 }
 
 /// The buttons of a group that are on.

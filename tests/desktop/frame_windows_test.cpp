@@ -53,7 +53,7 @@ class FrameWindowsTest : public QObject {
         Desk desk;
         CFittingWindow& made = desk.New(0);
         Bring(made, State::Pattern);
-        QVERIFY(made.SaveFile("/jobs/cone.Kvt"));
+        QVERIFY(made.SaveFile("/jobs/cone.Kvt") == Passed);
         QMimeData files;
         files.setUrls({QUrl::fromLocalFile("/jobs/cone.Kvt"), QUrl::fromLocalFile("/jobs/none.Kvt")});
         QDragEnterEvent enter(QPoint(20, 20), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);

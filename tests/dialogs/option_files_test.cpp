@@ -16,7 +16,7 @@ class OptionFilesTest : public testing::Test {
     std::unique_ptr<CFittingWindow> Tilted(const std::string& lines) {
         const auto sample = shell.OpenSample("Rectangle to Round", 2);
         sample->ClickView(0);
-        EXPECT_TRUE(sample->SaveFile("tilted.Kvt"));
+        EXPECT_EQ(sample->SaveFile("tilted.Kvt"), Passed);
         return Loaded("Rectangle to Round", "Angle", lines);
     }
 
@@ -28,7 +28,7 @@ class OptionFilesTest : public testing::Test {
         const std::size_t from = file.find(start) + start.size();
         file.replace(from, file.find("End " + section, from) - from, lines);
         auto window = shell.Open(category);
-        EXPECT_TRUE(window->LoadFile("tilted.Kvt"));
+        EXPECT_EQ(window->LoadFile("tilted.Kvt"), Passed);
         return window;
     }
 
@@ -73,9 +73,9 @@ TEST_F(OptionFilesTest, TheChosenPatternComesBack) {
             const auto window = shell.OpenSample(category, 1);
             window->SelectPattern(choice);
             window->ClickView(PatternButton);
-            ASSERT_TRUE(window->SaveFile("chosen.Kvt"));
+            ASSERT_EQ(window->SaveFile("chosen.Kvt"), Passed);
             const auto loaded = shell.Open(category);
-            ASSERT_TRUE(loaded->LoadFile("chosen.Kvt"));
+            ASSERT_EQ(loaded->LoadFile("chosen.Kvt"), Passed);
             EXPECT_TRUE(loaded->controls.options.optPatternSelect.IsOn(choice)) << category;
             EXPECT_EQ(loaded->miscellaneous, static_cast<std::int16_t>(choice + 1)) << category;
             ASSERT_EQ(loaded->display.Surfaces.Count(), window->display.Surfaces.Count()) << category;
@@ -90,7 +90,7 @@ TEST_F(OptionFilesTest, APatternOfAFileWithoutAChoiceIsAskedFor) {
     const auto window = shell.OpenSample("Branch", 1);
     window->SelectPattern(1);
     window->ClickView(PatternButton);
-    ASSERT_TRUE(window->SaveFile("tilted.Kvt"));
+    ASSERT_EQ(window->SaveFile("tilted.Kvt"), Passed);
     const auto loaded = Loaded("Branch", "Pattern Select", "False\r\nFalse\r\n");
     EXPECT_FALSE(loaded->hasModel);
     ASSERT_FALSE(shell.ui.messages.empty());
@@ -100,8 +100,8 @@ TEST_F(OptionFilesTest, APatternOfAFileWithoutAChoiceIsAskedFor) {
 
 class TableFileTest : public testing::Test {
   protected:
-    /// Whether the table of a cone in this view is written over an older one.
-    bool Write(int view) {
+    /// Writes the table of a cone in this view over an older one.
+    Outcome Write(int view) {
         window = shell.OpenSample("Right Cone", 2);
         window->ClickView(view);
         shell.files.files["Coordinates.txt"] = "older";
@@ -115,33 +115,33 @@ class TableFileTest : public testing::Test {
 };
 
 TEST_F(TableFileTest, IsWrittenOfAPattern) {
-    EXPECT_TRUE(Write(PatternButton));
+    EXPECT_EQ(Write(PatternButton), Passed);
     EXPECT_EQ(File().find("Korvet Development\r\nSuface No: 1\r\n\r\nNumber"), 0U);
     EXPECT_TRUE(shell.ui.messages.empty());
 }
 
 TEST_F(TableFileTest, IsRefusedInAModelView) {
-    EXPECT_FALSE(Write(0));
+    EXPECT_EQ(Write(0), Refused);
     EXPECT_EQ(shell.ui.Texts().size(), 1U);
     EXPECT_EQ(File(), "older");
 }
 
 TEST_F(TableFileTest, FailsWithItsMessageAndLeavesTheOlderOne) {
     shell.files.unwritable.insert("Coordinates.txt");
-    EXPECT_FALSE(Write(PatternButton));
+    EXPECT_EQ(Write(PatternButton), Refused);
     EXPECT_EQ(shell.ui.Texts(), (std::vector<std::string>{"Error in COptions:WriteTableFile"}));
     EXPECT_EQ(File(), "older");
 }
 
 TEST_F(TableFileTest, OfALineThatIsTooShortIsNotBegun) {
-    ASSERT_TRUE(Write(PatternButton));
+    ASSERT_EQ(Write(PatternButton), Passed);
     shell.files.files["Coordinates.txt"] = "older";
     // The base loses its stations behind the first.
     C3DPoints& base = *window->display.Surfaces.Item(1).List2;
     for (std::size_t i = 2; i <= base.Count(); ++i) {
         base.Item(i).Flag = PlainStation;
     }
-    EXPECT_FALSE(window->WriteTable("Coordinates.txt"));
+    EXPECT_EQ(window->WriteTable("Coordinates.txt"), Refused);
     EXPECT_EQ(shell.ui.Texts(), (std::vector<std::string>{"Error in COptions:WriteTableFile"}));
     EXPECT_EQ(File(), "older");
 }

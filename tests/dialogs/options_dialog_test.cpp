@@ -350,15 +350,15 @@ TEST_F(GlobalOptions, BoxesAreTestedInTheirOrder) {
         box->text = bad;
     }
     for (std::size_t i = 0; i < order.size(); ++i) {
-        EXPECT_FALSE(dialog.ApplyDialog());
+        EXPECT_EQ(dialog.ApplyDialog(), Refused);
         EXPECT_EQ(dialog.focus, order[i].first->name);
         order[i].first->text = right[i];
     }
-    EXPECT_TRUE(dialog.ApplyDialog());
+    EXPECT_EQ(dialog.ApplyDialog(), Passed);
 
     dialog.txtDXFTextSize.text = "0";
     dialog.txtDisplayTextSize.text = "0";
-    EXPECT_FALSE(dialog.ApplyDialog());
+    EXPECT_EQ(dialog.ApplyDialog(), Refused);
     EXPECT_EQ(dialog.focus, "txtDXFTextSize");
 }
 

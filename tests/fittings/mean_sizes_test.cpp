@@ -61,21 +61,21 @@ TEST(MeanSizes, AWallMayHaveAThicknessOfItsOwn) {
 TEST(MeanSizes, ARoundWallNeedsRoomForHalfItsThickness) {
     FormOnBoxes boxes({"200", "40"});
     FittingForm& form = SizesFrom(boxes, OutsideDimension);
-    EXPECT_FALSE(CheckRoundWall(form, 1, 3));
+    EXPECT_EQ(CheckRoundWall(form, 1, 3), Passed);
     EXPECT_EQ(boxes.Refusal(1), "");
-    EXPECT_TRUE(CheckRoundWall(form, 1, 2.999));
+    EXPECT_EQ(CheckRoundWall(form, 1, 2.999), Refused);
     EXPECT_EQ(boxes.Refusal(1), NoRoom);
 }
 
 TEST(MeanSizes, TheWallOfAConeNeedsLessRoomTheMoreItLeans) {
     FormOnBoxes boxes({"200", "40"});
     FittingForm& form = SizesFrom(boxes, OutsideDimension);
-    EXPECT_FALSE(CheckConeWall(form, 0, 3, 0));
-    EXPECT_FALSE(CheckConeWall(form, 0, 1.501, DegToRad(60)));
+    EXPECT_EQ(CheckConeWall(form, 0, 3, 0), Passed);
+    EXPECT_EQ(CheckConeWall(form, 0, 1.501, DegToRad(60)), Passed);
     EXPECT_EQ(boxes.Refusal(0), "");
-    EXPECT_TRUE(CheckConeWall(form, 0, 2.999, 0));
+    EXPECT_EQ(CheckConeWall(form, 0, 2.999, 0), Refused);
     EXPECT_EQ(boxes.Refusal(0), NoRoom);
-    EXPECT_TRUE(CheckConeWall(form, 1, 1.499, DegToRad(60)));
+    EXPECT_EQ(CheckConeWall(form, 1, 1.499, DegToRad(60)), Refused);
     EXPECT_EQ(boxes.Refusal(1), NoRoom);
 }
 

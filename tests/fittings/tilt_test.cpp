@@ -23,29 +23,29 @@ TEST(TiltLimit, IsTheSlopeFromTheLowerEnd) {
 
 TEST(CheckTiltWithin, LimitsThemselvesAreRefused) {
     FormOnBoxes boxes({"-90", "20", "-89.9", "19.9"});
-    EXPECT_TRUE(CheckTiltWithin(boxes.form, 0, -90, 20));
+    EXPECT_EQ(CheckTiltWithin(boxes.form, 0, -90, 20), Refused);
     EXPECT_EQ(boxes.Refusal(0), "This dimension must be greater than -90");
-    EXPECT_TRUE(CheckTiltWithin(boxes.form, 1, -90, 20));
+    EXPECT_EQ(CheckTiltWithin(boxes.form, 1, -90, 20), Refused);
     EXPECT_EQ(boxes.Refusal(1), "This dimension must be less than 20");
-    EXPECT_FALSE(CheckTiltWithin(boxes.form, 2, -90, 20));
-    EXPECT_FALSE(CheckTiltWithin(boxes.form, 3, -90, 20));
+    EXPECT_EQ(CheckTiltWithin(boxes.form, 2, -90, 20), Passed);
+    EXPECT_EQ(CheckTiltWithin(boxes.form, 3, -90, 20), Passed);
     EXPECT_EQ(boxes.Refusal(3), "");
 }
 
 TEST(CheckTiltWithin, LowerLimitComesFirst) {
     FormOnBoxes boxes({"10"});
-    EXPECT_TRUE(CheckTiltWithin(boxes.form, 0, 15, 5));
+    EXPECT_EQ(CheckTiltWithin(boxes.form, 0, 15, 5), Refused);
     EXPECT_EQ(boxes.Refusal(0), "This dimension must be greater than 15");
 }
 
 TEST(CheckPlaneTilt, IsTheSameToEitherSide) {
     FormOnBoxes boxes({"-45.1", "45.1", "-44.9", "44.9"});
-    EXPECT_TRUE(CheckPlaneTilt(boxes.form, 0, 70, 70));
+    EXPECT_EQ(CheckPlaneTilt(boxes.form, 0, 70, 70), Refused);
     EXPECT_EQ(boxes.Refusal(0), "This dimension must be greater than -45");
-    EXPECT_TRUE(CheckPlaneTilt(boxes.form, 1, 70, 70));
+    EXPECT_EQ(CheckPlaneTilt(boxes.form, 1, 70, 70), Refused);
     EXPECT_EQ(boxes.Refusal(1), "This dimension must be less than 45");
-    EXPECT_FALSE(CheckPlaneTilt(boxes.form, 2, 70, 70));
-    EXPECT_FALSE(CheckPlaneTilt(boxes.form, 3, 70, 70));
+    EXPECT_EQ(CheckPlaneTilt(boxes.form, 2, 70, 70), Passed);
+    EXPECT_EQ(CheckPlaneTilt(boxes.form, 3, 70, 70), Passed);
     EXPECT_EQ(boxes.Refusal(3), "");
 }
 

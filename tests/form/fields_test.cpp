@@ -77,7 +77,7 @@ TEST_F(Fields, TheLocalesMarkIsPartOfANumber) {
     context.decimalMark = ',';
     TextBox box = Box("1,5");
     CheckFieldChange(context, box);
-    EXPECT_TRUE(IsNumericField(context, box));
+    EXPECT_EQ(CheckNumber(context, box), Passed);
     EXPECT_EQ(FieldValue(context, box), 1.5);
     box.text = "1.5";
     EXPECT_EQ(FieldValue(context, box), 1.5);
@@ -89,7 +89,7 @@ TEST_F(Fields, TheStrictTestTakesNoBeginnings) {
         ui.messages.clear();
         focus = "before";
         TextBox box = Box(text);
-        EXPECT_FALSE(IsNumericField(context, box)) << text;
+        EXPECT_EQ(CheckNumber(context, box), Refused) << text;
         ASSERT_EQ(OnlyText(), "Not a valid number") << text;
         EXPECT_EQ(ui.messages[0].style, 32);
         EXPECT_EQ(ui.messages[0].title, "Korvet Development");
@@ -98,7 +98,7 @@ TEST_F(Fields, TheStrictTestTakesNoBeginnings) {
     }
     TextBox box = Box("7");
     focus = "before";
-    EXPECT_TRUE(IsNumericField(context, box));
+    EXPECT_EQ(CheckNumber(context, box), Passed);
     EXPECT_EQ(focus, "before");
 }
 
@@ -119,13 +119,13 @@ TEST_F(Fields, LimitsAreShownAtTheDecimalsOfTheOptions) {
     EXPECT_EQ(FormatLimit(context, 0.25), "0,2");
 }
 
-using Verdict = std::function<bool(const FieldContext&, TextBox&)>;
+using LimitCheck = std::function<Outcome(const FieldContext&, TextBox&)>;
 
 /// A check with a limit of 12.96, the last text that it lets through, the first that it does not, and what it
 /// says.
 struct LimitCase {
     const char* name;
-    Verdict failed;
+    LimitCheck check;
     std::vector<const char*> good;
     std::vector<const char*> bad;
     std::string message;
@@ -178,19 +178,19 @@ TEST_F(Fields, EachCheckTurnsExactlyAtItsLimit) {
         SCOPED_TRACE(limit.name);
         for (const char* text : limit.good) {
             TextBox box = Box(text);
-            EXPECT_FALSE(limit.failed(context, box)) << text;
+            EXPECT_EQ(limit.check(context, box), Passed) << text;
         }
         EXPECT_TRUE(ui.messages.empty());
         EXPECT_EQ(focus, "before");
         for (const char* text : limit.bad) {
             TextBox box = Box(text);
-            EXPECT_TRUE(limit.failed(context, box)) << text;
+            EXPECT_EQ(limit.check(context, box), Refused) << text;
             ExpectUserError(limit.message);
             ui.messages.clear();
             focus = "before";
         }
         TextBox word = Box("word");
-        EXPECT_TRUE(limit.failed(context, word));
+        EXPECT_EQ(limit.check(context, word), Refused);
         EXPECT_EQ(OnlyText(), "Not a valid number");
         EXPECT_EQ(focus, "txtParameter_3");
         ui.messages.clear();
@@ -200,9 +200,9 @@ TEST_F(Fields, EachCheckTurnsExactlyAtItsLimit) {
 
 TEST_F(Fields, RoomForThicknessComparesTheMeanSizeThatItIsGiven) {
     TextBox box = Box("100");
-    EXPECT_FALSE(CheckRoomForThickness(context, box, 1.5, 1.5));
+    EXPECT_EQ(CheckRoomForThickness(context, box, 1.5, 1.5), Passed);
     EXPECT_TRUE(ui.messages.empty());
-    EXPECT_TRUE(CheckRoomForThickness(context, box, 1.49, 1.5));
+    EXPECT_EQ(CheckRoomForThickness(context, box, 1.49, 1.5), Refused);
     ExpectUserError("This dimension must be increased to allow for material thickness");
 }
 
@@ -211,10 +211,10 @@ TEST_F(Fields, NotSmallerMovesTheFocusWithoutAWord) {
     Control hide;
     Control show;
     show.visible = false;
-    EXPECT_FALSE(CheckNotSmaller(context, 2, 2, box, {&hide, &show}));
+    EXPECT_EQ(CheckNotSmaller(context, 2, 2, box, {&hide, &show}), Passed);
     EXPECT_EQ(focus, "before");
     EXPECT_TRUE(hide.visible);
-    EXPECT_TRUE(CheckNotSmaller(context, 1.999, 2, box, {&hide, &show}));
+    EXPECT_EQ(CheckNotSmaller(context, 1.999, 2, box, {&hide, &show}), Refused);
     EXPECT_EQ(focus, "txtParameter_3");
     EXPECT_FALSE(hide.visible);
     EXPECT_TRUE(show.visible);
@@ -226,11 +226,11 @@ TEST_F(Fields, AFailedCheckSwapsThePagesAndAGoodOneDoesNot) {
     Control show;
     show.visible = false;
     TextBox box = Box("5");
-    EXPECT_FALSE(CheckPositive(context, box, {&hide, &show}));
+    EXPECT_EQ(CheckPositive(context, box, {&hide, &show}), Passed);
     EXPECT_TRUE(hide.visible);
     EXPECT_FALSE(show.visible);
     box.text = "0";
-    EXPECT_TRUE(CheckPositive(context, box, {&hide, &show}));
+    EXPECT_EQ(CheckPositive(context, box, {&hide, &show}), Refused);
     EXPECT_FALSE(hide.visible);
     EXPECT_TRUE(show.visible);
 }
@@ -238,23 +238,23 @@ TEST_F(Fields, AFailedCheckSwapsThePagesAndAGoodOneDoesNot) {
 TEST_F(Fields, PagesSwapOnlyWhenBothAreGiven) {
     Control page;
     TextBox box = Box("0");
-    EXPECT_TRUE(CheckPositive(context, box, {&page, nullptr}));
+    EXPECT_EQ(CheckPositive(context, box, {&page, nullptr}), Refused);
     EXPECT_TRUE(page.visible);
     page.visible = false;
-    EXPECT_TRUE(CheckPositive(context, box, {nullptr, &page}));
+    EXPECT_EQ(CheckPositive(context, box, {nullptr, &page}), Refused);
     EXPECT_FALSE(page.visible);
 }
 
 TEST_F(Fields, AWordInABoxOfTheHiddenPageSwapsThePagesToo) {
-    const std::vector<std::function<bool(TextBox&, PageSwap)>> checks = {
+    const std::vector<std::function<Outcome(TextBox&, PageSwap)>> checks = {
         [this](TextBox& box, PageSwap pages) { return CheckPositive(context, box, pages); },
         [this](TextBox& box, PageSwap pages) { return CheckBoxRoomForThickness(context, box, 1, pages); }};
-    for (const auto& failed : checks) {
+    for (const auto& check : checks) {
         Control hide;
         Control show;
         show.visible = false;
         TextBox box = Box("word");
-        EXPECT_TRUE(failed(box, {&hide, &show}));
+        EXPECT_EQ(check(box, {&hide, &show}), Refused);
         EXPECT_FALSE(hide.visible);
         EXPECT_TRUE(show.visible);
     }
@@ -263,7 +263,7 @@ TEST_F(Fields, AWordInABoxOfTheHiddenPageSwapsThePagesToo) {
 TEST_F(Fields, SegsAreAWholeNumberFromOneToAHundredThousand) {
     for (const char* text : {"1", "24", "100000", "1e5", " 36 "}) {
         TextBox box = Box(text);
-        EXPECT_FALSE(CheckSegs(context, box)) << text;
+        EXPECT_EQ(CheckSegs(context, box), Passed) << text;
     }
     EXPECT_TRUE(ui.messages.empty());
     const std::vector<std::pair<const char*, const char*>> bad = {
@@ -276,22 +276,22 @@ TEST_F(Fields, SegsAreAWholeNumberFromOneToAHundredThousand) {
         {"1e300", "This dimension must be equal to or less than 100000"}};
     for (const auto& [text, message] : bad) {
         TextBox box = Box(text);
-        EXPECT_TRUE(CheckSegs(context, box)) << text;
+        EXPECT_EQ(CheckSegs(context, box), Refused) << text;
         ExpectUserError(message);
         ui.messages.clear();
     }
     TextBox word = Box("many");
-    EXPECT_TRUE(CheckSegs(context, word));
+    EXPECT_EQ(CheckSegs(context, word), Refused);
     EXPECT_EQ(OnlyText(), "Not a valid number");
 }
 
 TEST_F(Fields, MessagesFollowTheLanguage) {
     options.Language = "French";
     TextBox box = Box("20");
-    EXPECT_TRUE(CheckLessThan(context, box, 12.96));
+    EXPECT_EQ(CheckLessThan(context, box, 12.96), Refused);
     EXPECT_EQ(OnlyText(), "13");
     ui.messages.clear();
-    EXPECT_TRUE(CheckPositive(context, box = Box("0")));
+    EXPECT_EQ(CheckPositive(context, box = Box("0")), Refused);
     EXPECT_EQ(OnlyText(), "");
 }
 
@@ -311,13 +311,13 @@ TEST_F(Fields, AFormAddressesItsBoxesByIndex) {
     EXPECT_THROW(static_cast<void>(form.Value(3)), ArithmeticError);
     EXPECT_EQ(form.Compensator(RoundWall).NewDistance(form.Value(0), 0, 0), 11);
 
-    EXPECT_FALSE(form.CheckPositive(0));
-    EXPECT_TRUE(form.CheckAllPositive(0, 2, 1)) << "stops at the first failure in the order given";
+    EXPECT_EQ(form.CheckPositive(0), Passed);
+    EXPECT_EQ(form.CheckAllPositive(0, 2, 1), Refused) << "stops at the first failure in the order given";
     EXPECT_EQ(focus, "txtParameter_2");
     ASSERT_EQ(ui.messages.size(), 1U);
     EXPECT_EQ(ui.messages[0].box, 2);
-    EXPECT_TRUE(form.CheckNumber(3));
-    EXPECT_FALSE(form.CheckNumber(2));
+    EXPECT_EQ(form.CheckNumber(3), Refused);
+    EXPECT_EQ(form.CheckNumber(2), Passed);
 }
 
 }  // namespace

@@ -126,14 +126,17 @@ TEST(ViewHistory, KeepsItsOnlyView) {
 TEST(ViewHistory, ZoomLimitsAreThoseOfSinglePrecision) {
     RecordingUi ui;
     const COptions options;
-    for (const auto& [zoom, allowed] :
-         {std::pair{10000.0, true}, {10000.0001, true}, {10001.0, false}, {1e-4, true}, {9.9e-5, false}}) {
+    for (const auto& [zoom, outcome] : {std::pair{10000.0, Passed},
+                                        {10000.0001, Passed},
+                                        {10001.0, Refused},
+                                        {1e-4, Passed},
+                                        {9.9e-5, Refused}}) {
         CViewList views;
         views.Add(DefaultViewPoint());
         views.Item(1).ZoomFactor = zoom;
-        EXPECT_EQ(BeginZoomWindow(ui, options, views), allowed) << zoom;
-        EXPECT_EQ(ZoomView(ui, options, 0.9, views), allowed) << zoom;
-        EXPECT_EQ(views.Count(), allowed ? 2U : 1U);
+        EXPECT_EQ(BeginZoomWindow(ui, options, views), outcome) << zoom;
+        EXPECT_EQ(ZoomView(ui, options, 0.9, views), outcome) << zoom;
+        EXPECT_EQ(views.Count(), outcome == Passed ? 2U : 1U);
     }
 }
 
@@ -141,9 +144,9 @@ TEST(ViewHistory, PatternCommandsAskForThePattern) {
     RecordingUi ui;
     const COptions options;
     CViewList views;
-    EXPECT_FALSE(RequirePatternView(ui, options, views));
+    EXPECT_EQ(RequirePatternView(ui, options, views), Refused);
     AddPresetView(PatternButton, views);
-    EXPECT_TRUE(RequirePatternView(ui, options, views));
+    EXPECT_EQ(RequirePatternView(ui, options, views), Passed);
     EXPECT_EQ(RequirePatternViewValue(ui, options, views, 3), 3);
     AddPresetView(1, views);
     EXPECT_EQ(RequirePatternViewValue(ui, options, views, 3), 0);

@@ -15,7 +15,7 @@ class MainFrameTest : public testing::Test {
     /// A good file of a cone with a pattern view, at "good.Kvt".
     void PutGoodFile() {
         FrameRig other;
-        other.OpenDrawnCone().SaveFile("good.Kvt");
+        EXPECT_EQ(other.OpenDrawnCone().SaveFile("good.Kvt"), Passed);
         rig.shell.files.files["good.Kvt"] = other.shell.files.files.at("good.Kvt");
     }
 

@@ -202,7 +202,7 @@ TEST_F(WindowInFrameTest, ModesAreClearedBeforeACommandIsRefused) {
 TEST_F(WindowInFrameTest, ASaveKeepsWhatWasTypedEvenWhenItDoesNotBuild) {
     const auto window = ConeWithView(PatternButton);
     window->ChangeBox(4, "400");
-    EXPECT_TRUE(window->SaveFile("a.Kvt"));
+    EXPECT_EQ(window->SaveFile("a.Kvt"), Passed);
     EXPECT_EQ(shell.ui.Texts(), (std::vector<std::string>{"This dimension must be less than 300"}));
     EXPECT_NE(shell.files.files["a.Kvt"].find("\r\n300\r\n400\r\n250\r\n"), std::string::npos);
 }
@@ -210,20 +210,20 @@ TEST_F(WindowInFrameTest, ASaveKeepsWhatWasTypedEvenWhenItDoesNotBuild) {
 TEST_F(WindowInFrameTest, AnExportHoldsWhatIsOnTheScreen) {
     const auto window = ConeWithView(PatternButton);
     AcceptExports(shell.ui);
-    ASSERT_TRUE(window->Export("shown.dxf", ExportMode::Dxf));
+    ASSERT_EQ(window->Export("shown.dxf", ExportMode::Dxf), Passed);
     window->ChangeBox(3, "500");
-    ASSERT_TRUE(window->Export("edited.dxf", ExportMode::Dxf));
+    ASSERT_EQ(window->Export("edited.dxf", ExportMode::Dxf), Passed);
     EXPECT_EQ(shell.files.files["shown.dxf"], shell.files.files["edited.dxf"]);
 }
 
 TEST_F(WindowInFrameTest, AFaultyFileLeavesAShownWindowWithoutAModel) {
     const auto window = ConeWithView(PatternButton);
     shell.files.files["bad.Kvt"] = "Korvet Development-3.3.3\r\nRight Cone\r\n";
-    EXPECT_FALSE(window->LoadFile("bad.Kvt"));
+    EXPECT_EQ(window->LoadFile("bad.Kvt"), Refused);
     EXPECT_EQ(shell.ui.messages.front().text.find("Error in CKVTFile:ReadHeader  line"), 0U);
     EXPECT_EQ(shell.ui.messages.back().text, "Error loading parameter file");
     shell.ui.messages.clear();
-    EXPECT_FALSE(window->SaveFile("a.Kvt"));
+    EXPECT_EQ(window->SaveFile("a.Kvt"), Refused);
     EXPECT_EQ(shell.ui.Texts(), (std::vector<std::string>{"Operation cannot be carried out at this time"}));
     EXPECT_FALSE(shell.files.files.contains("a.Kvt"));
 }

@@ -33,17 +33,17 @@ struct CPlates {
     void DevelopModel() { ConstructModel(); }
 };
 
-bool BuildPlates(FittingForm& form, CPlates& plates) {
+Outcome BuildPlates(FittingForm& form, CPlates& plates) {
     const int box = form.dtype;
     if (form.CheckPositive(box)) {
-        return false;
+        return Refused;
     }
     plates.width = form.Value(box);
-    return true;
+    return Passed;
 }
 
-bool RefuseSilently(FittingForm&, CPlates&) {
-    return false;
+Outcome RefuseSilently(FittingForm&, CPlates&) {
+    return Refused;
 }
 
 constexpr BoxEntry WidthBox[] = {{0, "Width", "25.5"}};

@@ -10,7 +10,7 @@
 namespace korvet {
 namespace {
 
-const std::string Refused = "Operation cannot be carried out at this time";
+const std::string NoModelText = "Operation cannot be carried out at this time";
 
 class FittingWindowTest : public testing::Test {
   protected:
@@ -80,8 +80,8 @@ TEST_F(FittingWindowTest, AFailedRebuildKeepsTheDrawingButNotTheModel) {
     EXPECT_FALSE(window->hasModel);
     EXPECT_EQ(window->views->Count(), 1U);
     EXPECT_EQ(window->display.Surfaces.Count(), 1U);
-    EXPECT_FALSE(window->SaveFile("a.Kvt"));
-    ExpectUserError(Refused);
+    EXPECT_EQ(window->SaveFile("a.Kvt"), Refused);
+    ExpectUserError(NoModelText);
     EXPECT_TRUE(shell.files.files.empty());
 }
 
@@ -122,17 +122,18 @@ TEST_F(FittingWindowTest, TypeButtonsStepAndStopAtTheEnds) {
 
 TEST_F(FittingWindowTest, CommandsWithoutAModelAreRefused) {
     const auto window = Cone();
-    const std::vector<std::function<void()>> commands = {[&] { window->DimensionOptionsDialog(); },
-                                                         [&] { window->RotatePattern(); },
-                                                         [&] { window->PlaceLabel(); },
-                                                         [&] { window->MeasureDistance(); },
-                                                         [&] { window->AddDimension(1); },
-                                                         [&] { window->SetupPrintFrames(); },
-                                                         [&] { window->SaveFile("a.Kvt"); },
-                                                         [&] { window->Export("a.dxf", ExportMode::Dxf); }};
+    const std::vector<std::function<void()>> commands = {
+        [&] { window->DimensionOptionsDialog(); },
+        [&] { window->RotatePattern(); },
+        [&] { window->PlaceLabel(); },
+        [&] { window->MeasureDistance(); },
+        [&] { window->AddDimension(1); },
+        [&] { window->SetupPrintFrames(); },
+        [&] { (void)window->SaveFile("a.Kvt"); },
+        [&] { (void)window->Export("a.dxf", ExportMode::Dxf); }};
     for (const auto& command : commands) {
         command();
-        ExpectUserError(Refused);
+        ExpectUserError(NoModelText);
     }
     window->ZoomExtents();
     ExpectPlain("The item has no extents");
@@ -381,7 +382,7 @@ TEST_F(FittingWindowTest, ClosingStopsWhenTheSaveDoesNotHappen) {
 
 TEST_F(FittingWindowTest, ASavedWindowIsSavedUnderItsName) {
     const auto window = ConeWithView(PatternButton);
-    EXPECT_TRUE(window->SaveFile("cone.Kvt"));
+    EXPECT_EQ(window->SaveFile("cone.Kvt"), Passed);
     EXPECT_EQ(window->controls.caption, "cone.Kvt");
     shell.ui.answers = {Answer::Yes};
     EXPECT_TRUE(window->CloseForm());

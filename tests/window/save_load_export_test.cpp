@@ -17,7 +17,7 @@ class SaveLoadTest : public testing::Test {
     std::string SavedCone() {
         const auto window = shell.OpenSample("Right Cone", 2);
         window->ClickView(PatternButton);
-        EXPECT_TRUE(window->SaveFile("cone.Kvt"));
+        EXPECT_EQ(window->SaveFile("cone.Kvt"), Passed);
         return shell.files.files["cone.Kvt"];
     }
 
@@ -46,10 +46,10 @@ TEST_F(SaveLoadTest, AFileComesBackAsItWasSaved) {
     window->display.LabelPoint = C3DPoint{1, 2, 0, 0};
     window->dimensions->Add({1, 1, 2, 1, 3, 4});
     window->ClickView(PatternButton);
-    ASSERT_TRUE(window->SaveFile("a.Kvt"));
+    ASSERT_EQ(window->SaveFile("a.Kvt"), Passed);
 
     const auto loaded = shell.Open("Truncated Right Cone");
-    ASSERT_TRUE(loaded->LoadFile("a.Kvt"));
+    ASSERT_EQ(loaded->LoadFile("a.Kvt"), Passed);
     EXPECT_EQ(loaded->dtype, 2);
     EXPECT_EQ(loaded->controls.lblDtype.caption, "3");
     EXPECT_TRUE(loaded->controls.Picture1[2].visible);
@@ -58,7 +58,7 @@ TEST_F(SaveLoadTest, AFileComesBackAsItWasSaved) {
     EXPECT_EQ(loaded->comment2, "second");
     EXPECT_TRUE(loaded->hasModel);
     EXPECT_TRUE(InPatternView(*loaded->views));
-    ASSERT_TRUE(loaded->SaveFile("b.Kvt"));
+    ASSERT_EQ(loaded->SaveFile("b.Kvt"), Passed);
     // The view may have been zoomed to the extents; everything else is the same.
     EXPECT_EQ(shell.files.files["a.Kvt"].substr(shell.files.files["a.Kvt"].find("End ViewPoint")),
               shell.files.files["b.Kvt"].substr(shell.files.files["b.Kvt"].find("End ViewPoint")));
@@ -69,9 +69,9 @@ TEST_F(SaveLoadTest, TheRotationPointOfAFileIsItsFirstMovePoint) {
     window->display.MovePoint1 = {7, 8, 0, 0};
     window->display.RotationPoint = {1, 1, 0, 0};
     window->ClickView(PatternButton);
-    ASSERT_TRUE(window->SaveFile("a.Kvt"));
+    ASSERT_EQ(window->SaveFile("a.Kvt"), Passed);
     const auto loaded = shell.Open("Right Cone");
-    ASSERT_TRUE(loaded->LoadFile("a.Kvt"));
+    ASSERT_EQ(loaded->LoadFile("a.Kvt"), Passed);
     EXPECT_EQ(loaded->display.RotationPoint.x, 7);
     EXPECT_EQ(loaded->display.RotationPoint.y, 8);
 }
@@ -80,7 +80,7 @@ TEST_F(SaveLoadTest, AFileWithoutDimensionsLeavesThoseOfTheWindow) {
     SavedCone();
     const auto window = shell.Open("Right Cone");
     window->dimensions->Add({1, 1, 2, 1, 3, 4});
-    ASSERT_TRUE(window->LoadFile("cone.Kvt"));
+    ASSERT_EQ(window->LoadFile("cone.Kvt"), Passed);
     EXPECT_EQ(window->dimensions->Count(), 1U);
 }
 
@@ -88,7 +88,7 @@ TEST_F(SaveLoadTest, ALoadClosesTheSharedSettingsDialog) {
     SavedCone();
     shell.patternSettingsDialog.optJoinType.selected = PatternSettingsDialog::Lap;
     const auto window = shell.Open("Right Cone");
-    ASSERT_TRUE(window->LoadFile("cone.Kvt"));
+    ASSERT_EQ(window->LoadFile("cone.Kvt"), Passed);
     EXPECT_EQ(shell.patternSettingsDialog.optJoinType.selected, PatternSettingsDialog::Butt);
 }
 
@@ -99,7 +99,7 @@ TEST_F(SaveLoadTest, AFaultyFileIsToldAndTheCaptionStays) {
         const auto window = shell.Open("Right Cone");
         const std::string caption = window->controls.caption;
         shell.ui.messages.clear();
-        EXPECT_FALSE(window->LoadFile("bad.Kvt"));
+        EXPECT_EQ(window->LoadFile("bad.Kvt"), Refused);
         ASSERT_FALSE(shell.ui.messages.empty());
         EXPECT_EQ(shell.ui.messages.back().text, "Error loading parameter file");
         EXPECT_EQ(shell.ui.messages.back().style, PlainBox);
@@ -117,14 +117,14 @@ TEST_F(SaveLoadTest, ControlsFilledBeforeAFaultStayFilled) {
     const std::size_t rotation = good.find("Start Rotation");
     shell.files.files["bad.Kvt"] = good.substr(0, rotation);
     const auto window = shell.Open("Right Cone");
-    EXPECT_FALSE(window->LoadFile("bad.Kvt"));
+    EXPECT_EQ(window->LoadFile("bad.Kvt"), Refused);
     EXPECT_EQ(window->controls.txtParameter[3].text, "300");
     EXPECT_EQ(window->controls.txtParameter[3].textColor, Red);
 }
 
 TEST_F(SaveLoadTest, AMissingFileIsTold) {
     const auto window = shell.Open("Right Cone");
-    EXPECT_FALSE(window->LoadFile("none.Kvt"));
+    EXPECT_EQ(window->LoadFile("none.Kvt"), Refused);
     EXPECT_EQ(shell.ui.messages.at(0).detail, "none.Kvt: no such file");
 }
 
@@ -134,7 +134,7 @@ TEST_F(SaveLoadTest, ALoadedBoxThatIsNoNumberIsTestedLikeTyping) {
     bad.replace(bad.find("\r\n250\r\n") + 2, 3, "abc");
     shell.files.files["bad.Kvt"] = bad;
     const auto window = shell.Open("Right Cone");
-    EXPECT_TRUE(window->LoadFile("bad.Kvt"));
+    EXPECT_EQ(window->LoadFile("bad.Kvt"), Passed);
     const std::vector<std::string> expected = {"Not a valid number", "Not a valid number",
                                                "The item has no extents"};
     EXPECT_EQ(shell.ui.Texts(), expected);
@@ -147,7 +147,7 @@ TEST_F(SaveLoadTest, SizesOfADesktopWithAnotherDecimalMarkGetTheMarkOfThisOne) {
     file.replace(file.find("\r\n250\r\n") + 2, 3, "2,5e2");
     shell.files.files["comma.Kvt"] = file;
     const auto window = shell.Open("Right Cone");
-    EXPECT_TRUE(window->LoadFile("comma.Kvt"));
+    EXPECT_EQ(window->LoadFile("comma.Kvt"), Passed);
     EXPECT_EQ(shell.ui.Texts(), std::vector<std::string>());
     EXPECT_TRUE(window->hasModel);
     EXPECT_EQ(window->controls.txtParameter[5].text, "2.5e2");
@@ -164,7 +164,7 @@ TEST_F(SaveLoadTest, ASizeThatIsANumberHereStaysAsItWasTyped) {
         file.replace(file.find("\r\n250\r\n") + 2, 3, text);
         shell.files.files["size.Kvt"] = file;
         const auto window = shell.Open("Right Cone");
-        EXPECT_TRUE(window->LoadFile("size.Kvt"));
+        EXPECT_EQ(window->LoadFile("size.Kvt"), Passed);
         EXPECT_TRUE(window->hasModel) << text;
         EXPECT_EQ(window->controls.txtParameter[5].text, text);
     }
@@ -174,7 +174,7 @@ TEST_F(SaveLoadTest, ASizeThatIsANumberHereStaysAsItWasTyped) {
         file.replace(file.find("\r\n250\r\n") + 2, 3, text);
         shell.files.files["none.Kvt"] = file;
         const auto window = shell.Open("Right Cone");
-        window->FillFromFile("none.Kvt");
+        EXPECT_EQ(window->FillFromFile("none.Kvt"), Passed);
         EXPECT_EQ(window->controls.txtParameter[5].text, text) << "no number with either mark";
     }
 }
@@ -184,7 +184,7 @@ TEST_F(SaveLoadTest, AFailedSaveIsToldAndLeavesCaptionAndFile) {
     window->ClickView(PatternButton);
     shell.files.files["a.Kvt"] = "old";
     shell.files.unwritable.insert("a.Kvt");
-    EXPECT_FALSE(window->SaveFile("a.Kvt"));
+    EXPECT_EQ(window->SaveFile("a.Kvt"), Refused);
     EXPECT_EQ(shell.ui.messages.at(0).text, "a.Kvt: cannot be written");
     EXPECT_EQ(shell.ui.messages.at(0).style, PlainBox);
     EXPECT_EQ(window->controls.caption, "Development 1");
@@ -218,7 +218,7 @@ class ExportTest : public SaveLoadTest {
     DxfOptionsDialog Shown(CFittingWindow& window, ExportMode mode = ExportMode::Dxf) {
         DxfOptionsDialog shown;
         shell.ui.onDxfOptions = [&](DxfOptionsDialog& dialog) { shown = dialog; };
-        window.Export("out.dxf", mode);
+        (void)window.Export("out.dxf", mode);
         AcceptExports(shell.ui);
         return shown;
     }
@@ -279,7 +279,7 @@ TEST_F(ExportTest, APlotterTakesNeitherPolylinesNorText) {
 TEST_F(ExportTest, OtherTargetsThanDxfAreRefusedForNow) {
     const auto window = shell.OpenSample("Right Cone", 2);
     window->ClickView(PatternButton);
-    EXPECT_FALSE(window->Export("plot", ExportMode::Plotter));
+    EXPECT_EQ(window->Export("plot", ExportMode::Plotter), Refused);
     EXPECT_EQ(shell.ui.Texts(), (std::vector<std::string>{"This version writes DXF files only"}));
     EXPECT_TRUE(shell.files.files.empty());
 }
@@ -297,7 +297,7 @@ TEST_F(ExportTest, OffersAMeshForAModel) {
 TEST_F(ExportTest, WritesTheFileAndSaysSo) {
     const auto window = shell.OpenSample("Right Cone", 2);
     window->ClickView(PatternButton);
-    EXPECT_TRUE(window->Export("out.dxf", ExportMode::Dxf));
+    EXPECT_EQ(window->Export("out.dxf", ExportMode::Dxf), Passed);
     ASSERT_EQ(shell.ui.messages.size(), 1U);
     EXPECT_EQ(shell.ui.messages[0].text, "DXF successfully saved to: out.dxf");
     EXPECT_EQ(shell.ui.messages[0].style, InformationBox);
@@ -315,14 +315,14 @@ TEST_F(ExportTest, DiagonalsFollowTheDisplayWhenDimensionsGoOut) {
         dialog.chkDXFOutput[DxfOptionsDialog::Diagonals].checked = true;
         dialog.lblStatus = "OK";
     };
-    ASSERT_TRUE(window->Export("out.dxf", ExportMode::Dxf));
+    ASSERT_EQ(window->Export("out.dxf", ExportMode::Dxf), Passed);
     EXPECT_EQ(shell.files.files["out.dxf"].find("LINE\r\n8\r\nDimensionLayer"), std::string::npos);
     shell.ui.onDxfOptions = [](DxfOptionsDialog& dialog) {
         dialog.chkDXFOutput[DxfOptionsDialog::Diagonals].checked = true;
         dialog.chkDXFOutput[DxfOptionsDialog::Dimensions].checked = false;
         dialog.lblStatus = "OK";
     };
-    ASSERT_TRUE(window->Export("out.dxf", ExportMode::Dxf));
+    ASSERT_EQ(window->Export("out.dxf", ExportMode::Dxf), Passed);
     EXPECT_NE(shell.files.files["out.dxf"].find("LINE\r\n8\r\nDimensionLayer"), std::string::npos);
 }
 
@@ -340,11 +340,11 @@ TEST_F(ExportTest, ALabelWithItsCommentsGoesThroughTheFileIntoTheDrawingUntilItI
     };
     labelDialog(*window, true);
     window->display.LabelPoint = C3DPoint{12, 34, 0, 0};
-    ASSERT_TRUE(window->SaveFile("labelled.Kvt"));
+    ASSERT_EQ(window->SaveFile("labelled.Kvt"), Passed);
 
     const auto loaded = shell.Open("Right Cone");
-    ASSERT_TRUE(loaded->LoadFile("labelled.Kvt"));
-    ASSERT_TRUE(loaded->Export("labelled.dxf", ExportMode::Dxf));
+    ASSERT_EQ(loaded->LoadFile("labelled.Kvt"), Passed);
+    ASSERT_EQ(loaded->Export("labelled.dxf", ExportMode::Dxf), Passed);
     const std::string& drawing = shell.files.files["labelled.dxf"];
     const std::size_t first = drawing.find("\r\n1\r\nOrder 7\r\n");
     const std::size_t second = drawing.find("\r\n1\r\ntwo off\r\n");
@@ -354,10 +354,10 @@ TEST_F(ExportTest, ALabelWithItsCommentsGoesThroughTheFileIntoTheDrawingUntilItI
     EXPECT_LT(second, third);
 
     labelDialog(*loaded, false);
-    ASSERT_TRUE(loaded->SaveFile("bare.Kvt"));
+    ASSERT_EQ(loaded->SaveFile("bare.Kvt"), Passed);
     EXPECT_NE(shell.files.files["bare.Kvt"].find("Start LabelPoint\r\nEnd LabelPoint"), std::string::npos);
     EXPECT_NE(shell.files.files["bare.Kvt"].find("Order 7"), std::string::npos);
-    ASSERT_TRUE(loaded->Export("bare.dxf", ExportMode::Dxf));
+    ASSERT_EQ(loaded->Export("bare.dxf", ExportMode::Dxf), Passed);
     EXPECT_EQ(shell.files.files["bare.dxf"].find("Order 7"), std::string::npos);
 }
 
@@ -365,7 +365,7 @@ TEST_F(ExportTest, CancelWritesNothing) {
     const auto window = shell.OpenSample("Right Cone", 2);
     window->ClickView(PatternButton);
     shell.ui.onDxfOptions = nullptr;
-    EXPECT_FALSE(window->Export("out.dxf", ExportMode::Dxf));
+    EXPECT_EQ(window->Export("out.dxf", ExportMode::Dxf), Refused);
     EXPECT_TRUE(shell.files.files.empty());
     EXPECT_TRUE(shell.ui.messages.empty());
 }
@@ -377,7 +377,7 @@ TEST_F(ExportTest, AFailureNamesTheStepItCameTo) {
         const auto window = shell.OpenSample("Right Cone", 2);
         window->ClickView(button);
         shell.ui.messages.clear();
-        EXPECT_FALSE(window->Export("out.dxf", ExportMode::Dxf));
+        EXPECT_EQ(window->Export("out.dxf", ExportMode::Dxf), Refused);
         ASSERT_EQ(shell.ui.messages.size(), 1U);
         EXPECT_EQ(shell.ui.messages[0].text,
                   std::string("A problem has occured creating the DXF file ") + step);

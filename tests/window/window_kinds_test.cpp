@@ -44,7 +44,7 @@ TEST_F(WindowKindsTest, ALineOfTheTextBlockMayHaveNoBox) {
     std::array<PageEntry, 3> pages = {table.pages[0], table.pages[1], table.pages[2]};
     pages[1].labels = labels;
     table.pages = pages;
-    ASSERT_TRUE(Open().BuildFitting());
+    ASSERT_EQ(Open().BuildFitting(), Passed);
     EXPECT_EQ(
         TextBlock(),
         (std::vector<std::string>{
@@ -55,10 +55,10 @@ TEST_F(WindowKindsTest, ALineOfTheTextBlockMayHaveNoBox) {
 TEST_F(WindowKindsTest, WhatFollowsTheTextBlockFindsItComposed) {
     table.completeFitting = [](FittingForm& form, const FittingHandle&) {
         form.RefuseHalfPattern();
-        return true;
+        return Passed;
     };
     Open().settings.HalfPattern = true;
-    ASSERT_TRUE(window->BuildFitting());
+    ASSERT_EQ(window->BuildFitting(), Passed);
     EXPECT_EQ(shell.ui.Texts(), std::vector<std::string>{"Half pattern not applicable to this item"});
     EXPECT_EQ(shell.ui.messages[0].title, "User Error");
     EXPECT_FALSE(window->settings.HalfPattern);
@@ -67,9 +67,9 @@ TEST_F(WindowKindsTest, WhatFollowsTheTextBlockFindsItComposed) {
 
 TEST_F(WindowKindsTest, ARefusalBehindTheTextBlockEndsTheBuild) {
     table.completeFitting = [](FittingForm& form, const FittingHandle&) {
-        return !form.Refuse(BranchTooLarge);
+        return form.Refuse(BranchTooLarge);
     };
-    EXPECT_FALSE(Open().BuildFitting());
+    EXPECT_EQ(Open().BuildFitting(), Refused);
     EXPECT_FALSE(window->hasModel);
     ASSERT_EQ(shell.ui.messages.size(), 1U);
     EXPECT_TRUE(shell.ui.messages[0].text.starts_with("\r\n Either the branch pipe diameter"));
@@ -79,7 +79,7 @@ TEST_F(WindowKindsTest, APatternMustBeSelectedBeforeOneIsDrawn) {
     static constexpr std::array<std::string_view, 2> Choices = {"Trunk", "Branch"};
     table.patternSelect = Choices;
     table.completeFitting = [](FittingForm& form, const FittingHandle&) {
-        return !form.CheckPatternSelected();
+        return form.CheckPatternSelected();
     };
     Open().FocusBox(4);
     window->ClickView(0);
@@ -99,7 +99,7 @@ TEST_F(WindowKindsTest, AnAngleNeedsAnAxis) {
     pages[1].angleOptions = true;
     table.pages = pages;
     // Boxes 0 and 1 stand for the angles: they are on another page and hold no sample.
-    table.completeFitting = [](FittingForm& form, const FittingHandle&) { return !form.CheckAxes(0, 1); };
+    table.completeFitting = [](FittingForm& form, const FittingHandle&) { return form.CheckAxes(0, 1); };
     Open();
     FittingOptions& options = window->controls.options;
     EXPECT_EQ(options.optTopAngle.captions,
@@ -107,18 +107,18 @@ TEST_F(WindowKindsTest, AnAngleNeedsAnAxis) {
     EXPECT_TRUE(options.optTopAngle.IsOn(1));
     EXPECT_TRUE(options.optBaseAngle.IsOn(1));
     options.optTopAngle.selected.reset();
-    EXPECT_TRUE(window->BuildFitting()) << "no angle, no axis";
+    EXPECT_EQ(window->BuildFitting(), Passed) << "no angle, no axis";
     window->ChangeBox(1, "5");
-    EXPECT_TRUE(window->BuildFitting()) << "the base has its axis";
+    EXPECT_EQ(window->BuildFitting(), Passed) << "the base has its axis";
     window->FocusBox(3);
     window->ChangeBox(0, "-5");
-    EXPECT_FALSE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Refused);
     EXPECT_EQ(shell.ui.Texts(), std::vector<std::string>{"X or Y axis of rotation must be selected"});
     EXPECT_EQ(window->controls.focus, "txtParameter_3");
     options.optTopAngle.selected = 0;
-    EXPECT_TRUE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Passed);
     options.optBaseAngle.selected.reset();
-    EXPECT_FALSE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Refused);
 }
 
 TEST_F(WindowKindsTest, PagesMayShareABox) {
@@ -139,7 +139,7 @@ TEST_F(WindowKindsTest, AFlushSideIsAlwaysSelected) {
 TEST_F(WindowKindsTest, AFittingWithoutAHalfPatternSaysFullPattern) {
     table.fullPatternLine = true;
     Open().settings.HalfPattern = true;
-    ASSERT_TRUE(window->BuildFitting());
+    ASSERT_EQ(window->BuildFitting(), Passed);
     EXPECT_EQ(window->labels->Last().LabelString, "Right Cone  Full pattern  21 Nov 2026");
 }
 
@@ -148,17 +148,17 @@ TEST_F(WindowKindsTest, AnotherNumberOfSidesStartsTheSeamAnew) {
     pages[1].sidesBox = 0;  // of another page: it takes any number here
     table.pages = pages;
     Open().ChangeBox(0, "6");
-    ASSERT_TRUE(window->BuildFitting());
+    ASSERT_EQ(window->BuildFitting(), Passed);
     EXPECT_EQ(window->noOfSides, 6);
     window->settings.JoinAngle = 60;
-    ASSERT_TRUE(window->BuildFitting());
+    ASSERT_EQ(window->BuildFitting(), Passed);
     EXPECT_EQ(window->settings.JoinAngle, 60) << "still six sides";
     window->ChangeBox(0, "8");
     window->ChangeBox(3, "0");
-    EXPECT_FALSE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Refused);
     EXPECT_EQ(window->settings.JoinAngle, 60) << "a refused build changes nothing";
     window->ChangeBox(3, "300");
-    ASSERT_TRUE(window->BuildFitting());
+    ASSERT_EQ(window->BuildFitting(), Passed);
     EXPECT_EQ(window->settings.JoinAngle, 0);
     EXPECT_EQ(window->noOfSides, 8);
 }
@@ -170,9 +170,9 @@ TEST_F(WindowKindsTest, TheSeamOfAFileBelongsToItsSides) {
     Open().ChangeBox(0, "6");
     window->ClickView(0);
     window->settings.JoinAngle = 60;
-    ASSERT_TRUE(window->SaveFile("six.Kvt"));
+    ASSERT_EQ(window->SaveFile("six.Kvt"), Passed);
     Open();
-    ASSERT_TRUE(window->LoadFile("six.Kvt"));
+    ASSERT_EQ(window->LoadFile("six.Kvt"), Passed);
     EXPECT_EQ(window->noOfSides, 6);
     EXPECT_EQ(window->settings.JoinAngle, 60);
 }
@@ -209,7 +209,7 @@ TEST_F(WindowKindsTest, ABranchTellsBothThicknessesAndItsJoin) {
                                      {SetOnJoin, "Branch type is Set ON"},
                                      {MeanToMeanJoin, "Branch type is Mean to Mean"}}) {
         window->branch.join = join;
-        ASSERT_TRUE(window->BuildFitting());
+        ASSERT_EQ(window->BuildFitting(), Passed);
         const std::vector<std::string> lines = TextBlock();
         ASSERT_EQ(lines.size(), 2 + table.pages[1].labels.size() + 5);
         EXPECT_EQ(lines.end()[-5], "Thickness of branch pipe = 2.5");
@@ -250,9 +250,9 @@ TEST_F(WindowKindsTest, ThicknessesAndJoinSurviveAFile) {
     window->settings.ThicknessA = 2.5;
     window->settings.ThicknessB = 4;
     window->branch = {SetInJoin, true};
-    ASSERT_TRUE(window->SaveFile("branch.Kvt"));
+    ASSERT_EQ(window->SaveFile("branch.Kvt"), Passed);
     Open();
-    ASSERT_TRUE(window->LoadFile("branch.Kvt"));
+    ASSERT_EQ(window->LoadFile("branch.Kvt"), Passed);
     EXPECT_EQ(window->settings.ThicknessA, 2.5);
     EXPECT_EQ(window->settings.ThicknessB, 4);
     EXPECT_EQ(window->branch.join, SetInJoin);

@@ -20,9 +20,9 @@ struct BendSizes {
     double pieces;  ///< a whole number, one more than the cuts
 };
 
-/// A whole number of pieces, and then at least two: true after a failure.
-inline bool CheckPieces(FittingForm& form, int piecesBox) {
-    return form.CheckInteger(piecesBox) || form.CheckAtLeast(piecesBox, 2);
+/// A whole number of pieces, and then at least two.
+inline Outcome CheckPieces(FittingForm& form, int piecesBox) {
+    return RefusedIf(form.CheckInteger(piecesBox) || form.CheckAtLeast(piecesBox, 2));
 }
 
 /// The stations that all pieces of a bend may have together. Each of the two numbers has a limit of its own,
@@ -43,11 +43,11 @@ inline void RequireCountable(double pieces, int segs) {
 }
 
 /// The last test, that a pattern is chosen; then the sizes and the kerf go to a bend such as
-/// CSegBendParallel. False after a failure. Throws ArithmeticError for pieces that are not RequireCountable.
+/// CSegBendParallel. Throws ArithmeticError for pieces that are not RequireCountable.
 template <typename Bend>
-bool SetBend(FittingForm& form, Bend& bend, const BendSizes& sizes) {
+Outcome SetBend(FittingForm& form, Bend& bend, const BendSizes& sizes) {
     if (form.CheckPatternSelected()) {
-        return false;
+        return Refused;
     }
     RequireCountable(sizes.pieces, form.settings.segs);
     bend.BaseRad = sizes.baseRadius;
@@ -57,7 +57,7 @@ bool SetBend(FittingForm& form, Bend& bend, const BendSizes& sizes) {
     bend.Length1 = sizes.length1;
     bend.Length2 = sizes.length2;
     bend.KerfSpacing = form.settings.KerfSpacing;
-    return true;
+    return Passed;
 }
 
 }  // namespace korvet

@@ -13,34 +13,34 @@
 namespace korvet {
 namespace {
 
-bool CheckRadius(FittingForm& form, int diameterBox, int bendRadiusBox, double R) {
-    return CheckRoundWall(form, diameterBox, R) || form.CheckGreaterThan(bendRadiusBox, R);
+Outcome CheckRadius(FittingForm& form, int diameterBox, int bendRadiusBox, double R) {
+    return RefusedIf(CheckRoundWall(form, diameterBox, R) || form.CheckGreaterThan(bendRadiusBox, R));
 }
 
-bool SetPipeBend(FittingForm& form, CSegBendParallel& bend, const BendSizes& sizes) {
-    if (!SetBend(form, bend, sizes)) {
-        return false;
+Outcome SetPipeBend(FittingForm& form, CSegBendParallel& bend, const BendSizes& sizes) {
+    if (SetBend(form, bend, sizes)) {
+        return Refused;
     }
     bend.TemplateType = form.settings.TemplateType;
     bend.Thickness = form.settings.Thickness;
-    return true;
+    return Passed;
 }
 
-bool BuildQuarterBend(FittingForm& form, CSegBendParallel& bend) {
+Outcome BuildQuarterBend(FittingForm& form, CSegBendParallel& bend) {
     const double R = MeanRadiusOfDiameter(form, 0);
     if (CheckRadius(form, 0, 1, R) || CheckPieces(form, 2) || form.CheckAtLeast(3, 0) ||
         form.CheckAtLeast(4, 0)) {
-        return false;
+        return Refused;
     }
     return SetPipeBend(form, bend,
                        {R, form.Value(1), QuarterTurn, form.Value(3), form.Value(4), form.Value(2)});
 }
 
-bool BuildBend(FittingForm& form, CSegBendParallel& bend) {
+Outcome BuildBend(FittingForm& form, CSegBendParallel& bend) {
     const double R = MeanRadiusOfDiameter(form, 5);
     if (CheckRadius(form, 5, 6, R) || form.CheckAtMost(7, 360) || form.CheckPositive(7) ||
         form.CheckAtLeast(8, 0) || form.CheckAtLeast(9, 0) || CheckPieces(form, 10)) {
-        return false;
+        return Refused;
     }
     return SetPipeBend(
         form, bend,

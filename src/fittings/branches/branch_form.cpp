@@ -9,45 +9,45 @@
 namespace korvet {
 namespace {
 
-bool CheckDiametersAndLength(FittingForm& form, const PipeBoxes& boxes) {
+Outcome CheckDiametersAndLength(FittingForm& form, const PipeBoxes& boxes) {
     return form.CheckAllPositive(boxes.branchDiameter, boxes.mainDiameter, boxes.branchLength);
 }
 
 /// The branch reaches out of the trunk.
-bool CheckBranchLength(FittingForm& form, const PipeBoxes& boxes, const BranchWalls& walls) {
+Outcome CheckBranchLength(FittingForm& form, const PipeBoxes& boxes, const BranchWalls& walls) {
     return form.CheckAtLeast(boxes.branchLength, walls.tB / 2 + walls.R);
 }
 
 /// A branch beside the trunk's axis stays within the trunk's width.
-bool CheckOffset(FittingForm& form, const PipeBoxes& boxes, const BranchWalls& walls) {
+Outcome CheckOffset(FittingForm& form, const PipeBoxes& boxes, const BranchWalls& walls) {
     const int box = boxes.offset;
     const double limit = walls.R - walls.r;
-    return box != NoBox && form.Value(box) != 0 &&
-           (form.CheckAtMost(box, limit) || form.CheckAtLeast(box, -limit));
+    return RefusedIf(box != NoBox && form.Value(box) != 0 &&
+                     (form.CheckAtMost(box, limit) || form.CheckAtLeast(box, -limit)));
 }
 
 /// The hole lies between the ends of the trunk.
-bool CheckSquare(FittingForm& form, const PipeBoxes& boxes) {
+Outcome CheckSquare(FittingForm& form, const PipeBoxes& boxes) {
     if (CheckDiametersAndLength(form, boxes)) {
-        return true;
+        return Refused;
     }
     const BranchWalls walls = WallsOf(form, boxes);
-    return CheckBranchLength(form, boxes, walls) || form.CheckAtLeast(boxes.distance, walls.r) ||
-           form.CheckAtLeast(boxes.mainLength, walls.r + form.Value(boxes.distance)) ||
-           CheckOffset(form, boxes, walls);
+    return RefusedIf(CheckBranchLength(form, boxes, walls) || form.CheckAtLeast(boxes.distance, walls.r) ||
+                     form.CheckAtLeast(boxes.mainLength, walls.r + form.Value(boxes.distance)) ||
+                     CheckOffset(form, boxes, walls));
 }
 
 /// The hole of a slanting branch lies r / sin(alpha) to either side of where the axis comes out of the trunk,
 /// R / tan(alpha) from where the axes cross. The trunk's length is asked for without the distance to the
 /// crossing, and a trunk that is shorter than its hole needs is thus let through.
-bool CheckSlanting(FittingForm& form, const PipeBoxes& boxes) {
+Outcome CheckSlanting(FittingForm& form, const PipeBoxes& boxes) {
     if (CheckDiametersAndLength(form, boxes)) {
-        return true;
+        return Refused;
     }
     const BranchWalls walls = WallsOf(form, boxes);
     if (CheckOffset(form, boxes, walls) || CheckBranchLength(form, boxes, walls) ||
         form.CheckGreaterThan(boxes.angle, 0) || form.CheckAtMost(boxes.angle, 90)) {
-        return true;
+        return Refused;
     }
     const double alpha = TypedAngle(form, boxes);
     const double sine = std::sin(alpha);
@@ -55,8 +55,8 @@ bool CheckSlanting(FittingForm& form, const PipeBoxes& boxes) {
     const auto overTangent = [&](double radius) {
         return alpha < QuarterTurn ? radius / std::tan(alpha) : 0;
     };
-    return form.CheckAtLeast(boxes.distance, walls.r / sine + overTangent(walls.R)) ||
-           form.CheckAtLeast(boxes.mainLength, overTangent(walls.r) + walls.R / sine);
+    return RefusedIf(form.CheckAtLeast(boxes.distance, walls.r / sine + overTangent(walls.R)) ||
+                     form.CheckAtLeast(boxes.mainLength, overTangent(walls.r) + walls.R / sine));
 }
 
 }  // namespace
@@ -72,12 +72,12 @@ BranchWalls WallsOf(const FittingForm& form, const PipeBoxes& boxes) {
             MeanRadiusOfDiameter(form, boxes.mainDiameter, tB), tA, tB};
 }
 
-bool CheckPipes(FittingForm& form, const PipeBoxes& boxes) {
+Outcome CheckPipes(FittingForm& form, const PipeBoxes& boxes) {
     return boxes.angle == NoBox ? CheckSquare(form, boxes) : CheckSlanting(form, boxes);
 }
 
-bool CheckMeeting(FittingForm& form, const CutRadii& radii, double offset) {
-    return !BranchMeetsTrunk(radii, offset) && form.Refuse(BranchTooLarge);
+Outcome CheckMeeting(FittingForm& form, const CutRadii& radii, double offset) {
+    return BranchMeetsTrunk(radii, offset) ? Passed : form.Refuse(BranchTooLarge);
 }
 
 void SetPipes(const FittingForm& form, const PipeBoxes& boxes, CBranch& branch) {

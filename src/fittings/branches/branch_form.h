@@ -35,14 +35,14 @@ double TypedAngle(const FittingForm& form, const PipeBoxes& boxes);
 /// Mean radii and material of both pipes, in the user's unit.
 BranchWalls WallsOf(const FittingForm& form, const PipeBoxes& boxes);
 
-// Checks: true after a failure, with the message shown and the focus on the box or, without one, left alone.
+// Checks, with the focus on the box after a refusal or, without one, left alone.
 
 /// Every limit of a page in its fixed order, that of a square or of a slanting branch. Throws ArithmeticError
 /// when a diameter holds no number.
-bool CheckPipes(FittingForm& form, const PipeBoxes& boxes);
+Outcome CheckPipes(FittingForm& form, const PipeBoxes& boxes);
 
 /// The branch with these radii at `offset` between the axes is too large for its trunk.
-bool CheckMeeting(FittingForm& form, const CutRadii& radii, double offset);
+Outcome CheckMeeting(FittingForm& form, const CutRadii& radii, double offset);
 
 /// Sets lengths, material and template type. Angle, offset and radii are the window's matter.
 void SetPipes(const FittingForm& form, const PipeBoxes& boxes, CBranch& branch);
@@ -56,9 +56,7 @@ inline constexpr int BranchPatternSurfaces[] = {2, 1};
 
 /// The table of such a window. The seam lies opposite the branch, whatever JoinAngle the settings hold: they
 /// keep what a file has brought.
-constexpr WindowTable BranchTable(std::span<const PageEntry> pages,
-                                  bool (*build)(FittingForm&, const FittingHandle&),
-                                  bool (*complete)(FittingForm&, const FittingHandle&)) {
+constexpr WindowTable BranchTable(std::span<const PageEntry> pages, BuildStep* build, BuildStep* complete) {
     return {.pages = pages,
             .newFitting = FittingHandle::Make<CBranch>,
             .buildFitting = build,

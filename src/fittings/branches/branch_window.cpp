@@ -10,36 +10,36 @@ constexpr PipeBoxes Square = SquareBoxes(11);
 constexpr PipeBoxes Slanting = SlantingBoxes(12);
 
 template <PipeBoxes Boxes>
-bool Build(FittingForm& form, CBranch& branch) {
+Outcome Build(FittingForm& form, CBranch& branch) {
     if (CheckPipes(form, Boxes)) {
-        return false;
+        return Refused;
     }
     SetPipes(form, Boxes, branch);
     branch.Offset = -form.Value(Boxes.offset);
-    return true;
+    return Passed;
 }
 
-/// The angle and the radii by the way the pipes are joined; false after a refusal.
-bool SetJoint(FittingForm& form, const PipeBoxes& boxes, CBranch& branch) {
+/// The angle and the radii by the way the pipes are joined.
+Outcome SetJoint(FittingForm& form, const PipeBoxes& boxes, CBranch& branch) {
     const BranchWalls walls = WallsOf(form, boxes);
     branch.AxialAngle = JointAngle(form.branch, walls.r, TypedAngle(form, boxes), walls.tA);
     const CutRadii edge = BranchCutRadii(form.branch.join, walls);
     SetEdgeRadii(branch, edge);
     if (CheckMeeting(form, edge, branch.Offset)) {
-        return false;
+        return Refused;
     }
     const CutRadii hole = TrunkHoleRadii(form.branch.join, walls);
     SetHoleRadii(branch, hole);
-    return !CheckMeeting(form, hole, branch.Offset);
+    return CheckMeeting(form, hole, branch.Offset);
 }
 
 /// Half of a branch beside the trunk's axis is no mirror of the other half.
 template <PipeBoxes Boxes>
-bool Complete(FittingForm& form, CBranch& branch) {
+Outcome Complete(FittingForm& form, CBranch& branch) {
     if (form.settings.HalfPattern && branch.Offset != 0) {
         form.RefuseHalfPattern();
     }
-    return !form.CheckPatternSelected() && SetJoint(form, Boxes, branch);
+    return RefusedIf(form.CheckPatternSelected() || SetJoint(form, Boxes, branch));
 }
 
 namespace sketch = branch_sketch;

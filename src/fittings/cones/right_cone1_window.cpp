@@ -16,60 +16,61 @@ struct DiameterBoxes {
     int top;
 };
 
-/// The top must be the smaller one: true after a failure.
-bool CheckDiameters(FittingForm& form, DiameterBoxes boxes) {
+/// The top must be the smaller one.
+Outcome CheckDiameters(FittingForm& form, DiameterBoxes boxes) {
     return form.CheckLessThan(boxes.top, form.Value(boxes.base));
 }
 
 /// The thickness tests of both diameters; then the sizes that every group comes down to go to the cone.
-bool SetFrustum(FittingForm& form, CRightCone& cone, DiameterBoxes boxes, double coneAngle, double height) {
+Outcome SetFrustum(FittingForm& form, CRightCone& cone, DiameterBoxes boxes, double coneAngle,
+                   double height) {
     const double R = MeanConeRadius(form, boxes.base, coneAngle);
     if (CheckConeWall(form, boxes.base, R, coneAngle) ||
         CheckConeWall(form, boxes.top, MeanConeRadius(form, boxes.top, coneAngle), coneAngle)) {
-        return false;
+        return Refused;
     }
     cone.BaseRad = R;
     cone.ConeAngle = coneAngle;
     cone.CPHeight1 = height;
-    return true;
+    return Passed;
 }
 
-bool BuildFromApexHeight(FittingForm& form, CRightCone& cone) {
+Outcome BuildFromApexHeight(FittingForm& form, CRightCone& cone) {
     if (form.CheckAllPositive(0, 1, 2)) {
-        return false;
+        return Refused;
     }
     const double R = form.Value(0) / 2;
     const double r = form.Value(1) / 2;
     const double H = form.Value(2);
     if (CheckDiameters(form, {0, 1})) {
-        return false;
+        return Refused;
     }
     // Similar triangles: the top lies r H / R below the apex.
     return SetFrustum(form, cone, {0, 1}, std::atan(R / H), H - (r * H) / R);
 }
 
-bool BuildFromHeight(FittingForm& form, CRightCone& cone) {
+Outcome BuildFromHeight(FittingForm& form, CRightCone& cone) {
     if (form.CheckAllPositive(3, 4, 5)) {
-        return false;
+        return Refused;
     }
     const double R = form.Value(3) / 2;
     const double r = form.Value(4) / 2;
     if (CheckDiameters(form, {3, 4})) {
-        return false;
+        return Refused;
     }
     const double H = (form.Value(5) * R) / (R - r);
     return SetFrustum(form, cone, {3, 4}, std::atan(R / H), form.Value(5));
 }
 
-bool BuildFromConeAngle(FittingForm& form, CRightCone& cone) {
+Outcome BuildFromConeAngle(FittingForm& form, CRightCone& cone) {
     if (form.CheckAllPositive(6, 7) || form.CheckNumber(8)) {
-        return false;
+        return Refused;
     }
     const double R = form.Value(6) / 2;
     const double r = form.Value(7) / 2;
     const double coneAngle = DegToRad(form.Value(8) / 2);
     if (CheckDiameters(form, {6, 7}) || form.CheckPositive(8) || form.CheckLessThan(8, 180)) {
-        return false;
+        return Refused;
     }
     return SetFrustum(form, cone, {6, 7}, coneAngle, (R - r) / std::tan(coneAngle));
 }

@@ -13,8 +13,8 @@
 namespace korvet {
 namespace {
 
-/// Sets the wall of the cone and makes the thickness test: true after a failure.
-bool SetWall(FittingForm& form, CRightCone& cone, int diameterBox, double coneAngle) {
+/// Sets the wall of the cone and makes the thickness test.
+Outcome SetWall(FittingForm& form, CRightCone& cone, int diameterBox, double coneAngle) {
     cone.ConeAngle = coneAngle;
     cone.BaseRad = MeanConeRadius(form, diameterBox, coneAngle);
     return CheckConeWall(form, diameterBox, cone.BaseRad, coneAngle);
@@ -30,9 +30,9 @@ double MeanApexHeight(const CRightCone& cone) {
     return cone.BaseRad / std::tan(cone.ConeAngle);
 }
 
-bool BuildPlaneByConeAngle(FittingForm& form, CRightCone& cone) {
+Outcome BuildPlaneByConeAngle(FittingForm& form, CRightCone& cone) {
     if (form.CheckAllPositive(0, 1, 2) || form.CheckLessThan(2, 180)) {
-        return false;
+        return Refused;
     }
     // Here alone the whole half thickness counts, as the diameter is read before the angle of the wall.
     cone.BaseRad = MeanConeRadius(form, 0, 0);
@@ -40,28 +40,28 @@ bool BuildPlaneByConeAngle(FittingForm& form, CRightCone& cone) {
     cone.ConeAngle = DegToRad(form.Value(2) / 2);
     cone.CPAngle1 = DegToRad(form.Value(3));
     if (CheckConeWall(form, 0, cone.BaseRad, cone.ConeAngle)) {
-        return false;
+        return Refused;
     }
     const double H = MeanApexHeight(cone);
-    return !form.CheckLessThan(1, H) && !CheckPlaneTilt(form, 3, cone.CPHeight1, cone.BaseRad);
+    return RefusedIf(form.CheckLessThan(1, H) || CheckPlaneTilt(form, 3, cone.CPHeight1, cone.BaseRad));
 }
 
-bool BuildPlaneByApexHeight(FittingForm& form, CRightCone& cone) {
+Outcome BuildPlaneByApexHeight(FittingForm& form, CRightCone& cone) {
     if (form.CheckAllPositive(4, 6, 7)) {
-        return false;
+        return Refused;
     }
     cone.CPAngle1 = DegToRad(form.Value(5));
     cone.CPHeight1 = form.Value(7);
     if (SetWall(form, cone, 4, TypedConeAngle(form, 4, 6))) {
-        return false;
+        return Refused;
     }
     const double H = MeanApexHeight(cone);
-    return !form.CheckLessThan(7, H) && !CheckPlaneTilt(form, 5, cone.CPHeight1, cone.BaseRad);
+    return RefusedIf(form.CheckLessThan(7, H) || CheckPlaneTilt(form, 5, cone.CPHeight1, cone.BaseRad));
 }
 
-bool BuildTwoPlanes(FittingForm& form, CRightCone& cone) {
+Outcome BuildTwoPlanes(FittingForm& form, CRightCone& cone) {
     if (form.CheckAllPositive(8, 9, 11, 13)) {
-        return false;
+        return Refused;
     }
     cone.CPHeight1 = form.Value(9);
     cone.CPHeight2 = form.Value(11);
@@ -69,51 +69,51 @@ bool BuildTwoPlanes(FittingForm& form, CRightCone& cone) {
     // A positive entry tilts the lower plane the opposite way to the upper one.
     cone.CPAngle2 = -DegToRad(form.Value(10));
     if (SetWall(form, cone, 8, TypedConeAngle(form, 8, 13))) {
-        return false;
+        return Refused;
     }
     const double H = MeanApexHeight(cone);
-    return !form.CheckLessThan(9, H) && !form.CheckLessThan(11, H) &&
-           !CheckPlaneTilt(form, 12, cone.CPHeight1, cone.BaseRad) &&
-           !CheckPlaneTilt(form, 10, cone.CPHeight2, cone.BaseRad);
+    return RefusedIf(form.CheckLessThan(9, H) || form.CheckLessThan(11, H) ||
+                     CheckPlaneTilt(form, 12, cone.CPHeight1, cone.BaseRad) ||
+                     CheckPlaneTilt(form, 10, cone.CPHeight2, cone.BaseRad));
 }
 
 /// Both tilts of an upper roof: neither plane may leave the cone through its base, nor pass by its apex.
-bool CheckUpperRoofTilts(FittingForm& form, const CRightCone& cone, double H) {
+Outcome CheckUpperRoofTilts(FittingForm& form, const CRightCone& cone, double H) {
     const double toApex = H - cone.CPHeight1;
     if (form.CheckLessThan(14, TiltLimit(cone.CPHeight1, cone.BaseRad + cone.Offset))) {
-        return true;
+        return Refused;
     }
     const double farLimit = cone.Offset > 0 ? TiltLimit(toApex, cone.Offset) : 90;
     if (form.CheckGreaterThan(14, -farLimit) ||
         form.CheckLessThan(16, TiltLimit(cone.CPHeight1, cone.BaseRad - cone.Offset))) {
-        return true;
+        return Refused;
     }
     const double nearLimit = cone.Offset >= 0 ? 90 : TiltLimit(toApex, -cone.Offset);
     return form.CheckGreaterThan(16, -nearLimit);
 }
 
-bool BuildUpperRoof(FittingForm& form, CRightCone& cone) {
+Outcome BuildUpperRoof(FittingForm& form, CRightCone& cone) {
     if (form.CheckAllPositive(19, 18, 17)) {
-        return false;
+        return Refused;
     }
     cone.CPHeight1 = form.Value(18);
     cone.CPAngle3 = -DegToRad(form.Value(14));
     cone.CPAngle1 = DegToRad(form.Value(16));
     cone.Offset = form.Value(15);
     if (SetWall(form, cone, 19, TypedConeAngle(form, 19, 17))) {
-        return false;
+        return Refused;
     }
     const double H = MeanApexHeight(cone);
     if (form.CheckLessThan(18, H)) {
-        return false;
+        return Refused;
     }
     // The ridge may touch the cone on the far side, where the radius at its height is rc.
     const double rc = ((H - cone.CPHeight1) * cone.BaseRad) / H;
     if (form.CheckAtLeast(15, -rc) || form.CheckLessThan(15, rc) || CheckUpperRoofTilts(form, cone, H)) {
-        return false;
+        return Refused;
     }
     cone.ConeAngle = std::atan(cone.BaseRad / H);
-    return true;
+    return Passed;
 }
 
 /// The upper limit, in degrees, of a lower plane's tilt: it must pass below the top edge, which on that side
@@ -122,9 +122,9 @@ double BelowTopLimit(double run, double rise) {
     return run <= 0 ? 90 : 90 - TiltLimit(run, rise);
 }
 
-bool BuildLowerRoof(FittingForm& form, CRightCone& cone) {
+Outcome BuildLowerRoof(FittingForm& form, CRightCone& cone) {
     if (form.CheckAllPositive(20, 21, 22, 23)) {
-        return false;
+        return Refused;
     }
     cone.CPHeight1 = form.Value(22);
     cone.CPHeight2 = form.Value(23);
@@ -132,31 +132,31 @@ bool BuildLowerRoof(FittingForm& form, CRightCone& cone) {
     cone.CPAngle2 = -DegToRad(form.Value(26));
     cone.Offset = form.Value(24);
     if (form.CheckLessThan(21, form.Value(20))) {
-        return false;
+        return Refused;
     }
     const double typedR = form.Value(20) / 2;
     const double typedH = (form.Value(22) * typedR) / (typedR - form.Value(21) / 2);
     if (SetWall(form, cone, 20, std::atan(typedR / typedH))) {
-        return false;
+        return Refused;
     }
     const double H = MeanApexHeight(cone);
     if (form.CheckLessThan(22, H) || form.CheckLessThan(23, cone.CPHeight1)) {
-        return false;
+        return Refused;
     }
     const double r = MeanConeRadius(form, 21, cone.ConeAngle);
     if (CheckConeWall(form, 21, r, cone.ConeAngle)) {
-        return false;
+        return Refused;
     }
     const double rc = ((H - cone.CPHeight2) * cone.BaseRad) / H;
     if (form.CheckGreaterThan(24, -rc) || form.CheckLessThan(24, rc)) {
-        return false;
+        return Refused;
     }
     const double rise = cone.CPHeight1 - cone.CPHeight2;
     const double alongWall = -RadToDeg(QuarterTurn - cone.ConeAngle);
-    return !form.CheckLessThan(26, BelowTopLimit(r - cone.Offset, rise)) &&
-           !form.CheckGreaterThan(26, alongWall) &&
-           !form.CheckLessThan(25, BelowTopLimit(r + cone.Offset, rise)) &&
-           !form.CheckGreaterThan(25, alongWall);
+    return RefusedIf(form.CheckLessThan(26, BelowTopLimit(r - cone.Offset, rise)) ||
+                     form.CheckGreaterThan(26, alongWall) ||
+                     form.CheckLessThan(25, BelowTopLimit(r + cone.Offset, rise)) ||
+                     form.CheckGreaterThan(25, alongWall));
 }
 
 /// Breaks of a roof are measured from plan angle 0, so the seam of types 4 and 5 stands there.
@@ -164,7 +164,7 @@ void HoldSeamOfRoofs(std::int16_t dtype, CPatternSettings& settings) {
     HoldSeam(settings, dtype > 2);
 }
 
-bool Build(FittingForm& form, const FittingHandle& fitting) {
+Outcome Build(FittingForm& form, const FittingHandle& fitting) {
     // A file may hold any seam angle, so that the change of type is not enough.
     HoldSeamOfRoofs(form.dtype, form.settings);
     auto& cone = fitting.As<CRightCone>();

@@ -12,81 +12,81 @@ namespace korvet {
 namespace {
 
 /// One side of a roof may rise as steeply as it likes from a ridge at this height, `run` from the wall.
-bool CheckRoofSide(FittingForm& form, int angleBox, double height, double run) {
+Outcome CheckRoofSide(FittingForm& form, int angleBox, double height, double run) {
     return CheckTiltWithin(form, angleBox, -90, TiltLimit(height, run));
 }
 
-/// Sets the radius from its box and makes the thickness test: true after a failure.
-bool SetRadius(FittingForm& form, CRightCylinder& pipe, int diameterBox) {
+/// Sets the radius from its box and makes the thickness test.
+Outcome SetRadius(FittingForm& form, CRightCylinder& pipe, int diameterBox) {
     pipe.BaseRad = MeanRadiusOfDiameter(form, diameterBox);
     return CheckRoundWall(form, diameterBox, pipe.BaseRad);
 }
 
-bool BuildSquare(FittingForm& form, CRightCylinder& pipe) {
+Outcome BuildSquare(FittingForm& form, CRightCylinder& pipe) {
     if (form.CheckAllPositive(0, 1) || SetRadius(form, pipe, 0)) {
-        return false;
+        return Refused;
     }
     pipe.CPHeight1 = form.Value(1);
-    return true;
+    return Passed;
 }
 
-bool BuildTiltedTop(FittingForm& form, CRightCylinder& pipe) {
+Outcome BuildTiltedTop(FittingForm& form, CRightCylinder& pipe) {
     if (form.CheckAllPositive(2, 3) || SetRadius(form, pipe, 2)) {
-        return false;
+        return Refused;
     }
     pipe.CPHeight1 = form.Value(3);
     pipe.CPAngle1 = -DegToRad(form.Value(4));
-    return !CheckPlaneTilt(form, 4, pipe.CPHeight1, pipe.BaseRad);
+    return CheckPlaneTilt(form, 4, pipe.CPHeight1, pipe.BaseRad);
 }
 
-bool BuildTwoHeights(FittingForm& form, CRightCylinder& pipe) {
+Outcome BuildTwoHeights(FittingForm& form, CRightCylinder& pipe) {
     if (form.CheckAllPositive(5, 6, 7) || SetRadius(form, pipe, 5)) {
-        return false;
+        return Refused;
     }
     pipe.CPHeight1 = (form.Value(7) + form.Value(6)) / 2;
     pipe.CPAngle1 = -std::atan((form.Value(6) - form.Value(7)) / (pipe.BaseRad + pipe.BaseRad));
-    return true;
+    return Passed;
 }
 
-bool BuildRoof(FittingForm& form, CRightCylinder& pipe) {
+Outcome BuildRoof(FittingForm& form, CRightCylinder& pipe) {
     if (form.CheckAllPositive(8, 9) || SetRadius(form, pipe, 8)) {
-        return false;
+        return Refused;
     }
     pipe.CPHeight1 = form.Value(9);
     pipe.CPAngle1 = DegToRad(form.Value(10));
     pipe.CPAngle3 = DegToRad(form.Value(11));
-    return !CheckRoofSide(form, 10, pipe.CPHeight1, pipe.BaseRad) &&
-           !CheckRoofSide(form, 11, pipe.CPHeight1, pipe.BaseRad);
+    return RefusedIf(CheckRoofSide(form, 10, pipe.CPHeight1, pipe.BaseRad) ||
+                     CheckRoofSide(form, 11, pipe.CPHeight1, pipe.BaseRad));
 }
 
-bool BuildTiltedEnds(FittingForm& form, CRightCylinder& pipe) {
+Outcome BuildTiltedEnds(FittingForm& form, CRightCylinder& pipe) {
     if (form.CheckAllPositive(12, 13) || SetRadius(form, pipe, 12)) {
-        return false;
+        return Refused;
     }
     pipe.CPHeight1 = form.Value(13);
     pipe.CPAngle1 = -DegToRad(form.Value(14));
     pipe.CPAngle2 = -DegToRad(form.Value(15));
     pipe.Rotation = DegToRad(form.Value(21));
     if (CheckPlaneTilt(form, 14, pipe.CPHeight1, pipe.BaseRad)) {
-        return false;
+        return Refused;
     }
     // Wherever the base is turned, it stays below the lowest point of the top edge.
     const double q = pipe.CPHeight1 - pipe.BaseRad * std::abs(std::tan(pipe.CPAngle1));
-    return !CheckPlaneTilt(form, 15, q, pipe.BaseRad);
+    return CheckPlaneTilt(form, 15, q, pipe.BaseRad);
 }
 
-bool BuildOffsetRoof(FittingForm& form, CRightCylinder& pipe) {
+Outcome BuildOffsetRoof(FittingForm& form, CRightCylinder& pipe) {
     if (form.CheckAllPositive(16, 17) || SetRadius(form, pipe, 16)) {
-        return false;
+        return Refused;
     }
     pipe.CPHeight1 = form.Value(17);
     pipe.CPAngle1 = DegToRad(form.Value(19));
     pipe.CPAngle3 = DegToRad(form.Value(18));
     pipe.Offset = form.Value(20);
     const double R = pipe.BaseRad;
-    return !form.CheckGreaterThan(20, -R) && !form.CheckLessThan(20, R) &&
-           !CheckRoofSide(form, 18, pipe.CPHeight1, R - pipe.Offset) &&
-           !CheckRoofSide(form, 19, pipe.CPHeight1, R + pipe.Offset);
+    return RefusedIf(form.CheckGreaterThan(20, -R) || form.CheckLessThan(20, R) ||
+                     CheckRoofSide(form, 18, pipe.CPHeight1, R - pipe.Offset) ||
+                     CheckRoofSide(form, 19, pipe.CPHeight1, R + pipe.Offset));
 }
 
 /// The stations of a roof start at plan angle 0, so the seam of types 4 and 6 stands there.
@@ -94,7 +94,7 @@ void HoldSeamOfRoofs(std::int16_t dtype, CPatternSettings& settings) {
     HoldSeam(settings, dtype == RoofOverTracedBase || dtype == RoofTop);
 }
 
-bool Build(FittingForm& form, const FittingHandle& fitting) {
+Outcome Build(FittingForm& form, const FittingHandle& fitting) {
     // A file may hold any seam angle, so that the change of type is not enough.
     HoldSeamOfRoofs(form.dtype, form.settings);
     auto& pipe = fitting.As<CRightCylinder>();

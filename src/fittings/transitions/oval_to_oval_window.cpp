@@ -13,11 +13,12 @@ TransitionSection OvalOf(const FittingForm& form, LengthBoxes lengths) {
 }
 
 /// Room for the material in both widths, and both ovals longer than wide.
-bool CheckOvals(FittingForm& form, LengthBoxes base, LengthBoxes top) {
+Outcome CheckOvals(FittingForm& form, LengthBoxes base, LengthBoxes top) {
     const double t = form.settings.Thickness;
-    return form.CheckRoomForThickness(base.y, MeanLength(form, base.y), t) ||
-           form.CheckRoomForThickness(top.y, MeanLength(form, top.y), t) ||
-           form.CheckAtLeast(base.x, form.Value(base.y)) || form.CheckAtLeast(top.x, form.Value(top.y));
+    return RefusedIf(form.CheckRoomForThickness(base.y, MeanLength(form, base.y), t) ||
+                     form.CheckRoomForThickness(top.y, MeanLength(form, top.y), t) ||
+                     form.CheckAtLeast(base.x, form.Value(base.y)) ||
+                     form.CheckAtLeast(top.x, form.Value(top.y)));
 }
 
 /// The boxes of one page.
@@ -31,24 +32,24 @@ constexpr OvalBoxes Centred = {{0, 1}, {2, 3}, 10};
 constexpr OvalBoxes Placed = {{4, 5}, {6, 7}, 11};
 
 template <OvalBoxes Page>
-bool BuildOvals(FittingForm& form, CTransition& transition) {
+Outcome BuildOvals(FittingForm& form, CTransition& transition) {
     const auto& [base, top, height] = Page;
     if (form.CheckAllPositive(base.x, base.y, top.x, top.y) || form.CheckNotEqual(height, 0) ||
         CheckOvals(form, base, top)) {
-        return false;
+        return Refused;
     }
     SetSections(transition, OvalOf(form, top), OvalOf(form, base), form.Value(height));
-    return true;
+    return Passed;
 }
 
 /// Here alone the Y offset keeps its sign, and a half pattern stays selected with it.
-bool BuildPlaced(FittingForm& form, CTransition& transition) {
-    if (!BuildOvals<Placed>(form, transition)) {
-        return false;
+Outcome BuildPlaced(FittingForm& form, CTransition& transition) {
+    if (BuildOvals<Placed>(form, transition)) {
+        return Refused;
     }
     transition.TopOffsetX = form.Value(8);
     transition.TopOffsetY = form.Value(9);
-    return true;
+    return Passed;
 }
 
 constexpr std::array<BoxEntry, 5> CentredBoxes = {

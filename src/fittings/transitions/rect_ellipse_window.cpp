@@ -9,28 +9,28 @@ namespace {
 
 constexpr TiltBoxes Tilts = {14, 15};
 
-bool BuildCentred(FittingForm& form, CTransition& transition) {
+Outcome BuildCentred(FittingForm& form, CTransition& transition) {
     if (form.CheckAllPositive(0, 12, 1, 2, 3) ||
         form.CheckBoxRoomForThickness(10, form.settings.Thickness / 2) || CheckRadiusFits(form, 10, {1, 2})) {
-        return false;
+        return Refused;
     }
     SetSections(transition, EllipseOf(form, {0, 12}), RectangleOf(form, {1, 2}, MeanRadius(form, 10)),
                 form.Value(3));
-    return true;
+    return Passed;
 }
 
 /// The radius is held against the thickness twice; the first one always speaks.
-bool BuildPlaced(FittingForm& form, CTransition& transition) {
+Outcome BuildPlaced(FittingForm& form, CTransition& transition) {
     const double halfThickness = form.settings.Thickness / 2;
     if (form.CheckAllPositive(4, 13, 5, 6, 9) || form.CheckBoxRoomForThickness(11, halfThickness) ||
         CheckTilts(form, Tilts) || form.CheckBoxRoomForThickness(11, halfThickness) ||
         CheckRadiusFits(form, 11, {5, 6})) {
-        return false;
+        return Refused;
     }
     SetSections(transition, EllipseOf(form, {4, 13}), RectangleOf(form, {5, 6}, MeanRadius(form, 11)),
                 form.Value(9));
     PlaceTop(form, transition, {7, 8}, Tilts);
-    return true;
+    return Passed;
 }
 
 constexpr SketchDimension LengthY =

@@ -16,26 +16,26 @@ TransitionSection BaseOf(const FittingForm& form, LengthBoxes lengths) {
     return base;
 }
 
-bool BuildCentred(FittingForm& form, CTransition& transition) {
+Outcome BuildCentred(FittingForm& form, CTransition& transition) {
     const double t = form.settings.Thickness;
     if (form.CheckAllPositive(0, 1, 2) || form.CheckBoxRoomForThickness(1, t) ||
         form.CheckBoxRoomForThickness(2, t) || form.CheckNotEqual(3, 0)) {
-        return false;
+        return Refused;
     }
     SetSections(transition, EllipseOf(form, {0, 0}), BaseOf(form, {1, 2}), form.Value(3));
-    return true;
+    return Passed;
 }
 
 /// The sizes are asked for twice, the second time with another message; the first one always speaks.
-bool BuildPlaced(FittingForm& form, CTransition& transition) {
+Outcome BuildPlaced(FittingForm& form, CTransition& transition) {
     if (form.CheckAllPositive(4, 5, 6) || form.CheckNotEqual(9, 0) || CheckTilts(form, Tilts) ||
         form.CheckGreaterThan(4, 0) || form.CheckGreaterThan(5, 0) || form.CheckGreaterThan(6, 0) ||
         form.CheckNotEqual(9, 0)) {
-        return false;
+        return Refused;
     }
     SetSections(transition, EllipseOf(form, {4, 4}), BaseOf(form, {5, 6}), form.Value(9));
     PlaceTop(form, transition, {7, 8}, Tilts);
-    return true;
+    return Passed;
 }
 
 constexpr auto CentredBoxes = Joined(CentredDiameter, CentredRectangle);

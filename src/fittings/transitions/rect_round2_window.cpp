@@ -9,27 +9,27 @@ namespace {
 
 constexpr TiltBoxes Tilts = {12, 13};
 
-bool BuildCentred(FittingForm& form, CTransition& transition) {
+Outcome BuildCentred(FittingForm& form, CTransition& transition) {
     const double t = form.settings.Thickness;
     if (form.CheckAllPositive(0, 1, 2) || form.CheckBoxRoomForThickness(10, t / 2) ||
         CheckRadiusFits(form, 10, {1, 2}) || form.CheckBoxRoomForThickness(1, t) ||
         form.CheckBoxRoomForThickness(2, t) || form.CheckNotEqual(3, 0)) {
-        return false;
+        return Refused;
     }
     SetSections(transition, EllipseOf(form, {0, 0}), RectangleOf(form, {1, 2}, MeanRadius(form, 10)),
                 form.Value(3));
-    return true;
+    return Passed;
 }
 
-bool BuildPlaced(FittingForm& form, CTransition& transition) {
+Outcome BuildPlaced(FittingForm& form, CTransition& transition) {
     if (form.CheckAllPositive(4, 5, 6) || CheckTilts(form, Tilts) || form.CheckNotEqual(9, 0) ||
         form.CheckBoxRoomForThickness(11, form.settings.Thickness / 2) || CheckRadiusFits(form, 11, {5, 6})) {
-        return false;
+        return Refused;
     }
     SetSections(transition, EllipseOf(form, {4, 4}), RectangleOf(form, {5, 6}, MeanRadius(form, 11)),
                 form.Value(9));
     PlaceTop(form, transition, {7, 8}, Tilts);
-    return true;
+    return Passed;
 }
 
 constexpr auto CentredBoxes = Joined(CentredDiameter, CentredRectangle, CentredCorner);

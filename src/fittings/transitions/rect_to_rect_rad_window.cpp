@@ -15,16 +15,17 @@ struct FoldedBoxes {
 };
 
 /// Room for the material in lengths as typed, in the order given.
-bool CheckLengths(FittingForm& form, const std::array<int, 4>& boxes) {
-    return std::any_of(boxes.begin(), boxes.end(),
-                       [&](int box) { return form.CheckBoxRoomForThickness(box, form.settings.Thickness); });
+Outcome CheckLengths(FittingForm& form, const std::array<int, 4>& boxes) {
+    return RefusedIf(std::any_of(boxes.begin(), boxes.end(), [&](int box) {
+        return form.CheckBoxRoomForThickness(box, form.settings.Thickness);
+    }));
 }
 
 /// The radius of a rectangle: half of the thickness at least, and half of each mean length at most.
-bool CheckCorner(FittingForm& form, const FoldedBoxes& boxes) {
-    return form.CheckAtLeast(boxes.radius, form.settings.Thickness / 2) ||
-           CheckRadiusFits(form, boxes.radius, MeanLength(form, boxes.lengths.x),
-                           MeanLength(form, boxes.lengths.y));
+Outcome CheckCorner(FittingForm& form, const FoldedBoxes& boxes) {
+    return RefusedIf(form.CheckAtLeast(boxes.radius, form.settings.Thickness / 2) ||
+                     CheckRadiusFits(form, boxes.radius, MeanLength(form, boxes.lengths.x),
+                                     MeanLength(form, boxes.lengths.y)));
 }
 
 TransitionSection SectionOf(const FittingForm& form, const FoldedBoxes& boxes) {
@@ -43,24 +44,24 @@ constexpr FoldedPage Centred = {{{0, 1}, 13}, {{4, 2}, 10}, 3, {0, 1, 4, 2}};
 constexpr FoldedPage Placed = {{{6, 5}, 15}, {{7, 8}, 11}, 9, {5, 6, 7, 8}};
 
 template <FoldedPage Page>
-bool BuildFolded(FittingForm& form, CTransition& transition) {
+Outcome BuildFolded(FittingForm& form, CTransition& transition) {
     const LengthBoxes& top = Page.top.lengths;
     const LengthBoxes& base = Page.base.lengths;
     if (form.CheckAllPositive(top.x, top.y, base.x, base.y) || form.CheckNotEqual(Page.height, 0) ||
         CheckLengths(form, Page.byThickness) || CheckCorner(form, Page.base) || CheckCorner(form, Page.top)) {
-        return false;
+        return Refused;
     }
     SetSections(transition, SectionOf(form, Page.top), SectionOf(form, Page.base), form.Value(Page.height));
-    return true;
+    return Passed;
 }
 
-bool BuildPlaced(FittingForm& form, CTransition& transition) {
-    if (!BuildFolded<Placed>(form, transition)) {
-        return false;
+Outcome BuildPlaced(FittingForm& form, CTransition& transition) {
+    if (BuildFolded<Placed>(form, transition)) {
+        return Refused;
     }
     SetOffsets(form, transition, {12, 14});
     RefuseSkewHalf(form, transition);
-    return true;
+    return Passed;
 }
 
 constexpr std::array<BoxEntry, 7> CentredBoxes = {

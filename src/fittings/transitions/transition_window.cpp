@@ -9,8 +9,8 @@
 namespace korvet {
 namespace {
 
-bool CheckTilt(FittingForm& form, int box) {
-    return form.CheckAtMost(box, 90) || form.CheckAtLeast(box, -90);
+Outcome CheckTilt(FittingForm& form, int box) {
+    return RefusedIf(form.CheckAtMost(box, 90) || form.CheckAtLeast(box, -90));
 }
 
 /// Gives the angle in a box to the axis that is selected for it, and 0 to the other.
@@ -49,16 +49,17 @@ TransitionSection RectangleOf(const FittingForm& form, LengthBoxes lengths, doub
     return {MeanLength(form, lengths.x), MeanLength(form, lengths.y), radius, radius, false};
 }
 
-bool CheckRadiusFits(FittingForm& form, int radiusBox, double lengthX, double lengthY) {
-    return form.CheckAtMost(radiusBox, lengthX / 2) || form.CheckAtMost(radiusBox, lengthY / 2);
+Outcome CheckRadiusFits(FittingForm& form, int radiusBox, double lengthX, double lengthY) {
+    return RefusedIf(form.CheckAtMost(radiusBox, lengthX / 2) || form.CheckAtMost(radiusBox, lengthY / 2));
 }
 
-bool CheckRadiusFits(FittingForm& form, int radiusBox, LengthBoxes lengths) {
+Outcome CheckRadiusFits(FittingForm& form, int radiusBox, LengthBoxes lengths) {
     return CheckRadiusFits(form, radiusBox, form.Value(lengths.x), form.Value(lengths.y));
 }
 
-bool CheckTilts(FittingForm& form, TiltBoxes boxes) {
-    return CheckTilt(form, boxes.top) || CheckTilt(form, boxes.base) || form.CheckAxes(boxes.top, boxes.base);
+Outcome CheckTilts(FittingForm& form, TiltBoxes boxes) {
+    return RefusedIf(CheckTilt(form, boxes.top) || CheckTilt(form, boxes.base) ||
+                     form.CheckAxes(boxes.top, boxes.base));
 }
 
 void SetSections(CTransition& transition, const TransitionSection& top, const TransitionSection& base,

@@ -44,16 +44,16 @@ struct TiltBoxes {
 /// The rectangle of the overall lengths in two boxes with the mean corner radius given.
 [[nodiscard]] TransitionSection RectangleOf(const FittingForm& form, LengthBoxes lengths, double radius);
 
-// Checks: true after a failure, with the message shown and the focus on the box.
+// Checks, with the focus on the box after a refusal.
 
 /// A radius of at most half of either length.
-bool CheckRadiusFits(FittingForm& form, int radiusBox, double lengthX, double lengthY);
+Outcome CheckRadiusFits(FittingForm& form, int radiusBox, double lengthX, double lengthY);
 
 /// The same against the lengths as typed.
-bool CheckRadiusFits(FittingForm& form, int radiusBox, LengthBoxes lengths);
+Outcome CheckRadiusFits(FittingForm& form, int radiusBox, LengthBoxes lengths);
 
 /// Both angles from -90 to 90 degrees, and an axis for each that is not 0.
-bool CheckTilts(FittingForm& form, TiltBoxes boxes);
+Outcome CheckTilts(FittingForm& form, TiltBoxes boxes);
 
 /// Sets the sections and the height, the top level above the base and centred on it. Throws ArithmeticError,
 /// which names the size, when the material has left nothing of a length or less than nothing of a corner
@@ -134,7 +134,8 @@ inline constexpr std::array<SketchConstruction, 5> PlacedAxes = {
      CentreLine(TopAt(0, -B), TopAt(0, B), Plan)}};
 
 /// The table of a window with a centred transition on its short page and a placed one on its long page.
-template <bool (*BuildCentred)(FittingForm&, CTransition&), bool (*BuildPlaced)(FittingForm&, CTransition&)>
+template <Outcome (*BuildCentred)(FittingForm&, CTransition&),
+          Outcome (*BuildPlaced)(FittingForm&, CTransition&)>
 constexpr WindowTable TransitionTable(std::span<const PageEntry> pages) {
     return {.pages = pages,
             .newFitting = FittingHandle::Make<CTransition>,

@@ -20,7 +20,7 @@ const std::string NoRoom = "This dimension must be increased to allow for materi
 constexpr const char* Category = "Segmented Bend";
 
 const CSegBendParallel& Built(CFittingWindow& window) {
-    EXPECT_TRUE(window.BuildFitting());
+    EXPECT_EQ(window.BuildFitting(), Passed);
     return window.fitting->As<CSegBendParallel>();
 }
 
@@ -51,7 +51,7 @@ TEST_P(SegBendRefusals, NameTheBox) {
     TestShell shell;
     const auto window = shell.OpenSample(Category, GetParam().type);
     TypeBoxes(*window, GetParam().boxes);
-    EXPECT_FALSE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Refused);
     ExpectUserError(shell.ui, *window, GetParam().message, GetParam().box);
 }
 
@@ -89,7 +89,7 @@ TEST(SegBendLimits, TheLimitsThemselvesAreAllowed) {
         TestShell shell;
         const auto window = shell.OpenSample(Category, type);
         TypeBoxes(*window, boxes);
-        EXPECT_TRUE(window->BuildFitting());
+        EXPECT_EQ(window->BuildFitting(), Passed);
         EXPECT_TRUE(shell.ui.messages.empty());
         window->fitting->DevelopModel();
     }
@@ -101,11 +101,11 @@ TEST(SegBendLimits, WallMustFitIntoThePipe) {
         const auto window = shell.OpenSample(Category, type);
         window->settings.InOutMean = OutsideDimension;
         window->settings.Thickness = 100;
-        EXPECT_TRUE(window->BuildFitting());
+        EXPECT_EQ(window->BuildFitting(), Passed);
         // The bend radius is wrong as well, but comes after.
         TypeBoxes(*window, {{box + 1, "1"}});
         window->settings.Thickness = 100.1;
-        EXPECT_FALSE(window->BuildFitting());
+        EXPECT_EQ(window->BuildFitting(), Refused);
         ExpectUserError(shell.ui, *window, NoRoom, box);
     }
 }
@@ -116,7 +116,7 @@ TEST(SegBendLimits, BendRadiusIsHeldAgainstTheMeanRadius) {
     window->settings.Thickness = 10;
     window->settings.InOutMean = InsideDimension;
     TypeBoxes(*window, {{1, "105"}});
-    EXPECT_FALSE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Refused);
     ExpectUserError(shell.ui, *window, GreaterThan + "105", 1);
 }
 
@@ -277,7 +277,7 @@ TEST(SegBendTextBlock, TellsTheSizesAsTyped) {
         const auto window = shell.OpenSample(Category, type);
         window->settings.Thickness = 1.5;
         window->settings.PositionString = "inside";
-        ASSERT_TRUE(window->BuildFitting());
+        ASSERT_EQ(window->BuildFitting(), Passed);
         std::vector<std::string> lines = {"", ""};
         lines.insert(lines.end(), sizes.begin(), sizes.end());
         // No line tells which side of the material the sizes mean.

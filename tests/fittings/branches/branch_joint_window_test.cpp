@@ -41,40 +41,40 @@ class JoinWindowTest : public testing::Test {
 };
 
 TEST_F(JoinWindowTest, EveryJoinHasItsRadii) {
-    ASSERT_TRUE(window->BuildFitting());
+    ASSERT_EQ(window->BuildFitting(), Passed);
     ExpectRadii(60, 100, 60, 100);
     window->branch.join = SetOnJoin;
-    ASSERT_TRUE(window->BuildFitting());
+    ASSERT_EQ(window->BuildFitting(), Passed);
     ExpectRadii(60, 105, 58, 100);
     window->branch.join = SetInJoin;
-    ASSERT_TRUE(window->BuildFitting());
+    ASSERT_EQ(window->BuildFitting(), Passed);
     ExpectRadii(60, 95, 62, 100);
 }
 
 TEST_F(JoinWindowTest, RadiiComeFromTheMeanSizes) {
     window->branch.join = SetInJoin;
     window->settings.InOutMean = OutsideDimension;
-    ASSERT_TRUE(window->BuildFitting());
+    ASSERT_EQ(window->BuildFitting(), Passed);
     ExpectRadii(58, 90, 60, 95);
     window->settings.InOutMean = InsideDimension;
-    ASSERT_TRUE(window->BuildFitting());
+    ASSERT_EQ(window->BuildFitting(), Passed);
     ExpectRadii(62, 100, 64, 105);
 }
 
 TEST_F(JoinWindowTest, AWideSetInBranchReachesTheMeanSurface) {
     window->branch.join = SetInJoin;
     TypeBoxes(*window, {{0, "190"}});
-    ASSERT_TRUE(window->BuildFitting());
+    ASSERT_EQ(window->BuildFitting(), Passed);
     ExpectRadii(95, 95, 97, 100);
     TypeBoxes(*window, {{0, "191"}});
-    ASSERT_TRUE(window->BuildFitting());
+    ASSERT_EQ(window->BuildFitting(), Passed);
     ExpectRadii(95.5, 100, 97.5, 100);
 }
 
 TEST_F(JoinWindowTest, ASetInBranchAsWideAsTheTrunkHasNoHole) {
     window->branch.join = SetInJoin;
     TypeBoxes(*window, {{0, "200"}});
-    EXPECT_FALSE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Refused);
     ExpectUserError(shell.ui, *window, TooLarge);
     ExpectRadii(100, 100, 102, 100);
 }
@@ -82,7 +82,7 @@ TEST_F(JoinWindowTest, ASetInBranchAsWideAsTheTrunkHasNoHole) {
 TEST_F(JoinWindowTest, AWiderThinSetInBranchPassesAtItsEdgeOnly) {
     window->branch.join = SetInJoin;
     TypeBoxes(*window, {{0, "202"}});
-    EXPECT_FALSE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Refused);
     ExpectUserError(shell.ui, *window, TooLarge);
     ExpectRadii(101, 103, 103, 100);
 }
@@ -91,7 +91,7 @@ TEST_F(JoinWindowTest, TheBranchsEdgeIsTestedBeforeTheHole) {
     window->branch.join = SetInJoin;
     window->settings.ThicknessA = 12;
     TypeBoxes(*window, {{0, "202"}});
-    EXPECT_FALSE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Refused);
     ExpectUserError(shell.ui, *window, TooLarge);
     ExpectRadii(101, 100, 0, 0);
 }
@@ -100,25 +100,25 @@ TEST_F(JoinWindowTest, AnOffsetCountsWithTheRadius) {
     for (const std::string offset : {"40", "-40"}) {
         TypeBoxes(*window, {{11, offset}});
         window->branch.join = MeanToMeanJoin;
-        EXPECT_TRUE(window->BuildFitting()) << "60 + 40 is all of the trunk";
+        EXPECT_EQ(window->BuildFitting(), Passed) << "60 + 40 is all of the trunk";
         window->branch.join = SetOnJoin;
-        EXPECT_TRUE(window->BuildFitting());
+        EXPECT_EQ(window->BuildFitting(), Passed);
         EXPECT_TRUE(shell.ui.messages.empty());
         window->branch.join = SetInJoin;
-        EXPECT_FALSE(window->BuildFitting());
+        EXPECT_EQ(window->BuildFitting(), Refused);
         ExpectUserError(shell.ui, *window, TooLarge);
         shell.ui.messages.clear();
     }
     // Set in, the edge is cut against 95.
     TypeBoxes(*window, {{11, "35"}});
-    EXPECT_TRUE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Passed);
     TypeBoxes(*window, {{11, "35.1"}});
-    EXPECT_FALSE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Refused);
 }
 
 TEST_F(JoinWindowTest, ABranchWiderThanTheTrunkIsRefusedWithoutAnOffset) {
     TypeBoxes(*window, {{0, "201"}});
-    EXPECT_FALSE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Refused);
     ExpectUserError(shell.ui, *window, TooLarge);
 }
 
@@ -135,17 +135,17 @@ TEST_F(JoinWindowTest, MaterialThatFillsTheBranchIsRefused) {
 
 TEST_F(JoinWindowTest, HalfPatternsNeedCrossingAxes) {
     window->settings.HalfPattern = true;
-    ASSERT_TRUE(window->BuildFitting());
+    ASSERT_EQ(window->BuildFitting(), Passed);
     EXPECT_TRUE(shell.ui.messages.empty());
     EXPECT_TRUE(window->settings.HalfPattern);
     TypeBoxes(*window, {{11, "-5"}});
-    ASSERT_TRUE(window->BuildFitting());
+    ASSERT_EQ(window->BuildFitting(), Passed);
     ASSERT_EQ(shell.ui.Texts(), std::vector<std::string>{NoHalf});
     EXPECT_EQ(shell.ui.messages[0].title, "User Error");
     EXPECT_FALSE(window->settings.HalfPattern);
     // The text block was there before; the next build tells the whole pattern.
     EXPECT_EQ(window->labels->Last().LabelString, "Branch  Half pattern  21 Nov 2026");
-    ASSERT_TRUE(window->BuildFitting());
+    ASSERT_EQ(window->BuildFitting(), Passed);
     EXPECT_EQ(window->labels->Last().LabelString, "Branch  Full pattern  21 Nov 2026");
     EXPECT_EQ(shell.ui.messages.size(), 1U);
 }
@@ -154,7 +154,7 @@ TEST_F(JoinWindowTest, AHalfPatternIsRefusedBeforeTheRadii) {
     window->settings.HalfPattern = true;
     window->branch.join = SetInJoin;
     TypeBoxes(*window, {{11, "40"}});
-    EXPECT_FALSE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Refused);
     EXPECT_EQ(shell.ui.Texts(), (std::vector<std::string>{NoHalf, TooLarge}));
 }
 
@@ -198,7 +198,7 @@ class HeelTest : public testing::Test {
     HeelTest() : window(shell.OpenSample("Branch", 2)) { window->settings.ThicknessA = 4; }
 
     double Angle() {
-        EXPECT_TRUE(window->BuildFitting());
+        EXPECT_EQ(window->BuildFitting(), Passed);
         return window->fitting->As<CBranch>().AxialAngle;
     }
 
@@ -233,7 +233,7 @@ TEST_F(HeelTest, LeavesSquareBranchesAlone) {
     const auto square = shell.OpenSample("Branch", 1);
     square->settings.ThicknessA = 4;
     square->branch = {SetOnJoin, true};
-    ASSERT_TRUE(square->BuildFitting());
+    ASSERT_EQ(square->BuildFitting(), Passed);
     EXPECT_EQ(square->fitting->As<CBranch>().AxialAngle, QuarterTurn);
 }
 

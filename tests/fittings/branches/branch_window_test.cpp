@@ -27,7 +27,7 @@ void SetMaterial(CFittingWindow& window, const Material& material) {
 }
 
 const CBranch& Built(CFittingWindow& window) {
-    EXPECT_TRUE(window.BuildFitting());
+    EXPECT_EQ(window.BuildFitting(), Passed);
     return window.fitting->As<CBranch>();
 }
 
@@ -61,7 +61,7 @@ TEST_P(BranchRefusals, NameTheBox) {
     TestShell shell;
     const auto window = shell.OpenSample("Branch", GetParam().type);
     TypeBoxes(*window, GetParam().boxes);
-    EXPECT_FALSE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Refused);
     ExpectUserError(shell.ui, *window, GetParam().message, GetParam().box);
 }
 
@@ -106,7 +106,7 @@ TEST(BranchLimits, TheLimitsThemselvesAreAllowed) {
         TestShell shell;
         const auto window = shell.OpenSample("Branch", 1);
         TypeBoxes(*window, boxes);
-        EXPECT_TRUE(window->BuildFitting());
+        EXPECT_EQ(window->BuildFitting(), Passed);
         EXPECT_TRUE(shell.ui.messages.empty());
     }
     for (const BoxTexts& boxes : {BoxTexts{{12, "50"}, {7, "100"}}, BoxTexts{{12, "-50"}},
@@ -114,7 +114,7 @@ TEST(BranchLimits, TheLimitsThemselvesAreAllowed) {
         TestShell shell;
         const auto window = shell.OpenSample("Branch", 2);
         TypeBoxes(*window, boxes);
-        EXPECT_TRUE(window->BuildFitting());
+        EXPECT_EQ(window->BuildFitting(), Passed);
         EXPECT_TRUE(shell.ui.messages.empty());
     }
 }
@@ -124,10 +124,10 @@ TEST(BranchLimits, ASquareBranchOfTheSecondTypeMayTouchBothEnds) {
     const auto window = shell.OpenSample("Branch", 2);
     // Half the branch from the end of the trunk; the trunk as long as half its diameter.
     TypeBoxes(*window, {{10, "90"}, {5, "100"}, {6, "200"}, {8, "50"}, {9, "100"}});
-    EXPECT_TRUE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Passed);
     EXPECT_TRUE(shell.ui.messages.empty());
     TypeBoxes(*window, {{8, "49.99"}});
-    EXPECT_FALSE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Refused);
     ExpectUserError(shell.ui, *window, AtLeast + "50", 8);
 }
 
@@ -135,12 +135,12 @@ TEST(BranchLimits, ASlantingBranchMayStandBeyondTheEndOfItsTrunk) {
     TestShell shell;
     const auto window = shell.OpenSample("Branch", 2);
     TypeBoxes(*window, {{8, "500"}, {9, "144.4"}});
-    EXPECT_TRUE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Passed);
     EXPECT_TRUE(shell.ui.messages.empty());
     // The square page asks for the branch's radius and the distance to the crossing.
     const auto square = shell.OpenSample("Branch", 1);
     TypeBoxes(*square, {{3, "500"}});
-    EXPECT_FALSE(square->BuildFitting());
+    EXPECT_EQ(square->BuildFitting(), Refused);
     ExpectUserError(shell.ui, *square, AtLeast + "560", 4);
 }
 
@@ -167,7 +167,7 @@ TEST(BranchLimits, GoByTheMeanSizes) {
         const auto window = shell.OpenSample("Branch", 1);
         SetMaterial(*window, example.material);
         TypeBoxes(*window, example.boxes);
-        EXPECT_FALSE(window->BuildFitting());
+        EXPECT_EQ(window->BuildFitting(), Refused);
         ExpectUserError(shell.ui, *window, example.message, example.box);
     }
 }
@@ -176,7 +176,7 @@ TEST(BranchNumbers, BoxesOfBothPagesMustHoldNumbers) {
     TestShell shell;
     const auto window = shell.OpenSample("Branch", 1);
     window->controls.txtParameter[12].text = "";
-    EXPECT_FALSE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Refused);
     ASSERT_EQ(shell.ui.messages.size(), 1U);
     EXPECT_EQ(shell.ui.messages[0].text, "Not a valid number");
     EXPECT_EQ(shell.ui.messages[0].box, 12);
@@ -221,7 +221,7 @@ TEST(BranchTextBlock, TellsBothPipesAndTheirJoin) {
     SetMaterial(*window, {2.5, 4, MeanDimension});
     window->comment1 = "Order 17";
     TypeBoxes(*window, {{11, " 25.0"}});
-    ASSERT_TRUE(window->BuildFitting());
+    ASSERT_EQ(window->BuildFitting(), Passed);
     EXPECT_EQ(TextBlock(*window),
               (std::vector<std::string>{
                   "Order 17", "", "Branch pipe diameter = 120", "Main pipe diameter = 200",
@@ -236,7 +236,7 @@ TEST(BranchTextBlock, TellsTheAngleOfASlantingBranch) {
     TypeBoxes(*window, {{12, "0"}});
     window->settings.HalfPattern = true;
     window->branch.join = SetOnJoin;
-    ASSERT_TRUE(window->BuildFitting());
+    ASSERT_EQ(window->BuildFitting(), Passed);
     EXPECT_EQ(TextBlock(*window),
               (std::vector<std::string>{"", "", "Branch pipe diameter = 100", "Main pipe diameter = 200",
                                         "Branch pipe length = 280", "Distance to intersection = 200",
@@ -244,7 +244,7 @@ TEST(BranchTextBlock, TellsTheAngleOfASlantingBranch) {
                                         "Thickness of branch pipe = 0", "Thickness of trunk pipe = 0",
                                         "Branch type is Set ON", "Branch  Half pattern  21 Nov 2026"}));
     window->branch.join = SetInJoin;
-    ASSERT_TRUE(window->BuildFitting());
+    ASSERT_EQ(window->BuildFitting(), Passed);
     EXPECT_EQ(window->labels->Item(12).LabelString, "Branch type is Set IN");
 }
 

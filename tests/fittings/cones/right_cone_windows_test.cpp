@@ -18,7 +18,7 @@ void ExpectRefused(const std::string& category, const Refusal& refusal) {
     TestShell shell;
     const auto window = shell.OpenSample(category, refusal.type);
     TypeBoxes(*window, refusal.boxes);
-    EXPECT_FALSE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Refused);
     ExpectUserError(shell.ui, *window, refusal.message, refusal.box);
 }
 
@@ -121,7 +121,7 @@ void ExpectNoRoom(const std::string& category, int type, double thickness, int b
     const auto window = shell.OpenSample(category, type);
     window->settings.Thickness = thickness;
     window->settings.InOutMean = OutsideDimension;
-    EXPECT_FALSE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Refused);
     SCOPED_TRACE(category + " " + std::to_string(type));
     ExpectUserError(shell.ui, *window, NoRoom, box);
 }
@@ -138,7 +138,7 @@ TEST(ConeThickness, LeavesRoomInEveryDiameter) {
 }
 
 const CRightCone& Built(CFittingWindow& window) {
-    EXPECT_TRUE(window.BuildFitting());
+    EXPECT_EQ(window.BuildFitting(), Passed);
     return window.fitting->As<CRightCone>();
 }
 
@@ -201,9 +201,9 @@ TEST(RightCone2Sizes, RidgeMayTouchTheConeOnTheFarSide) {
     const auto window = shell.OpenSample("Truncated Right Cone", 4);
     // rc = (600 - 300) 200 / 600 = 100, exactly
     TypeBoxes(*window, {{18, "300"}, {15, "-100"}, {14, "0"}, {16, "0"}});
-    EXPECT_TRUE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Passed);
     TypeBoxes(*window, {{15, "100"}});
-    EXPECT_FALSE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Refused);
 }
 
 TEST(ConeSeam, IsHeldAtZeroForRoofs) {
@@ -222,7 +222,7 @@ TEST(ConeSeam, ALoadedAngleDoesNotPassARoof) {
     const auto window = shell.OpenSample("Truncated Right Cone", 5);
     window->settings.JoinAngle = 30;
     window->settings.JoinAngleDisable = false;
-    EXPECT_TRUE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Passed);
     EXPECT_EQ(window->settings.JoinAngle, 0);
     EXPECT_TRUE(window->settings.JoinAngleDisable);
 }
@@ -231,9 +231,9 @@ TEST(ConeNumbers, FirstWindowAsksOnlyForTheBoxesItNeeds) {
     TestShell shell;
     const auto window = shell.OpenSample("Right Cone", 2);
     window->controls.txtParameter[0].text = "abc";
-    EXPECT_TRUE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Passed);
     window->controls.txtParameter[4].text = "abc";
-    EXPECT_FALSE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Refused);
     ASSERT_EQ(shell.ui.messages.size(), 1U);
     EXPECT_EQ(shell.ui.messages[0].text, "Not a valid number");
     EXPECT_EQ(shell.ui.messages[0].title, "Korvet Development");
@@ -245,7 +245,7 @@ TEST(ConeNumbers, FirstWindowAsksForTheAngleBeforeItComparesDiameters) {
     TestShell shell;
     const auto window = shell.OpenSample("Right Cone", 3);
     window->controls.txtParameter[8].text = "-";
-    EXPECT_FALSE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Refused);
     ASSERT_EQ(shell.ui.messages.size(), 1U);
     EXPECT_EQ(shell.ui.messages[0].box, 8);
 }
@@ -254,7 +254,7 @@ TEST(ConeNumbers, SecondWindowSweepsTheBoxesOfAllTypes) {
     TestShell shell;
     const auto window = shell.OpenSample("Truncated Right Cone", 1);
     window->controls.txtParameter[26].text = "";
-    EXPECT_FALSE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Refused);
     ASSERT_EQ(shell.ui.messages.size(), 1U);
     EXPECT_EQ(shell.ui.messages[0].box, 26);
 }
@@ -267,7 +267,7 @@ TEST(ConeTextBlock, TellsTheSizesAsTyped) {
     window->settings.Thickness = 1.5;
     window->settings.PositionString = "inside";
     window->settings.HalfPattern = true;
-    ASSERT_TRUE(window->BuildFitting());
+    ASSERT_EQ(window->BuildFitting(), Passed);
     EXPECT_EQ(TextBlock(*window),
               (std::vector<std::string>{"Order 17", "", "Base diameter =  300.50", "Top diameter = 120",
                                         "Cutting plane height = 250", "Thickness = 1.5",
@@ -299,7 +299,7 @@ TEST(ConeTextBlock, HasTheLinesOfEachType) {
     for (const auto& [page, lines] : expected) {
         TestShell shell;
         const auto window = shell.OpenSample(page.first, page.second);
-        ASSERT_TRUE(window->BuildFitting());
+        ASSERT_EQ(window->BuildFitting(), Passed);
         std::vector<std::string> block = TextBlock(*window);
         ASSERT_EQ(block.size(), lines.size() + 5);
         EXPECT_EQ(std::vector<std::string>(block.begin() + 2, block.end() - 3), lines);

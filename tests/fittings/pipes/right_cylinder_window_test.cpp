@@ -18,7 +18,7 @@ const std::string NoRoom = "This dimension must be increased to allow for materi
 constexpr const char* Category = "Right Cylinder";
 
 const CRightCylinder& Built(CFittingWindow& window) {
-    EXPECT_TRUE(window.BuildFitting());
+    EXPECT_EQ(window.BuildFitting(), Passed);
     return window.fitting->As<CRightCylinder>();
 }
 
@@ -45,7 +45,7 @@ TEST_P(RightCylinderRefusals, NameTheBox) {
     TestShell shell;
     const auto window = shell.OpenSample(Category, GetParam().type);
     TypeBoxes(*window, GetParam().boxes);
-    EXPECT_FALSE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Refused);
     ExpectUserError(shell.ui, *window, GetParam().message, GetParam().box);
 }
 
@@ -124,7 +124,7 @@ TEST(RightCylinderLimits, SizesWithinThemAreTaken) {
         TestShell shell;
         const auto window = shell.OpenSample(Category, type);
         TypeBoxes(*window, boxes);
-        EXPECT_TRUE(window->BuildFitting()) << type;
+        EXPECT_EQ(window->BuildFitting(), Passed) << type;
         EXPECT_TRUE(shell.ui.messages.empty()) << type;
         window->fitting->DevelopModel();
     }
@@ -149,11 +149,11 @@ TEST(RightCylinderThickness, IsTestedBetweenTheSizesAboveZeroAndTheOthers) {
         window->settings.Thickness = 100.1;
         window->settings.InOutMean = OutsideDimension;
         TypeBoxes(*window, one.wrongLater);
-        EXPECT_FALSE(window->BuildFitting());
+        EXPECT_EQ(window->BuildFitting(), Refused);
         ExpectUserError(shell.ui, *window, NoRoom, one.diameter);
         shell.ui.messages.clear();
         TypeBoxes(*window, {{one.height, "0"}});
-        EXPECT_FALSE(window->BuildFitting());
+        EXPECT_EQ(window->BuildFitting(), Refused);
         ExpectUserError(shell.ui, *window, AboveZero, one.height);
     }
 }
@@ -164,9 +164,9 @@ TEST(RightCylinderThickness, AWallThatJustFitsIsTaken) {
         const auto window = shell.OpenSample(Category, 1);
         window->settings.InOutMean = side;
         window->settings.Thickness = most;
-        EXPECT_TRUE(window->BuildFitting());
+        EXPECT_EQ(window->BuildFitting(), Passed);
         window->settings.Thickness = most + 0.1;
-        EXPECT_FALSE(window->BuildFitting());
+        EXPECT_EQ(window->BuildFitting(), Refused);
     }
 }
 
@@ -261,14 +261,14 @@ TEST(RightCylinderSeam, ALoadedAngleDoesNotPassARoof) {
         const auto window = shell.OpenSample(Category, type);
         window->settings.JoinAngle = 30;
         window->settings.JoinAngleDisable = false;
-        EXPECT_TRUE(window->BuildFitting());
+        EXPECT_EQ(window->BuildFitting(), Passed);
         EXPECT_EQ(window->settings.JoinAngle, 0);
         EXPECT_TRUE(window->settings.JoinAngleDisable);
     }
     TestShell shell;
     const auto plain = shell.OpenSample(Category, 5);
     plain->settings.JoinAngle = 30;
-    EXPECT_TRUE(plain->BuildFitting());
+    EXPECT_EQ(plain->BuildFitting(), Passed);
     EXPECT_EQ(plain->settings.JoinAngle, 30);
 }
 
@@ -276,7 +276,7 @@ TEST(RightCylinderNumbers, BoxesOfAllTypesMustHoldOne) {
     TestShell shell;
     const auto window = shell.OpenSample(Category, 1);
     window->controls.txtParameter[21].text = "";
-    EXPECT_FALSE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Refused);
     ASSERT_EQ(shell.ui.messages.size(), 1U);
     EXPECT_EQ(shell.ui.messages[0].text, "Not a valid number");
     EXPECT_EQ(shell.ui.messages[0].box, 21);
@@ -303,7 +303,7 @@ TEST(RightCylinderTextBlock, TellsTheSizesAsTyped) {
         window->settings.InOutMean = InsideDimension;
         window->settings.PositionString = "inside";
         window->settings.HalfPattern = true;
-        ASSERT_TRUE(window->BuildFitting());
+        ASSERT_EQ(window->BuildFitting(), Passed);
         std::vector<std::string> lines = {"", ""};
         lines.insert(lines.end(), sizes.begin(), sizes.end());
         // No line tells which side of the material the sizes mean.

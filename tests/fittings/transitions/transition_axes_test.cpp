@@ -63,7 +63,7 @@ TEST_P(TransitionAxes, AreAskedForWhereThereIsAnAngle) {
                top ? std::optional<std::size_t>(1) : std::nullopt);
         shell.ui.messages.clear();
         window->controls.focus = "txtTextSize";
-        EXPECT_FALSE(window->BuildFitting());
+        EXPECT_EQ(window->BuildFitting(), Refused);
         ExpectUserError(shell.ui, *window, "X or Y axis of rotation must be selected");
         EXPECT_EQ(window->controls.focus, "txtTextSize");
     }
@@ -79,7 +79,7 @@ TEST_P(TransitionAxes, AreNotNeededForAnAngleOfZero) {
 TEST_P(TransitionAxes, AreAskedForAfterTheAnglesAndBeforeTheRest) {
     Select({}, {});
     TypeBoxes(*window, {{GetParam().baseAngle, "91"}});
-    EXPECT_FALSE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Refused);
     ExpectUserError(shell.ui, *window, "This dimension must be equal to or less than 90",
                     GetParam().baseAngle);
 }
@@ -87,7 +87,7 @@ TEST_P(TransitionAxes, AreAskedForAfterTheAnglesAndBeforeTheRest) {
 TEST_P(TransitionAxes, AHalfPatternNeedsSymmetryAboutX) {
     window->settings.HalfPattern = true;
     TypeBoxes(*window, {{GetParam().offsetY, "0"}});
-    EXPECT_TRUE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Passed);
     EXPECT_TRUE(window->settings.HalfPattern);
     EXPECT_TRUE(shell.ui.messages.empty());
 
@@ -95,7 +95,7 @@ TEST_P(TransitionAxes, AHalfPatternNeedsSymmetryAboutX) {
         SCOPED_TRACE(what);
         window->settings.HalfPattern = true;
         shell.ui.messages.clear();
-        EXPECT_TRUE(window->BuildFitting());
+        EXPECT_EQ(window->BuildFitting(), Passed);
         EXPECT_FALSE(window->settings.HalfPattern);
         ASSERT_EQ(shell.ui.messages.size(), 1U);
         EXPECT_EQ(shell.ui.messages[0].text, "Half pattern not applicable to this item");
@@ -111,14 +111,14 @@ TEST_P(TransitionAxes, AHalfPatternNeedsSymmetryAboutX) {
     expectRefused("offset");
     // Once refused it is not spoken of again.
     shell.ui.messages.clear();
-    EXPECT_TRUE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Passed);
     EXPECT_TRUE(shell.ui.messages.empty());
 }
 
 TEST_P(TransitionAxes, AFailedCheckSaysNothingOfTheHalfPattern) {
     window->settings.HalfPattern = true;
     TypeBoxes(*window, {{GetParam().height, "0"}});
-    EXPECT_FALSE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Refused);
     EXPECT_EQ(shell.ui.messages.size(), 1U);
     EXPECT_TRUE(window->settings.HalfPattern);
 }
@@ -136,7 +136,7 @@ TEST(TransitionAxesOrder, StandsBeforeTheLaterChecksOfEachWindow) {
         const auto window = shell.OpenSample(category, 2);
         TypeBoxes(*window, {{box, box == 9 ? "0" : "150"}});
         window->controls.options.optTopAngle.selected.reset();
-        EXPECT_FALSE(window->BuildFitting());
+        EXPECT_EQ(window->BuildFitting(), Refused);
         ExpectUserError(shell.ui, *window, "X or Y axis of rotation must be selected");
     }
 }
@@ -145,13 +145,13 @@ TEST(TransitionHalfPattern, OfFoldedRectanglesNeedsNoYOffset) {
     TestShell shell;
     const auto window = shell.OpenSample(Folded, 2);
     window->settings.HalfPattern = true;
-    EXPECT_TRUE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Passed);
     EXPECT_FALSE(window->settings.HalfPattern);
     ASSERT_EQ(shell.ui.messages.size(), 1U);
     EXPECT_EQ(shell.ui.messages[0].text, "Half pattern not applicable to this item");
     window->settings.HalfPattern = true;
     TypeBoxes(*window, {{14, "0"}});
-    EXPECT_TRUE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Passed);
     EXPECT_TRUE(window->settings.HalfPattern);
 }
 
@@ -159,7 +159,7 @@ TEST(TransitionHalfPattern, OfOffsetOvalsStaysSelectedAndIsWhole) {
     TestShell shell;
     const auto window = shell.OpenSample(Oval, 2);
     window->settings.HalfPattern = true;
-    ASSERT_TRUE(window->BuildFitting());
+    ASSERT_EQ(window->BuildFitting(), Passed);
     EXPECT_TRUE(window->settings.HalfPattern);
     EXPECT_TRUE(shell.ui.messages.empty());
     EXPECT_EQ(TextBlock(*window).back(), "Oval to Oval  Half pattern  21 Nov 2026");

@@ -16,7 +16,7 @@ inline const std::string Oval = "Oval to Oval";
 
 /// The transition of a window whose sizes are good.
 inline const CTransition& Built(CFittingWindow& window) {
-    EXPECT_TRUE(window.BuildFitting());
+    EXPECT_EQ(window.BuildFitting(), Passed);
     return window.fitting->As<CTransition>();
 }
 

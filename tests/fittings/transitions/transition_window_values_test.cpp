@@ -110,9 +110,9 @@ TEST(TransitionSizes, CompensatedLimitsFollowTheSideOfThePlate) {
     TestShell shell;
     const auto folded = OpenWithPlate(shell, Folded, 1, OutsideDimension);
     TypeBoxes(*folded, {{10, "98"}});
-    EXPECT_TRUE(folded->BuildFitting());
+    EXPECT_EQ(folded->BuildFitting(), Passed);
     TypeBoxes(*folded, {{10, "98.1"}});
-    EXPECT_FALSE(folded->BuildFitting());
+    EXPECT_EQ(folded->BuildFitting(), Refused);
     ExpectUserError(shell.ui, *folded, "This dimension must be equal to or less than 98", 10);
 }
 
@@ -122,11 +122,11 @@ TEST(TransitionSizes, AnOvalIsHeldAgainstTheThicknessOnTheMeanLine) {
         TestShell shell;
         const auto oval = OpenWithPlate(shell, Oval, type, OutsideDimension);
         TypeBoxes(*oval, {{box, "7.9"}});
-        EXPECT_FALSE(oval->BuildFitting());
+        EXPECT_EQ(oval->BuildFitting(), Refused);
         ExpectUserError(shell.ui, *oval, "This dimension must be increased to allow for material thickness",
                         box);
         TypeBoxes(*oval, {{box, "8"}});
-        EXPECT_TRUE(oval->BuildFitting());
+        EXPECT_EQ(oval->BuildFitting(), Passed);
     }
 }
 
@@ -146,7 +146,7 @@ std::vector<std::string> SizeLines(const std::string& category, int type) {
     TestShell shell;
     const auto window = shell.OpenSample(category, type);
     window->settings.Thickness = 1.5;
-    EXPECT_TRUE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Passed);
     const std::vector<std::string> block = TextBlock(*window);
     EXPECT_EQ(block[block.size() - 2], "Thickness = 1.5");
     EXPECT_EQ(block.back(), category + "  Full pattern  21 Nov 2026");

@@ -78,15 +78,15 @@ TEST(TransitionThickSizes, IsMetAfterEveryCheck) {
     window->settings.InOutMean = OutsideDimension;
     window->settings.HalfPattern = true;
     TypeBoxes(*window, {{4, "6"}, {11, "91"}});
-    EXPECT_FALSE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Refused);
     ExpectUserError(shell.ui, *window, AtMost("90"), 11);
     shell.ui.messages.clear();
     TypeBoxes(*window, {{11, "0"}});
-    EXPECT_THROW(window->BuildFitting(), ArithmeticError);
+    EXPECT_THROW((void)window->BuildFitting(), ArithmeticError);
     EXPECT_TRUE(shell.ui.messages.empty());
     EXPECT_TRUE(window->settings.HalfPattern);
     TypeBoxes(*window, {{4, "6.01"}});
-    EXPECT_TRUE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Passed);
 }
 
 TEST(TransitionThickSizes, MayLeaveSharpCornersButNotLess) {
@@ -109,7 +109,7 @@ void ExpectRefused(const std::string& category, const Refusal& refusal) {
     const auto window = shell.OpenSample(category, refusal.type);
     window->settings.Thickness = 6;
     TypeBoxes(*window, refusal.boxes);
-    EXPECT_FALSE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Refused);
     ExpectUserError(shell.ui, *window, refusal.message, refusal.box);
 }
 
@@ -130,7 +130,7 @@ TEST_P(TransitionLimits, AreAllowed) {
     const auto window = shell.OpenSample(GetParam().category, GetParam().type);
     window->settings.Thickness = 6;
     TypeBoxes(*window, GetParam().boxes);
-    EXPECT_TRUE(window->BuildFitting());
+    EXPECT_EQ(window->BuildFitting(), Passed);
     EXPECT_TRUE(shell.ui.messages.empty());
 }
 
