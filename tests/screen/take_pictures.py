@@ -1,8 +1,9 @@
 """Pictures of everything the program shows, to be looked at by a person: light and dark, at 100 % and 200 %.
 
-    KORVET=PROGRAM tests/screen/on_a_screen /usr/bin/python3 tests/screen/take_pictures.py FOLDER [light|dark] [1|2]
+    KORVET=PROGRAM tests/screen/on_a_screen /usr/bin/python3 tests/screen/take_pictures.py FOLDER [light|dark] [1|2] [FITTING]
 
-Without the last two all four sets are taken. Each is a folder of numbered pictures of the whole screen.
+Without light or dark and a scale all four sets are taken. Each is a folder of numbered pictures of the whole screen. Of
+one fitting: its tile, pages, models, pattern and help page.
 """
 import itertools
 import os
@@ -64,6 +65,7 @@ class Pictures:
             write_dark_settings(pathlib.Path(self.temporary.name) / "config")
         self.screen = Korvet(self.temporary.name, pictures=folder, environment=environment)
         self.numbers = itertools.count(1)
+        self.catalogue_taken = False
 
     def take(self, name):
         self.screen.settle(0.3)
@@ -101,8 +103,9 @@ class Pictures:
         for page, sizes in enumerate(fitting.types):
             screen.key("ctrl+n")
             screen.wait_active("New fitting")
-            if page == 0 and fitting.category == "Right Cone":
+            if not self.catalogue_taken:
                 self.take("catalogue")
+                self.catalogue_taken = True
             others = len(screen.children())
             screen.press(fitting.category, "push button")
             screen.wait(lambda: len(screen.children()) == others + 1, "new window")
@@ -184,6 +187,16 @@ class Pictures:
             self.take(f"windows-{name}")
 
 
+def take_fitting(folder, look, scale, category):
+    pictures = Pictures(folder / f"{look}-{scale}", look == "dark", scale)
+    try:
+        pictures.start()
+        pictures.fitting(next(fitting for fitting in built_fittings() if fitting.category == category))
+        pictures.dialog("help", "F1")
+    finally:
+        pictures.screen.stop()
+
+
 def take_all(folder, look, scale):
     pictures = Pictures(folder / f"{look}-{scale}", look == "dark", scale)
     try:
@@ -201,7 +214,10 @@ def main():
     folder = pathlib.Path(sys.argv[1])
     for look in sys.argv[2:3] or ("light", "dark"):
         for scale in sys.argv[3:4] or ("1", "2"):
-            take_all(folder, look, scale)
+            if len(sys.argv) > 4:
+                take_fitting(folder, look, scale, sys.argv[4])
+            else:
+                take_all(folder, look, scale)
 
 
 if __name__ == "__main__":
