@@ -42,6 +42,16 @@ void BatchUi::ShowProgress(std::size_t number, std::size_t count, const std::str
     }
 }
 
+/// What a message says below its text, without the name of the input that the line begins with.
+std::string BatchUi::FurtherDetail(const MessageBox& message) const {
+    const std::string name = Printable(name_);
+    std::string_view detail = message.detail;
+    if (detail.starts_with(name) && (detail.size() == name.size() || detail.substr(name.size(), 2) == ": ")) {
+        detail.remove_prefix(std::min(detail.size(), name.size() + 2));
+    }
+    return detail.empty() ? "" : ": " + std::string(detail);
+}
+
 Answer BatchUi::Show(const MessageBox& message) {
     if (message.style == InformationBox) {
         return Answer::Ok;
@@ -55,9 +65,8 @@ Answer BatchUi::Show(const MessageBox& message) {
     messages_.push_back(message);
     if (!saidJustNow) {
         const std::string about = message.box ? "box " + std::to_string(*message.box) : message.control;
-        const std::string detail = message.detail.empty() ? "" : ": " + message.detail;
         PrintLine(name_ + ": " + (about.empty() ? "" : about + ": ") +
-                  OnOneLine(std::string(Trimmed(message.text)) + detail));
+                  OnOneLine(std::string(Trimmed(message.text)) + FurtherDetail(message)));
     }
     return Answer::Cancel;
 }

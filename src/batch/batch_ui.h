@@ -47,6 +47,7 @@ class BatchUi : public UserInterface {
     void RunModal(BranchAdditionalDialog&) override {}
 
   private:
+    [[nodiscard]] std::string FurtherDetail(const MessageBox& message) const;
     void Tick(CheckBox& box, bool wanted);
 
     const Arguments& arguments_;

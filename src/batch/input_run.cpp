@@ -51,15 +51,12 @@ InputReport InputRun::Report() const {
 /// The window of a parameter file, filled from it, or a new one.
 bool InputRun::OpenWindow() {
     const bool isFile = !input_.empty();
-    category_ = isFile ? CategoryOfFile() : arguments_.newCategory;
-    if (category_.empty()) {
-        return false;
-    }
-    if (FindCategory(category_) == nullptr) {
-        if (!isFile) {
+    if (!isFile) {
+        category_ = arguments_.newCategory;
+        if (FindCategory(category_) == nullptr) {
             throw UsageError("there is no fitting \"" + category_ + "\"; --list prints the catalogue");
         }
-        ShowPlain(ui_, "There is no fitting \"" + category_ + "\"", "line 2");
+    } else if (!ReadCategory()) {
         return false;
     }
     window_ = NewFitting(context_, category_, nullptr);
@@ -73,24 +70,22 @@ bool InputRun::OpenWindow() {
     return true;
 }
 
-/// The category in the header of the file; empty, with a message, when it has none.
-std::string InputRun::CategoryOfFile() {
+/// Takes the category from the header of the file. False, with a message, when there is no such fitting.
+bool InputRun::ReadCategory() {
     CKvtFile file;
     file.FileName = input_;
     try {
         file.ReadHeader(context_.files);
-        if (file.Category.empty()) {
-            throw ParameterFileError("line 2: the fitting is missing");
-        }
     } catch (const ForeignProductError& error) {
         // No window is opened for it, so nothing fails to load.
-        ShowPlain(ui_, context_.Message(NotAValidFile), error.what());
-        return {};
+        ShowForeignProduct(context_, input_, error);
+        return false;
     } catch (const std::exception& error) {
-        ShowLoadError(context_, error);
-        return {};
+        ShowLoadError(context_, input_, error);
+        return false;
     }
-    return file.Category;
+    category_ = file.Category;
+    return RequireFitting(context_, input_, category_) == Passed;
 }
 
 /// Steps to the type asked for, types its sample sizes and selects its first pattern.

@@ -30,7 +30,7 @@ class InputRun {
 
   private:
     bool OpenWindow();
-    std::string CategoryOfFile();
+    bool ReadCategory();
     void PrepareNewWindow();
     bool SetValues();
     bool BuildForReport();

@@ -14,36 +14,68 @@ constexpr std::array<char32_t, 32> Windows1252 = {
     0x2039, 0x0152, 0x8D,   0x017D, 0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
 
-/// The code points of a UTF-8 text, or nothing when it is not valid (overlong forms and surrogates are not).
+struct Character {
+    char32_t point;
+    std::size_t length;  ///< in bytes
+};
+
+/// The first character of a UTF-8 text, or nothing when it is not valid (overlong forms and surrogates are
+/// not).
+std::optional<Character> FirstCharacter(std::string_view text) {
+    const auto lead = static_cast<unsigned char>(text[0]);
+    const std::size_t length = lead < 0x80   ? 1
+                               : lead < 0xC2 ? 0
+                               : lead < 0xE0 ? 2
+                               : lead < 0xF0 ? 3
+                               : lead < 0xF5 ? 4
+                                             : 0;
+    if (length == 0 || length > text.size()) {
+        return std::nullopt;
+    }
+    char32_t point = length == 1 ? lead : lead & (0xFFU >> (length + 1));
+    for (std::size_t k = 1; k < length; ++k) {
+        const auto next = static_cast<unsigned char>(text[k]);
+        if ((next & 0xC0U) != 0x80) {
+            return std::nullopt;
+        }
+        point = (point << 6U) | (next & 0x3FU);
+    }
+    constexpr std::array<char32_t, 5> Lowest = {0, 0, 0x80, 0x800, 0x10000};
+    if (point < Lowest[length] || point > 0x10FFFF || (point >= 0xD800 && point <= 0xDFFF)) {
+        return std::nullopt;
+    }
+    return Character{point, length};
+}
+
+/// The code points of a UTF-8 text, or nothing when it is not valid.
 std::optional<std::u32string> CodePoints(std::string_view text) {
     std::u32string points;
-    for (std::size_t i = 0; i < text.size();) {
-        const auto lead = static_cast<unsigned char>(text[i]);
-        const std::size_t length = lead < 0x80   ? 1
-                                   : lead < 0xC2 ? 0
-                                   : lead < 0xE0 ? 2
-                                   : lead < 0xF0 ? 3
-                                   : lead < 0xF5 ? 4
-                                                 : 0;
-        if (length == 0 || i + length > text.size()) {
+    while (!text.empty()) {
+        const auto character = FirstCharacter(text);
+        if (!character) {
             return std::nullopt;
         }
-        char32_t point = length == 1 ? lead : lead & (0xFFU >> (length + 1));
-        for (std::size_t k = 1; k < length; ++k) {
-            const auto next = static_cast<unsigned char>(text[i + k]);
-            if ((next & 0xC0U) != 0x80) {
-                return std::nullopt;
-            }
-            point = (point << 6U) | (next & 0x3FU);
-        }
-        constexpr std::array<char32_t, 5> Lowest = {0, 0, 0x80, 0x800, 0x10000};
-        if (point < Lowest[length] || point > 0x10FFFF || (point >= 0xD800 && point <= 0xDFFF)) {
-            return std::nullopt;
-        }
-        points.push_back(point);
-        i += length;
+        points.push_back(character->point);
+        text.remove_prefix(character->length);
     }
     return points;
+}
+
+/// Whether a character has no picture of its own: controls, marks that only steer the layout, private use.
+bool IsUnseen(char32_t point) {
+    struct Range {
+        char32_t first;
+        char32_t last;
+    };
+    constexpr std::array Unseen = {Range{0x00, 0x1F},       Range{0x7F, 0x9F},       Range{0xAD, 0xAD},
+                                   Range{0x61C, 0x61C},     Range{0x180E, 0x180E},   Range{0x200B, 0x200F},
+                                   Range{0x2028, 0x202E},   Range{0x2060, 0x206F},   Range{0xE000, 0xF8FF},
+                                   Range{0xFDD0, 0xFDEF},   Range{0xFEFF, 0xFEFF},   Range{0xFFF0, 0xFFFB},
+                                   Range{0xE0000, 0xE0FFF}, Range{0xF0000, 0x10FFFF}};
+    constexpr char32_t LastTwoOfAPlane = 0xFFFE;
+    return (point & LastTwoOfAPlane) == LastTwoOfAPlane ||
+           std::any_of(Unseen.begin(), Unseen.end(),
+                       [point](const Range& range) { return point >= range.first && point <= range.last; });
 }
 
 /// Appends one code point below 0x10000 as UTF-8.
@@ -108,6 +140,28 @@ std::string EncodeText(std::string_view text) {
         bytes.push_back(*byte);
     }
     return CodePoints(bytes) ? std::string(text) : bytes;
+}
+
+std::string Printable(std::string_view text) {
+    std::string shown;
+    while (!text.empty()) {
+        const auto character = FirstCharacter(text);
+        const bool seen = character && !IsUnseen(character->point);
+        const std::size_t length = character ? character->length : 1;
+        shown += seen ? text.substr(0, length) : "?";
+        text.remove_prefix(length);
+    }
+    return shown;
+}
+
+std::string_view Beginning(std::string_view text, std::size_t limit) {
+    if (text.size() <= limit) {
+        return text;
+    }
+    while (limit > 0 && (static_cast<unsigned char>(text[limit]) & 0xC0U) == 0x80) {
+        --limit;
+    }
+    return text.substr(0, limit);
 }
 
 std::string OnOneLine(std::string_view text) {

@@ -14,6 +14,13 @@ std::string DecodeText(std::string_view bytes);
 /// will not be taken for UTF-8 when they are read back, else UTF-8. Plain ASCII is the same in both.
 std::string EncodeText(std::string_view text);
 
+/// A UTF-8 text with a question mark for each character that can't be seen in a message or changes how the
+/// rest is read (control and format characters, private use), and for each byte that is no UTF-8.
+std::string Printable(std::string_view text);
+
+/// The beginning of a UTF-8 text, of at most `limit` bytes and of whole characters.
+std::string_view Beginning(std::string_view text, std::size_t limit);
+
 /// The text on one line: every control character becomes a blank.
 std::string OnOneLine(std::string_view text);
 

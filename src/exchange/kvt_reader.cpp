@@ -12,6 +12,12 @@ namespace {
 /// No parameter file comes near this; what does is none.
 constexpr std::size_t LargestFile = 16U << 20U;
 
+/// A line of the file as messages quote it.
+std::string Quoted(std::string_view line) {
+    constexpr std::size_t LongestQuote = 60;
+    return '"' + std::string(Beginning(line, LongestQuote)) + '"';
+}
+
 /// A number whose 15 digits are those of one of the program's angles is that angle, to the last bit: a plan
 /// view is still a plan view after loading.
 double Snapped(double value) {
@@ -132,8 +138,8 @@ class KvtLines {
             throw ParameterFileError("line " + std::to_string(number_ + 1) + ": the file ends where " +
                                      wanted + " should stand");
         }
-        throw ParameterFileError("line " + std::to_string(number_) + ": \"" +
-                                 std::string(line.substr(0, 60)) + "\" is not " + wanted);
+        throw ParameterFileError("line " + std::to_string(number_) + ": " + Quoted(line) + " is not " +
+                                 wanted);
     }
 
     std::string_view rest_;
@@ -157,8 +163,8 @@ void ReadHeader(KvtLines& lines, CKvtFile& file) {
     file.SubVersion = VersionDigit(file.Version, 2);
     file.SubVersionIndex = VersionDigit(file.Version, 4);
     if (file.Product != ProductTitle) {
-        throw ForeignProductError("line 1: \"" + line.substr(0, 60) + "\" is not \"" +
-                                  std::string(ProductTitle) + "\" with a version behind it");
+        throw ForeignProductError("line 1: " + Quoted(line) + " is not " + Quoted(ProductTitle) +
+                                  " with a version behind it");
     }
     file.Category = lines.ReadLine();
     try {

@@ -91,44 +91,37 @@ CFittingWindow* CMainFrame::NewFitting(bool fromFile) {
 
 void CMainFrame::OpenFile(const std::string& path) {
     Guarded([&] {
-        if (!ReadCategory(path)) {
+        if (ReadCategory(path)) {
             return;
         }
         // The window that is active now must not be loaded into when no new one opens.
-        if (CFittingWindow* const child = NewFitting(true)) {
-            LoadInto(*child, path);
+        CFittingWindow* const child = NewFitting(true);
+        if (RequireFitting(context_, path, pendingCategory_) == Passed && child != nullptr) {
+            (void)child->LoadFile(path);
         }
     });
 }
 
-/// Takes the category from the header of a parameter file. False, with a message, when there is none to be
-/// had.
-bool CMainFrame::ReadCategory(const std::string& path) {
+/// Takes the category from the header of a parameter file.
+Outcome CMainFrame::ReadCategory(const std::string& path) {
     CKvtFile file;
     file.FileName = path;
     try {
         file.ReadHeader(context_.files);
     } catch (const ForeignProductError& error) {
         // Once from the header's reader and once from the frame.
-        ShowPlain(context_.ui, context_.Message(NotAValidFile), error.what());
+        ShowForeignProduct(context_, path, error);
         ShowPlain(context_.ui, context_.Message(NotAValidFile));
-        return false;
+        return Refused;
     } catch (const HeaderError& error) {
-        ShowHeaderError(context_.ui, error);
-        return false;
+        ShowHeaderError(context_.ui, path, error);
+        return Refused;
     } catch (const std::exception& error) {
-        ShowLoadError(context_, error);
-        return false;
+        ShowLoadError(context_, path, error);
+        return Refused;
     }
     pendingCategory_ = file.Category;
-    return true;
-}
-
-/// A window that could not be filled stays as a new one, with what was read: under the file's name its next
-/// save would replace a good file by half of it.
-void CMainFrame::LoadInto(CFittingWindow& child, const std::string& path) {
-    const std::string newCaption = child.controls.caption;
-    child.controls.caption = child.LoadFile(path) == Passed ? path : newCaption;
+    return Passed;
 }
 
 bool CMainFrame::CloseChild(CFittingWindow& window) {

@@ -63,8 +63,7 @@ class CMainFrame {
 
     // Windows.
     CFittingWindow* NewFitting(bool fromFile);
-    void LoadInto(CFittingWindow& child, const std::string& path);
-    bool ReadCategory(const std::string& path);
+    Outcome ReadCategory(const std::string& path);
     bool AskAllToClose();
     void Remove(CFittingWindow& window);
     void RemoveAll();

@@ -22,4 +22,14 @@ std::unique_ptr<CFittingWindow> NewFitting(WindowContext& context, const std::st
     return window;
 }
 
+Outcome RequireFitting(WindowContext& context, const std::string& path, const std::string& category) {
+    if (FindCategory(category) != nullptr) {
+        return Passed;
+    }
+    const std::string fault =
+        category.empty() ? "the fitting is missing" : "there is no fitting \"" + category + '"';
+    ShowLoadError(context, path, ParameterFileError("line 2: " + fault));
+    return Refused;
+}
+
 }  // namespace korvet

@@ -14,4 +14,7 @@ namespace korvet {
 std::unique_ptr<CFittingWindow> NewFitting(WindowContext& context, const std::string& category,
                                            DrawingDevice* drawingArea);
 
+/// Refuses the file at `path`, with message 109, when the catalogue has no fitting of its category.
+Outcome RequireFitting(WindowContext& context, const std::string& path, const std::string& category);
+
 }  // namespace korvet

@@ -175,23 +175,30 @@ Outcome CFittingWindow::FillFromFile(const std::string& path) {
         comment2 = file.Comment2;
         return Passed;
     } catch (const std::exception& error) {
-        ShowLoadError(context_, error);
+        ShowLoadError(context_, path, error);
         return Refused;
     }
 }
 
+/// A window that could not be filled and drawn stays a new one, with what was read: under the file's name its
+/// next save would replace a good file by half of it. Sizes that a check refuses have been read in full.
 Outcome CFittingWindow::LoadFile(const std::string& path) {
+    const std::string newCaption = controls.caption;
     if (FillFromFile(path)) {
         return Refused;
     }
-    UpdateFitting();
     try {
-        ShowExtents();
+        Rebuild();
+        if (AddViewOfExtents() == Passed) {
+            Rebuild();
+        }
+        return Passed;
     } catch (const std::exception& error) {
-        ShowPlain(context_.ui, context_.Message(ErrorLoading), error.what());
+        hasModel = false;
+        controls.caption = newCaption;
+        ShowLoadError(context_, path, error);
         return Refused;
     }
-    return Passed;
 }
 
 Outcome CFittingWindow::SaveFile(const std::string& path) {

@@ -78,7 +78,9 @@ class CFittingWindow {
     /// Updates and writes the parameter file; the caption becomes its path.
     Outcome SaveFile(const std::string& path);
 
-    /// Fills the window from a parameter file, shows it and zooms to it. Refuses with message 109.
+    /// Fills the window from a parameter file, shows it and zooms to it; the caption becomes its path.
+    /// Refuses with message 109 when it could not be read or drawn, and the caption then stays. Sizes that a
+    /// check refuses end with its message, and the load has passed.
     Outcome LoadFile(const std::string& path);
 
     /// Asks about saving, then closes. False when the user keeps the window open.
@@ -167,7 +169,8 @@ class CFittingWindow {
   private:
     void InitialiseFitting();
     Outcome RequireModel();
-    void ShowExtents();
+    void Rebuild();
+    Outcome AddViewOfExtents();
     Outcome CheckAllFields();
     void AddTextBlock();
     void TakeNoOfSides();

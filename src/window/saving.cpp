@@ -4,6 +4,7 @@
 
 #include "core/constants.h"
 #include "core/number_text.h"
+#include "core/text_encoding.h"
 #include "window/fitting_types.h"
 #include "window/window_layout.h"
 
@@ -117,6 +118,13 @@ void ShowPageOf(CFittingWindow& window, std::int16_t dtype) {
     EnableTypeButtons(window, dtype);
 }
 
+/// What is wrong with a file, behind its name; the errors of the disk name it themselves.
+std::string FaultOf(const std::string& path, const std::exception& error) {
+    const std::string name = path + ": ";
+    const std::string fault = error.what();
+    return Printable(fault.starts_with(name) ? fault : name + fault);
+}
+
 std::string LabelText(const std::shared_ptr<CLabels>& labels, std::size_t index) {
     return labels && labels->Count() >= index ? labels->Item(index).LabelString : std::string();
 }
@@ -127,18 +135,22 @@ bool HasNoFile(const CFittingWindow& window) {
     return window.controls.caption.starts_with(NewWindowCaption);
 }
 
-void ShowHeaderError(MessageBoxes& boxes, const std::exception& error) {
-    ShowPlain(boxes, std::string("Error in CKVTFile:ReadHeader  ") + error.what());
+void ShowForeignProduct(WindowContext& context, const std::string& path, const std::exception& error) {
+    ShowPlain(context.ui, context.Message(NotAValidFile), FaultOf(path, error));
 }
 
-void ShowLoadError(WindowContext& context, const std::exception& error) {
+void ShowHeaderError(MessageBoxes& boxes, const std::string& path, const std::exception& error) {
+    ShowPlain(boxes, "Error in CKVTFile:ReadHeader  " + Printable(error.what()), Printable(path));
+}
+
+void ShowLoadError(WindowContext& context, const std::string& path, const std::exception& error) {
     if (dynamic_cast<const ForeignProductError*>(&error) != nullptr) {
-        ShowPlain(context.ui, context.Message(NotAValidFile), error.what());
+        ShowForeignProduct(context, path, error);
     }
     if (dynamic_cast<const HeaderError*>(&error) != nullptr) {
-        ShowHeaderError(context.ui, error);
+        ShowHeaderError(context.ui, path, error);
     }
-    ShowPlain(context.ui, context.Message(ErrorLoading), error.what());
+    ShowPlain(context.ui, context.Message(ErrorLoading), FaultOf(path, error));
 }
 
 Outcome SaveFitting(CFittingWindow& window, const std::string& path) {

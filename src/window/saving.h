@@ -27,12 +27,15 @@ CKvtFile LoadFitting(CFittingWindow& window, const std::string& path);
 /// Asks under which name a parameter file is to be saved; nothing after Cancel.
 std::optional<std::string> ChooseSaveName(UserInterface& ui);
 
-/// Says that the header of a parameter file is faulty.
-void ShowHeaderError(MessageBoxes& boxes, const std::exception& error);
+/// Says that the file at `path` is one of another product.
+void ShowForeignProduct(WindowContext& context, const std::string& path, const std::exception& error);
 
-/// Says what is wrong with a parameter file that could not be read: a box of its own for a foreign product or
-/// a faulty header, before message 109.
-void ShowLoadError(WindowContext& context, const std::exception& error);
+/// Says that the header of the parameter file at `path` is faulty.
+void ShowHeaderError(MessageBoxes& boxes, const std::string& path, const std::exception& error);
+
+/// Says why the parameter file at `path` could not be loaded: a box of its own for a foreign product or a
+/// faulty header, before message 109. Each names the file, and shows only what can be seen of its contents.
+void ShowLoadError(WindowContext& context, const std::string& path, const std::exception& error);
 
 /// The close question. Returns 0 when none was needed, 6 after a save, 7 for No, 2 when the window stays
 /// open: Cancel, in the question or the file dialog, or a save that failed.

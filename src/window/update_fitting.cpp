@@ -28,15 +28,17 @@ MessageId BranchTypeText(BranchJoin join) {
 }  // namespace
 
 void CFittingWindow::UpdateFitting() {
-    if (views->Count() == 0) {
-        return;
-    }
     try {
-        if (BuildFitting() == Passed) {
-            DevelopAndDisplay();
-        }
+        Rebuild();
     } catch (const std::exception& error) {
         RefuseBuild(error);
+    }
+}
+
+/// UpdateFitting without its message. Throws when the arithmetic ends.
+void CFittingWindow::Rebuild() {
+    if (views->Count() > 0 && BuildFitting() == Passed) {
+        DevelopAndDisplay();
     }
 }
 

@@ -102,21 +102,25 @@ void CFittingWindow::PlaceLabel() {
 
 void CFittingWindow::ZoomExtents() {
     try {
-        ShowExtents();
+        if (AddViewOfExtents()) {
+            return;
+        }
     } catch (const std::exception& error) {
         ShowPlain(context_.ui, context_.Message(NoExtents), error.what());
-    }
-}
-
-/// Adds the view of the extents and draws it. Throws ArithmeticError when they are too small or too large for
-/// one.
-void CFittingWindow::ShowExtents() {
-    if (!hasModel) {
-        ShowPlain(context_.ui, context_.Message(NoExtents));
         return;
     }
-    display.ZoomExtents();
     UpdateFitting();
+}
+
+/// Adds the view that the extents fill. Refuses with message 85 when nothing is drawn. Throws ArithmeticError
+/// when they are too small or too large for a view.
+Outcome CFittingWindow::AddViewOfExtents() {
+    if (!hasModel) {
+        ShowPlain(context_.ui, context_.Message(NoExtents));
+        return Refused;
+    }
+    display.ZoomExtents();
+    return Passed;
 }
 
 void CFittingWindow::ZoomPrevious() {

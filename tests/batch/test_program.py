@@ -259,9 +259,9 @@ class CategoryTest(FolderTest):
             with self.subTest(name=name):
                 path = self.write("a.Kvt", cone_file(category=name))
                 result = run(path, "--json", "-")
-                said = f'There is no fitting "{name}"'
-                self.assertEqual((result.status, len(result.lines)), (REFUSED, 1))
-                self.assertTrue(result.lines[0].startswith(f"{path}: {said}"), result.lines)
+                said = "Error loading parameter file"
+                self.assertEqual((result.status, result.lines),
+                                 (REFUSED, [f'{path}: {said}: line 2: there is no fitting "{name}"']))
                 self.assertEqual([message["text"] for message in result.json["messages"]], [said])
                 self.assertEqual((result.json["category"], result.json["window"]), (name, None))
 

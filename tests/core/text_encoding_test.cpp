@@ -44,5 +44,27 @@ TEST(TextEncoding, OneLineHasNoControlCharacters) {
     EXPECT_EQ(OnOneLine("\xC3\xBC"), "\xC3\xBC");
 }
 
+TEST(TextEncoding, WhatCannotBeShownBecomesAQuestionMark) {
+    EXPECT_EQ(Printable("line 3: \"a b\""), "line 3: \"a b\"");
+    EXPECT_EQ(Printable("\xC3\xBC \xE6\x9D\xBF \xF0\x9F\x94\xA7"), "\xC3\xBC \xE6\x9D\xBF \xF0\x9F\x94\xA7");
+    EXPECT_EQ(Printable("a\r\n\tb\x7F"), "a???b?");
+    EXPECT_EQ(Printable(std::string_view("\0x", 2)), "?x");
+    EXPECT_EQ(Printable("\xC2\x85\xC2\xAD"), "??");                       // a C1 control, a soft hyphen
+    EXPECT_EQ(Printable("\xE2\x80\xAE\xE2\x80\x8B\xEF\xBB\xBF"), "???");  // turned writing, no width at all
+    EXPECT_EQ(Printable("\xEF\xBF\xBE\xF0\x9F\xBF\xBF\xEE\x80\x80"), "???");  // no characters; private use
+    EXPECT_EQ(Printable("a\xFF\xC3z\xE2\x82"), "a??z??");                     // bytes that are no UTF-8
+}
+
+TEST(TextEncoding, TheBeginningOfATextEndsWithAWholeCharacter) {
+    EXPECT_EQ(Beginning("abc", 5), "abc");
+    EXPECT_EQ(Beginning("abc", 2), "ab");
+    EXPECT_EQ(Beginning("a\xE2\x82\xAC", 4), "a\xE2\x82\xAC");
+    EXPECT_EQ(Beginning("a\xE2\x82\xAC"
+                        "b",
+                        3),
+              "a");
+    EXPECT_EQ(Beginning("\xE2\x82\xAC", 1), "");
+}
+
 }  // namespace
 }  // namespace korvet

@@ -152,6 +152,7 @@ TEST_F(MainFrameTest, WhatIsNoParameterFileOpensNothingAndTouchesNoWindow) {
         rig.shell.files.files[file.name] = file.contents;
         rig.frame.OpenFile(file.name);
         EXPECT_EQ(rig.Said(), file.said) << file.name;
+        EXPECT_EQ(rig.shell.ui.messages.front().detail.find(file.name), 0U);
         EXPECT_EQ(rig.Did(), "") << file.name;
     }
     EXPECT_EQ(rig.shell.frame.documentCounter, 1);
@@ -171,14 +172,17 @@ TEST_F(MainFrameTest, AFileThatCannotBeReadIsToldWithItsReason) {
     EXPECT_EQ(rig.shell.frame.documentCounter, 0);
 }
 
-TEST_F(MainFrameTest, AFileOfAnUnknownFittingOpensNothingButCounts) {
+TEST_F(MainFrameTest, AFileOfAnUnknownFittingIsToldAndOpensNothingButCounts) {
     CFittingWindow& cone = rig.OpenCone();
     rig.Forget();
     rig.shell.files.files["hood"] = "Korvet Development-3.3.3\r\nHood\r\n0\r\nEnd Header\r\n\r\n";
     rig.shell.files.files["none"] = "Korvet Development-3.3.3\r\n\r\n0\r\nEnd Header\r\n\r\n";
     rig.frame.OpenFile("hood");
     rig.frame.OpenFile("none");
-    EXPECT_EQ(rig.Said() + rig.Did(), "");
+    EXPECT_EQ(rig.Said(), "P Error loading parameter file / P Error loading parameter file");
+    EXPECT_EQ(rig.shell.ui.messages.at(0).detail, "hood: line 2: there is no fitting \"Hood\"");
+    EXPECT_EQ(rig.shell.ui.messages.at(1).detail, "none: line 2: the fitting is missing");
+    EXPECT_EQ(rig.Did(), "");
     EXPECT_EQ(cone.controls.txtParameter[3].text, "300");
     EXPECT_EQ(rig.shell.frame.documentCounter, 3);
 }
@@ -196,6 +200,17 @@ TEST_F(MainFrameTest, AFileCutShortLeavesANewWindowWithWhatWasRead) {
     // It is not saved over the file that it could not be read from.
     rig.frame.RunMenu("mnuFileSave");
     EXPECT_EQ(rig.shell.ui.fileDialogs.size(), 1U);
+}
+
+TEST_F(MainFrameTest, AFileWhoseSizesEndTheArithmeticLeavesAWindowWithoutItsName) {
+    PutGoodFile();
+    std::string& contents = rig.shell.files.files["good.Kvt"];
+    contents.replace(contents.find("\r\n300\r\n150\r\n") + 2, 3, "1e200");
+    rig.frame.OpenFile("good.Kvt");
+    EXPECT_EQ(rig.Said(), "P Error loading parameter file");
+    EXPECT_EQ(rig.shell.ui.messages.at(0).detail.find("good.Kvt: "), 0U);
+    EXPECT_EQ(rig.Open(), (Captions{"Development 1"}));
+    EXPECT_EQ(rig.frame.ActiveChild()->controls.txtParameter[3].text, "1e200");
 }
 
 TEST_F(MainFrameTest, AFileWhoseSizesAreRefusedKeepsItsName) {

@@ -103,13 +103,66 @@ TEST_F(SaveLoadTest, AFaultyFileIsToldAndTheCaptionStays) {
         ASSERT_FALSE(shell.ui.messages.empty());
         EXPECT_EQ(shell.ui.messages.back().text, "Error loading parameter file");
         EXPECT_EQ(shell.ui.messages.back().style, PlainBox);
-        EXPECT_EQ(shell.ui.messages.back().detail.find("line " + std::to_string(line)), 0U);
+        EXPECT_EQ(shell.ui.messages.back().detail.find("bad.Kvt: line " + std::to_string(line)), 0U);
         EXPECT_EQ(shell.ui.messages.size(), line == 1 ? 2U : 1U);
         EXPECT_EQ(shell.ui.messages.front().text,
                   line == 1 ? "Not a valid " : "Error loading parameter file");
         EXPECT_EQ(window->controls.caption, caption);
         EXPECT_EQ(window->views->Count(), 0U);
     }
+}
+
+TEST_F(SaveLoadTest, SizesThatEndTheArithmeticFailTheLoadWithTheReason) {
+    std::string far = SavedCone();
+    far.replace(far.find("\r\n300\r\n") + 2, 3, "1e200");
+    shell.files.files["far.Kvt"] = far;
+    const auto window = shell.Open("Right Cone");
+    const std::string caption = window->controls.caption;
+    shell.ui.messages.clear();
+    EXPECT_EQ(window->LoadFile("far.Kvt"), Refused);
+    EXPECT_EQ(shell.ui.Texts(), (std::vector<std::string>{"Error loading parameter file"}));
+    EXPECT_EQ(shell.ui.messages.at(0).detail.find("far.Kvt: "), 0U);
+    EXPECT_GT(shell.ui.messages.at(0).detail.size(), std::string("far.Kvt: ").size());
+    EXPECT_EQ(window->controls.caption, caption);
+    EXPECT_FALSE(window->hasModel);
+    EXPECT_EQ(window->controls.txtParameter[3].text, "1e200");
+    EXPECT_EQ(window->SaveFile("far.Kvt"), Refused);
+}
+
+TEST_F(SaveLoadTest, ABuildThatIsRefusedIsNoFailedLoad) {
+    std::string refused = SavedCone();
+    refused.replace(refused.find("\r\n300\r\n") + 2, 3, "100");
+    shell.files.files["refused.Kvt"] = refused;
+    const auto window = shell.Open("Right Cone");
+    EXPECT_EQ(window->LoadFile("refused.Kvt"), Passed);
+    EXPECT_EQ(shell.ui.Texts(),
+              (std::vector<std::string>{"This dimension must be less than 100", "The item has no extents"}));
+    EXPECT_EQ(window->controls.caption, "refused.Kvt");
+}
+
+TEST_F(SaveLoadTest, AMessageAboutAFileHasNoCharacterThatCannotBeShown) {
+    const std::string good = SavedCone();
+    // Control characters, the mark that turns the writing round, and a letter at the place where a quote
+    // ends.
+    shell.files.files["bad\n.Kvt"] = WithLine(good, 17,
+                                              "2\x01"
+                                              "4\xE2\x80\xAE" +
+                                                  std::string(54, 'x') + "\xC3\xBC\xC3\xBC");
+    const auto window = shell.Open("Right Cone");
+    EXPECT_EQ(window->LoadFile("bad\n.Kvt"), Refused);
+    EXPECT_EQ(shell.ui.messages.at(0).detail, "bad?.Kvt: line 17: \"2?4?" + std::string(54, 'x') +
+                                                  "\" is not a whole number from 1 to 100000");
+    shell.files.files["noise.Kvt"] = std::string(
+        "\x7f"
+        "ELF\0\1\2\n",
+        8);
+    EXPECT_EQ(window->LoadFile("noise.Kvt"), Refused);
+    EXPECT_EQ(shell.ui.messages.at(1).text, "Not a valid ");
+    EXPECT_EQ(shell.ui.messages.at(1).detail.find("noise.Kvt: line 1: \"?ELF"), 0U);
+    shell.files.files["header.Kvt"] = WithLine(good, 3, "\x7F");
+    EXPECT_EQ(window->LoadFile("header.Kvt"), Refused);
+    EXPECT_EQ(shell.ui.messages.at(3).text.find("Error in CKVTFile:ReadHeader  line 3: \"?\" is not "), 0U);
+    EXPECT_EQ(shell.ui.messages.at(3).detail, "header.Kvt");
 }
 
 TEST_F(SaveLoadTest, ControlsFilledBeforeAFaultStayFilled) {
