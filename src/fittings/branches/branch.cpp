@@ -5,6 +5,7 @@
 #include "core/checked.h"
 #include "core/constants.h"
 #include "core/math_module.h"
+#include "fittings/trim.h"
 #include "fittings/unrolled.h"
 
 namespace korvet {
@@ -22,28 +23,23 @@ double HalfChord(double radius, double y) {
     return SquareRoot(square);
 }
 
-std::int16_t FlagOf(int station) {
-    return static_cast<std::int16_t>(station % 2);
-}
-
-/// The second half of a list, from the middle station on.
-PointList SecondHalf(const C3DPoints& list) {
-    auto half = std::make_shared<C3DPoints>();
-    for (std::size_t i = list.Count() / 2 + 1; i <= list.Count(); ++i) {
-        half->Add(list.Item(i));
+/// The straight end of a branch has the corners of its edge on the trunk.
+void TakeFlags(C3DPoints& list, const C3DPoints& from) {
+    for (std::size_t i = 1; i <= list.Count(); ++i) {
+        list.Item(i).Flag = from.Item(i).Flag;
     }
-    return half;
 }
 
 }  // namespace
 
 /// The branch's axis meets the trunk's surface where rB sin(beta) = Offset.
 CBranch::Cut CBranch::MakeCut(double rA, double rB) const {
-    return {rA, rB, ArcSin(Quotient(Offset, rB)), FullTurn / (2 * inputs.segs)};
+    return {rA, rB, ArcSin(Quotient(Offset, rB))};
 }
 
-std::size_t CBranch::Stations() const {
-    return 2 * static_cast<std::size_t>(inputs.segs) + 1;
+/// A round edge of the branch, from its top on; the heel is half a turn further.
+Ring CBranch::Round() const {
+    return RuledRing(0, inputs.segs);
 }
 
 /// The point of the branch's generator at theta that lies on the trunk, x^2 + y^2 = rB^2. Off the branch's
@@ -63,18 +59,13 @@ C3DPoint CBranch::IntersectionPoint(double theta, const Cut& cut) const {
 
 PointList CBranch::BuildIntersectionList(const Cut& cut) const {
     auto list = std::make_shared<C3DPoints>();
-    list->Reserve(Stations());
-    const int stations = 2 * inputs.segs;
-    const int firstFlank = stations / 4 + 1;
-    const int secondFlank = stations * 3 / 4 + 1;
-    double theta = 0;
-    for (int i = 1; i <= stations + 1; ++i) {
-        C3DPoint& point = list->Add(IntersectionPoint(theta, cut));
-        point.Flag = FlagOf(i);
-        if (i == firstFlank || i == secondFlank) {
-            point.Flag = static_cast<std::int16_t>(point.Flag + CornerStation);
-        }
-        theta += cut.step;
+    list->Reserve(Round().Count());
+    const int steps = 2 * inputs.segs;
+    const int firstFlank = steps / 4 + 1;
+    const int secondFlank = steps * 3 / 4 + 1;
+    for (const auto& [i, theta, flag] : Round()) {
+        const int corner = i == firstFlank || i == secondFlank ? CornerStation : PlainStation;
+        list->Add(IntersectionPoint(theta, cut)).Flag = static_cast<std::int16_t>(flag + corner);
     }
     return list;
 }
@@ -92,13 +83,11 @@ C3DPoint CBranch::BranchEndCentre(const Cut& cut) const {
 PointList CBranch::BuildBranchEndList(const C3DPoints& edge, const Cut& cut) const {
     const C3DPoint centre = BranchEndCentre(cut);
     auto list = std::make_shared<C3DPoints>();
-    list->Reserve(Stations());
-    double theta = 0;
-    for (int i = 1; i <= 2 * inputs.segs + 1; ++i) {
+    list->Reserve(Round().Count());
+    for (const auto& [i, theta, flag] : Round()) {
         const double u = std::cos(theta) * cut.rA;
         list->Add({std::cos(AxialAngle) * u + centre.x + std::cos(cut.beta) * cut.rB,
-                   edge.Item(static_cast<std::size_t>(i)).y, std::sin(AxialAngle) * u + centre.z, FlagOf(i)});
-        theta += cut.step;
+                   edge.Item(static_cast<std::size_t>(i)).y, std::sin(AxialAngle) * u + centre.z, flag});
     }
     return list;
 }
@@ -108,7 +97,7 @@ CRuleSurf CBranch::BuildBranchSurface() const {
     CRuleSurf surface;
     surface.List2 = BuildIntersectionList(cut);
     surface.List1 = BuildBranchEndList(*surface.List2, cut);
-    return inputs.HalfPattern ? TrimSurface(surface, false, false) : surface;
+    return Trimmed(surface, TrimOf(inputs));
 }
 
 /// The axes cross s = rB / tan(alpha) above the point at which the branch's axis meets the trunk, and the
@@ -157,11 +146,6 @@ void CBranch::DevelopModel() {
     }
 }
 
-/// Length of the whole plate round a pipe.
-double CBranch::Stretchout(double radius, double thickness) const {
-    return FullTurn * (TemplateType == 0 ? radius : thickness / 2 + radius);
-}
-
 /// A point of the hole on the plate of length c, whose middle lies at plan angle 0 of the trunk.
 C3DPoint CBranch::FlatHolePoint(const C3DPoint& point, double c) const {
     double a = PlanAngle(origin_, point);
@@ -173,16 +157,17 @@ C3DPoint CBranch::FlatHolePoint(const C3DPoint& point, double c) const {
 
 CRuleSurf CBranch::DevelopBranch() const {
     const CRuleSurf& model = results.ModelSurfaceList.Item(1);
-    const double c = Stretchout(BranchRadiusPipeA, BranchThickness);
-    CRuleSurf pattern = UnrolledRules(model, *model.List2, c / (2 * inputs.segs));
+    const double c = StretchOut(BranchRadiusPipeA, BranchThickness, TemplateType);
+    CRuleSurf pattern = UnrolledRules(model, StraightEdge::List2, c / (2 * inputs.segs));
+    TakeFlags(*pattern.List1, *pattern.List2);
     AddLaps(pattern, inputs);
     return pattern;
 }
 
 CRuleSurf CBranch::DevelopTrunk() const {
     const CRuleSurf& model = results.ModelSurfaceList.Item(2);
-    const double c = Stretchout(TrunkRadiusPipeB, TrunkThickness);
-    CRuleSurf pattern = UnrolledRules(model, *model.List1, c / (2 * inputs.segs));
+    const double c = StretchOut(TrunkRadiusPipeB, TrunkThickness, TemplateType);
+    CRuleSurf pattern = UnrolledRules(model, StraightEdge::List2, c / (2 * inputs.segs));
     pattern.List3 = std::make_shared<C3DPoints>();
     pattern.List3->Reserve(model.List3->Count());
     for (const C3DPoint& point : *model.List3) {

@@ -3,6 +3,7 @@
 
 #include "core/fitting.h"
 #include "fittings/pipes/right_cylinder.h"
+#include "fittings/ring.h"
 
 namespace korvet {
 
@@ -56,18 +57,16 @@ struct CBranch {
         double rA;    ///< radius of the branch
         double rB;    ///< radius of the trunk
         double beta;  ///< plan angle at which the branch's axis meets the trunk's surface
-        double step;  ///< angle between two stations
     };
 
     [[nodiscard]] Cut MakeCut(double rA, double rB) const;
-    [[nodiscard]] std::size_t Stations() const;
+    [[nodiscard]] Ring Round() const;
     [[nodiscard]] C3DPoint IntersectionPoint(double theta, const Cut& cut) const;
     [[nodiscard]] PointList BuildIntersectionList(const Cut& cut) const;
     [[nodiscard]] C3DPoint BranchEndCentre(const Cut& cut) const;
     [[nodiscard]] PointList BuildBranchEndList(const C3DPoints& edge, const Cut& cut) const;
     [[nodiscard]] CRuleSurf BuildBranchSurface() const;
     [[nodiscard]] CRuleSurf BuildTrunkSurface();
-    [[nodiscard]] double Stretchout(double radius, double thickness) const;
     [[nodiscard]] C3DPoint FlatHolePoint(const C3DPoint& point, double c) const;
     [[nodiscard]] CRuleSurf DevelopBranch() const;
     [[nodiscard]] CRuleSurf DevelopTrunk() const;

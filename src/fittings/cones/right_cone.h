@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "core/fitting.h"
-#include "fittings/plane_cut.h"
+#include "fittings/cone_unroller.h"
 
 namespace korvet {
 
@@ -24,7 +24,7 @@ struct CRightCone {
     double ConeAngle = 0;   ///< half angle at the apex
     double CPAngle3 = 0;    ///< tilt of the second half of a roof
     double Offset = 0;      ///< along +x, from the axis to the ridge of a roof
-    double CPAngle1 = 0;    ///< tilt of the upper plane towards +x; 0 is level
+    double CPAngle1 = 0;    ///< tilt of the upper plane: above 0 it falls towards +x
     double CPAngle2 = 0;    ///< tilt of the lower plane
     double ApexHeight = 0;  ///< of the apex above the base; set by ConstructModel
     double CPHeight1 = 0;   ///< height on the axis of the upper plane
@@ -49,18 +49,14 @@ struct CRightCone {
         std::optional<CutPlane> lower;
     };
 
-    [[nodiscard]] double SlantDistance(double t, CutPlane plane) const;
-    [[nodiscard]] C3DPoint SlantPoint(double t, double distance) const;
-    [[nodiscard]] C3DPoint RingPoint(double t, CutPlane plane) const;
-    void AddStation(double t, const Cut& cut, int upperFlag, int lowerFlag);
+    [[nodiscard]] Cone Wall() const;
+    void AddStation(double t, const Cut& cut, std::int16_t upperFlag, std::int16_t lowerFlag);
     void AddPlainCut();
-    void AddRoof(double ridgeHeight, const Cut& near, const Cut& far, int upperFlag, int lowerFlag);
+    void AddRoof(double ridgeHeight, const Cut& near, const Cut& far, ConeCut roof);
     void AddUpperRoof();
     void AddLowerRoof();
     void ApplyLaps(CRuleSurf& pattern);
 
-    C3DPoint baseCentre_;  ///< the origin
-    C3DPoint apexPoint_;
     C3DPoints baseRing_;  ///< the base circle at each station
     C3DPoints upperEdge_;
     C3DPoints lowerEdge_;

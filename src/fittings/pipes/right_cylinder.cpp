@@ -2,9 +2,11 @@
 
 #include <cmath>
 
-#include "core/checked.h"
 #include "core/constants.h"
 #include "core/math_module.h"
+#include "fittings/roof.h"
+#include "fittings/trim.h"
+#include "fittings/unrolled.h"
 
 namespace korvet {
 namespace {
@@ -13,72 +15,38 @@ namespace {
 /// stretch-out.
 constexpr double ClosingAngle = 0.0001;
 
-int Stations(int segs) {
-    return 2 * segs + 1;
-}
-
-double Step(int segs) {
-    return FullTurn / (2 * segs);
-}
-
 }  // namespace
 
-void CRightCylinder::AddPoint(C3DPoints& edge, double t, double z, int flag) const {
-    C3DPoint& point = edge.Add(PolarPoint(baseCentre_, t, BaseRad));
+void CRightCylinder::AddPoint(C3DPoints& edge, double t, double z, std::int16_t flag) const {
+    C3DPoint& point = edge.Add(PolarPoint({}, t, BaseRad));
     point.z = z;
-    point.Flag = static_cast<std::int16_t>(flag);
+    point.Flag = flag;
 }
 
 /// Appends a whole ring from the seam on, cut by a plane whose tilt is turned about the axis.
 void CRightCylinder::AddRing(C3DPoints& edge, double turn, CutPlane plane) const {
-    const double step = Step(inputs.segs);
-    double t = inputs.JoinAngle;
-    for (int i = 1; i <= Stations(inputs.segs); ++i) {
-        AddPoint(edge, t, PlaneHeight(BaseRad, turn + t, plane), i % 2);
-        t += step;
+    for (const Station& station : RuledRing(inputs.JoinAngle, inputs.segs)) {
+        AddPoint(edge, station.angle, PlaneHeight(BaseRad, turn + station.angle, plane), station.flag);
     }
 }
 
 /// Stations of a top of two planes that meet in a ridge at x = Offset, height CPHeight1, over a level bottom.
-/// The ridge meets the pipe where R cos s = Offset; there a station of its own is added, and the spacing of
-/// the others runs on undisturbed. A plane through the ridge crosses the axis at CPHeight1 minus its slope
-/// times Offset.
+/// A plane through the ridge crosses the axis at CPHeight1 minus its slope times Offset.
 void CRightCylinder::AddRoof(C3DPoints& top, C3DPoints& bottom) const {
-    const double s1 = ArcCos(Quotient(Offset, BaseRad));
-    const double s2 = FullTurn - s1;
     const CutPlane nearPlane = {-CPAngle3, std::tan(CPAngle3) * Offset + CPHeight1};
     const CutPlane farPlane = {CPAngle1, CPHeight1 - std::tan(CPAngle1) * Offset};
-    const double step = Step(inputs.segs);
-    double t = 0;
-    int i = 1;
-    const auto addStation = [&](CutPlane plane) {
-        AddPoint(top, t, PlaneHeight(BaseRad, t, plane), i % 2);
-        AddPoint(bottom, t, CPHeight2, i % 2);
-        t += step;
-        ++i;
-    };
-    const auto addRidgeEnd = [&](double s) {
-        AddPoint(top, s, CPHeight1, CornerRuleStation);
-        AddPoint(bottom, s, CPHeight2, RuleStation);
-    };
-    while (t < s1) {
-        addStation(nearPlane);
-    }
-    addRidgeEnd(s1);
-    while (t < s2) {
-        addStation(farPlane);
-    }
-    addRidgeEnd(s2);
-    while (t <= ClosingLimit) {
-        addStation(nearPlane);
-    }
+    WalkRoof(RuledRing(0, inputs.segs), {BaseRad, Offset}, [&](const RoofStation& station) {
+        const double z = PlaneHeight(BaseRad, station.angle, station.far ? farPlane : nearPlane);
+        AddPoint(top, station.angle, station.ridgeEnd ? CPHeight1 : z, station.brokenFlag);
+        AddPoint(bottom, station.angle, CPHeight2, station.flag);
+    });
 }
 
 void CRightCylinder::ConstructModel() {
     CRuleSurf surface;
     surface.List1 = std::make_shared<C3DPoints>();
     surface.List2 = std::make_shared<C3DPoints>();
-    const auto count = static_cast<std::size_t>(Stations(inputs.segs)) + 3;  // with both ends of a ridge
+    const auto count = 2 * static_cast<std::size_t>(inputs.segs) + 4;  // with both ends of a ridge
     surface.List1->Reserve(count);
     surface.List2->Reserve(inputs.Dtype == RoofOverTracedBase ? 2 * count : count);
 
@@ -92,13 +60,13 @@ void CRightCylinder::ConstructModel() {
     if (inputs.Dtype != RoofTop) {
         AddRing(*surface.List2, Rotation, {-CPAngle2, CPHeight2});
     }
-    results.ModelSurface = inputs.HalfPattern ? TrimSurface(surface, false, false) : surface;
+    results.ModelSurface = Trimmed(surface, TrimOf(inputs));
 }
 
 void CRightCylinder::DevelopModel() {
     ConstructModel();
     const CRuleSurf& model = results.ModelSurface;
-    const double C = FullTurn * (TemplateType == 0 ? BaseRad : Thickness / 2 + BaseRad);
+    const double C = StretchOut(BaseRad, Thickness, TemplateType);
     const C3DPoint c;
     // A copy shares the model's lists until it is turned, which gives it lists of its own.
     CRuleSurf turned = model;

@@ -47,11 +47,9 @@ struct CRightCylinder {
     void DevelopModel();
 
   private:
-    void AddPoint(C3DPoints& edge, double t, double z, int flag) const;
+    void AddPoint(C3DPoints& edge, double t, double z, std::int16_t flag) const;
     void AddRing(C3DPoints& edge, double turn, CutPlane plane) const;
     void AddRoof(C3DPoints& top, C3DPoints& bottom) const;
-
-    C3DPoint baseCentre_;  ///< the origin
 };
 
 }  // namespace korvet

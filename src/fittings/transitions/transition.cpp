@@ -7,6 +7,8 @@
 #include "core/constants.h"
 #include "core/math_module.h"
 #include "core/triangulation.h"
+#include "fittings/ring.h"
+#include "fittings/trim.h"
 
 namespace korvet {
 namespace {
@@ -19,14 +21,11 @@ int PointsPerCorner(int segs) {
 
 /// Adds the stations of one corner: a quarter of an ellipse with semi-axes rad1 along x and rad2 along y.
 void AddCorner(C3DPoints& list, const C3DPoint& centre, double rad1, double rad2, double start, int segs) {
-    const double step = FullTurn / (2.0 * segs);
     const int last = PointsPerCorner(segs);
-    double a = start;
-    for (int i = 1; i <= last; ++i) {
-        const int corner = i == 1 || i == last ? CornerStation : PlainStation;
-        list.Add(PolarPoint(centre, a, EllipseRadius(rad1, rad2, a))).Flag =
-            static_cast<std::int16_t>(i % 2 + corner);
-        a += step;
+    for (const Station& station : Ring(start, RuledRing(start, segs).Step(), last)) {
+        const int corner = station.index == 1 || station.index == last ? CornerStation : PlainStation;
+        list.Add(PolarPoint(centre, station.angle, EllipseRadius(rad1, rad2, station.angle))).Flag =
+            static_cast<std::int16_t>(station.flag + corner);
     }
 }
 
@@ -99,7 +98,7 @@ void CTransition::ConstructModel() {
     tilt(2, Axis::X, baseCentre, BaseTiltX);
     tilt(1, Axis::Y, topCentre, TopTiltY);
     tilt(2, Axis::Y, baseCentre, BaseTiltY);
-    results.ModelSurface = IsHalved() ? TrimSurface(surface, false, false) : surface;
+    results.ModelSurface = Trimmed(surface, IsHalved() ? Trim::Half : Trim::Whole);
 }
 
 void CTransition::DevelopModel() {
