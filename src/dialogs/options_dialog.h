@@ -27,6 +27,8 @@ struct OptionsDialog {
     OptionsDialog(COptions& options, UserInterface& ui, FileStore& files, char decimalMark,
                   int tab = GeneralTab);
 
+    static constexpr int HelpContextID = 2010;
+
     // The controls, under their names.
     std::string caption;
     int tab;  ///< the open one; a failed check opens that of its box

@@ -15,6 +15,7 @@ namespace korvet {
 /// Which annotations of a pattern are wanted.
 struct DimensionOptionsDialog {
     enum Index : std::size_t { TrueLengths, Diagonals, CoordGrid, CoordTable, FrameAndArea };
+    static constexpr int HelpContextID = 2030;
 
     std::array<CheckBox, 5> chkDimensions = {{{"True lengths "},
                                               {"Diagonal distances"},
@@ -34,6 +35,7 @@ struct DimensionOptionsDialog {
 struct LabelDialog {
     static constexpr std::size_t EditableLines = 2;
     static constexpr std::size_t FixedLines = 20;
+    static constexpr int HelpContextID = 2060;
 
     std::string caption = "Label";
     CheckBox chkDisplayLabel;
@@ -54,6 +56,7 @@ struct LabelDialog {
 /// What goes into a DXF file.
 struct DxfOptionsDialog {
     enum Index : std::size_t { Outlines, BendLines, Diagonals, Dimensions, Label };
+    static constexpr int HelpContextID = 2040;
 
     std::string caption;        ///< "Exporting " and the file's name
     std::string lblExportType;  ///< whether a pattern or a model goes out

@@ -237,12 +237,12 @@ class OptionsWindow : public QObject {
         Run([](QDialog& window) { QCOMPARE(OpenTab(window), 4); }, OptionsDialog::DxfTab);
     }
 
-    void HelpHasNoTopic() {
+    void HelpOpensItsTopic() {
         std::vector<int> topics;
         desk_.ui.showHelp = [&](int topic) { topics.push_back(topic); };
         Run([](QDialog& window) { Press(window, "btnHelp"); });
         desk_.ui.showHelp = {};
-        QCOMPARE(topics, std::vector<int>{0});
+        QCOMPARE(topics, std::vector<int>{OptionsDialog::HelpContextID});
     }
 
   private:

@@ -194,7 +194,20 @@ class SmallDialogs : public QObject {
         LabelDialog label;
         Run(label, press);
         desk_.ui.showHelp = {};
-        QCOMPARE(topics, (std::vector<int>{2936, 0}));
+        QCOMPARE(topics, (std::vector<int>{2936, LabelDialog::HelpContextID}));
+    }
+
+    void HelpButtonsOpenTheTopicsOfTheirDialogs() {
+        std::vector<int> topics;
+        desk_.ui.showHelp = [&](int topic) { topics.push_back(topic); };
+        const auto press = [](QDialog& window) { Press(window, "btnHelp"); };
+        DimensionOptionsDialog dimensions;
+        Run(dimensions, press);
+        DxfOptionsDialog drawing;
+        Run(drawing, press);
+        desk_.ui.showHelp = {};
+        QCOMPARE(topics,
+                 (std::vector<int>{DimensionOptionsDialog::HelpContextID, DxfOptionsDialog::HelpContextID}));
     }
 
     void TheSplashGoesOnAndOpensAbout() {

@@ -21,6 +21,8 @@
 
 #include "desktop/help/help_book.h"
 #include "desktop/help/help_window.h"
+#include "dialogs/options_dialog.h"
+#include "dialogs/small_dialogs.h"
 #include "frame/catalogue.h"
 #include "frame/frame_menu.h"
 #include "tests/desktop/desktop_test.h"
@@ -121,7 +123,12 @@ class HelpTest : public QObject {
     void EachContextOpensItsPage_data() {
         QTest::addColumn<int>("context");
         QTest::addColumn<QString>("page");
+        QTest::newRow("options") << OptionsDialog::HelpContextID << "options.html";
         QTest::newRow("settings") << 2020 << "settings.html";
+        QTest::newRow("dimension options")
+            << DimensionOptionsDialog::HelpContextID << "dimension-options.html";
+        QTest::newRow("export") << DxfOptionsDialog::HelpContextID << "export-dxf.html";
+        QTest::newRow("label") << LabelDialog::HelpContextID << "label.html";
         QTest::newRow("catalogue") << 2050 << "catalogue.html";
         QTest::newRow("right cone") << 2100 << "right-cone.html";
         QTest::newRow("truncated right cone") << 2210 << "truncated-right-cone.html";

@@ -160,7 +160,7 @@ QWidget* MakeDxfTab(ModelDialog& window, OptionsDialog& dialog) {
 }
 
 void RunDialog(const DialogHost& host, OptionsDialog& dialog) {
-    ModelDialog window(host, "frmOptions", dialog.caption, Twips);
+    ModelDialog window(host, "frmOptions", dialog.caption, Twips, OptionsDialog::HelpContextID);
     AddTabs(window, dialog);
     AddOkAndCancel(window, dialog);
     window.AddButton(ModelDialog::Role::Other, "btnSave", QStringLiteral("&Save"), QStringLiteral("Save"),

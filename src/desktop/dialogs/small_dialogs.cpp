@@ -55,7 +55,8 @@ QGroupBox* MakeLines(ModelDialog& window, LabelDialog& dialog) {
 
 void RunDialog(const DialogHost& host, DimensionOptionsDialog& dialog) {
     constexpr std::array Letters = {'l', 'D', 'g', 't', 'F'};
-    ModelDialog window(host, "frmDimensionOptions", "Dimension Options", DimensionOptionsSize);
+    ModelDialog window(host, "frmDimensionOptions", "Dimension Options", DimensionOptionsSize,
+                       DimensionOptionsDialog::HelpContextID);
     for (std::size_t i = 0; i < dialog.chkDimensions.size(); ++i) {
         window.Body().addWidget(MakeCheck(window, "chkDimensions_" + std::to_string(i),
                                           dialog.chkDimensions.at(i), Letters.at(i),
@@ -74,7 +75,7 @@ void RunDialog(const DialogHost& host, DimensionOptionsDialog& dialog) {
 
 void RunDialog(const DialogHost& host, LabelDialog& dialog) {
     const QSize size(LabelSize.width(), LabelSize.height() + dialog.frame3Height + BelowFrame);
-    ModelDialog window(host, "frmLabelDialog", dialog.caption, size);
+    ModelDialog window(host, "frmLabelDialog", dialog.caption, size, LabelDialog::HelpContextID);
     if (dialog.chkDisplayLabel.caption.empty()) {
         dialog.chkDisplayLabel.caption = "Display the label";
     }
@@ -93,7 +94,8 @@ void RunDialog(const DialogHost& host, LabelDialog& dialog) {
 
 void RunDialog(const DialogHost& host, DxfOptionsDialog& dialog) {
     constexpr std::array Letters = {'u', 'B', 'D', 'm', 'L'};
-    ModelDialog window(host, "frmDXFOptions", dialog.caption, DxfOptionsSize);
+    ModelDialog window(host, "frmDXFOptions", dialog.caption, DxfOptionsSize,
+                       DxfOptionsDialog::HelpContextID);
     QLabel* const type = MakeLabel(Text(dialog.lblExportType));
     NameWidget(*type, "lblExportType", QStringLiteral("Export type"));
     type->setAccessibleDescription(type->text());
