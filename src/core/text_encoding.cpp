@@ -164,6 +164,21 @@ std::string_view Beginning(std::string_view text, std::size_t limit) {
     return text.substr(0, limit);
 }
 
+std::u16string Utf16Units(std::string_view text) {
+    std::u16string units;
+    const auto points = CodePoints(DecodeText(text));
+    for (const char32_t point : points.value_or(std::u32string())) {
+        if (point < 0x10000) {
+            units.push_back(static_cast<char16_t>(point));
+        } else {
+            const char32_t above = point - 0x10000;
+            units.push_back(static_cast<char16_t>(0xD800U | (above >> 10U)));
+            units.push_back(static_cast<char16_t>(0xDC00U | (above & 0x3FFU)));
+        }
+    }
+    return units;
+}
+
 std::string OnOneLine(std::string_view text) {
     std::string line{text};
     std::replace_if(

@@ -21,6 +21,10 @@ std::string Printable(std::string_view text);
 /// The beginning of a UTF-8 text, of at most `limit` bytes and of whole characters.
 std::string_view Beginning(std::string_view text, std::size_t limit);
 
+/// The UTF-16 units of a text, a character above U+FFFF as two. What is no valid UTF-8 is read as DecodeText
+/// reads it.
+std::u16string Utf16Units(std::string_view text);
+
 /// The text on one line: every control character becomes a blank.
 std::string OnOneLine(std::string_view text);
 

@@ -29,7 +29,8 @@ class Annotator {
     void WriteDimensionLine(const C3DPoint& a, const C3DPoint& b);
     void WriteDimensionText(const C3DPoint& a, const C3DPoint& b);
     void WriteGridLines(const DrawingFrame& frame, const C3DPoints& list);
-    void WriteGridText(const DrawingFrame& frame, const C3DPoint& p, const C3DPoint& q);
+    void WriteLeader(const C3DPoint& from, const C3DPoint& edge);
+    void WriteGridText(double coordinate, const C3DPoint& edge, double angle, bool highEdge);
     [[nodiscard]] const C3DPoint* DimensionEnd(int surfaceNo, int listNo, int pointNo, int referenceNo) const;
 
     DxfStream& out_;
@@ -195,32 +196,29 @@ void Annotator::WriteGridLines(const DrawingFrame& frame, const C3DPoints& list)
     const C3DPoint& low = frame[0];
     const C3DPoint& high = frame[2];
     for (const C3DPoint& p : list) {
-        const C3DPoint side{p.x - low.x < high.x - p.x ? low.x : high.x, p.y, 0};
-        WriteDimensionLine(p, side);
-        WriteGridText(frame, p, side);
-        const C3DPoint end{p.x, p.y - low.y < high.y - p.y ? low.y : high.y, 0};
-        WriteDimensionLine(p, end);
-        WriteGridText(frame, p, end);
+        const bool right = p.x - low.x >= high.x - p.x;
+        const C3DPoint side{right ? high.x : low.x, p.y, 0};
+        WriteLeader(p, side);
+        WriteGridText(p.y - low.y, side, 0, right);
+        const bool top = p.y - low.y >= high.y - p.y;
+        const C3DPoint end{p.x, top ? high.y : low.y, 0};
+        WriteLeader(p, end);
+        WriteGridText(p.x - low.x, end, QuarterTurn, top);
     }
 }
 
-/// The coordinate of p that the leader from p to q stands for, by the leader's direction. A point on the
-/// frame itself has no direction and counts as a leader to the right.
-void Annotator::WriteGridText(const DrawingFrame& frame, const C3DPoint& p, const C3DPoint& q) {
-    const double bearing = RoundPlaces(PlanAngle(p, q), 1);
-    const auto leads = [&](double angle) { return bearing == RoundPlaces(angle, 1); };
-    const auto write = [&](double length, double angle, TextJustification justification) {
-        out_.WriteText(LengthText(length), q, angle, dxf_.TextLayer, justification);
-    };
-    if (leads(0)) {
-        write(p.y - frame[0].y, 0, TextJustification::Left);
-    } else if (leads(PI)) {
-        write(p.y - frame[0].y, 0, TextJustification::Right);
-    } else if (leads(QuarterTurn)) {
-        write(p.x - frame[0].x, QuarterTurn, TextJustification::Left);
-    } else if (leads(ThreeQuarterTurns)) {
-        write(p.x - frame[0].x, QuarterTurn, TextJustification::Right);
+/// A station on the frame itself needs no line to it.
+void Annotator::WriteLeader(const C3DPoint& from, const C3DPoint& edge) {
+    constexpr double NoLength = 1e-8;
+    if (Distance3D(from, edge) > NoLength) {
+        WriteDimensionLine(from, edge);
     }
+}
+
+/// The coordinate that a leader stands for, at its end and outside the frame.
+void Annotator::WriteGridText(double coordinate, const C3DPoint& edge, double angle, bool highEdge) {
+    out_.WriteText(LengthText(coordinate), edge, angle, dxf_.TextLayer,
+                   highEdge ? TextJustification::Left : TextJustification::Right);
 }
 
 }  // namespace

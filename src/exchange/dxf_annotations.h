@@ -30,6 +30,10 @@ std::size_t StationCount(const CRuleSurf& surface);
 /// Dimensions end at the first one with an end that names no point. An end names none, too, when its point
 /// number is above the count of List1 of surface 1, whichever list it means. True lengths, diagonals and grid
 /// go by the rule stations of the lists; what joins the two edges goes up to the shorter one.
+///
+/// In the grid every rule station has its y at the nearer of the frame's left and right edge, level, and its
+/// x at the nearer of bottom and top, upright, both measured from the frame's lower left corner; the texts
+/// stand outside the frame. A leader of at most 1e-8 is left out, its text is not.
 void WriteAnnotations(DxfStream& out, const CDXF& dxf);
 
 }  // namespace korvet

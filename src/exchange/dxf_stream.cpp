@@ -7,6 +7,7 @@
 
 #include "core/math_module.h"
 #include "core/number_text.h"
+#include "core/text_encoding.h"
 
 namespace korvet {
 namespace {
@@ -30,9 +31,47 @@ constexpr int MeshRowsCode = 71;
 constexpr int MeshColumnsCode = 72;
 constexpr int JustificationCode = 72;
 
-bool IsControl(char c) {
-    const auto byte = static_cast<unsigned char>(c);
-    return byte < 0x20 || byte == 0x7F;
+constexpr bool IsControl(char16_t unit) {
+    return unit < 0x20 || (unit >= 0x7F && unit < 0xA0);
+}
+
+/// Appends one unit of a text as \U+XXXX.
+void AppendEscape(std::string& text, char16_t unit) {
+    constexpr std::string_view Digits = "0123456789ABCDEF";
+    text += "\\U+";
+    for (const unsigned shift : {12U, 8U, 4U, 0U}) {
+        text += Digits[(static_cast<unsigned>(unit) >> shift) & 0xFU];
+    }
+}
+
+/// Whether a reader would take the rest of a text for an escaped character: \U+XXXX, or \M+NXXXX, which
+/// stands for one of an eastern character set.
+bool LooksEscaped(std::u16string_view rest) {
+    constexpr std::u16string_view Kinds = u"UuMm";
+    return rest.size() > 2 && rest[0] == u'\\' && Kinds.find(rest[1]) != Kinds.npos && rest[2] == u'+';
+}
+
+/// Whether a word goes out as it is, which nearly all do.
+bool IsPlain(std::string_view word) {
+    return std::all_of(word.begin(), word.end(), [](char c) { return c >= ' ' && c <= '~' && c != '\\'; });
+}
+
+/// Appends the text in ASCII, on one line.
+void AppendAscii(std::string& text, std::string_view word) {
+    if (IsPlain(word)) {
+        text += word;
+        return;
+    }
+    const std::u16string units = Utf16Units(word);
+    for (std::size_t i = 0; i < units.size(); ++i) {
+        if (IsControl(units[i])) {
+            text += ' ';
+        } else if (units[i] > 0x7F || LooksEscaped(std::u16string_view(units).substr(i))) {
+            AppendEscape(text, units[i]);
+        } else {
+            text += static_cast<char>(units[i]);
+        }
+    }
 }
 
 void AppendCode(std::string& text, int code) {
@@ -111,9 +150,7 @@ void DxfStream::WriteMesh(const C3DPoints& list1, const C3DPoints& list2, std::s
 
 void DxfStream::WriteWord(int code, std::string_view word) {
     AppendCode(text_, code);
-    const std::size_t start = text_.size();
-    text_ += word;
-    std::replace_if(text_.begin() + static_cast<std::ptrdiff_t>(start), text_.end(), IsControl, ' ');
+    AppendAscii(text_, word);
     text_ += LineEnd;
 }
 

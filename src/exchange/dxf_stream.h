@@ -13,10 +13,14 @@ namespace korvet {
 enum class TextJustification : int { Left = 0, Centre = 1, Right = 2 };
 
 /// Builds the text of an ASCII drawing file that has an ENTITIES section and nothing else. A group pair is
-/// the code on one line and the value on the next, each ended by CR LF. Layer names and texts are UTF-8 and
-/// go out as they are, but a control character in them becomes a blank, since a line break would tear the
-/// pair apart. Numbers are in general form with a point, a blank in front unless negative, and one blank
-/// behind; coordinates, radii and arc angles are rounded to 6 places, halves to even.
+/// the code on one line and the value on the next, each ended by CR LF. Numbers are in general form with a
+/// point, a blank in front unless negative, and one blank behind; coordinates, radii and arc angles are
+/// rounded to 6 places, halves to even.
+///
+/// Layer names and texts are given as UTF-8. A file without a header names no character set, so they go out
+/// in ASCII: what is none as \U+XXXX, each unit of its UTF-16 in four capital hexadecimal digits (a character
+/// above U+FFFF so takes two), and a backslash that would itself begin such a sequence as \U+005C. A control
+/// character becomes a blank, since a line break would tear the pair apart.
 ///
 /// Points are in the user's unit. All operations throw ArithmeticError for a number that is not finite.
 class DxfStream {

@@ -135,7 +135,6 @@ class EverythingTest(FolderTest):
                      "Area = " + limit_text((right - left) * (top - bottom))):
             self.assertIn(text, texts)
             texts.remove(text)
-        grid = []
         for surface in surfaces:
             a, b, c = (stations(surface[name]) for name in ("List1", "List2", "List3"))
             for p, q in [*zip(a, b[1:])]:
@@ -146,19 +145,62 @@ class EverythingTest(FolderTest):
                 self.assertIn(text, texts)
                 texts.remove(text)
             for x, y, *_ in [*a, *b, *c]:
-                grid.append([y - bottom])
-                # A station on the lower or upper side has a leader of no length there, which counts as one to
-                # the right; a rounding above or below the side it is one up or down.
-                on_side = min(y - bottom, top - y) < 1e-9
-                grid.append([x - left, y - bottom] if on_side else [x - left])
-        for values in sorted(grid, key=len):
-            found = next((text for text in map(limit_text, values) if text in texts), None)
-            self.assertIsNotNone(found, values)
-            texts.remove(found)
+                for text in (limit_text(x - left), limit_text(y - bottom)):
+                    self.assertIn(text, texts)
+                    texts.remove(text)
         self.assertEqual(texts, [])
         for p, q in [ends for layer, ends in drawing.lines if layer == DIMENSION]:
             self.assertTrue(any(abs(v - w) < 1e-5 for v, w in ((q[0], left), (q[0], right), (q[1], bottom),
                                                                (q[1], top))), "a leader ends on the frame")
+
+
+class GridTest(FolderTest):
+    """The grid alone, station by station: its texts stand at the frame, and leaders run there."""
+
+    def grid(self, *fitting):
+        path = self.folder / "grid.dxf"
+        surfaces = run(*fitting, "--set", "CoordGridRequested=True", "--polylines", "--dimensions", "--view", "pattern",
+                       "--dxf", path, "--json", "-").json["pattern"]
+        return Drawing(self, path), surfaces
+
+    def take_end(self, drawing, station, value, rotation, ends):
+        """Takes out a station's leader and text at the nearer of two ends, the lower and the higher one."""
+        lower, higher = (math.dist(station, end) for end in ends)
+        high = higher <= lower
+        if abs(higher - lower) < 1e-9:  # the higher one in the middle; a rounding beside it, either
+            high = any(dxf_measure.same_segment(leader, (station, ends[True])) for _, leader in drawing.lines)
+        if math.dist(station, ends[high]) > 1e-8:
+            drawing.take_line(DIMENSION, (station, ends[high]), "leader")
+        for text in drawing.texts:
+            if text.dxf.text == limit_text(value) and text.dxf.rotation == rotation and \
+               text.dxf.halign == (0 if high else 2) and dxf_measure.same(text.dxf.insert, ends[high]):
+                drawing.texts.remove(text)
+                return
+        self.fail(f"no text {limit_text(value)} for {station}")
+
+    def check(self, *fitting):
+        drawing, surfaces = self.grid(*fitting)
+        left, bottom, right, top = frame(surfaces)
+        points = [(x, y, 0) for x, y in ((left, bottom), (right, bottom), (right, top), (left, top))]
+        for ends in zip(points, points[1:] + points[:1]):
+            drawing.take_line(DIMENSION, ends, "side of the frame")
+        count = 0
+        for station in (p for s in surfaces for name in ("List1", "List2", "List3") for p in stations(s[name])):
+            x, y = station[:2]
+            self.take_end(drawing, (x, y, 0), y - bottom, 0, ((left, y, 0), (right, y, 0)))
+            self.take_end(drawing, (x, y, 0), x - left, 90, ((x, bottom, 0), (x, top, 0)))
+            count += 1
+        self.assertEqual(drawing.texts, [])
+        self.assertEqual([ends for layer, ends in drawing.lines if layer == DIMENSION], [], "a leader of no station")
+        return count
+
+    def test_has_an_x_and_a_y_for_every_station(self):
+        for fitting in (CONE, BEND, TRUNK, TRANSITION):
+            with self.subTest(fitting=fitting[1]):
+                self.assertGreater(self.check(*fitting), 0)
+
+    def test_of_an_edge_along_the_frame_is_complete(self):
+        self.assertEqual(self.check("--new", "Right Cylinder", "--sample"), 2 * 25)
 
 
 if __name__ == "__main__":

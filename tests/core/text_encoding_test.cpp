@@ -39,6 +39,13 @@ TEST(TextEncoding, ComesBackAsItWas) {
     }
 }
 
+TEST(TextEncoding, Utf16HasTwoUnitsForACharacterAboveTheFirstPlane) {
+    EXPECT_EQ(Utf16Units("a\u00fc\u677f"), u"a\u00fc\u677f");
+    EXPECT_EQ(Utf16Units("\U0001F527\U0010FFFF"), u"\U0001F527\U0010FFFF");
+    EXPECT_EQ(Utf16Units("\xFC"), u"\u00fc");
+    EXPECT_EQ(Utf16Units(""), u"");
+}
+
 TEST(TextEncoding, OneLineHasNoControlCharacters) {
     EXPECT_EQ(OnOneLine("a\r\nb\tc\x1F"), "a  b c ");
     EXPECT_EQ(OnOneLine("\xC3\xBC"), "\xC3\xBC");

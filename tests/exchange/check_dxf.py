@@ -22,8 +22,14 @@ import sys
 
 try:
     import ezdxf
+    from ezdxf import recover
 except ImportError:
     sys.exit(77)
+
+
+def whole(text):
+    """A text in which the two units of a character above U+FFFF are one character."""
+    return text.encode("utf-16", "surrogatepass").decode("utf-16")
 
 
 def kind_of(entity):
@@ -49,8 +55,8 @@ def length_of(entity):
 
 def measure(path, outline_layer):
     """What the file holds, and a list of its faults."""
-    document = ezdxf.readfile(path)
-    auditor = document.audit()
+    ezdxf.readfile(path)  # forgives nothing in how the file is built
+    document, auditor = recover.readfile(path)  # reads \U+XXXX, in names of layers too
     faults = [error.message for error in list(auditor.errors) + list(auditor.fixes)]
     counts, lengths, texts = {}, {}, []
     for entity in document.modelspace():
@@ -59,7 +65,7 @@ def measure(path, outline_layer):
         by_layer[layer] = by_layer.get(layer, 0) + 1
         lengths[layer] = lengths.get(layer, 0.0) + length_of(entity)
         if kind == "TEXT":
-            texts.append(entity.dxf.text)
+            texts.append(whole(entity.dxf.text))
         if kind == "MESH" and entity.dxf.m_count * entity.dxf.n_count != len(entity.vertices):
             faults.append("a mesh with a wrong count of vertices")
     found = {

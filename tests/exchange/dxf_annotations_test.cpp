@@ -197,12 +197,27 @@ TEST(DxfGrid, InTheMiddleTheRightAndTheTopEdgeWin) {
     EXPECT_EQ(dxf_reading::Describe(grid[2]), "LINE 6,3 6,6");
 }
 
-TEST(DxfGrid, AStationOnTheFrameItselfCountsAsALeaderToTheRight) {
-    const auto grid = GridOf("1 0,4 0 1,11 0", "1 6,4 6,11 6");
-    ASSERT_EQ(grid.size(), 4U);
-    EXPECT_EQ(TextForm(grid[1]), "0 just 2 angle 0 at 1,0");
-    EXPECT_EQ(dxf_reading::Describe(grid[2]), "LINE 4,0 4,0");
-    EXPECT_EQ(TextForm(grid[3]), "0 just 0 angle 0 at 4,0");
+/// What the grid holds for one station of a frame from 1, 0 to 11, 6, a leader or a text each.
+Lines GridAt(const std::string& station) {
+    Lines lines;
+    for (const Entity& entity : GridOf("1 0," + station + " 1,11 0", "1 6,4 6,11 6")) {
+        lines.push_back(entity.kind == "TEXT" ? TextForm(entity) : dxf_reading::Describe(entity));
+    }
+    return lines;
+}
+
+TEST(DxfGrid, AStationOnTheFrameHasBothTextsAndNoLeaderToItsOwnSide) {
+    EXPECT_EQ(GridAt("4 0"), (Lines{"LINE 4,0 1,0", "0 just 2 angle 0 at 1,0", "3 just 2 angle 90 at 4,0"}));
+    EXPECT_EQ(GridAt("4 6"), (Lines{"LINE 4,6 1,6", "6 just 2 angle 0 at 1,6", "3 just 0 angle 90 at 4,6"}));
+    EXPECT_EQ(GridAt("1 2"), (Lines{"2 just 2 angle 0 at 1,2", "LINE 1,2 1,0", "0 just 2 angle 90 at 1,0"}));
+    EXPECT_EQ(GridAt("11 2"),
+              (Lines{"2 just 0 angle 0 at 11,2", "LINE 11,2 11,0", "10 just 2 angle 90 at 11,0"}));
+    EXPECT_EQ(GridAt("11 6"), (Lines{"6 just 0 angle 0 at 11,6", "10 just 0 angle 90 at 11,6"}));
+}
+
+TEST(DxfGrid, ALeaderWithinTheNoiseOfRoundingIsNoLine) {
+    EXPECT_EQ(GridAt("4 0.000000009").size(), 3U);
+    EXPECT_EQ(GridAt("4 0.000000011").size(), 4U);
 }
 
 TEST(DxfGrid, TakesTheEdgesAndTheThirdLineWhereItHasMoreThanOnePoint) {
@@ -230,7 +245,7 @@ TEST(DxfAnnotations, ComeInTheirOrder) {
     dxf.LabelList.Add({"Label"});
     dxf.DimensionList.Add({1, 1, 2, 1, 1, 3});
     const Lines lines = DescribeByLayer(dxf.Text());
-    ASSERT_EQ(lines.size(), 2U + 4 + 2 + 1 + (4 + 16) + 7);
+    ASSERT_EQ(lines.size(), 2U + 4 + 2 + 1 + (4 + 8) + 7);
     EXPECT_EQ(lines[0], "DIM LINE 8,0 0,6");               // the dimension
     EXPECT_EQ(lines[2], "TXT TEXT 8 at 4,0");              // the first true length
     EXPECT_EQ(lines[6], "DIM LINE 0,0 8,6");               // the diagonal

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <filesystem>
@@ -149,13 +150,33 @@ TEST_F(DxfReader, OpensEveryAnnotation) {
     dxf.LabelList.Add({""});
     dxf.DimensionList.Add({0, 1, 5, 1, 3, 1});
     Put("annotated.dxf", dxf.Text(),
-        R"("counts": {"LINE": {"CUT": 6, "FOLD": 1, "DIM": 23}, "TEXT": {"TEXT": 27}}, )"
+        R"("counts": {"LINE": {"CUT": 6, "FOLD": 1, "DIM": 13}, "TEXT": {"TEXT": 27}}, )"
         R"("texts": ["89.4", "30", "30", "40", "50", "50", "40", "40", "50", "64", )"
         R"("Cone  for \"A&B\" %%c 20 <1>", "", )"
-        R"("0", "0", "0", "0", "0", "0", "40", "40", "40", "40", "40", "40", "80", "40", "Area = 3200"])");
+        R"("0", "0", "0", "30", "0", "80", "40", "0", "40", "30", "40", "80", "80", "40", "Area = 3200"])");
     CDXF empty = dxf;
     empty.SurfaceList = {};
     Put("empty.dxf", empty.Text(), R"("counts": {}, "texts": [], )" + Outline(0, 0));
+    CheckEnds(0);
+}
+
+TEST_F(DxfReader, ReadsTextsAndLayersThatAreNotAscii) {
+    CDXF dxf = Cone(200, 500, 2.4, 3);
+    dxf.CutLayer = "Schnitt \u00fc";
+    dxf.TextLayer = "\u6587\u5b57";
+    dxf.LabelRequested = true;
+    dxf.LabelPoint = C3DPoint{100, 0, 0, 0};
+    for (const char* text : {"Gr\u00f6\u00dfe \u2300 300 \u2013 \u677f\u91d1", "\U0001F527 Zange",
+                             "\\U+00FC, \\U+005CU+00FC", "C:\\Umformen"}) {
+        dxf.LabelList.Add({text});
+    }
+    const std::string text = dxf.Text();
+    EXPECT_TRUE(
+        std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; }));
+    Put("texts.dxf", text,
+        R"("counts": {"LINE": {"Schnitt \u00fc": 2}, "ARC": {"Schnitt \u00fc": 4}, "TEXT": {"\u6587\u5b57": 4}}, )"
+        R"("texts": ["Gr\u00f6\u00dfe \u2300 300 \u2013 \u677f\u91d1", "\ud83d\udd27 Zange", )"
+        R"("\\U+00FC, \\U+005CU+00FC", "C:\\Umformen"])");
     CheckEnds(0);
 }
 

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <map>
+#include <sstream>
 
 #include "core/checked.h"
 #include "core/constants.h"
@@ -75,10 +77,44 @@ TEST(DxfStream, ControlCharactersInTextsAndLayersBecomeBlanks) {
                     "11", " 0 ",  "21", " 0 ", "31", " 0 ", "72", " 0 ", "1",  "a  b c ", "50", " 0 "}));
 }
 
-TEST(DxfStream, TextsStayUtf8) {
-    const std::string text = EntitiesOf(
-        [](DxfStream& out) { out.WriteText("Grö\u00dfe \u2300", {}, 0, "L", TextJustification::Left); });
-    EXPECT_NE(text.find("1\r\nGrö\u00dfe \u2300\r\n"), std::string::npos);
+/// A text and a layer name as they stand in the file.
+std::pair<std::string, std::string> TextAndLayer(const std::string& text, const std::string& layer) {
+    std::istringstream lines(
+        EntitiesOf([&](DxfStream& out) { out.WriteText(text, {}, 0, layer, TextJustification::Left); }));
+    std::map<std::string, std::string> groups;
+    for (std::string code, value; std::getline(lines, code, '\r') && std::getline(lines, value, '\r');) {
+        groups[code.substr(code.find_first_not_of('\n'))] = value.substr(1);
+    }
+    return {groups["1"], groups["8"]};
+}
+
+TEST(DxfStream, WhatIsNotAsciiIsEscapedInTextsAndLayers) {
+    const auto [text, layer] = TextAndLayer("Gr\u00f6\u00dfe \u2300 \u677f~", "Schnitt \u00fc");
+    EXPECT_EQ(text, "Gr\\U+00F6\\U+00DFe \\U+2300 \\U+677F~");
+    EXPECT_EQ(layer, "Schnitt \\U+00FC");
+}
+
+TEST(DxfStream, ACharacterBeyondFourDigitsIsItsTwoUnits) {
+    // U+1F527 less 0x10000 is 0xF527: the upper ten bits are 0x3D, the lower ten 0x127.
+    EXPECT_EQ(TextAndLayer("\U0001F527", "L").first, "\\U+D83D\\U+DD27");
+    EXPECT_EQ(TextAndLayer("\U0010FFFF", "L").first, "\\U+DBFF\\U+DFFF");
+    EXPECT_EQ(TextAndLayer("\uffff\U00010000", "L").first, "\\U+FFFF\\U+D800\\U+DC00");
+}
+
+TEST(DxfStream, ATextThatHoldsAnEscapeKeepsIt) {
+    EXPECT_EQ(TextAndLayer("\\U+00FC", "a\\M+1826E").first, "\\U+005CU+00FC");
+    EXPECT_EQ(TextAndLayer("\\U+00FC", "a\\M+1826E").second, "a\\U+005CM+1826E");
+    EXPECT_EQ(TextAndLayer("\\\\u+00fc\\m+", "L").first, "\\\\U+005Cu+00fc\\U+005Cm+");
+    EXPECT_EQ(TextAndLayer("C:\\Users U+00FC \\U \\", "L").first, "C:\\Users U+00FC \\U \\");
+}
+
+TEST(DxfStream, WhatIsNoUtf8IsReadAsWindows1252) {
+    EXPECT_EQ(TextAndLayer("\xFC\x80", "L").first, "\\U+00FC\\U+20AC");
+    EXPECT_EQ(TextAndLayer("\xC2\x85|\x81", "L").first, "\\U+00C2\\U+2026| ");
+}
+
+TEST(DxfStream, ANewLineOfTheUpperControlCharactersIsABlank) {
+    EXPECT_EQ(TextAndLayer("a\u0085b", "L").first, "a b");
 }
 
 TEST(DxfStream, APolylineHasAHeaderAtTheOriginAndAVertexPerPoint) {
