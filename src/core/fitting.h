@@ -59,14 +59,6 @@ concept FittingClass = std::default_initializable<T> && requires(T fitting) {
 /// Lays the laps of `inputs` along a finished pattern when JoinType asks for them; true when it does.
 bool AddLaps(CRuleSurf& pattern, const FittingInputs& inputs);
 
-/// Develops a fitting that is a piece of another one, whose results take over the warnings.
-template <FittingClass T>
-void DevelopPiece(T& piece, FittingResults& whole) {
-    piece.results.warnings.clear();
-    piece.DevelopModel();
-    whole.warnings.insert(whole.warnings.end(), piece.results.warnings.begin(), piece.results.warnings.end());
-}
-
 /// Any fitting object, shared like every object of a window. Copies of a handle drive the same fitting.
 class FittingHandle {
   public:

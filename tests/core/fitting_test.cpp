@@ -129,18 +129,5 @@ TEST(AddLaps, LaysThemWhenTheJoinAsksForThem) {
     EXPECT_DOUBLE_EQ(strip.List1->Item(3).x, 12);  // two beyond the seam
 }
 
-TEST(DevelopPiece, HandsItsWarningsToTheWhole) {
-    Plate piece;
-    FittingResults whole;
-    whole.warnings.push_back({HalfPatternNotApplicable, true});
-    DevelopPiece(piece, whole);
-    DevelopPiece(piece, whole);
-    ASSERT_EQ(whole.warnings.size(), 5U) << "each piece tells its own once";
-    EXPECT_EQ(whole.warnings[0].messageId, HalfPatternNotApplicable);
-    EXPECT_EQ(whole.warnings[1].messageId, TopLapTooLarge);
-    EXPECT_EQ(whole.warnings[4].messageId, SeamLapTooLarge);
-    EXPECT_TRUE(piece.results.PatternSurface.List1);
-}
-
 }  // namespace
 }  // namespace korvet

@@ -5,7 +5,7 @@
 #include "core/checked.h"
 #include "core/constants.h"
 
-namespace korvet {
+namespace korvet::bend_pieces {
 namespace {
 
 /// Radians by which a cut must at least lie off the axis: nearer than this it runs along it.
@@ -16,7 +16,7 @@ constexpr double LeastMitre = 1e-12;
 /// The axes of the pieces touch the centre line's arc at the middle of each piece. Every cut lies in a plane
 /// through the centre of the bend, half a gore's angle from square, and so crosses the axes
 /// tan(half the angle) * radius from where they touch.
-BendPieces PiecesOfBend(double bendAngle, double bendRadius, int gores, double length1, double length2) {
+Pieces PiecesOf(double bendAngle, double bendRadius, int gores, double length1, double length2) {
     const double g = Quotient(bendAngle, gores);
     const double a = g / 2;
     if (a > QuarterTurn - LeastMitre) {
@@ -33,4 +33,4 @@ BendPieces PiecesOfBend(double bendAngle, double bendRadius, int gores, double l
             .last = {.CPHeight1 = length2, .CPHeight2 = -h, .CPAngle1 = 0, .CPAngle2 = a}};
 }
 
-}  // namespace korvet
+}  // namespace korvet::bend_pieces

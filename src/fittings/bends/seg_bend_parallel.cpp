@@ -5,25 +5,23 @@
 
 namespace korvet {
 
-BendPieces CSegBendParallel::Pieces() const {
-    return PiecesOfBend(BendAngle, BendRadius, BendSegments, Length1, Length2);
+bend_pieces::Pieces CSegBendParallel::Pieces() const {
+    return bend_pieces::PiecesOf(BendAngle, BendRadius, BendSegments, Length1, Length2);
 }
 
 /// The pipe that all pieces are made of, with the seam of the first one.
 CRightCylinder CSegBendParallel::Pipe() const {
     CRightCylinder pipe;
-    pipe.inputs = inputs;
-    pipe.inputs.Dtype = TiltedEnds;
+    pipe.inputs = PieceInputs(inputs, {.Dtype = TiltedEnds, .JoinAngle = inputs.JoinAngle});
+    TakeTemplate(pipe, *this);
     pipe.BaseRad = BaseRad;
-    pipe.TemplateType = TemplateType;
-    pipe.Thickness = Thickness;
     return pipe;
 }
 
 void CSegBendParallel::ConstructModel() {
     RequireWall(BaseRad);
     CRightCylinder pipe = Pipe();
-    results.ModelSurfaceList = AssembleBend(pipe, Pieces(), PI);
+    results.ModelSurfaceList = bend_pieces::Assemble(pipe, Pieces(), PI);
     RequireWithinReach(results.ModelSurfaceList);
 }
 
@@ -31,7 +29,7 @@ void CSegBendParallel::DevelopModel() {
     ConstructModel();
     const int middlePieces = inputs.Miscellaneous == LayOutEveryPiece ? BendSegments - 1 : 1;
     CRightCylinder pipe = Pipe();
-    LayOutBend(pipe, Pieces(), middlePieces, KerfSpacing, PI, results);
+    bend_pieces::LayOut(pipe, Pieces(), middlePieces, KerfSpacing, PI, results);
     RequireWithinReach(results.PatternSurfaceList);
 }
 

@@ -5,6 +5,8 @@
 #include "core/checked.h"
 #include "core/constants.h"
 #include "core/math_module.h"
+#include "fittings/pieces.h"
+#include "fittings/pipes/right_cylinder.h"
 #include "fittings/trim.h"
 #include "fittings/unrolled.h"
 
@@ -102,27 +104,18 @@ CRuleSurf CBranch::BuildBranchSurface() const {
 
 /// The axes cross s = rB / tan(alpha) above the point at which the branch's axis meets the trunk, and the
 /// trunk's ends are told from there.
-CRuleSurf CBranch::BuildTrunkSurface() {
+CRuleSurf CBranch::BuildTrunkSurface() const {
     const double s = Quotient(TrunkRadiusPipeB, std::tan(AxialAngle));
-    trunk_ = CRightCylinder();
-    trunk_.inputs.segs = inputs.segs;
-    trunk_.inputs.JoinAngle = PI;
-    trunk_.BaseRad = TrunkRadiusPipeB;
-    trunk_.CPHeight1 = LengthPipeB - LengthToIP + s;
-    trunk_.CPHeight2 = -(LengthToIP - s);
-    trunk_.ConstructModel();
+    CRightCylinder trunk;
+    trunk.inputs = PieceInputs(inputs, {.JoinAngle = PI, .laps = NoLaps});
+    trunk.BaseRad = TrunkRadiusPipeB;
+    SetEnds(trunk, {.CPHeight1 = LengthPipeB - LengthToIP + s, .CPHeight2 = -(LengthToIP - s)});
+    trunk.ConstructModel();
 
-    CRuleSurf surface;
-    surface.List1 = trunk_.results.ModelSurface.List1;
-    surface.List2 = trunk_.results.ModelSurface.List2;
+    CRuleSurf surface = trunk.results.ModelSurface;
     const PointList hole = BuildIntersectionList(MakeCut(TrunkRadiusPipeA, TrunkRadiusPipeB));
-    if (inputs.HalfPattern) {
-        // The first half of the trunk has y below 0; that is where the second half of the hole lies.
-        surface = TrimSurface(surface, false, false);
-        surface.List3 = SecondHalf(*hole);
-    } else {
-        surface.List3 = hole;
-    }
+    // The first half of the trunk has y below 0; that is where the second half of the hole lies.
+    surface.List3 = inputs.HalfPattern ? SecondHalf(*hole) : hole;
     return surface;
 }
 

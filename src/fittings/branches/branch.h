@@ -2,7 +2,6 @@
 #pragma once
 
 #include "core/fitting.h"
-#include "fittings/pipes/right_cylinder.h"
 #include "fittings/ring.h"
 
 namespace korvet {
@@ -66,14 +65,13 @@ struct CBranch {
     [[nodiscard]] C3DPoint BranchEndCentre(const Cut& cut) const;
     [[nodiscard]] PointList BuildBranchEndList(const C3DPoints& edge, const Cut& cut) const;
     [[nodiscard]] CRuleSurf BuildBranchSurface() const;
-    [[nodiscard]] CRuleSurf BuildTrunkSurface();
+    [[nodiscard]] CRuleSurf BuildTrunkSurface() const;
     [[nodiscard]] C3DPoint FlatHolePoint(const C3DPoint& point, double c) const;
     [[nodiscard]] CRuleSurf DevelopBranch() const;
     [[nodiscard]] CRuleSurf DevelopTrunk() const;
 
     C3DPoint origin_;
-    double lift_ = 0;       ///< height at which the trunk's lower end was built
-    CRightCylinder trunk_;  ///< makes the ends of the trunk
+    double lift_ = 0;  ///< height at which the trunk's lower end was built
 };
 
 }  // namespace korvet
