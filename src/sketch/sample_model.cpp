@@ -3,6 +3,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "core/fitting_surfaces.h"
 #include "core/math_module.h"
 #include "form/message_boxes.h"
 
@@ -70,14 +71,7 @@ FittingHandle SampleFitting(const WindowTable& table, std::size_t page) {
 }
 
 CRuleSurfs SampleModel(const WindowTable& table, std::size_t page) {
-    const FittingHandle fitting = SampleFitting(table, page);
-    fitting.ConstructModel();
-    if (table.multiple) {
-        return fitting.Results().ModelSurfaceList;
-    }
-    CRuleSurfs model;
-    model.Add(fitting.Results().ModelSurface);
-    return model;
+    return MakeSurfaces(SampleFitting(table, page), FittingShape::Model, table.multiple);
 }
 
 }  // namespace korvet
