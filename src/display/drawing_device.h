@@ -53,7 +53,11 @@ class DrawingDevice {
     /// Drawable size in pixels, what world windows are laid over.
     [[nodiscard]] virtual PixelSize ScaleSize() const = 0;
 
-    /// Outer size, used only for its ratio of height to width.
+    /// What ScaleSize will be of the picture that the next Cls or StartPage begins: a window may have been
+    /// resized meanwhile.
+    [[nodiscard]] virtual PixelSize NextSize() const { return ScaleSize(); }
+
+    /// Outer size of that next picture, used only for its ratio of height to width.
     [[nodiscard]] virtual PixelSize OuterSize() const = 0;
 
     /// Pixels to a logical inch in y (96 on a screen).

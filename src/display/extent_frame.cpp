@@ -6,18 +6,8 @@
 namespace korvet {
 namespace {
 
-struct Box {
-    double minX, minY, maxX, maxY;
-};
-
-void TakeIn(std::optional<Box>& box, const C3DPoint& point) {
-    if (!box) {
-        box = {point.x, point.y, point.x, point.y};
-    }
-    box->minX = std::min(box->minX, point.x);
-    box->minY = std::min(box->minY, point.y);
-    box->maxX = std::max(box->maxX, point.x);
-    box->maxY = std::max(box->maxY, point.y);
+void TakeIn(std::optional<Bounds>& bounds, const C3DPoint& point) {
+    TakeIn(bounds, point.x, point.y);
 }
 
 }  // namespace
@@ -28,7 +18,7 @@ const C3DPoints& PointsOf(const PointList& list) {
 }
 
 C3DPoints BuildExtentFrame(const CRuleSurfs& surfaces, const CRuleSurfs& screenSurfaces) {
-    std::optional<Box> box;
+    std::optional<Bounds> box;
     if (surfaces.Count() > 0 && PointsOf(surfaces.Item(1).List1).Count() > 0) {
         TakeIn(box, surfaces.Item(1).List1->Item(1));
     }
@@ -49,6 +39,19 @@ C3DPoints BuildExtentFrame(const CRuleSurfs& surfaces, const CRuleSurfs& screenS
         frame.Add({box->minX, box->minY, 0, PlainStation});
     }
     return frame;
+}
+
+std::optional<Bounds> BoundsOfAll(const CRuleSurfs& surfaces) {
+    std::optional<Bounds> bounds;
+    for (const CRuleSurf& surface : surfaces) {
+        for (const PointList& list :
+             {surface.List1, surface.List2, surface.List3, surface.LapList1, surface.LapList2}) {
+            for (const C3DPoint& point : PointsOf(list)) {
+                TakeIn(bounds, point);
+            }
+        }
+    }
+    return bounds;
 }
 
 }  // namespace korvet

@@ -1,8 +1,11 @@
 // The rectangle about everything that a drawing shows.
 #pragma once
 
+#include <optional>
+
 #include "core/points.h"
 #include "core/rule_surf.h"
+#include "display/bounds.h"
 
 namespace korvet {
 
@@ -14,5 +17,8 @@ const C3DPoints& PointsOf(const PointList& list);
 /// the first point of List1 of the first true surface, where the search begins; List3 and laps do not count.
 /// Empty when there is no point.
 C3DPoints BuildExtentFrame(const CRuleSurfs& surfaces, const CRuleSurfs& screenSurfaces);
+
+/// The box about the points of all lists, List3 and laps too; nothing when there is no point.
+std::optional<Bounds> BoundsOfAll(const CRuleSurfs& surfaces);
 
 }  // namespace korvet

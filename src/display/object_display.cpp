@@ -6,7 +6,9 @@
 #include "core/checked.h"
 #include "display/annotations.h"
 #include "display/coordinate_table.h"
+#include "display/drawing_record.h"
 #include "display/extent_frame.h"
+#include "display/fitted_picture.h"
 #include "display/projection.h"
 
 namespace korvet {
@@ -31,6 +33,12 @@ double FittingZoom(double worldExtents, double windowRatio, double dx, double dy
     return Quotient(worldExtents, dy * windowRatio) * ZoomMargin;
 }
 
+void DrawSurfaces(const Drawing& drawing, const CRuleSurfs& surfaces) {
+    for (const CRuleSurf& surface : surfaces) {
+        drawing.DrawSurface(surface);
+    }
+}
+
 bool NamesFrame(const CDimension& dimension) {
     return dimension.ListNo1 == ExtentFrameList || dimension.ListNo2 == ExtentFrameList;
 }
@@ -39,49 +47,68 @@ bool NamesFrame(const CDimension& dimension) {
 
 void CObjectDisplay::DisplayObject() {
     Warnings.clear();
+    Pass pass = NewPass();
+    BuildWithWarnings(pass);
+    std::optional<DrawingRecord> picture;
+    if (Device() != nullptr) {
+        picture.emplace(*Device());
+    }
+    DrawingRecord* const device = picture ? &*picture : nullptr;
+    if (NewDrawing(device, {}).CanDraw()) {
+        pass.window = FitScaleWindow(pass.view, pass.worldExtents);
+    }
+    const Drawing drawing = NewDrawing(device, pass.window);
+    DrawBelow(drawing, pass);
+    if (IsDrawnAgain(pass)) {
+        Build(pass);
+    }
+    DrawAbove(drawing, pass);
+    Keep(std::move(pass));
     if (DisplayDevice != nullptr) {
         DisplayDevice->Cls(Colors.DisplayBackColor);
     }
-    SelectDevice();
-    if (ViewList->Last().Patternview) {
-        DisplayPattern();
-        DisplayAnnotations();
-    } else {
-        DisplayModel();
-    }
-    if (LabelPoint) {
-        AddLabel();
-    }
-}
-
-void CObjectDisplay::SelectDevice() const {
     if (PrintRequested && PrintDevice != nullptr) {
         PrintDevice->StartPage();
     }
+    if (picture) {
+        picture->PlayOn(*Device());
+    }
 }
 
-void CObjectDisplay::PreparePattern() {
-    RunFitting(&FittingHandle::DevelopModel);
-    if (Multiple) {
-        Surfaces = Fitting().Results().PatternSurfaceList;
-        for (CRuleSurf& surface : Surfaces) {
+CObjectDisplay::Pass CObjectDisplay::NewPass() const {
+    Pass pass;
+    pass.view = ViewList->Last();
+    pass.worldExtents = ViewList->Count() == 1 ? std::max(FirstWidth, FirstHeight) : WorldExtents;
+    pass.window = DeviceWindow();
+    pass.extentFrame = extentFrame_;
+    return pass;
+}
+
+/// Makes the surfaces of a pass and, where its annotations are drawn from it, the frame about them.
+void CObjectDisplay::Build(Pass& pass) const {
+    const bool pattern = pass.view.Patternview;
+    pass.surfaces = MakeSurfaces(Fitting(), pattern ? FittingShape::Pattern : FittingShape::Model, Multiple);
+    pass.screenSurfaces = {};
+    for (CRuleSurf& surface : pass.surfaces) {
+        if (pattern) {
             PlacePattern(surface);
         }
-    } else {
-        Surface = Fitting().Results().PatternSurface;
-        PlacePattern(Surface);
-        KeepSingleSurface();
+        pass.screenSurfaces.Add(pattern ? surface : ProjectSurface(surface, pass.view));
+    }
+    if (pattern && NeedsFrame()) {
+        pass.extentFrame = korvet::BuildExtentFrame(pass.surfaces, pass.screenSurfaces);
     }
 }
 
-void CObjectDisplay::PrepareModel() {
-    RunFitting(&FittingHandle::ConstructModel);
-    if (Multiple) {
-        Surfaces = Fitting().Results().ModelSurfaceList;
-    } else {
-        Surface = Fitting().Results().ModelSurface;
-        KeepSingleSurface();
+/// The first build of a pass, whose warnings are told: a second one would only repeat them.
+void CObjectDisplay::BuildWithWarnings(Pass& pass) {
+    try {
+        Build(pass);
+    } catch (...) {
+        Warnings = Fitting().Results().warnings;
+        throw;
     }
+    Warnings = Fitting().Results().warnings;
 }
 
 const FittingHandle& CObjectDisplay::Fitting() const {
@@ -91,112 +118,107 @@ const FittingHandle& CObjectDisplay::Fitting() const {
     return *NewObject;
 }
 
-void CObjectDisplay::RunFitting(void (FittingHandle::*operation)() const) {
-    const FittingHandle& fitting = Fitting();
-    const auto keepWarnings = [&] {
-        const std::vector<FittingWarning>& added = fitting.Results().warnings;
-        Warnings.insert(Warnings.end(), added.begin(), added.end());
-    };
-    try {
-        (fitting.*operation)();
-    } catch (...) {
-        keepWarnings();
-        throw;
-    }
-    keepWarnings();
-}
-
 void CObjectDisplay::PlacePattern(CRuleSurf& surface) const {
     surface.Rotate(Axis::Z, RotationPoint, RotationAngle);
     surface.Move(MovePoint1, MovePoint2);
 }
 
-void CObjectDisplay::KeepSingleSurface() {
-    Surfaces = {};
-    if (PointsOf(Surface.List1).Count() > 0) {
-        Surfaces.Add(Surface);
+bool CObjectDisplay::NeedsFrame() const {
+    return CoordGridRequested || FrameRequested ||
+           std::any_of(DimensionList->begin(), DimensionList->end(), NamesFrame);
+}
+
+bool CObjectDisplay::IsDrawnAgain(const Pass& pass) const {
+    return pass.view.Patternview && (FrameRequested || CoordGridRequested);
+}
+
+/// Surfaces and annotations: what lies below the lines of a pattern that is drawn again.
+void CObjectDisplay::DrawBelow(const Drawing& drawing, const Pass& pass) const {
+    DrawSurfaces(drawing, pass.screenSurfaces);
+    if (pass.view.Patternview) {
+        DisplayAnnotations(drawing, pass);
     }
 }
 
-void CObjectDisplay::DisplayPattern() {
-    PreparePattern();
-    PrepareView();
-    const Drawing drawing = NewDrawing();
-    for (const CRuleSurf& surface : Surfaces) {
-        drawing.DrawSurface(surface);
-        screenSurfaces_.Add(surface);
+void CObjectDisplay::DrawAbove(const Drawing& drawing, const Pass& pass) const {
+    if (IsDrawnAgain(pass)) {
+        DrawSurfaces(drawing, pass.screenSurfaces);
+    }
+    if (LabelPoint) {
+        DrawLabel(drawing);
     }
 }
 
-void CObjectDisplay::DisplayModel() {
-    PrepareModel();
-    PrepareView();
-    const Drawing drawing = NewDrawing();
-    for (const CRuleSurf& surface : Surfaces) {
-        const CRuleSurf work = ProjectSurface(surface, ViewPoint);
-        drawing.DrawSurface(work);
-        screenSurfaces_.Add(work);
-    }
+void CObjectDisplay::Keep(Pass pass) {
+    ViewPoint = pass.view;
+    WorldExtents = pass.worldExtents;
+    Surfaces = std::move(pass.surfaces);
+    screenSurfaces_ = std::move(pass.screenSurfaces);
+    extentFrame_ = std::move(pass.extentFrame);
+    (Device() == DisplayDevice ? displayWindow_ : printWindow_) = pass.window;
 }
 
-void CObjectDisplay::PrepareView() {
-    ViewPoint = ViewList->Last();
-    if (ViewList->Count() == 1) {
-        WorldExtents = std::max(FirstWidth, FirstHeight);
-    }
-    ApplyFitScale();
-    screenSurfaces_ = {};
-}
-
-WorldWindow& CObjectDisplay::DeviceWindow() {
+const WorldWindow& CObjectDisplay::DeviceWindow() const {
     return Device() == DisplayDevice ? displayWindow_ : printWindow_;
 }
 
-void CObjectDisplay::ApplyFitScale() {
-    if (NewDrawing().CanDraw()) {
-        DeviceWindow() =
-            FittedWindow({WorldExtents, ViewPoint.ZoomFactor, ViewPoint.PanX, ViewPoint.PanY, TextSize},
-                         Device()->OuterSize());
-    }
+WorldWindow CObjectDisplay::FitScaleWindow(const CViewPoint& view, double worldExtents) const {
+    return FittedWindow({worldExtents, view.ZoomFactor, view.PanX, view.PanY, TextSize},
+                        Device()->OuterSize());
 }
 
-Drawing CObjectDisplay::NewDrawing() const {
-    const WorldWindow& window = Device() == DisplayDevice ? displayWindow_ : printWindow_;
-    return {Device(), window,   Colors,      PrintRequested,
-            TextSize, Decimals, DecimalMark, displayWindow_.ScaleHeight / 100};
+Drawing CObjectDisplay::NewDrawing(DrawingDevice* device, const WorldWindow& window) const {
+    // The cross of a reference point keeps on paper the arm that it has on the screen.
+    const WorldWindow& crossWindow = Device() == DisplayDevice ? window : displayWindow_;
+    return {device,   window,   Colors,      PrintRequested,
+            TextSize, Decimals, DecimalMark, crossWindow.ScaleHeight / 100};
 }
 
-void CObjectDisplay::DisplayAnnotations() {
-    const Drawing drawing = NewDrawing();
-    const AnnotatedPattern pattern = {screenSurfaces_, extentFrame_};
+void CObjectDisplay::DisplayAnnotations(const Drawing& drawing, const Pass& pass) const {
+    const AnnotatedPattern pattern = {pass.screenSurfaces, pass.extentFrame};
     if (CoordGridRequested) {
-        BuildExtentFrame();
         DisplayDimensionGrid(drawing, pattern);
-    }
-    if (std::any_of(DimensionList->begin(), DimensionList->end(), NamesFrame)) {
-        BuildExtentFrame();
     }
     DisplayDimensions(drawing, pattern, *DimensionList);
     if (TrueLengthsRequested) {
-        DisplayTrueLengths(drawing, screenSurfaces_);
+        DisplayTrueLengths(drawing, pass.screenSurfaces);
     }
     if (DiagonalsRequested) {
-        DisplayDiagonals(drawing, screenSurfaces_);
+        DisplayDiagonals(drawing, pass.screenSurfaces);
     }
     if (CoordTableRequested) {
-        DisplayCoordinates(drawing, screenSurfaces_, Multiple);
+        DisplayCoordinates(drawing, pass.screenSurfaces, Multiple);
     }
     if (FrameRequested) {
-        BuildExtentFrame();
-        DrawExtentFrame(drawing, extentFrame_, true);
-    }
-    if (FrameRequested || CoordGridRequested) {
-        DisplayPattern();
+        DrawExtentFrame(drawing, pass.extentFrame, true);
     }
 }
 
+void CObjectDisplay::DrawPicture(DrawingDevice& picture) const {
+    const Pass pass = {ViewPoint, WorldExtents, {}, Surfaces, screenSurfaces_, extentFrame_};
+    const auto draw = [&](DrawingRecord& device, const WorldWindow& window) {
+        Drawing drawing = NewDrawing(&device, window);
+        drawing.CrossArm = window.ScaleHeight / 100;
+        DrawBelow(drawing, pass);
+        DrawAbove(drawing, pass);
+    };
+    std::optional<Bounds> points = BoundsOfAll(screenSurfaces_);
+    if (LabelPoint) {
+        TakeIn(points, LabelPoint->x, LabelPoint->y);
+    }
+    DrawingRecord record(picture);
+    DrawFitted(record, points, draw);
+    picture.Cls(Colors.DisplayBackColor);
+    record.PlayOn(picture);
+}
+
 void CObjectDisplay::AddLabel() const {
-    const Drawing drawing = NewDrawing();
+    if (LabelPoint) {
+        DrawLabel(NewDrawing(Device(), DeviceWindow()));
+    }
+}
+
+void CObjectDisplay::DrawLabel(const Drawing& drawing) const {
     C3DPoint point = LabelPoint.value();
     for (const CLabel& label : *LabelList) {
         drawing.DrawHorizontalText(point, label.LabelString, Justification::MiddleCentre);
@@ -230,27 +252,28 @@ void CObjectDisplay::BuildExtentFrame() {
 void CObjectDisplay::ZoomExtents() {
     BuildExtentFrame();
     if (extentFrame_.Count() > 0) {
-        ZoomToCorners(extentFrame_.Item(1), extentFrame_.Item(3));
+        ZoomToCorners(extentFrame_.Item(1), extentFrame_.Item(3), std::fabs(TextSize));
     }
 }
 
 void CObjectDisplay::ZoomWindow(double x1, double y1, double x2, double y2) {
     ZoomToCorners({std::min(x1, x2), std::min(y1, y2), 0, PlainStation},
-                  {std::max(x1, x2), std::max(y1, y2), 0, PlainStation});
+                  {std::max(x1, x2), std::max(y1, y2), 0, PlainStation}, 0);
 }
 
-void CObjectDisplay::ZoomToCorners(const C3DPoint& a, const C3DPoint& b) {
+/// Fits the area with `room` about it.
+void CObjectDisplay::ZoomToCorners(const C3DPoint& a, const C3DPoint& b, double room) {
     CViewPoint view = CurrentOrDefaultView(*ViewList);
     const double dx = b.x - a.x;
     const double dy = b.y - a.y;
-    view.PanX = dx / 2 + a.x;
-    view.PanY = dy / 2 + a.y;
-    const WorldWindow& window = DeviceWindow();
-    if (dx == 0 || dy == 0 || window.ScaleHeight == 0) {
+    if (dx == 0 || dy == 0 || !NewDrawing(Device(), {}).CanDraw()) {
         return;
     }
+    const WorldWindow window = FitScaleWindow(view, WorldExtents);
     const double windowRatio = std::fabs(Quotient(window.ScaleWidth, window.ScaleHeight));
-    view.ZoomFactor = FittingZoom(WorldExtents, windowRatio, dx, dy);
+    view.PanX = dx / 2 + a.x;
+    view.PanY = dy / 2 + a.y;
+    view.ZoomFactor = FittingZoom(WorldExtents, windowRatio, dx + 2 * room, dy + 2 * room);
     ViewList->Add(view);
 }
 

@@ -8,7 +8,7 @@
 #include "core/dimensions.h"
 #include "core/display_colors.h"
 #include "core/file_store.h"
-#include "core/fitting.h"
+#include "core/fitting_surfaces.h"
 #include "core/points.h"
 #include "core/rule_surf.h"
 #include "display/drawing.h"
@@ -18,10 +18,10 @@
 
 namespace korvet {
 
-/// The display of one fitting window. The window sets the members and calls DisplayObject after every change;
-/// nothing drawn is kept. Lengths are in the user's unit, angles radians. Without a device, or with one of no
-/// size, the surfaces are made and nothing is drawn. What a fitting or the arithmetic throws
-/// (ArithmeticError, ListError) goes through to the caller; an empty ViewList or no NewObject is a ListError.
+/// The display of one fitting window. The window sets the members and calls DisplayObject after every change.
+/// Lengths are in the user's unit, angles radians. Without a device, or with one of no size, the surfaces are
+/// made and nothing is drawn. What a fitting or the arithmetic throws (ArithmeticError, ListError) goes
+/// through to the caller; an empty ViewList or no NewObject is a ListError.
 class CObjectDisplay {
   public:
     float TextSize = 2;                      ///< height of drawn text
@@ -49,22 +49,22 @@ class CObjectDisplay {
 
     // What a pass leaves behind.
     CRuleSurfs Surfaces;                   ///< true surfaces; empty when the build made none
-    CRuleSurf Surface;                     ///< the single one of a fitting that has one
     CViewPoint ViewPoint;                  ///< view of the pass
     double WorldExtents = 200;             ///< world size that fills the shorter side of the device at zoom 1
-    std::vector<FittingWarning> Warnings;  ///< of the builds of the last DisplayObject, in their order
+    std::vector<FittingWarning> Warnings;  ///< of the build of the last DisplayObject, in their order
 
     /// Where a pass draws: PrintDevice while PrintRequested, else DisplayDevice.
     [[nodiscard]] DrawingDevice* Device() const { return PrintRequested ? PrintDevice : DisplayDevice; }
 
-    /// A whole pass: clears the screen, draws the pattern with its annotations or the model, whichever the
-    /// current view shows, and the label block. A grid or frame has the pattern made and drawn once more, so
-    /// that its own lines lie on top.
+    /// A whole pass: makes the pattern with its annotations or the model, whichever the current view shows,
+    /// and the label block, then clears the screen and shows them. A grid or frame has the pattern made and
+    /// drawn once more, so that its own lines lie on top. A pass that throws leaves the picture, and what the
+    /// pass before left behind, as they were, but for the warnings.
     void DisplayObject();
 
-    /// Makes and draws the pattern, or the model, under the current view.
-    void DisplayPattern();
-    void DisplayModel();
+    /// Draws what the last DisplayObject showed onto a picture of its own: all of it, with laps, annotations
+    /// and label block, as large as the picture has room for it. Nothing is built.
+    void DrawPicture(DrawingDevice& picture) const;
 
     /// Draws the label block at LabelPoint, which must be set, line below line.
     void AddLabel() const;
@@ -81,8 +81,10 @@ class CObjectDisplay {
     /// and FileError; there is then no half-written file.
     void PrintCoordinateTable(FileStore& files, const std::string& path);
 
-    /// Adds a view that shows all that was drawn last, or the given window of it (corners in any order), with
-    /// a margin of one part in a hundred. No view is added for an area without width or height.
+    /// Adds a view that shows the rectangle about all that was drawn last, or the given window of it (corners
+    /// in any order), with a margin of one part in a hundred. The extents get room for the text height as
+    /// well, by which a drawing sits off the centre. The view fits the size that the device has now. No view
+    /// is added for an area without width or height.
     void ZoomExtents();
     void ZoomWindow(double x1, double y1, double x2, double y2);
 
@@ -93,20 +95,33 @@ class CObjectDisplay {
     [[nodiscard]] const WorldWindow& DisplayWindow() const { return displayWindow_; }
 
   private:
-    void SelectDevice() const;
-    void PreparePattern();
-    void PrepareModel();
-    void RunFitting(void (FittingHandle::*operation)() const);
+    /// What one pass shows, and where.
+    struct Pass {
+        CViewPoint view;
+        double worldExtents = 0;
+        WorldWindow window;
+        CRuleSurfs surfaces;
+        CRuleSurfs screenSurfaces;
+        C3DPoints extentFrame;
+    };
+
+    [[nodiscard]] Pass NewPass() const;
+    void Build(Pass& pass) const;
+    void BuildWithWarnings(Pass& pass);
     void PlacePattern(CRuleSurf& surface) const;
-    void KeepSingleSurface();
-    void PrepareView();
-    void ApplyFitScale();
-    void DisplayAnnotations();
+    [[nodiscard]] bool NeedsFrame() const;
+    [[nodiscard]] bool IsDrawnAgain(const Pass& pass) const;
+    void DrawBelow(const Drawing& drawing, const Pass& pass) const;
+    void DrawAbove(const Drawing& drawing, const Pass& pass) const;
+    void DisplayAnnotations(const Drawing& drawing, const Pass& pass) const;
+    void DrawLabel(const Drawing& drawing) const;
+    void Keep(Pass pass);
     void BuildExtentFrame();
-    void ZoomToCorners(const C3DPoint& a, const C3DPoint& b);
+    void ZoomToCorners(const C3DPoint& a, const C3DPoint& b, double room);
+    [[nodiscard]] WorldWindow FitScaleWindow(const CViewPoint& view, double worldExtents) const;
     [[nodiscard]] const FittingHandle& Fitting() const;
-    [[nodiscard]] WorldWindow& DeviceWindow();
-    [[nodiscard]] Drawing NewDrawing() const;
+    [[nodiscard]] const WorldWindow& DeviceWindow() const;
+    [[nodiscard]] Drawing NewDrawing(DrawingDevice* device, const WorldWindow& window) const;
 
     CRuleSurfs screenSurfaces_;
     C3DPoints extentFrame_;      ///< of the latest pass that needed it

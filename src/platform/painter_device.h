@@ -26,7 +26,7 @@ void PrepareDrawing(QPainter& painter);
 class PainterDevice : public DrawingDevice {
   public:
     void StartPage() override {}
-    [[nodiscard]] PixelSize OuterSize() const override { return ScaleSize(); }
+    [[nodiscard]] PixelSize OuterSize() const override { return NextSize(); }
     [[nodiscard]] double LogicalDpiY() const override;
     [[nodiscard]] PixelSize TextExtent(const std::string& text, double points) const override;
     void Polyline(const Pen& pen, std::span<const PixelPoint> points) override;

@@ -71,8 +71,6 @@ Outcome CFittingWindow::BuildFitting() {
     }
     fitting->Inputs().Dtype = dtype;
     hasModel = true;
-    edited = false;
-    ResetFieldColours();
     return Passed;
 }
 
@@ -180,6 +178,8 @@ void CFittingWindow::DevelopAndDisplay() {
         ShowWarnings(display.Warnings);  // they came before what ended the build
         throw;
     }
+    edited = false;
+    ResetFieldColours();
     UpdateSettings(*this);
     LockType(*this);
     ShowWarnings(display.Warnings);

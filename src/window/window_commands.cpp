@@ -119,6 +119,7 @@ Outcome CFittingWindow::AddViewOfExtents() {
         ShowPlain(context_.ui, context_.Message(NoExtents));
         return Refused;
     }
+    display.TextSize = DrawnTextSize();  // the picture to come sits by this much off the centre
     display.ZoomExtents();
     return Passed;
 }

@@ -91,6 +91,35 @@ class DrawingAreaTest : public QObject {
         QVERIFY(desk.shell.ui.messages.empty());
     }
 
+    void extentsFitTheSizeAfterAResize() {
+        Desk desk;
+        CFittingWindow& window = desk.New();
+        TypeCone(desk);
+        Click(desk.window, "btnView_9");
+        desk.window.Frame().RunMenu("mnuZoomExtents");
+        auto& area = static_cast<DrawingArea&>(Drawing(desk));
+        const QSize before = area.size();
+        for (const QSize size : {QSize(900, 900), QSize(1300, 500)}) {
+            desk.window.resize(size);
+            QApplication::processEvents();
+            QVERIFY(area.size() != before);
+            desk.window.Frame().RunMenu("mnuZoomExtents");
+            double spanX = 0;
+            double spanY = 0;
+            for (const CRuleSurf& surface : window.display.Surfaces) {
+                for (const PointList& list : {surface.List1, surface.List2}) {
+                    for (const C3DPoint& point : *list) {
+                        const QPointF place = area.ToWidget(point.x, point.y);
+                        QVERIFY(QRectF(area.rect()).contains(place));
+                        spanX = std::max(spanX, std::fabs(place.x() - area.width() / 2.0));
+                        spanY = std::max(spanY, std::fabs(place.y() - area.height() / 2.0));
+                    }
+                }
+            }
+            QVERIFY(spanX > 0.45 * area.width() || spanY > 0.45 * area.height());
+        }
+    }
+
     void thePictureHasEveryPixelOfTheScreen() {
         Desk desk;
         CFittingWindow& window = desk.New();

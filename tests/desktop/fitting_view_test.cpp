@@ -40,6 +40,27 @@ class CursorWatch : public QObject {
 class FittingViewTest : public QObject {
     Q_OBJECT
   private slots:
+    void aBuildThatFailsKeepsThePictureAndTheRedBoxes() {
+        Desk desk;
+        CFittingWindow& window = desk.New();
+        TypeCone(desk);
+        Click(desk.window, "btnView_9");
+        desk.window.Frame().RunMenu("mnuZoomExtents");
+        QVERIFY(!IsRed(Box(desk, 3)));
+        const QImage picture = Drawing(desk).grab().toImage();
+        Type(Box(desk, 3), ("1" + std::string(200, '0')).c_str());  // passes the checks and has no shape
+        Click(desk.window, "btnRedraw");
+        QCOMPARE(desk.shell.ui.Texts(),
+                 std::vector<std::string>{"This fitting cannot be made with these sizes"});
+        QVERIFY(IsRed(Box(desk, 3)));
+        QVERIFY(!window.hasModel);
+        QCOMPARE(Drawing(desk).grab().toImage(), picture);
+        Type(Box(desk, 3), "310");
+        Click(desk.window, "btnRedraw");
+        QVERIFY(!IsRed(Box(desk, 3)));
+        QVERIFY(Drawing(desk).grab().toImage() != picture);
+    }
+
     void typesBuildsRefusesAndMends() {
         Desk desk;
         CFittingWindow& window = desk.New();

@@ -1,4 +1,4 @@
-// Fittings and readable call lists for the tests of the display.
+// Surfaces and readable call lists for the tests of the display.
 #pragma once
 
 #include <initializer_list>
@@ -7,7 +7,8 @@
 #include <vector>
 
 #include "core/display_colors.h"
-#include "core/fitting.h"
+#include "core/rule_surf.h"
+#include "tests/support/canned_fitting.h"
 #include "tests/support/recording_device.h"
 
 namespace korvet {
@@ -27,33 +28,6 @@ inline CRuleSurf Sheet(double x = 0, double y = 0) {
     sheet.List2 = Points({{x, y, 0, RuleStation}, {x + 30, y, 0, RuleStation}});
     return sheet;
 }
-
-/// A fitting whose builds put forth what the test laid into it.
-struct CannedFitting {
-    FittingInputs inputs;
-    FittingResults results;
-    FittingResults canned;
-    int developed = 0;
-    int constructed = 0;
-    bool fails = false;  ///< a build leaves its warnings and fails
-
-    void ConstructModel() {
-        ++constructed;
-        Produce();
-    }
-    void DevelopModel() {
-        ++developed;
-        Produce();
-    }
-
-  private:
-    void Produce() {
-        results = canned;
-        if (fails) {
-            throw ArithmeticError("no shape");
-        }
-    }
-};
 
 /// The calls as text, one each: "cut 10,20 30,20", "fold ...", "mark ...", "dotted ...", "text A1", "clear",
 /// "page". Meant for the screen, where the colour says what a line means.

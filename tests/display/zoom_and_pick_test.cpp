@@ -165,6 +165,55 @@ TEST_F(Zoom, ExtentsFitTheSheet) {
     EXPECT_NEAR(display.DisplayWindow().ScaleHeight, -40 / 0.99, 1e-9);
 }
 
+/// Whether a line of the last picture leaves its device.
+bool IsCut(const RecordingDevice& device) {
+    bool cut = false;
+    std::size_t first = device.calls.size();
+    while (device.calls.at(--first).kind != RecordingDevice::Kind::Cls) {
+        for (const PixelPoint& point : device.calls[first].points) {
+            cut = cut || point.x < 0 || point.y < 0 || point.x > device.scaleSize.width ||
+                  point.y > device.scaleSize.height;
+        }
+    }
+    return cut;
+}
+
+TEST_F(Zoom, ExtentsAreNotCutAtAnyTextSize) {
+    for (const bool pattern : {true, false}) {
+        for (const PixelSize size : {PixelSize{400, 200}, {200, 400}, {300, 300}, {300, 400}}) {
+            for (const float textSize : {0.0F, 0.5F, 2.0F, 30.0F, 1000.0F, -5.0F}) {
+                AddView(pattern);
+                screen.scaleSize = screen.outerSize = size;
+                display.TextSize = textSize;
+                display.RotationAngle = 0.5;
+                display.DisplayObject();
+                display.ZoomExtents();
+                display.DisplayObject();
+                EXPECT_FALSE(IsCut(screen)) << size.width << " by " << size.height << " text " << textSize;
+            }
+        }
+    }
+}
+
+TEST_F(Zoom, TheTextHeightTakesItsRoomFromTheExtentsAlone) {
+    display.TextSize = 5;
+    display.ZoomExtents();  // 30 by 40 and twice 5 about it
+    EXPECT_NEAR(Last().ZoomFactor, 4 * 0.99, 1e-9);
+    EXPECT_NEAR(Last().PanX, 15, 1e-9);
+    EXPECT_NEAR(Last().PanY, 20, 1e-9);
+    display.ZoomWindow(0, 0, 30, 40);
+    EXPECT_NEAR(Last().ZoomFactor, 5 * 0.99, 1e-9);
+}
+
+TEST_F(Zoom, ExtentsFitTheSizeThatTheScreenHasNow) {
+    screen.nextSize = screen.outerSize = {60, 200};  // drawn at 400 by 200, narrow since
+    display.ZoomExtents();
+    EXPECT_NEAR(Last().ZoomFactor, 200.0 / 30 * 0.99, 1e-9) << "measured by its width";
+    screen.scaleSize = {60, 200};
+    display.DisplayObject();
+    EXPECT_FALSE(IsCut(screen));
+}
+
 TEST_F(Zoom, WithoutAnEarlierViewTheDefaultOneIsCopied) {
     display.ViewList = std::make_shared<CViewList>();
     display.ZoomWindow(0, 0, 100, 100);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -29,6 +30,7 @@ class RecordingDevice final : public DrawingDevice {
 
     PixelSize scaleSize = {400, 200};
     PixelSize outerSize = {400, 200};
+    std::optional<PixelSize> nextSize;  ///< the window was resized since its picture was drawn
     double dpi = 96;
     PixelSize letter = {8, 16};  ///< pixels of a letter of 10 points; other sizes in proportion
     std::vector<Call> calls;
@@ -36,6 +38,7 @@ class RecordingDevice final : public DrawingDevice {
     void Cls(Color backColor) override { calls.push_back({.kind = Kind::Cls, .color = backColor}); }
     void StartPage() override { calls.push_back({.kind = Kind::StartPage}); }
     [[nodiscard]] PixelSize ScaleSize() const override { return scaleSize; }
+    [[nodiscard]] PixelSize NextSize() const override { return nextSize.value_or(scaleSize); }
     [[nodiscard]] PixelSize OuterSize() const override { return outerSize; }
     [[nodiscard]] double LogicalDpiY() const override { return dpi; }
 

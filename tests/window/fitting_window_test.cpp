@@ -264,26 +264,6 @@ TEST_F(FittingWindowTest, SettingsReachTheFitting) {
     EXPECT_EQ(shell.frame.statusText, " Segments = 48 | Thickness = 0 | Join Angle = 90");
 }
 
-TEST_F(FittingWindowTest, LapWarningsAreShownAfterTheOperationInAPlainBox) {
-    const auto window = Cone();
-    window->settings.JoinType = 1;
-    window->settings.LapSize0 = 1000;
-    window->ClickView(PatternButton);
-    EXPECT_TRUE(window->hasModel);
-    ExpectPlain("Top lap is too large");
-}
-
-TEST_F(FittingWindowTest, ASizeThatEndsTheArithmeticEndsInAMessage) {
-    const auto window = Cone();
-    window->ChangeBox(3, "1e308");
-    window->ChangeBox(5, "1e308");
-    window->ClickView(PatternButton);
-    ASSERT_EQ(shell.ui.messages.size(), 1U);
-    EXPECT_FALSE(shell.ui.messages[0].detail.empty());
-    EXPECT_FALSE(window->hasModel);
-    EXPECT_EQ(window->views->Count(), 0U);
-}
-
 TEST_F(FittingWindowTest, TheLabelDialogSetsTheCommentsAndArmsTheMouse) {
     const auto window = ConeWithView(PatternButton);
     shell.ui.onLabel = [](LabelDialog& dialog) {

@@ -9,9 +9,8 @@ void ScreenDevice::Cls(Color backColor) {
         painter_.end();
     }
     const double ratio = pixelRatio();
-    const QSize wanted = size() * ratio;
-    if (image_.size() != wanted) {
-        image_ = QImage(wanted, QImage::Format_RGB32);
+    if (image_.size() != NextPixels()) {
+        image_ = QImage(NextPixels(), QImage::Format_RGB32);
     }
     if (image_.isNull()) {
         return;
@@ -26,6 +25,10 @@ void ScreenDevice::Cls(Color backColor) {
 
 PixelSize ScreenDevice::ScaleSize() const {
     return {static_cast<double>(image_.width()), static_cast<double>(image_.height())};
+}
+
+PixelSize ScreenDevice::NextSize() const {
+    return {static_cast<double>(NextPixels().width()), static_cast<double>(NextPixels().height())};
 }
 
 QPainter* ScreenDevice::Painter() {

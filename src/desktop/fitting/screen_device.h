@@ -19,15 +19,18 @@ class ScreenDevice final : public PainterDevice {
 
     void Cls(Color backColor) override;
     [[nodiscard]] PixelSize ScaleSize() const override;
+    [[nodiscard]] PixelSize NextSize() const override;
 
     [[nodiscard]] const QImage& Picture() const { return image_; }
     [[nodiscard]] double Ratio() const { return image_.devicePixelRatio(); }
 
   protected:
     [[nodiscard]] QPainter* Painter() override;
-    [[nodiscard]] double PixelRatio() const override { return image_.devicePixelRatio(); }
+    [[nodiscard]] double PixelRatio() const override { return pixelRatio(); }
 
   private:
+    [[nodiscard]] QSize NextPixels() const { return size() * pixelRatio(); }
+
     QImage image_;
     QPainter painter_;
 };

@@ -1,0 +1,71 @@
+#include "display/drawing_record.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <array>
+
+#include "tests/support/recording_device.h"
+
+namespace korvet {
+namespace {
+
+using Kind = RecordingDevice::Kind;
+
+constexpr std::array Path = {PixelPoint{10, 20}, PixelPoint{-5, 30}, PixelPoint{7, 7}};
+
+TEST(DrawingRecord, PlaysLinesAndTextsInTheirOrder) {
+    RecordingDevice device;
+    DrawingRecord record(device);
+    record.Polyline({1, DrawStyle::Solid, 3}, Path);
+    record.TextOut("one", {4, 5}, {-12, 900}, 77);
+    record.Polyline({2, DrawStyle::Dotted, 1}, {});
+    record.Polyline({3, DrawStyle::Dotted, 1}, std::span(Path).first(2));
+    EXPECT_TRUE(device.calls.empty());
+    record.PlayOn(device);
+    ASSERT_EQ(device.calls.size(), 4U);
+    EXPECT_EQ(device.calls[0].pen, (Pen{1, DrawStyle::Solid, 3}));
+    EXPECT_THAT(device.calls[0].points, testing::ElementsAreArray(Path));
+    EXPECT_EQ(device.calls[1].text, "one");
+    EXPECT_EQ(device.calls[1].points.at(0), (PixelPoint{4, 5}));
+    EXPECT_EQ(device.calls[1].font, (TextFont{-12, 900}));
+    EXPECT_EQ(device.calls[1].color, 77);
+    EXPECT_EQ(device.calls[2].kind, Kind::Polyline);
+    EXPECT_TRUE(device.calls[2].points.empty());
+    EXPECT_EQ(device.calls[3].points.size(), 2U);
+    EXPECT_EQ(device.calls[3].pen, (Pen{3, DrawStyle::Dotted, 1}));
+}
+
+TEST(DrawingRecord, IsAsLargeAsTheNextPicture) {
+    RecordingDevice device(400, 200);
+    device.nextSize = PixelSize{100, 50};
+    device.outerSize = {10, 5};
+    device.dpi = 300;
+    const DrawingRecord record(device);
+    EXPECT_EQ(record.ScaleSize().width, 100);
+    EXPECT_EQ(record.OuterSize().width, 10);
+    EXPECT_EQ(record.LogicalDpiY(), 300);
+    EXPECT_EQ(record.TextExtent("ab", 10).width, 16);
+}
+
+TEST(DrawingRecord, ExtentHoldsLinesAndTexts) {
+    RecordingDevice device;
+    DrawingRecord record(device);
+    EXPECT_FALSE(record.Extent());
+    record.Polyline({}, Path);
+    EXPECT_EQ(record.Extent(), (Bounds{-5, 7, 10, 30}));
+    // 10 points of 96 to the inch are 13 and a third pixels; 12 pixels are 9 points.
+    record.TextOut("abcde", {100, 40}, {-12, 0}, 0);
+    EXPECT_EQ(record.Extent(), (Bounds{-5, 7, 100 + 5 * 7.2, 40 + 14.4}));
+    record.Clear();
+    EXPECT_FALSE(record.Extent());
+    record.TextOut("abcde", {100, 40}, {-12, 900}, 0);  // upward from its corner, its lines to the right
+    const Bounds upward = record.Extent().value();
+    EXPECT_NEAR(upward.minX, 100, 1e-9);
+    EXPECT_NEAR(upward.maxX, 114.4, 1e-9);
+    EXPECT_NEAR(upward.minY, 4, 1e-9);
+    EXPECT_NEAR(upward.maxY, 40, 1e-9);
+}
+
+}  // namespace
+}  // namespace korvet
