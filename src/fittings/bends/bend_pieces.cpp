@@ -5,7 +5,7 @@
 #include "core/checked.h"
 #include "core/constants.h"
 
-namespace korvet::bend_pieces {
+namespace korvet::bend {
 namespace {
 
 /// Radians by which a cut must at least lie off the axis: nearer than this it runs along it.
@@ -33,4 +33,4 @@ Pieces PiecesOf(double bendAngle, double bendRadius, int gores, double length1, 
             .last = {.CPHeight1 = length2, .CPHeight2 = -h, .CPAngle1 = 0, .CPAngle2 = a}};
 }
 
-}  // namespace korvet::bend_pieces
+}  // namespace korvet::bend

@@ -5,7 +5,7 @@
 #include "fittings/piece_layout.h"
 #include "fittings/pieces.h"
 
-namespace korvet::bend_pieces {
+namespace korvet::bend {
 
 /// What a bend's pieces have to know of it. Lengths in the user's unit, angles radians.
 struct Pieces {
@@ -70,4 +70,4 @@ void LayOut(Piece& piece, const Pieces& pieces, int middlePieces, double kerf, d
     bend.PatternSurfaceList = layout.Surfaces();
 }
 
-}  // namespace korvet::bend_pieces
+}  // namespace korvet::bend

@@ -5,8 +5,8 @@
 
 namespace korvet {
 
-bend_pieces::Pieces CSegBendParallel::Pieces() const {
-    return bend_pieces::PiecesOf(BendAngle, BendRadius, BendSegments, Length1, Length2);
+bend::Pieces CSegBendParallel::Pieces() const {
+    return bend::PiecesOf(BendAngle, BendRadius, BendSegments, Length1, Length2);
 }
 
 /// The pipe that all pieces are made of, with the seam of the first one.
@@ -21,7 +21,7 @@ CRightCylinder CSegBendParallel::Pipe() const {
 void CSegBendParallel::ConstructModel() {
     RequireWall(BaseRad);
     CRightCylinder pipe = Pipe();
-    results.ModelSurfaceList = bend_pieces::Assemble(pipe, Pieces(), PI);
+    results.ModelSurfaceList = bend::Assemble(pipe, Pieces(), PI);
     RequireWithinReach(results.ModelSurfaceList);
 }
 
@@ -29,7 +29,7 @@ void CSegBendParallel::DevelopModel() {
     ConstructModel();
     const int middlePieces = inputs.Miscellaneous == LayOutEveryPiece ? BendSegments - 1 : 1;
     CRightCylinder pipe = Pipe();
-    bend_pieces::LayOut(pipe, Pieces(), middlePieces, KerfSpacing, PI, results);
+    bend::LayOut(pipe, Pieces(), middlePieces, KerfSpacing, PI, results);
     RequireWithinReach(results.PatternSurfaceList);
 }
 

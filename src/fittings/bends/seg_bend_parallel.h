@@ -40,7 +40,7 @@ struct CSegBendParallel {
     void DevelopModel();
 
   private:
-    [[nodiscard]] bend_pieces::Pieces Pieces() const;
+    [[nodiscard]] bend::Pieces Pieces() const;
     [[nodiscard]] CRightCylinder Pipe() const;
 };
 

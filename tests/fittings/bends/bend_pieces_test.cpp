@@ -12,7 +12,7 @@ namespace korvet {
 namespace {
 
 TEST(BendPieces, CutsCrossTheAxesWhereTheyMeet) {
-    const bend_pieces::Pieces pieces = bend_pieces::PiecesOf(DegToRad(120), 300, 4, 70, 90);
+    const bend::Pieces pieces = bend::PiecesOf(DegToRad(120), 300, 4, 70, 90);
     EXPECT_NEAR(pieces.goreAngle, DegToRad(30), 1e-12);
     // A regular polygon round the centre line's arc: half a side is radius tan(half the angle).
     EXPECT_NEAR(pieces.halfGore, 300 * std::tan(DegToRad(15)), 1e-9);
@@ -31,9 +31,9 @@ TEST(BendPieces, CutsCrossTheAxesWhereTheyMeet) {
 }
 
 TEST(BendPieces, NoCutOrAMitreOfHalfATurnIsAnError) {
-    EXPECT_THROW(bend_pieces::PiecesOf(1, 300, 0, 0, 0), ArithmeticError);
-    EXPECT_THROW(bend_pieces::PiecesOf(PI, 300, 1, 0, 0), ArithmeticError);
-    EXPECT_NO_THROW(bend_pieces::PiecesOf(3.1, 300, 1, 0, 0));
+    EXPECT_THROW(bend::PiecesOf(1, 300, 0, 0, 0), ArithmeticError);
+    EXPECT_THROW(bend::PiecesOf(PI, 300, 1, 0, 0), ArithmeticError);
+    EXPECT_NO_THROW(bend::PiecesOf(3.1, 300, 1, 0, 0));
 }
 
 }  // namespace

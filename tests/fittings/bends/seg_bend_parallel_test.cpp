@@ -364,7 +364,7 @@ TEST(SegBendLayout, TakesOverTheWarningsOfItsPieces) {
     WarningPiece piece;
     FittingResults bend;
     bend.warnings = {{90}};
-    bend_pieces::LayOut(piece, bend_pieces::PiecesOf(QuarterTurn, BendRadius, 4, 70, 90), 2, 6, PI, bend);
+    bend::LayOut(piece, bend::PiecesOf(QuarterTurn, BendRadius, 4, 70, 90), 2, 6, PI, bend);
     EXPECT_EQ(bend.PatternSurfaceList.Count(), 4U);
     std::vector<int> messages;
     for (const FittingWarning& warning : bend.warnings) {
