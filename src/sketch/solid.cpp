@@ -27,7 +27,7 @@ SolidPicture DrawSolid(const CRuleSurfs& model, const SketchView& view, std::siz
     const SolidMesh mesh = MakeSolidMesh(model, view);
     SolidPicture picture;
     picture.bounds = mesh.bounds;
-    for (const std::size_t number : PaintersOrder(mesh)) {
+    for (const std::size_t number : PaintersOrder(mesh).faces) {
         const MeshFace& face = mesh.faces[number];
         SolidFace seen{{}, LightOn(face.wallNormal), face.inside, IsPale(face, shownOff)};
         for (const std::size_t corner : face.corners) {

@@ -1,11 +1,13 @@
 // Hidden lines: what is left of the edges, and how the pieces join.
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <deque>
 #include <map>
 #include <optional>
 
 #include "sketch/solid_mesh.h"
+#include "sketch/solid_places.h"
 
 namespace korvet {
 namespace {
@@ -53,31 +55,21 @@ bool CutToPositive(double at0, double at1, double& low, double& high) {
     return low < high;
 }
 
-/// The faces ready for the test, with the boxes that rule most of them out.
+/// The faces ready for the test, found by their places.
 class Cover {
   public:
-    explicit Cover(const SolidMesh& mesh) : mesh_(mesh) {
-        for (const MeshFace& face : mesh.faces) {
-            if (!face.OnEdge()) {
-                faces_.push_back(MakeEntry(face));
-            }
-        }
-    }
+    explicit Cover(const SolidMesh& mesh) : mesh_(mesh), faces_(FacesOf(mesh)), tree_(PlacesOf(faces_)) {}
 
     /// The visible shares of a line between two vertices, in order.
     [[nodiscard]] std::vector<Stretch> VisibleParts(const Ray& ray) const {
-        std::vector<Stretch> covered;
-        const double left = std::min(ray.from.x, ray.to.x);
-        const double right = std::max(ray.from.x, ray.to.x);
-        const double bottom = std::min(ray.from.y, ray.to.y);
-        const double top = std::max(ray.from.y, ray.to.y);
+        Place place = Place::About({ray.At(0), ray.At(1)});
+        place.halfLength += NoLength * mesh_.size;
+        place.halfWidth += NoLength * mesh_.size;
         const double deepest = std::min(ray.from.depth, ray.to.depth);
-        const double border = NoLength * mesh_.size;
-        for (const Entry& entry : faces_) {
-            if (entry.nearest > deepest && entry.box.left < right + border &&
-                entry.box.right > left - border && entry.box.bottom < top + border &&
-                entry.box.top > bottom - border) {
-                AddStretch(*entry.face, ray, covered);
+        std::vector<Stretch> covered;
+        for (const std::size_t number : tree_.Meeting(place).numbers) {
+            if (faces_[number].nearest > deepest) {
+                AddStretch(*faces_[number].face, ray, covered);
             }
         }
         return Uncovered(covered);
@@ -86,20 +78,31 @@ class Cover {
   private:
     struct Entry {
         const MeshFace* face = nullptr;
-        SolidBounds box;
+        Place place;
         double nearest = 0;
     };
 
-    [[nodiscard]] Entry MakeEntry(const MeshFace& face) const {
-        const EyePoint& first = mesh_.vertices[face.corners[0]];
-        Entry entry{&face, {first.x, first.y, first.x, first.y}, first.depth};
-        for (const std::size_t corner : face.corners) {
-            const EyePoint& p = mesh_.vertices[corner];
-            entry.box = {std::min(entry.box.left, p.x), std::min(entry.box.bottom, p.y),
-                         std::max(entry.box.right, p.x), std::max(entry.box.top, p.y)};
-            entry.nearest = std::max(entry.nearest, p.depth);
+    static std::vector<Entry> FacesOf(const SolidMesh& mesh) {
+        std::vector<Entry> entries;
+        for (const MeshFace& face : mesh.faces) {
+            if (!face.OnEdge()) {
+                Entry& entry = entries.emplace_back(Entry{&face, PlaceOf(mesh, face)});
+                entry.nearest = mesh.vertices[face.corners[0]].depth;
+                for (const std::size_t corner : face.corners) {
+                    entry.nearest = std::max(entry.nearest, mesh.vertices[corner].depth);
+                }
+            }
         }
-        return entry;
+        return entries;
+    }
+
+    static std::vector<Place> PlacesOf(const std::vector<Entry>& entries) {
+        std::vector<Place> places;
+        places.reserve(entries.size());
+        for (const Entry& entry : entries) {
+            places.push_back(entry.place);
+        }
+        return places;
     }
 
     void AddStretch(const MeshFace& face, const Ray& ray, std::vector<Stretch>& covered) const {
@@ -162,6 +165,7 @@ class Cover {
 
     const SolidMesh& mesh_;
     std::vector<Entry> faces_;
+    PlaceTree tree_;
 };
 
 /// A visible piece of an edge. Whole ends carry their vertex, so that neighbours find each other; a cut end
@@ -184,31 +188,26 @@ bool IsPaleEdge(const SolidMesh& mesh, const MeshEdge& edge, std::size_t shownOf
                                         [&](std::size_t face) { return IsPale(mesh.faces[face], shownOff); });
 }
 
-std::vector<Piece> PiecesOf(const SolidMesh& mesh, const Cover& cover, EdgeLook look, bool pale,
-                            std::size_t shownOff) {
-    std::vector<Piece> pieces;
-    for (const MeshEdge& edge : mesh.edges) {
-        const Ray ray = {mesh.vertices[edge.from], mesh.vertices[edge.to]};
-        if (LookOf(mesh, edge) != look || IsPaleEdge(mesh, edge, shownOff) != pale ||
-            Span(ray.At(0), ray.At(1)) <= NoLength * mesh.size) {
-            continue;
+/// What is seen of an edge.
+void AddPieces(const SolidMesh& mesh, const Cover& cover, const MeshEdge& edge, std::vector<Piece>& pieces) {
+    const Ray ray = {mesh.vertices[edge.from], mesh.vertices[edge.to]};
+    if (Span(ray.At(0), ray.At(1)) <= NoLength * mesh.size) {
+        return;
+    }
+    for (const Stretch& part : cover.VisibleParts(ray)) {
+        Piece piece{ray.At(part.from), ray.At(part.to), {}, {}};
+        if (part.from <= 0) {
+            piece.from = OnPicture(ray.from);
+            piece.fromVertex = edge.from;
         }
-        for (const Stretch& part : cover.VisibleParts(ray)) {
-            Piece piece{ray.At(part.from), ray.At(part.to), {}, {}};
-            if (part.from <= 0) {
-                piece.from = OnPicture(ray.from);
-                piece.fromVertex = edge.from;
-            }
-            if (part.to >= 1) {
-                piece.to = OnPicture(ray.to);
-                piece.toVertex = edge.to;
-            }
-            if (Span(piece.from, piece.to) > NoLength * mesh.size) {
-                pieces.push_back(piece);
-            }
+        if (part.to >= 1) {
+            piece.to = OnPicture(ray.to);
+            piece.toVertex = edge.to;
+        }
+        if (Span(piece.from, piece.to) > NoLength * mesh.size) {
+            pieces.push_back(piece);
         }
     }
-    return pieces;
 }
 
 /// Cosine of the sharpest turn, a little over a right angle, that a line takes: a sharper one starts anew, so
@@ -309,12 +308,25 @@ bool IsPale(const MeshFace& face, std::size_t shownOff) {
 
 std::vector<SolidEdge> VisibleEdges(const SolidMesh& mesh, std::size_t shownOff) {
     const Cover cover(mesh);
+    struct Layer {
+        bool outline;
+        bool pale;
+        std::vector<Piece> pieces;
+    };
+    std::array<Layer, 4> layers = {
+        {{false, true, {}}, {false, false, {}}, {true, true, {}}, {true, false, {}}}};
+    for (const MeshEdge& edge : mesh.edges) {
+        const EdgeLook look = LookOf(mesh, edge);
+        if (look != EdgeLook::None) {
+            const std::size_t layer =
+                (look == EdgeLook::Outline ? 2U : 0U) + (IsPaleEdge(mesh, edge, shownOff) ? 0U : 1U);
+            AddPieces(mesh, cover, edge, layers.at(layer).pieces);
+        }
+    }
     std::vector<SolidEdge> edges;
-    for (const EdgeLook look : {EdgeLook::BendLine, EdgeLook::Outline}) {
-        for (const bool pale : {true, false}) {
-            for (auto& line : Chains(PiecesOf(mesh, cover, look, pale, shownOff), mesh.size).Join()) {
-                edges.push_back({std::move(line), look == EdgeLook::Outline, pale});
-            }
+    for (Layer& layer : layers) {
+        for (auto& line : Chains(std::move(layer.pieces), mesh.size).Join()) {
+            edges.push_back({std::move(line), layer.outline, layer.pale});
         }
     }
     return edges;

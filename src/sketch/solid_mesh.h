@@ -7,6 +7,7 @@
 
 #include "core/rule_surf.h"
 #include "sketch/solid.h"
+#include "sketch/solid_places.h"
 
 namespace korvet {
 
@@ -67,8 +68,15 @@ inline SketchXY OnPicture(const EyePoint& point) {
 /// Depth of a face's plane at a place of the picture. The face must not be on edge.
 double DepthAt(const SolidMesh& mesh, const MeshFace& face, const SketchXY& at);
 
+/// Where a face lies on the picture.
+Place PlaceOf(const SolidMesh& mesh, const MeshFace& face);
+
 /// The faces that are not on edge, from the back to the front.
-std::vector<std::size_t> PaintersOrder(const SolidMesh& mesh);
+struct PaintingOrder {
+    std::vector<std::size_t> faces;
+    std::size_t compared = 0;  ///< how many comparisons of places it took: what the order costs
+};
+PaintingOrder PaintersOrder(const SolidMesh& mesh);
 
 /// Whether a face is none of the surface, from 1, that is shown off; nothing is pale beside surface 0.
 bool IsPale(const MeshFace& face, std::size_t shownOff);

@@ -5,6 +5,7 @@
 #include <queue>
 
 #include "sketch/solid_mesh.h"
+#include "sketch/solid_places.h"
 
 namespace korvet {
 namespace {
@@ -29,7 +30,6 @@ struct Area {
 struct PaintedFace {
     std::size_t face = 0;
     Area area;
-    SolidBounds box;
     double middleDepth = 0;
 };
 
@@ -40,13 +40,11 @@ double LeftOf(const SketchXY& a, const SketchXY& b, const SketchXY& p) {
 
 PaintedFace MakePainted(const SolidMesh& mesh, std::size_t number) {
     const MeshFace& face = mesh.faces[number];
-    PaintedFace painted{number, {}, {1e300, 1e300, -1e300, -1e300}, 0};
+    PaintedFace painted{number, {}, 0};
     for (const std::size_t corner : face.corners) {
         const EyePoint& p = mesh.vertices[corner];
         painted.area.Add(OnPicture(p));
         painted.middleDepth += p.depth / static_cast<double>(face.corners.size());
-        painted.box = {std::min(painted.box.left, p.x), std::min(painted.box.bottom, p.y),
-                       std::max(painted.box.right, p.x), std::max(painted.box.top, p.y)};
     }
     if (face.normal.depth < 0) {
         std::reverse(painted.area.corners.begin(),
@@ -99,10 +97,23 @@ SketchXY MiddleOf(const Area& area) {
     return middle;
 }
 
+/// Whether all of an area lies on the right of one side of the other, or on that side.
+bool HasAllOutside(const Area& area, const Area& other) {
+    for (std::size_t i = 0; i < area.count; ++i) {
+        const SketchXY& a = area.corners[i];
+        const SketchXY& b = area.corners[(i + 1) % area.count];
+        const auto outside = [&](const SketchXY& p) { return LeftOf(a, b, p) <= 0; };
+        const auto first = other.corners.begin();
+        if (std::all_of(first, first + static_cast<std::ptrdiff_t>(other.count), outside)) {
+            return true;
+        }
+    }
+    return false;
+}
+
 /// Above 0 when a lies before b as the eye sees it, below 0 when behind it, 0 when neither covers the other.
 int CompareDepth(const SolidMesh& mesh, const PaintedFace& a, const PaintedFace& b) {
-    if (a.box.right <= b.box.left || b.box.right <= a.box.left || a.box.top <= b.box.bottom ||
-        b.box.top <= a.box.bottom) {
+    if (HasAllOutside(a.area, b.area) || HasAllOutside(b.area, a.area)) {
         return 0;
     }
     const Area common = Overlap(a.area, b.area);
@@ -121,17 +132,26 @@ int CompareDepth(const SolidMesh& mesh, const PaintedFace& a, const PaintedFace&
 struct CoverGraph {
     std::vector<std::vector<std::size_t>> coveredBy;
     std::vector<std::size_t> waitsFor;  ///< how many faces behind it are not painted yet
+    std::size_t compared = 0;
 };
 
+/// Compares the faces that may meet on the picture, each with those that come later.
 CoverGraph MakeCoverGraph(const SolidMesh& mesh, const std::vector<PaintedFace>& faces) {
     CoverGraph graph{std::vector<std::vector<std::size_t>>(faces.size()),
                      std::vector<std::size_t>(faces.size(), 0)};
+    std::vector<Place> places;
+    for (const PaintedFace& face : faces) {
+        places.push_back(PlaceOf(mesh, mesh.faces[face.face]));
+    }
+    const PlaceTree tree(places);
     for (std::size_t i = 0; i < faces.size(); ++i) {
-        for (std::size_t j = i + 1; j < faces.size(); ++j) {
-            const int order = CompareDepth(mesh, faces[i], faces[j]);
+        const auto [met, compared] = tree.Meeting(places[i]);
+        graph.compared += compared;
+        for (auto next = std::upper_bound(met.begin(), met.end(), i); next != met.end(); ++next) {
+            const int order = CompareDepth(mesh, faces[i], faces[*next]);
             if (order != 0) {
-                const std::size_t back = order > 0 ? j : i;
-                const std::size_t front = order > 0 ? i : j;
+                const std::size_t back = order > 0 ? *next : i;
+                const std::size_t front = order > 0 ? i : *next;
                 graph.coveredBy[back].push_back(front);
                 ++graph.waitsFor[front];
             }
@@ -141,7 +161,7 @@ CoverGraph MakeCoverGraph(const SolidMesh& mesh, const std::vector<PaintedFace>&
 }
 
 /// Takes faces, numbered from the farthest to the nearest, so that each comes after all that it covers.
-std::vector<std::size_t> BackToFront(CoverGraph graph) {
+std::vector<std::size_t> BackToFront(CoverGraph& graph) {
     const std::size_t count = graph.waitsFor.size();
     // The farthest of the faces with nothing left behind them comes next.
     std::priority_queue<std::size_t, std::vector<std::size_t>, std::greater<>> ready;
@@ -178,7 +198,7 @@ std::vector<std::size_t> BackToFront(CoverGraph graph) {
 
 }  // namespace
 
-std::vector<std::size_t> PaintersOrder(const SolidMesh& mesh) {
+PaintingOrder PaintersOrder(const SolidMesh& mesh) {
     std::vector<PaintedFace> faces;
     for (std::size_t i = 0; i < mesh.faces.size(); ++i) {
         if (!mesh.faces[i].OnEdge()) {
@@ -187,9 +207,10 @@ std::vector<std::size_t> PaintersOrder(const SolidMesh& mesh) {
     }
     std::sort(faces.begin(), faces.end(),
               [](const PaintedFace& a, const PaintedFace& b) { return a.middleDepth < b.middleDepth; });
-    std::vector<std::size_t> order;
-    for (const std::size_t next : BackToFront(MakeCoverGraph(mesh, faces))) {
-        order.push_back(faces[next].face);
+    CoverGraph graph = MakeCoverGraph(mesh, faces);
+    PaintingOrder order{{}, graph.compared};
+    for (const std::size_t next : BackToFront(graph)) {
+        order.faces.push_back(faces[next].face);
     }
     return order;
 }
