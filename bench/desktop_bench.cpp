@@ -1,12 +1,18 @@
-// How long the desktop takes to rebuild and redraw a cone, at one and two device pixels to the pixel, and to
-// make and show a fitting window.
+// How long the desktop takes to rebuild and redraw a cone, at one and two device pixels to the pixel, to make
+// and show a fitting window, and to draw the sketch of a large model.
 //     QT_QPA_PLATFORM=offscreen build/release/bin/desktop_bench
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QImage>
+#include <QPainter>
+#include <QPalette>
 #include <QtGlobal>
 
 #include "desktop/fitting/fitting_view.h"
+#include "desktop/sketch/solid_painter.h"
+#include "sketch/sketch_outline.h"
+#include "tests/support/pipe_on_bend.h"
 #include "tests/support/test_context.h"
 #include "window/views.h"
 
@@ -60,6 +66,48 @@ void NewFittingToWindowShown(benchmark::State& state) {
     }
 }
 BENCHMARK(NewFittingToWindowShown)->Unit(benchmark::kMillisecond);
+
+/// Size of a sketch on the screen, at two device pixels to the pixel.
+constexpr QSize SketchSize = {800, 800};
+
+void PaintOn(QImage& image, const SolidPicture& picture) {
+    QPainter painter(&image);
+    const double scale = SketchSize.width() / (picture.bounds.right - picture.bounds.left);
+    const QPointF origin = {-picture.bounds.left * scale, picture.bounds.top * scale};
+    PaintSolid(painter, picture, scale, origin, QPalette());
+}
+
+/// From the model of a pipe on a bend of 13 pieces to its shaded picture on the screen, by strips: 50 ms for
+/// the 2,506 of them.
+void SketchOfPipeOnBend(benchmark::State& state) {
+    const CRuleSurfs model = PipeOnBend(13, static_cast<int>(state.range(0)) / 14);
+    const SketchView view;
+    QImage image(SketchSize, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    for (auto _ : state) {
+        const SolidPicture picture = DrawSolid(model, view);
+        benchmark::DoNotOptimize(StripsOf(picture));
+        PaintOn(image, picture);
+    }
+    state.SetComplexityN(state.range(0));
+}
+BENCHMARK(SketchOfPipeOnBend)
+    ->Arg(1344)
+    ->Arg(2506)
+    ->Arg(5012)
+    ->Complexity(benchmark::oNLogN)
+    ->Unit(benchmark::kMillisecond);
+
+/// Only what is painted again when something had covered the sketch.
+void PaintingOfPipeOnBend(benchmark::State& state) {
+    const SolidPicture picture = DrawSolid(PipeOnBend(13, 179), SketchView());
+    QImage image(SketchSize, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    for (auto _ : state) {
+        PaintOn(image, picture);
+    }
+}
+BENCHMARK(PaintingOfPipeOnBend)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace korvet::desktop
