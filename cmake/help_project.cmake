@@ -1,6 +1,7 @@
 # Puts the help project together: the pages of PAGES, copied to OUTPUT, and korvet.qhp with the contents and index
-# entries of the fittings. A fitting's page tells them itself: its context number, one line on its shape for the
-# catalogue's page, and further words for the index.
+# entries of the fittings. A fitting's page is one that tells its shape: a line for the catalogue's page, which also
+# lists fittings without a tile. It may tell a context number too, where its window has one of its own, and further
+# words for the index.
 cmake_minimum_required(VERSION 3.25)
 
 # The content of a meta element of a page; empty when there is none.
@@ -18,16 +19,20 @@ file(COPY ${pages} DESTINATION ${OUTPUT})
 file(GLOB pages RELATIVE ${PAGES} ${PAGES}/*.html)
 foreach(page IN LISTS pages)
     file(READ ${PAGES}/${page} text)
-    read_meta("${text}" help-context context)
-    if(context STREQUAL "")
+    read_meta("${text}" description shape)
+    if(shape STREQUAL "")
         continue()
+    endif()
+    read_meta("${text}" help-context context)
+    set(id "")
+    if(NOT context STREQUAL "")
+        set(id " id=\"${context}\"")
     endif()
     string(REGEX MATCH "<title>([^<]*)</title>" found "${text}")
     set(title "${CMAKE_MATCH_1}")
-    read_meta("${text}" description shape)
     read_meta("${text}" keywords words)
     string(APPEND fitting_sections "        <section title=\"${title}\" ref=\"${page}\"/>\n")
-    string(APPEND fitting_keywords "      <keyword name=\"${title}\" id=\"${context}\" ref=\"${page}\"/>\n")
+    string(APPEND fitting_keywords "      <keyword name=\"${title}\"${id} ref=\"${page}\"/>\n")
     string(REGEX REPLACE ", *" ";" words "${words}")
     foreach(word IN LISTS words)
         string(APPEND fitting_keywords "      <keyword name=\"${word}\" ref=\"${page}\"/>\n")

@@ -1,5 +1,5 @@
 """Checks the help pages: well-formed, every link and picture leads somewhere, every page stands in the
-contents and every message is one that the program says.
+contents, every fitting's page in the catalogue and the index, and every message is one that the program says.
 
 check_help.py HELP_FOLDER SOURCE_FOLDER
 """
@@ -80,6 +80,22 @@ class Pages:
         if not picture.get("alt"):
             self.fault(name, f"picture {source} has no words for those who can't see it")
 
+    def check_fittings(self):
+        """A page that tells a shape is that of a fitting, with a context number or without."""
+        project = ElementTree.parse(self.folder / "korvet.qhp").getroot()
+        words = {(k.get("name"), k.get("ref"), k.get("id")) for k in project.iter("keyword")}
+        listed = [link.get("href") for row in self.trees["catalogue.html"].iter("tr") for link in row.iter("a")]
+        for name, tree in self.trees.items():
+            told = {meta.get("name"): meta.get("content") for meta in tree.iter("meta")}
+            if "description" not in told:
+                if "help-context" in told:
+                    self.fault(name, "has a context number, but tells no shape")
+                continue
+            if (plain(tree.findtext(".//title")), name, told.get("help-context")) not in words:
+                self.fault("korvet.qhp", f"{name} does not stand in the index under its title")
+            if listed.count(name) != 1:
+                self.fault("catalogue.html", f"{name} stands {listed.count(name)} times in the catalogue")
+
     def check_project(self):
         project = ElementTree.parse(self.folder / "korvet.qhp").getroot()
         contents = [section.get("ref", "") for section in project.iter("section")]
@@ -105,6 +121,7 @@ def main():
     for name, tree in pages.trees.items():
         pages.check_page(name, tree, texts)
     pages.check_project()
+    pages.check_fittings()
     print(f"{len(pages.trees)} help pages")
     if pages.faults:
         sys.exit("\n".join(pages.faults))
