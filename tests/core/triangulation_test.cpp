@@ -9,12 +9,11 @@
 
 #include "core/constants.h"
 #include "core/math_module.h"
+#include "tests/support/near.h"
 #include "tests/support/point_lists.h"
 
 namespace korvet {
 namespace {
-
-constexpr double Near = 1e-9;
 
 void ExpectAt(const C3DPoint& point, double x, double y) {
     EXPECT_NEAR(point.x, x, Near);

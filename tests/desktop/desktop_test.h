@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QObject>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -10,8 +11,13 @@
 
 namespace korvet::desktop {
 
+/// The screens on which a class is run: with one device pixel to the pixel, with two, or on both, where sizes
+/// and pixels are looked at.
+enum class Scale : std::uint8_t { One, Two, Both };
+
 struct RegisteredTest {
     std::string name;
+    Scale scale;
     std::function<std::unique_ptr<QObject>()> make;
 };
 
@@ -19,8 +25,8 @@ std::vector<RegisteredTest>& RegisteredTests();
 
 template <typename T>
 struct Registered {
-    explicit Registered(const char* name) {
-        RegisteredTests().push_back({name, [] { return std::make_unique<T>(); }});
+    explicit Registered(const char* name, Scale scale = Scale::One) {
+        RegisteredTests().push_back({name, scale, [] { return std::make_unique<T>(); }});
     }
 };
 

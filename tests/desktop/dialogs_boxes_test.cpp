@@ -10,22 +10,24 @@
 #include "tests/desktop/dialogs_fixture.h"
 
 namespace korvet::desktop {
-namespace {
 
-struct Style {
+struct MessageStyle {
     BoxStyle style;
     QMessageBox::Icon icon;
     QMessageBox::StandardButtons buttons;
 };
 
+namespace {
+
 const std::array Styles = {
-    Style{PlainBox, QMessageBox::NoIcon, QMessageBox::Ok},
-    Style{OkCancelBox, QMessageBox::NoIcon, QMessageBox::Ok | QMessageBox::Cancel},
-    Style{CriticalBox, QMessageBox::Critical, QMessageBox::Ok},
-    Style{QuestionBox, QMessageBox::Question, QMessageBox::Ok},
-    Style{YesNoCancelBox, QMessageBox::Question, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel},
-    Style{ExclamationBox, QMessageBox::Warning, QMessageBox::Ok},
-    Style{InformationBox, QMessageBox::Information, QMessageBox::Ok}};
+    MessageStyle{PlainBox, QMessageBox::NoIcon, QMessageBox::Ok},
+    MessageStyle{OkCancelBox, QMessageBox::NoIcon, QMessageBox::Ok | QMessageBox::Cancel},
+    MessageStyle{CriticalBox, QMessageBox::Critical, QMessageBox::Ok},
+    MessageStyle{QuestionBox, QMessageBox::Question, QMessageBox::Ok},
+    MessageStyle{YesNoCancelBox, QMessageBox::Question,
+                 QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel},
+    MessageStyle{ExclamationBox, QMessageBox::Warning, QMessageBox::Ok},
+    MessageStyle{InformationBox, QMessageBox::Information, QMessageBox::Ok}};
 
 void Activate(QDialog& window) {
     window.activateWindow();
@@ -57,7 +59,7 @@ class DialogBoxes : public QObject {
     void init() { QVERIFY(folder_.isValid()); }
 
     void EachStyleHasItsIconAndButtons() {
-        for (const Style& style : Styles) {
+        for (const MessageStyle& style : Styles) {
             WhenShown([&](QDialog& window) {
                 const auto& box = static_cast<QMessageBox&>(window);
                 QCOMPARE(box.icon(), style.icon);
@@ -233,7 +235,7 @@ class DialogBoxes : public QObject {
     QTemporaryDir folder_;
 };
 
-static const Registered<DialogBoxes> registered("DialogBoxes");
+static const Registered<DialogBoxes> registeredDialogBoxes("DialogBoxes");
 
 }  // namespace korvet::desktop
 

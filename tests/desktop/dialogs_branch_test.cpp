@@ -170,7 +170,7 @@ class BranchDialog : public QObject {
     DialogDesk desk_;
 };
 
-static const Registered<BranchDialog> registered("BranchDialog");
+static const Registered<BranchDialog> registeredBranchDialog("BranchDialog");
 
 }  // namespace korvet::desktop
 

@@ -22,6 +22,7 @@
 #include "frame/about.h"
 #include "tests/desktop/desktop_test.h"
 #include "tests/desktop/dialogs_fixture.h"
+#include "tests/desktop/palettes.h"
 
 namespace korvet::desktop {
 namespace {
@@ -132,20 +133,6 @@ QChar MnemonicOf(QString caption) {
     caption.remove(QStringLiteral("&&"));
     const auto at = caption.indexOf(QLatin1Char('&'));
     return at < 0 ? QChar() : caption.at(at + 1).toUpper();
-}
-
-QPalette DarkPalette() {
-    const QColor window(45, 45, 48);
-    const QColor base(30, 30, 30);
-    const QColor text(230, 230, 230);
-    QPalette palette(text, window, window.lighter(), window.darker(), window.lighter(150), text, Qt::white,
-                     base, window);
-    palette.setColor(QPalette::AlternateBase, base.lighter(120));
-    palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        palette.setColor(QPalette::Disabled, role, QColor(130, 130, 130));
-    }
-    return palette;
 }
 
 /// What the control needs to be shown whole.
@@ -327,7 +314,7 @@ class DialogLook : public QObject {
     }
 };
 
-static const Registered<DialogLook> registered("DialogLook");
+static const Registered<DialogLook> registeredDialogLook("DialogLook", Scale::Both);
 
 }  // namespace korvet::desktop
 

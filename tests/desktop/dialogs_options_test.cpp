@@ -257,7 +257,7 @@ class OptionsWindow : public QObject {
     std::string status_;
 };
 
-static const Registered<OptionsWindow> registered("OptionsWindow");
+static const Registered<OptionsWindow> registeredOptionsWindow("OptionsWindow");
 
 }  // namespace korvet::desktop
 

@@ -11,7 +11,7 @@
 namespace korvet::desktop {
 namespace {
 
-void Type(QLineEdit& edit, const char* text) {
+void Retype(QLineEdit& edit, const char* text) {
     edit.selectAll();
     QTest::keyClicks(&edit, QString::fromLatin1(text));
 }
@@ -67,13 +67,13 @@ class SettingsWindow : public QObject {
         settings.KerfEnabled = true;
         settings.TemplateTypeEnabled = true;
         const bool accepted = Run(settings, [](QDialog& window) {
-            Type(Child<QLineEdit>(window, "txtThickness"), "3.25");
-            Type(Child<QLineEdit>(window, "txtKerfSpacing"), "0.75");
+            Retype(Child<QLineEdit>(window, "txtThickness"), "3.25");
+            Retype(Child<QLineEdit>(window, "txtKerfSpacing"), "0.75");
             Press(window, "optInOutMean_1");
             Press(window, "optFullHalf_1");
             Press(window, "optTemplateType_1");
             Child<QComboBox>(window, "cboSegs").setCurrentIndex(5);
-            Type(*Child<QComboBox>(window, "cboJoinAngle").lineEdit(), "17.5");
+            Retype(*Child<QComboBox>(window, "cboJoinAngle").lineEdit(), "17.5");
             QTest::keyClick(&window, Qt::Key_Return);
             QVERIFY(!window.isVisible());
         });
@@ -96,7 +96,7 @@ class SettingsWindow : public QObject {
         for (const auto& leave : ways) {
             CPatternSettings settings;
             const bool accepted = Run(settings, [&](QDialog& window) {
-                Type(Child<QLineEdit>(window, "txtThickness"), "9");
+                Retype(Child<QLineEdit>(window, "txtThickness"), "9");
                 leave(window);
                 QVERIFY(!window.isVisible());
             });
@@ -111,7 +111,7 @@ class SettingsWindow : public QObject {
         Run(settings, [](QDialog& window) {
             auto& box = Child<QLineEdit>(window, "txtThickness");
             const QColor before = box.palette().color(QPalette::Text);
-            Type(box, "4");
+            Retype(box, "4");
             QVERIFY(box.palette().color(QPalette::Text) != before);
             QVERIFY(box.palette().color(QPalette::Text).red() > 150);
             QStringList texts;
@@ -128,7 +128,7 @@ class SettingsWindow : public QObject {
         CPatternSettings settings;
         const bool accepted = Run(settings, [](QDialog& window) {
             auto& box = Child<QLineEdit>(window, "txtThickness");
-            Type(box, "-");
+            Retype(box, "-");
             Child<QPushButton>(window, "btnOK").setFocus();
             QCOMPARE(PressToBox(window, "btnOK"), QStringLiteral("Not a valid number"));
             QVERIFY(window.isVisible());
@@ -143,16 +143,16 @@ class SettingsWindow : public QObject {
         Run(settings, [](QDialog& window) {
             auto& segs = Child<QComboBox>(window, "cboSegs");
             QVERIFY(segs.isEditable());
-            Type(*segs.lineEdit(), "2.5");
+            Retype(*segs.lineEdit(), "2.5");
             QCOMPARE(PressToBox(window, "btnOK"),
                      QStringLiteral("This dimension must be an integer (whole number)"));
             QCOMPARE(window.focusWidget(), &segs);
-            Type(*segs.lineEdit(), "abc");
+            Retype(*segs.lineEdit(), "abc");
             QCOMPARE(PressToBox(window, "btnOK"), QStringLiteral("Not a valid number"));
             QCOMPARE(segs.lineEdit()->selectedText(), QStringLiteral("abc"));
-            Type(*segs.lineEdit(), "1");
+            Retype(*segs.lineEdit(), "1");
             QCOMPARE(segs.currentText(), QStringLiteral("1"));
-            Type(*Child<QComboBox>(window, "cboJoinAngle").lineEdit(), "?");
+            Retype(*Child<QComboBox>(window, "cboJoinAngle").lineEdit(), "?");
             QCOMPARE(PressToBox(window, "btnOK"), QStringLiteral("Not a valid number"));
             QCOMPARE(window.focusWidget(), &Child<QComboBox>(window, "cboJoinAngle"));
         });
@@ -211,7 +211,7 @@ class SettingsWindow : public QObject {
             QCOMPARE(PressToBox(window, "btnOK"),
                      QStringLiteral("A lap join has been requested but no 'Lap Size' is specified"));
             QVERIFY(window.isVisible());
-            Type(Child<QLineEdit>(window, "txtLapSize_2"), "6");
+            Retype(Child<QLineEdit>(window, "txtLapSize_2"), "6");
             Press(window, "btnOK");
         });
         QVERIFY(accepted);
@@ -246,8 +246,8 @@ class SettingsWindow : public QObject {
         Run(settings, [](QDialog& window) {
             QVERIFY(!Child<QGroupBox>(window, "fraMaterial").isVisible());
             QVERIFY(Child<QGroupBox>(window, "fraBranchMaterial").isVisible());
-            Type(Child<QLineEdit>(window, "txtThicknessA"), "2");
-            Type(Child<QLineEdit>(window, "txtThicknessB"), "3");
+            Retype(Child<QLineEdit>(window, "txtThicknessA"), "2");
+            Retype(Child<QLineEdit>(window, "txtThicknessB"), "3");
             Press(window, "optInOutMeanBranch_2");
             Press(window, "btnOK");
         });
@@ -302,7 +302,7 @@ class SettingsWindow : public QObject {
     DialogDesk desk_;
 };
 
-static const Registered<SettingsWindow> registered("SettingsWindow");
+static const Registered<SettingsWindow> registeredSettingsWindow("SettingsWindow");
 
 }  // namespace korvet::desktop
 

@@ -297,7 +297,7 @@ class SmallDialogs : public QObject {
     DialogDesk desk_;
 };
 
-static const Registered<SmallDialogs> registered("SmallDialogs");
+static const Registered<SmallDialogs> registeredSmallDialogs("SmallDialogs");
 
 }  // namespace korvet::desktop
 

@@ -132,7 +132,7 @@ class DrawingAreaTest : public QObject {
     }
 };
 
-static const Registered<DrawingAreaTest> registered("DrawingAreaTest");
+static const Registered<DrawingAreaTest> registeredDrawingAreaTest("DrawingAreaTest", Scale::Both);
 
 }  // namespace korvet::desktop
 

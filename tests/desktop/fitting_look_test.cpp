@@ -16,17 +16,10 @@
 #include "frame/catalogue.h"
 #include "tests/desktop/desktop_test.h"
 #include "tests/desktop/fitting_views.h"
+#include "tests/desktop/palettes.h"
 
 namespace korvet::desktop {
 namespace {
-
-QPalette DarkPalette() {
-    QPalette palette(QColor(50, 50, 50));
-    palette.setColor(QPalette::Base, QColor(30, 30, 30));
-    palette.setColor(QPalette::Text, Qt::white);
-    palette.setColor(QPalette::WindowText, Qt::white);
-    return palette;
-}
 
 /// What stands on the panel and has nothing else on it.
 QList<QWidget*> ShownControls(const QWidget& panel) {
@@ -205,7 +198,7 @@ class FittingLook : public QObject {
     std::vector<NamedView> windows_;
 };
 
-static const Registered<FittingLook> registered("FittingLook");
+static const Registered<FittingLook> registeredFittingLook("FittingLook", Scale::Both);
 
 }  // namespace korvet::desktop
 

@@ -304,7 +304,7 @@ class FittingViewOptionsTest : public QObject {
     }
 };
 
-static const Registered<FittingViewOptionsTest> registered("FittingViewOptionsTest");
+static const Registered<FittingViewOptionsTest> registeredFittingViewOptionsTest("FittingViewOptionsTest");
 
 }  // namespace korvet::desktop
 

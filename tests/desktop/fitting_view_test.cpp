@@ -360,7 +360,7 @@ class FittingViewTest : public QObject {
     }
 };
 
-static const Registered<FittingViewTest> registered("FittingViewTest");
+static const Registered<FittingViewTest> registeredFittingViewTest("FittingViewTest", Scale::Both);
 
 }  // namespace korvet::desktop
 

@@ -226,7 +226,7 @@ class FrameTest : public QObject {
     }
 };
 
-static const Registered<FrameTest> registered("FrameTest");
+static const Registered<FrameTest> registeredFrameTest("FrameTest");
 
 }  // namespace korvet::desktop
 

@@ -250,7 +250,7 @@ class FrameWindowsTest : public QObject {
     }
 };
 
-static const Registered<FrameWindowsTest> registered("FrameWindowsTest");
+static const Registered<FrameWindowsTest> registeredFrameWindowsTest("FrameWindowsTest");
 
 }  // namespace korvet::desktop
 

@@ -458,7 +458,7 @@ class HelpTest : public QObject {
 
 namespace {
 
-const Registered<HelpTest> registered("HelpTest");
+const Registered<HelpTest> registeredHelpTest("HelpTest");
 
 }  // namespace
 }  // namespace korvet::desktop

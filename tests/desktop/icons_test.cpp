@@ -15,6 +15,7 @@
 
 #include "tests/desktop/contrast.h"
 #include "tests/desktop/desktop_test.h"
+#include "tests/desktop/palettes.h"
 
 namespace korvet::desktop {
 
@@ -48,18 +49,6 @@ std::vector<std::string> AllKeys() {
     std::vector<std::string> keys(ToolBarKeys.begin(), ToolBarKeys.end());
     keys.insert(keys.end(), FurtherKeys.begin(), FurtherKeys.end());
     return keys;
-}
-
-QPalette LightPalette() {
-    QPalette palette(QColor(239, 239, 239));
-    palette.setColor(QPalette::ButtonText, QColor(20, 30, 40));
-    return palette;
-}
-
-QPalette DarkPalette() {
-    QPalette palette(QColor(45, 48, 52));
-    palette.setColor(QPalette::ButtonText, QColor(240, 230, 220));
-    return palette;
 }
 
 QImage Picture(const QIcon& icon, int size, qreal ratio = 1.0, QIcon::Mode mode = QIcon::Normal) {
@@ -315,7 +304,7 @@ class IconsTest : public QObject {
     QPalette paletteBefore_;
 };
 
-static const Registered<IconsTest> registered("IconsTest");
+static const Registered<IconsTest> registeredIconsTest("IconsTest");
 
 }  // namespace korvet::desktop
 

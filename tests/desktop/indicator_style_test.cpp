@@ -54,7 +54,7 @@ class IndicatorStyleTest : public QObject {
     }
 };
 
-static const Registered<IndicatorStyleTest> registered("IndicatorStyleTest");
+static const Registered<IndicatorStyleTest> registeredIndicatorStyleTest("IndicatorStyleTest");
 
 }  // namespace korvet::desktop
 

@@ -14,14 +14,43 @@ std::vector<RegisteredTest>& RegisteredTests() {
 
 }  // namespace korvet::desktop
 
-/// desktop_tests [CLASS [OPTION...]]: all classes, or one with options of the test framework.
+using namespace korvet::desktop;
+
+namespace {
+
+/// The classes with the scales of the screens that they are for. Under the sanitizers once is enough: a
+/// second scale is the same code once more.
+void ListClasses() {
+#ifdef KORVET_SANITIZE
+    constexpr bool Again = false;
+#else
+    constexpr bool Again = true;
+#endif
+    for (const RegisteredTest& test : RegisteredTests()) {
+        if (test.scale != Scale::Two) {
+            std::printf("%s@1.\n", test.name.c_str());
+        }
+        if (test.scale == Scale::Two || (test.scale == Scale::Both && Again)) {
+            std::printf("%s@2.\n", test.name.c_str());
+        }
+    }
+}
+
+}  // namespace
+
+/// desktop_tests --list: names the classes. desktop_tests [CLASS [OPTION...]]: runs all of them, or one with
+/// options of the test framework.
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     const std::string wanted = arguments.size() > 1 ? arguments[1].toStdString() : "";
+    if (wanted == "--list") {
+        ListClasses();
+        return 0;
+    }
     int failures = 0;
     int classes = 0;
-    for (const auto& test : korvet::desktop::RegisteredTests()) {
+    for (const RegisteredTest& test : RegisteredTests()) {
         if (!wanted.empty() && test.name != wanted) {
             continue;
         }

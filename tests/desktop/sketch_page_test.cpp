@@ -10,6 +10,7 @@
 #include "desktop/sketch/sketch_painter.h"
 #include "frame/catalogue.h"
 #include "tests/desktop/desktop_test.h"
+#include "tests/desktop/palettes.h"
 
 namespace korvet::desktop {
 
@@ -37,14 +38,6 @@ const WindowTable& Cone() {
 
 const WindowTable& TruncatedCone() {
     return *FindCategory("Truncated Right Cone")->table;
-}
-
-QPalette DarkPalette() {
-    QPalette palette(QColor(50, 50, 50));
-    palette.setColor(QPalette::Base, QColor(30, 30, 30));
-    palette.setColor(QPalette::Text, Qt::white);
-    palette.setColor(QPalette::WindowText, Qt::white);
-    return palette;
 }
 
 std::size_t CountColors(const QImage& image) {
@@ -211,7 +204,7 @@ void SketchPageTest::PicturesHaveTheSizeAskedFor() {
     QVERIFY(small.width() > 150 && small.height() > 150);
 }
 
-static const Registered<SketchPageTest> registered("SketchPageTest");
+static const Registered<SketchPageTest> registeredSketchPageTest("SketchPageTest", Scale::Both);
 
 }  // namespace korvet::desktop
 

@@ -19,20 +19,13 @@
 #include "frame/catalogue.h"
 #include "sketch/sample_model.h"
 #include "tests/desktop/desktop_test.h"
+#include "tests/desktop/palettes.h"
 
 namespace korvet::desktop {
 namespace {
 
 const CatalogueRow& RightConeRow() {
     return *FindCategory("Right Cone");
-}
-
-QPalette DarkPalette() {
-    return {QColor(60, 63, 70), QColor(43, 45, 50)};
-}
-
-QPalette LightPalette() {
-    return {QColor(239, 239, 239), QColor(246, 247, 249)};
 }
 
 double Width(const SolidPicture& picture) {
@@ -398,7 +391,7 @@ void Tiles::theMenuRunsUntilItIsClosed() {
     QCOMPARE(dialog.lblCategory, std::string("Truncated Right Cone"));
 }
 
-const Registered<Tiles> registered("Tiles");
+const Registered<Tiles> registeredTiles("Tiles", Scale::Both);
 
 }  // namespace
 }  // namespace korvet::desktop

@@ -11,11 +11,11 @@
 namespace korvet {
 namespace {
 
-constexpr const char* Path = "/home/user/settings.ini";
+constexpr const char* IniPath = "/home/user/settings.ini";
 
 class GlobalOptions : public ::testing::Test {
   protected:
-    GlobalOptions() { options.IniFileName = Path; }
+    GlobalOptions() { options.IniFileName = IniPath; }
 
     OptionsDialog Dialog(char decimalMark = '.') { return {options, ui, files, decimalMark}; }
 
@@ -241,14 +241,14 @@ TEST_F(GlobalOptions, SaveDoesNotTestTheLanguage) {
     dialog.cmbLanguage.edit.text = "French";
     dialog.ClickSave();
     EXPECT_EQ(options.Language, "French");
-    EXPECT_NE(files.files[Path].find("\r\nFrench\r\n"), std::string::npos);
+    EXPECT_NE(files.files[IniPath].find("\r\nFrench\r\n"), std::string::npos);
 }
 
 TEST_F(GlobalOptions, SaveWritesTheFileAndStays) {
     OptionsDialog dialog = Dialog();
     dialog.CmbDefaultSegs.edit.text = "50";
     dialog.ClickSave();
-    EXPECT_EQ(files.files[Path].substr(0, 11), "3.b\r\n 50 \r\n");
+    EXPECT_EQ(files.files[IniPath].substr(0, 11), "3.b\r\n 50 \r\n");
     ASSERT_EQ(ui.messages.size(), 1U);
     EXPECT_EQ(ui.messages[0].text, "Current settings saved");
     EXPECT_EQ(ui.messages[0].style, 48);
@@ -258,10 +258,10 @@ TEST_F(GlobalOptions, SaveWritesTheFileAndStays) {
 }
 
 TEST_F(GlobalOptions, ASaveThatFailsSaysWhyAndNotThatItIsDone) {
-    files.unwritable.insert(Path);
+    files.unwritable.insert(IniPath);
     OptionsDialog dialog = Dialog();
     dialog.ClickSave();
-    EXPECT_EQ(ui.Texts(), (std::vector<std::string>{std::string(Path) + ": cannot be written"}));
+    EXPECT_EQ(ui.Texts(), (std::vector<std::string>{std::string(IniPath) + ": cannot be written"}));
     EXPECT_EQ(ui.messages[0].style, PlainBox);
     EXPECT_TRUE(dialog.visible);
 }
@@ -274,7 +274,7 @@ TEST_F(GlobalOptions, SaveWritesNothingWhenABoxIsBad) {
     EXPECT_TRUE(files.files.empty());
 }
 
-struct BadBox {
+struct BadOption {
     const char* name;
     std::function<void(OptionsDialog&)> spoil;
     std::string message;
@@ -284,7 +284,7 @@ struct BadBox {
 
 TEST_F(GlobalOptions, EveryBadBoxKeepsTheDialogOpenWithTheFocusOnIt) {
     const std::string notANumber = "Not a valid number";
-    const std::vector<BadBox> cases = {
+    const std::vector<BadOption> cases = {
         {"scale", [](auto& d) { d.txtUserScale.text = "x"; }, notANumber, "txtUserScale", 3},
         {"text size", [](auto& d) { d.txtDisplayTextSize.text = "x"; }, notANumber, "txtDisplayTextSize", 2},
         {"dxf size", [](auto& d) { d.txtDXFTextSize.text = ""; }, notANumber, "txtDXFTextSize", 4},
@@ -319,7 +319,7 @@ TEST_F(GlobalOptions, EveryBadBoxKeepsTheDialogOpenWithTheFocusOnIt) {
          "txtDXFTextSize", 4},
         {"text size huge", [](auto& d) { d.txtDisplayTextSize.text = "1e39"; }, "Display Text size not valid",
          "txtDisplayTextSize", 2}};
-    for (const BadBox& bad : cases) {
+    for (const BadOption& bad : cases) {
         SCOPED_TRACE(bad.name);
         options = COptions();
         ui.messages.clear();

@@ -99,7 +99,7 @@ TEST_F(PatternSettings, AnOkIsForgottenWhenTheDialogIsShownAgain) {
     EXPECT_FALSE(Run(settings, [](Dialog& d) { d.ClickCancel(); }));
 }
 
-struct BadBox {
+struct BadSetting {
     TextBox& (*box)(Dialog&);
     const char* text;
     const char* message;
@@ -107,7 +107,7 @@ struct BadBox {
 
 TEST_F(PatternSettings, ABadBoxKeepsTheDialogOpenInTheOrderOfTheBoxes) {
     const char* notANumber = "Not a valid number";
-    const std::vector<BadBox> order = {
+    const std::vector<BadSetting> order = {
         {[](Dialog& d) -> TextBox& { return d.txtThickness; }, "x", notANumber},
         {[](Dialog& d) -> TextBox& { return d.txtThicknessA; }, "", notANumber},
         {[](Dialog& d) -> TextBox& { return d.txtThicknessB; }, "-", notANumber},

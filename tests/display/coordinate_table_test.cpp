@@ -30,7 +30,7 @@ TEST(OffsetList, TellsThePointsFromTheOriginWithoutFlagsOrHeights) {
 }
 
 /// Three stations, of which the middle one is a construction point, from (10, 5) to (40, 45).
-CRuleSurf Sheet() {
+CRuleSurf TableSheet() {
     CRuleSurf surface;
     surface.List1 = Points({{10, 45, 0, 1}, {20, 45, 0, 0}, {40, 45, 0, 5}});
     surface.List2 = Points({{10, 5, 0, 1}, {22, 5, 0, 0}, {37.126, 5, 0, 1}});
@@ -43,8 +43,8 @@ std::string TableOf(const CRuleSurfs& surfaces) {
 
 TEST(CoordinateTable, IsTheSameByteForByte) {
     CRuleSurfs surfaces;
-    surfaces.Add(Sheet());
-    CRuleSurf second = Sheet();
+    surfaces.Add(TableSheet());
+    CRuleSurf second = TableSheet();
     second.List3 = Points({{20, 25, 0, 1}, {21, 26, 0, 0}, {22, 27.5, 0, 1}});
     surfaces.Add(second);
     //           1234567890123412345678901234123456789012341234
@@ -77,12 +77,12 @@ TEST(CoordinateTable, AnItemThatFillsItsZoneSendsTheNextOneAZoneOn) {
 }
 
 TEST(CoordinateTable, AShorterLineEndsIt) {
-    CRuleSurf shorter = Sheet();
+    CRuleSurf shorter = TableSheet();
     shorter.List2 = Points({{10, 5, 0, 1}, {22, 5, 0, 0}, {37, 5, 0, 0}});
     CRuleSurfs surfaces;
     surfaces.Add(shorter);
     EXPECT_THROW(static_cast<void>(TableOf(surfaces)), ListError);
-    CRuleSurf shortHole = Sheet();
+    CRuleSurf shortHole = TableSheet();
     shortHole.List3 = Points({{20, 25, 0, 1}, {21, 26, 0, 0}});
     surfaces = {};
     surfaces.Add(shortHole);
@@ -91,7 +91,7 @@ TEST(CoordinateTable, AShorterLineEndsIt) {
 }
 
 TEST(CoordinateTable, ALongerLineIsLeftOut) {
-    CRuleSurf surface = Sheet();
+    CRuleSurf surface = TableSheet();
     surface.List3 = Points({{20, 25, 0, 1}, {21, 26, 0, 1}, {22, 27, 0, 1}});
     CRuleSurfs surfaces;
     surfaces.Add(surface);

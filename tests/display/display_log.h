@@ -8,6 +8,7 @@
 
 #include "core/display_colors.h"
 #include "core/rule_surf.h"
+#include "display/world_window.h"
 #include "tests/support/canned_fitting.h"
 #include "tests/support/recording_device.h"
 
@@ -20,6 +21,9 @@ inline PointList Points(std::initializer_list<C3DPoint> points) {
     }
     return list;
 }
+
+/// For a picture of 400 by 200 pixels.
+inline constexpr WorldWindow OnePixelToAUnit = {0, 200, 400, -200};
 
 /// A flat sheet, 30 wide and 40 high, with its lower left corner at (x, y); all four corners are stations.
 inline CRuleSurf Sheet(double x = 0, double y = 0) {

@@ -3,12 +3,10 @@
 #include <gtest/gtest.h>
 
 #include "core/checked.h"
-#include "tests/support/recording_device.h"
+#include "tests/display/display_log.h"
 
 namespace korvet {
 namespace {
-
-constexpr WorldWindow OnePixelToAUnit = {0, 200, 400, -200};
 
 struct PenCase {
     LineType type;

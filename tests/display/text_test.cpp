@@ -3,12 +3,11 @@
 #include <gtest/gtest.h>
 
 #include "core/checked.h"
-#include "tests/support/recording_device.h"
+#include "tests/display/display_log.h"
 
 namespace korvet {
 namespace {
 
-constexpr WorldWindow OnePixelToAUnit = {0, 200, 400, -200};
 constexpr C3DPoint Anchor = {100, 100, 0, PlainStation};  // pixel 100, 100
 
 /// "AB" in 10 points: 16 pixels wide and 16 high, and a unit is a pixel.

@@ -9,11 +9,10 @@
 #include "core/checked.h"
 #include "core/math_module.h"
 #include "fittings/ring.h"
+#include "tests/support/near.h"
 
 namespace korvet {
 namespace {
-
-constexpr double Near = 1e-9;
 
 /// 60 wide and 80 high: the slant height is 100.
 Cone Wall() {

@@ -5,13 +5,12 @@
 
 #include "core/math_module.h"
 #include "tests/fittings/form_on_boxes.h"
+#include "tests/support/near.h"
 
 namespace korvet {
 namespace {
 
 const std::string NoRoom = "This dimension must be increased to allow for material thickness";
-constexpr double Near = 1e-9;
-
 /// Box 0 holds 200, box 1 holds 40.
 FittingForm& SizesFrom(FormOnBoxes& boxes, std::int16_t side) {
     boxes.settings.Thickness = 6;

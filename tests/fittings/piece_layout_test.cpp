@@ -13,7 +13,7 @@ namespace korvet {
 namespace {
 
 /// A plate 4 wide and 3 deep, of five stations.
-CRuleSurf Plate() {
+CRuleSurf FlatPlate() {
     return Strip({{0, 3, 0, 1}, {1, 3, 0, 0}, {2, 3, 0, 1}, {3, 3, 0, 0}, {4, 3, 0, 1}},
                  {{0, 0, 0, 1}, {1, 0, 0, 0}, {2, 0, 0, 1}, {3, 0, 0, 0}, {4, 0, 0, 1}});
 }
@@ -26,38 +26,38 @@ void ExpectAt(const C3DPoint& point, double x, double y, double z = 0) {
 
 TEST(PieceLayout, MovesTheGripToThePlacingPoint) {
     PieceLayout layout;
-    layout.Add(Plate());
+    layout.Add(FlatPlate());
     layout.place = {10, 20, 5, PlainStation};
-    layout.Add(Plate());
-    layout.Add(Plate(), {4, 3, 1, CornerStation});
+    layout.Add(FlatPlate());
+    layout.Add(FlatPlate(), {4, 3, 1, CornerStation});
     ASSERT_EQ(layout.Surfaces().Count(), 3U);
-    EXPECT_TRUE(SamePoints(*layout.Surfaces().Item(1).List1, *Plate().List1));
+    EXPECT_TRUE(SamePoints(*layout.Surfaces().Item(1).List1, *FlatPlate().List1));
     ExpectAt(layout.Surfaces().Item(2).List2->Item(1), 10, 20, 5);
     ExpectAt(layout.Surfaces().Item(3).List1->Item(5), 10, 20, 4);
     EXPECT_EQ(layout.Surfaces().Item(3).List1->Item(5).Flag, RuleStation);
 }
 
 TEST(PieceLayout, PiecesAreCopies) {
-    const CRuleSurf plate = Plate();
+    const CRuleSurf plate = FlatPlate();
     PieceLayout layout;
     layout.place.x = 7;
     layout.Add(plate);
-    EXPECT_TRUE(SamePoints(*plate.List1, *Plate().List1));
+    EXPECT_TRUE(SamePoints(*plate.List1, *FlatPlate().List1));
     EXPECT_NE(layout.Surfaces().Item(1).List1, plate.List1);
 }
 
 TEST(PieceLayout, JoinsAPieceToAStationOfTheOneBeforeAlsoBeyondWhatIsKept) {
     PieceLayout layout(Trim::Half);
-    const CRuleSurf first = layout.Add(Plate());
+    const CRuleSurf first = layout.Add(FlatPlate());
     layout.place = first.List1->Item(5);
-    layout.Add(Plate(), Plate().List2->Item(1));
+    layout.Add(FlatPlate(), FlatPlate().List2->Item(1));
     EXPECT_EQ(layout.Surfaces().Item(1).List1->Count(), 3U) << "of which station 5 is none";
     ExpectAt(layout.Surfaces().Item(2).List2->Item(1), 4, 3);
     ExpectAt(layout.Surfaces().Item(2).List1->Item(3), 6, 6);
 }
 
 TEST(PieceLayout, TrimsWithTheTabOfALap) {
-    CRuleSurf lapped = Plate();
+    CRuleSurf lapped = FlatPlate();
     ApplyLapJoin(lapped, 1, 0, 0.5, 0);
     PieceLayout halves(Trim::Half);
     halves.Add(lapped);

@@ -6,11 +6,10 @@
 #include <cmath>
 
 #include "tests/fittings/form_on_boxes.h"
+#include "tests/support/near.h"
 
 namespace korvet {
 namespace {
-
-constexpr double Near = 1e-9;
 
 TEST(TiltLimit, IsTheSlopeFromTheLowerEnd) {
     EXPECT_NEAR(TiltLimit(70, 70), 45, Near);

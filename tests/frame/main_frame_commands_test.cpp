@@ -31,7 +31,7 @@ Texts OnModel(const std::string& text) {
 
 const std::string NoSave = "T48 Nothing to save!";
 const std::string NoCommand = "T48 Operation cannot be carried out at this time";
-const std::string Refused = "UE Operation cannot be carried out at this time";
+const std::string NotNow = "UE Operation cannot be carried out at this time";
 const std::string Bad = "UE This dimension must be less than 300";
 const std::string NoPrinterSaid = "P No Printer available";
 const std::string NoCad = "P Could not locate an active AutoCAD 2000 drawing.";
@@ -49,15 +49,15 @@ const std::string NoFrames = "P No printer";
 /// Commands that are not listed say nothing in any state.
 const std::map<std::string_view, Texts> Said = {
     {"mnuFileClose", {NoSave, "", "", Question, Question}},
-    {"mnuFileSave", {NoSave, Refused, Refused, "", ""}},
-    {"mnuFileSaveAs", {NoSave, Refused, Refused, "", ""}},
-    {"mnuExportDXF", {NoCommand, Refused, Refused, Saved, Saved}},
+    {"mnuFileSave", {NoSave, NotNow, NotNow, "", ""}},
+    {"mnuFileSaveAs", {NoSave, NotNow, NotNow, "", ""}},
+    {"mnuExportDXF", {NoCommand, NotNow, NotNow, Saved, Saved}},
     {"mnuExportHPGL",
-     {NoCommand, Refused, Refused, "P This version writes DXF files only",
+     {NoCommand, NotNow, NotNow, "P This version writes DXF files only",
       "P This version writes DXF files only"}},
     {"mnuSendToAcad", {NoCommand, NoCad, NoCad, NoCad, NoCad}},
     {"mnuFilePageSetup", {"", NoPrinterSaid, NoPrinterSaid, NoPrinterSaid, NoPrinterSaid}},
-    {"mnuPrintFrames", {"", Refused, Refused, "UE" + PatternOnly, NoFrames}},
+    {"mnuPrintFrames", {"", NotNow, NotNow, "UE" + PatternOnly, NoFrames}},
     {"mnuSelectFrames", {"", Select, Select, Select, Select}},
     {"mnuFilePrintPreview", {Preview, Preview, Preview, Preview, Preview}},
     {"mnuFilePrint",
@@ -66,12 +66,12 @@ const std::map<std::string_view, Texts> Said = {
     {"mnuZoomExtents", {"", NoExtentsSaid, NoExtentsSaid, "", ""}},
     {"mnuZoomPrevious", {"", NoView, NoView + " / " + Bad, NoView, NoView}},
     {"mnuProperties", {"", "", Bad, "", ""}},
-    {"mnuMeasure", {"", Refused, Refused, "", ""}},
-    {"mnuAlignedDim", {"", Refused, Refused, "P" + PatternOnly, ""}},
+    {"mnuMeasure", {"", NotNow, NotNow, "", ""}},
+    {"mnuAlignedDim", {"", NotNow, NotNow, "P" + PatternOnly, ""}},
     {"mnuRemoveAllDims", {"", "", Bad, "", ""}},
-    {"mnuDimensionOptions", {NoCommand, Refused, Refused, "P" + PatternOnly, ""}},
-    {"AddLabel", {"", Refused, Refused, "", ""}},
-    {"mnuRotatePattern", {"", Refused, Refused, "UE" + PatternOnly, ""}},
+    {"mnuDimensionOptions", {NoCommand, NotNow, NotNow, "P" + PatternOnly, ""}},
+    {"AddLabel", {"", NotNow, NotNow, "", ""}},
+    {"mnuRotatePattern", {"", NotNow, NotNow, "UE" + PatternOnly, ""}},
 };
 
 const std::string SaveAs = "SaveAs|Korvet Development Files (*.Kvt)|*.Kvt|save";

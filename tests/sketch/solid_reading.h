@@ -13,7 +13,7 @@
 
 namespace korvet {
 
-inline constexpr double Near = 1e-9;
+inline constexpr double Close = 1e-9;
 
 inline PointList ListOf(const std::vector<C3DPoint>& points) {
     auto list = std::make_shared<C3DPoints>();

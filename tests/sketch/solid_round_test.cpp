@@ -53,7 +53,7 @@ TEST_F(ConePicture, TheFarPartOfTheBaseIsHiddenAndTheWholeTopIsSeen) {
     for (const Segment& segment : Segments(picture_)) {
         if (OnEllipse(segment.from, base_, 0) && OnEllipse(segment.to, base_, 0)) {
             ++baseSteps;
-            EXPECT_LE(std::max(segment.from.y, segment.to.y), base_ / 2 * depth_ + Near);
+            EXPECT_LE(std::max(segment.from.y, segment.to.y), base_ / 2 * depth_ + Close);
         } else if (OnEllipse(segment.from, top_, height_) && OnEllipse(segment.to, top_, height_)) {
             ++topSteps;
         }
@@ -65,10 +65,10 @@ TEST_F(ConePicture, TheFarPartOfTheBaseIsHiddenAndTheWholeTopIsSeen) {
 }
 
 TEST_F(ConePicture, BoundsAreThoseOfTheEllipses) {
-    EXPECT_NEAR(picture_.bounds.left, -base_, Near);
-    EXPECT_NEAR(picture_.bounds.right, base_, Near);
-    EXPECT_NEAR(picture_.bounds.bottom, -base_ * depth_, Near);
-    EXPECT_NEAR(picture_.bounds.top, height_ * rise_ + top_ * depth_, Near);
+    EXPECT_NEAR(picture_.bounds.left, -base_, Close);
+    EXPECT_NEAR(picture_.bounds.right, base_, Close);
+    EXPECT_NEAR(picture_.bounds.bottom, -base_ * depth_, Close);
+    EXPECT_NEAR(picture_.bounds.top, height_ * rise_ + top_ * depth_, Close);
 }
 
 TEST_F(ConePicture, TheInnerSideIsSeenBetweenTheContoursAtTheBack) {
@@ -158,8 +158,8 @@ TEST(DrawSolid, ANearPipeHidesAFarOne) {
                  [](const Segment& s) { return std::fabs(s.from.x - s.to.x) < 1e-6; });
     ExpectSegments(upright, {{{-1, 0}, {-1, 2}}, {{1, 0}, {1, 2}}, {{0, 2}, {0, 4}}, {{2, 0}, {2, 4}}});
     for (const double x : {0.2, 0.5, 0.8}) {
-        EXPECT_LE(SeenAt(picture, {x, 1.5})->corners[0].y, 2 + Near);
-        EXPECT_GE(SeenAt(picture, {x, 2.5})->corners[0].y, 4 - Near);
+        EXPECT_LE(SeenAt(picture, {x, 1.5})->corners[0].y, 2 + Close);
+        EXPECT_GE(SeenAt(picture, {x, 2.5})->corners[0].y, 4 - Close);
     }
 }
 

@@ -124,7 +124,7 @@ TEST(DrawSolid, APlateHidesThePartOfALineBehindIt) {
                                        {{-1, -1}, {-1, 1}},
                                        {{1, -1}, {1, 1}}});
     ASSERT_EQ(picture.faces.size(), 2U);
-    EXPECT_NEAR(picture.faces[0].corners[0].x, -3, Near);  // the back plate is painted first
+    EXPECT_NEAR(picture.faces[0].corners[0].x, -3, Close);  // the back plate is painted first
 }
 
 TEST(DrawSolid, TheOrderOfTheSurfacesDoesNotCountForTheOrderOfPainting) {
@@ -132,7 +132,7 @@ TEST(DrawSolid, TheOrderOfTheSurfacesDoesNotCountForTheOrderOfPainting) {
                                      Strip({{-3, 1, 2}, {3, 1, 2}}, {{-3, 1, 0}, {3, 1, 0}})});
     const SolidPicture picture = DrawSolid(plates, {.turn = 0, .tilt = 0});
     ASSERT_EQ(picture.faces.size(), 2U);
-    EXPECT_NEAR(picture.faces[1].corners[0].x, -1, Near);
+    EXPECT_NEAR(picture.faces[1].corners[0].x, -1, Close);
 }
 
 // The ramp's middle is nearer than the plate, but where they cover each other the ramp lies behind it.
@@ -142,8 +142,8 @@ TEST(DrawSolid, WhatCountsIsTheDepthWhereFacesCoverEachOther) {
     for (const CRuleSurfs& model : {Model({ramp, plate}), Model({plate, ramp})}) {
         const SolidPicture picture = DrawSolid(model, {.turn = 0, .tilt = 0});
         ASSERT_EQ(picture.faces.size(), 2U);
-        EXPECT_NEAR(std::abs(picture.faces[0].corners[0].x), 2, Near);
-        EXPECT_NEAR(std::abs(picture.faces[1].corners[0].x), 1, Near);
+        EXPECT_NEAR(std::abs(picture.faces[0].corners[0].x), 2, Close);
+        EXPECT_NEAR(std::abs(picture.faces[1].corners[0].x), 1, Close);
     }
 }
 

@@ -11,12 +11,12 @@
 
 #include "core/constants.h"
 #include "core/math_module.h"
+#include "tests/support/near.h"
 #include "tests/support/point_lists.h"
 
 namespace korvet {
 namespace {
 
-constexpr double Near = 1e-9;
 constexpr double Radius = 50;
 constexpr double BendRadius = 120;
 

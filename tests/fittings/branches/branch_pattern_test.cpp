@@ -12,7 +12,7 @@
 namespace korvet {
 namespace {
 
-constexpr double Near = 1e-8;
+constexpr double NearPattern = 1e-8;
 
 /// Radius 60 on radius 100, trunk 700 long, the axes crossing 320 up.
 CBranch Joint(BranchPattern pattern, double alpha = QuarterTurn, double offset = 0) {
@@ -44,9 +44,9 @@ TEST(BranchPipePatternTest, RulesOfASquareBranchEndOnTheTrunk) {
     for (std::size_t i = 1; i <= 49; ++i) {
         const double theta = static_cast<double>(i - 1) * 2 * PI / 48;
         const double depth = std::sqrt(100 * 100 - 60 * 60 * std::sin(theta) * std::sin(theta));
-        EXPECT_NEAR(pattern.List1->Item(i).x, 60 * theta, Near);
-        EXPECT_NEAR(pattern.List2->Item(i).x, 60 * theta, Near);
-        EXPECT_NEAR(pattern.List1->Item(i).y, 400 - depth, Near);
+        EXPECT_NEAR(pattern.List1->Item(i).x, 60 * theta, NearPattern);
+        EXPECT_NEAR(pattern.List2->Item(i).x, 60 * theta, NearPattern);
+        EXPECT_NEAR(pattern.List1->Item(i).y, 400 - depth, NearPattern);
         EXPECT_EQ(pattern.List2->Item(i).y, 0);
         EXPECT_EQ(pattern.List1->Item(i).z, 0);
     }
@@ -65,7 +65,7 @@ TEST(BranchPipePatternTest, RulesOfASlantingBranchTakeTheCutWithThem) {
         // branch moves its foot by u / tan(alpha).
         const double foot =
             (std::sqrt(100 * 100 - y * y) - 60 * std::cos(theta) * std::cos(alpha)) / std::sin(alpha);
-        EXPECT_NEAR(pattern.List1->Item(i).y, 400 - foot, Near);
+        EXPECT_NEAR(pattern.List1->Item(i).y, 400 - foot, NearPattern);
     }
 }
 
@@ -95,9 +95,9 @@ TEST(TrunkPatternTest, IsARectangleWithTheHoleInItsMiddle) {
     ASSERT_EQ(pattern.List1->Count(), 49U);
     for (std::size_t i = 1; i <= 49; ++i) {
         const double x = static_cast<double>(i - 1) * 200 * PI / 48;
-        EXPECT_NEAR(pattern.List1->Item(i).x, x, Near);
-        EXPECT_NEAR(pattern.List1->Item(i).y, 700, Near);
-        EXPECT_NEAR(pattern.List2->Item(i).x, x, Near);
+        EXPECT_NEAR(pattern.List1->Item(i).x, x, NearPattern);
+        EXPECT_NEAR(pattern.List1->Item(i).y, 700, NearPattern);
+        EXPECT_NEAR(pattern.List2->Item(i).x, x, NearPattern);
         EXPECT_EQ(pattern.List2->Item(i).y, 0);
         EXPECT_EQ(pattern.List1->Item(i).Flag, static_cast<int>(i % 2));
         EXPECT_EQ(pattern.List2->Item(i).Flag, static_cast<int>(i % 2));
@@ -105,8 +105,8 @@ TEST(TrunkPatternTest, IsARectangleWithTheHoleInItsMiddle) {
     ASSERT_EQ(pattern.List3->Count(), 49U);
     for (std::size_t i = 1; i <= 49; ++i) {
         const double theta = static_cast<double>(i - 1) * 2 * PI / 48;
-        EXPECT_NEAR(pattern.List3->Item(i).x, 100 * PI + 100 * std::asin(0.6 * std::sin(theta)), Near);
-        EXPECT_NEAR(pattern.List3->Item(i).y, 320 + 60 * std::cos(theta), Near);
+        EXPECT_NEAR(pattern.List3->Item(i).x, 100 * PI + 100 * std::asin(0.6 * std::sin(theta)), NearPattern);
+        EXPECT_NEAR(pattern.List3->Item(i).y, 320 + 60 * std::cos(theta), NearPattern);
         EXPECT_EQ(pattern.List3->Item(i).z, 0);
     }
     EXPECT_EQ(pattern.List3->Item(13).Flag, CornerRuleStation);
@@ -119,11 +119,11 @@ TEST(TrunkPatternTest, AnOffsetMovesTheHoleRoundTheTrunk) {
         for (std::size_t i = 1; i <= 49; ++i) {
             const double theta = static_cast<double>(i - 1) * 2 * PI / 48;
             EXPECT_NEAR(pattern.List3->Item(i).x,
-                        100 * PI + 100 * std::asin((offset + 60 * std::sin(theta)) / 100), Near);
-            EXPECT_NEAR(pattern.List3->Item(i).y, 320 + 60 * std::cos(theta), Near);
+                        100 * PI + 100 * std::asin((offset + 60 * std::sin(theta)) / 100), NearPattern);
+            EXPECT_NEAR(pattern.List3->Item(i).y, 320 + 60 * std::cos(theta), NearPattern);
         }
         ASSERT_TRUE(pattern.RefPoint);
-        EXPECT_NEAR(pattern.RefPoint->x, 100 * PI + 100 * std::asin(offset / 100), Near);
+        EXPECT_NEAR(pattern.RefPoint->x, 100 * PI + 100 * std::asin(offset / 100), NearPattern);
     }
 }
 
@@ -140,34 +140,34 @@ TEST(TrunkPatternTest, ReferencePointTellsWhereTheAxisStands) {
     const CRuleSurf& pattern = Developed(square);
     EXPECT_TRUE(pattern.RefPointDisplay);
     ASSERT_TRUE(pattern.RefPoint);
-    EXPECT_NEAR(pattern.RefPoint->x, 100 * PI, Near);
-    EXPECT_NEAR(pattern.RefPoint->y, 320, Near);
+    EXPECT_NEAR(pattern.RefPoint->x, 100 * PI, NearPattern);
+    EXPECT_NEAR(pattern.RefPoint->y, 320, NearPattern);
     // At 45 degrees the axis comes out of the trunk one radius below the crossing.
     CBranch slanting = Joint(TrunkPattern, DegToRad(45));
-    EXPECT_NEAR(Developed(slanting).RefPoint->y, 220, Near);
+    EXPECT_NEAR(Developed(slanting).RefPoint->y, 220, NearPattern);
 }
 
 TEST(TrunkPatternTest, SlantingHoleIsStretchedAlongTheTrunk) {
     CBranch branch = Joint(TrunkPattern, DegToRad(30));
     const C3DPoints& hole = *Developed(branch).List3;
     // At the top and bottom u = +-60 and the hole lies 60 / sin 30 from where the axis comes out.
-    EXPECT_NEAR(hole.Item(1).y - hole.Item(25).y, 240, Near);
-    EXPECT_NEAR(hole.Item(1).y, 320 - 100 / std::tan(PI / 6) + 120, Near);
+    EXPECT_NEAR(hole.Item(1).y - hole.Item(25).y, 240, NearPattern);
+    EXPECT_NEAR(hole.Item(1).y, 320 - 100 / std::tan(PI / 6) + 120, NearPattern);
 }
 
 TEST(BranchTemplates, WrapRoundTheOutside) {
     for (const std::int16_t type : {std::int16_t{1}, std::int16_t{2}, std::int16_t{-1}}) {
         CBranch pipe = Joint(BranchPipePattern);
         pipe.TemplateType = type;
-        EXPECT_NEAR(Developed(pipe).List1->Last().x, 2 * PI * 62, Near);
-        EXPECT_NEAR(Developed(pipe).List1->Item(1).y, 300, Near);
+        EXPECT_NEAR(Developed(pipe).List1->Last().x, 2 * PI * 62, NearPattern);
+        EXPECT_NEAR(Developed(pipe).List1->Item(1).y, 300, NearPattern);
         CBranch trunk = Joint(TrunkPattern);
         trunk.TemplateType = type;
         const CRuleSurf& pattern = Developed(trunk);
-        EXPECT_NEAR(pattern.List2->Last().x, 2 * PI * 103, Near);
+        EXPECT_NEAR(pattern.List2->Last().x, 2 * PI * 103, NearPattern);
         // The hole grows with the plate, about the plate's middle.
-        EXPECT_NEAR(pattern.List3->Item(13).x, 103 * PI + 103 * std::asin(0.6), Near);
-        EXPECT_NEAR(pattern.List3->Item(13).y, 320, Near);
+        EXPECT_NEAR(pattern.List3->Item(13).x, 103 * PI + 103 * std::asin(0.6), NearPattern);
+        EXPECT_NEAR(pattern.List3->Item(13).y, 320, NearPattern);
     }
 }
 
@@ -176,8 +176,8 @@ TEST(BranchHalfPatterns, BranchIsHalfAsWide) {
     branch.inputs.HalfPattern = true;
     const CRuleSurf& pattern = Developed(branch);
     ASSERT_EQ(pattern.List1->Count(), 25U);
-    EXPECT_NEAR(pattern.List1->Last().x, 60 * PI, Near);
-    EXPECT_NEAR(pattern.List1->Item(13).y, 400 - 80, Near);
+    EXPECT_NEAR(pattern.List1->Last().x, 60 * PI, NearPattern);
+    EXPECT_NEAR(pattern.List1->Item(13).y, 400 - 80, NearPattern);
 }
 
 TEST(BranchHalfPatterns, HalfTheHoleStandsOnTheEndOfTheHalfTrunk) {
@@ -190,18 +190,18 @@ TEST(BranchHalfPatterns, HalfTheHoleStandsOnTheEndOfTheHalfTrunk) {
         ASSERT_EQ(pattern.List1->Count(), kept);
         ASSERT_EQ(pattern.List3->Count(), kept);
         const double end = pattern.List1->Last().x;
-        EXPECT_NEAR(end, 100 * PI, Near);
+        EXPECT_NEAR(end, 100 * PI, NearPattern);
         for (const C3DPoint& point : *pattern.List3) {
-            EXPECT_LE(point.x, end + Near);
+            EXPECT_LE(point.x, end + NearPattern);
             EXPECT_GT(point.x, 0);
         }
-        EXPECT_NEAR(pattern.List3->Item(1).x, end, Near);
-        EXPECT_NEAR(pattern.List3->Item(1).y, 260, Near);
-        EXPECT_NEAR(pattern.List3->Last().x, end, Near);
-        EXPECT_NEAR(pattern.List3->Last().y, 380, Near);
+        EXPECT_NEAR(pattern.List3->Item(1).x, end, NearPattern);
+        EXPECT_NEAR(pattern.List3->Item(1).y, 260, NearPattern);
+        EXPECT_NEAR(pattern.List3->Last().x, end, NearPattern);
+        EXPECT_NEAR(pattern.List3->Last().y, 380, NearPattern);
         ASSERT_TRUE(pattern.RefPoint);
-        EXPECT_NEAR(pattern.RefPoint->x, end, Near);
-        EXPECT_NEAR(pattern.RefPoint->y, 320, Near);
+        EXPECT_NEAR(pattern.RefPoint->x, end, NearPattern);
+        EXPECT_NEAR(pattern.RefPoint->y, 320, NearPattern);
     }
 }
 
@@ -218,11 +218,11 @@ TEST(BranchLaps, LieAlongBothEdgesAndTheSeam) {
         ASSERT_EQ(lapped.List1->Count(), 50U);
         ASSERT_EQ(lapped.LapList1->Count(), 50U);
         for (std::size_t i = 1; i <= 49; ++i) {
-            EXPECT_NEAR(lapped.List1->Item(i).y, bare.List1->Item(i).y + 8, Near);
-            EXPECT_NEAR(lapped.List2->Item(i).y, -5, Near);
-            EXPECT_NEAR(lapped.LapList2->Item(i).y, 0, Near);
+            EXPECT_NEAR(lapped.List1->Item(i).y, bare.List1->Item(i).y + 8, NearPattern);
+            EXPECT_NEAR(lapped.List2->Item(i).y, -5, NearPattern);
+            EXPECT_NEAR(lapped.LapList2->Item(i).y, 0, NearPattern);
         }
-        EXPECT_NEAR(lapped.List2->Item(50).x, bare.List2->Item(49).x + 12, Near);
+        EXPECT_NEAR(lapped.List2->Item(50).x, bare.List2->Item(49).x + 12, NearPattern);
         EXPECT_EQ(lapped.List1->Item(50).Flag, LapClosure);
         EXPECT_TRUE(branch.results.warnings.empty());
         if (which == TrunkPattern) {

@@ -13,7 +13,7 @@
 namespace korvet {
 namespace {
 
-constexpr double Near = 1e-8;
+constexpr double NearModel = 1e-8;
 
 /// A joint of mean radii r and R.
 CBranch Joint(double alpha, double offset, double r, double R) {
@@ -84,9 +84,9 @@ class JointTest : public testing::TestWithParam<Sizes> {
 TEST_P(JointTest, EdgeLiesOnBothPipes) {
     const CBranch branch = Built();
     for (const C3DPoint& point : *branch.results.ModelSurfaceList.Item(1).List2) {
-        EXPECT_NEAR(std::hypot(point.x, point.y), GetParam().R, Near);
+        EXPECT_NEAR(std::hypot(point.x, point.y), GetParam().R, NearModel);
         EXPECT_GE(point.x, 0);
-        EXPECT_NEAR(DistanceFromAxis(branch, point), GetParam().r, Near);
+        EXPECT_NEAR(DistanceFromAxis(branch, point), GetParam().r, NearModel);
     }
 }
 
@@ -94,8 +94,8 @@ TEST_P(JointTest, FreeEndIsACircleSquareToTheAxis) {
     const CBranch branch = Built();
     const Vector axis = AxisOf(branch);
     for (const C3DPoint& point : *branch.results.ModelSurfaceList.Item(1).List1) {
-        EXPECT_NEAR(Dot(Between(AxisOrigin(branch), point), axis), 400, Near);
-        EXPECT_NEAR(DistanceFromAxis(branch, point), GetParam().r, Near);
+        EXPECT_NEAR(Dot(Between(AxisOrigin(branch), point), axis), 400, NearModel);
+        EXPECT_NEAR(DistanceFromAxis(branch, point), GetParam().r, NearModel);
     }
 }
 
@@ -116,7 +116,7 @@ TEST_P(JointTest, RulesRunAlongTheAxisFromTheFreeEndToTheTrunk) {
         const double length = (start.x - halfChord) / axis.x;
         const auto station = static_cast<std::size_t>(i) + 1;
         // Where the branch is as wide as the trunk, the root turns a rounding into 1e-6.
-        const double near = std::abs(R - std::abs(start.y)) < 1e-6 ? 1e-4 : Near;
+        const double near = std::abs(R - std::abs(start.y)) < 1e-6 ? 1e-4 : NearModel;
         EXPECT_NEAR(Distance3D(model.List1->Item(station), start), 0, 1e-7);
         EXPECT_NEAR(Distance3D(model.List1->Item(station), model.List2->Item(station)), length, near);
         const Vector rule = Between(model.List2->Item(station), model.List1->Item(station));
@@ -137,11 +137,11 @@ TEST_P(JointTest, TrunkStandsOnZeroWithItsSeamBehind) {
     for (std::size_t i = 1; i <= 49; ++i) {
         const double angle = PI + static_cast<double>(i - 1) * 2 * PI / 48;
         for (const C3DPoints* ring : {trunk.List1.get(), trunk.List2.get()}) {
-            EXPECT_NEAR(ring->Item(i).x, GetParam().R * std::cos(angle), Near);
-            EXPECT_NEAR(ring->Item(i).y, GetParam().R * std::sin(angle), Near);
+            EXPECT_NEAR(ring->Item(i).x, GetParam().R * std::cos(angle), NearModel);
+            EXPECT_NEAR(ring->Item(i).y, GetParam().R * std::sin(angle), NearModel);
             EXPECT_EQ(ring->Item(i).Flag, static_cast<int>(i % 2));
         }
-        EXPECT_NEAR(trunk.List1->Item(i).z, 700, Near);
+        EXPECT_NEAR(trunk.List1->Item(i).z, 700, NearModel);
         EXPECT_EQ(trunk.List2->Item(i).z, 0);
     }
 }
@@ -161,8 +161,8 @@ TEST(BranchModel, EqualPipesMeetSquareInTwoPlanes) {
     ASSERT_EQ(edge.Count(), 25U);
     for (std::size_t i = 1; i <= 25; ++i) {
         const double theta = static_cast<double>(i - 1) * PI / 12;
-        EXPECT_NEAR(edge.Item(i).y, 80 * std::sin(theta), Near);
-        EXPECT_NEAR(edge.Item(i).z - 320, 80 * std::cos(theta), Near);
+        EXPECT_NEAR(edge.Item(i).y, 80 * std::sin(theta), NearModel);
+        EXPECT_NEAR(edge.Item(i).z - 320, 80 * std::cos(theta), NearModel);
         EXPECT_NEAR(edge.Item(i).x, std::abs(edge.Item(i).z - 320), 1e-5);
     }
 }
@@ -174,7 +174,7 @@ TEST(BranchModel, AFarSideOnTheTrunksEdgeIsAllowed) {
         branch.ConstructModel();
         const C3DPoint& far = branch.results.ModelSurfaceList.Item(1).List2->Item(offset > 0 ? 2 : 4);
         EXPECT_NEAR(far.x, 0, 1e-5);
-        EXPECT_NEAR(far.y, offset > 0 ? 80 : -80, Near);
+        EXPECT_NEAR(far.y, offset > 0 ? 80 : -80, NearModel);
     }
 }
 
@@ -228,15 +228,15 @@ TEST(BranchRadii, EachPairCutsItsOwnPipe) {
     branch.TrunkRadiusPipeA = 55;
     branch.ConstructModel();
     for (const C3DPoint& point : *branch.results.ModelSurfaceList.Item(1).List2) {
-        EXPECT_NEAR(std::hypot(point.x, point.y), 105, Near);
-        EXPECT_NEAR(DistanceFromAxis(branch, point), 60, Near);
+        EXPECT_NEAR(std::hypot(point.x, point.y), 105, NearModel);
+        EXPECT_NEAR(DistanceFromAxis(branch, point), 60, NearModel);
     }
     const CBranch trunkOnly = Joint(DegToRad(50), 0, 55, 100);
     for (const C3DPoint& point : *branch.results.ModelSurfaceList.Item(2).List3) {
-        EXPECT_NEAR(std::hypot(point.x, point.y), 100, Near);
-        EXPECT_NEAR(DistanceFromAxis(trunkOnly, point), 55, Near);
+        EXPECT_NEAR(std::hypot(point.x, point.y), 100, NearModel);
+        EXPECT_NEAR(DistanceFromAxis(trunkOnly, point), 55, NearModel);
     }
-    EXPECT_NEAR(branch.results.ModelSurfaceList.Item(2).List1->Item(1).x, -100, Near);
+    EXPECT_NEAR(branch.results.ModelSurfaceList.Item(2).List1->Item(1).x, -100, NearModel);
 }
 
 TEST(BranchRadii, ASetOnBranchDiffersFromAMeanOneInItsTrunkAlone) {
@@ -248,7 +248,7 @@ TEST(BranchRadii, ASetOnBranchDiffersFromAMeanOneInItsTrunkAlone) {
     const CRuleSurf& a = mean.results.ModelSurfaceList.Item(1);
     const CRuleSurf& b = setOn.results.ModelSurfaceList.Item(1);
     for (std::size_t i = 1; i <= a.List1->Count(); ++i) {
-        EXPECT_NEAR(Distance3D(a.List1->Item(i), b.List1->Item(i)), 0, Near);
+        EXPECT_NEAR(Distance3D(a.List1->Item(i), b.List1->Item(i)), 0, NearModel);
         EXPECT_EQ(a.List2->Item(i).y, b.List2->Item(i).y);
         EXPECT_LT(a.List2->Item(i).x, b.List2->Item(i).x);
     }

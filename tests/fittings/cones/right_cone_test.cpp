@@ -8,11 +8,10 @@
 
 #include "core/constants.h"
 #include "core/math_module.h"
+#include "tests/support/near.h"
 
 namespace korvet {
 namespace {
-
-constexpr double Near = 1e-9;
 
 /// Base radius 150, apex 400 high: slant height sqrt(150^2 + 400^2), sin(half angle) = 150 / slant.
 CRightCone Frustum(double topHeight = 250) {

@@ -8,10 +8,9 @@
 
 #include "core/math_module.h"
 #include "fittings/pipes/right_cylinder.h"
+#include "tests/support/near.h"
 
 namespace korvet {
-
-inline constexpr double Near = 1e-9;
 
 /// With square ends.
 inline CRightCylinder Pipe(int segs = 12) {

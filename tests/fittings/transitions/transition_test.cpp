@@ -7,12 +7,11 @@
 #include <vector>
 
 #include "tests/fittings/transitions/transition_samples.h"
+#include "tests/support/near.h"
 #include "tests/support/point_lists.h"
 
 namespace korvet {
 namespace {
-
-constexpr double Near = 1e-9;
 
 void ExpectAt(const C3DPoint& point, double x, double y, double z) {
     EXPECT_NEAR(point.x, x, Near);
