@@ -4,15 +4,13 @@ add_library(korvet_rules INTERFACE)
 target_compile_options(korvet_rules INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Werror
     # The same bytes on every compiler and at every optimisation level: no fused multiply-add, no fast maths.
-    -ffp-contract=off -fno-fast-math)
+    -ffp-contract=off -fno-fast-math
+    # No name of a folder in what is compiled.
+    -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
 target_include_directories(korvet_rules INTERFACE ${PROJECT_SOURCE_DIR}/src)
 if(KORVET_SANITIZE)
     target_compile_options(korvet_rules INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
-    target_link_options(korvet_rules INTERFACE -fsanitize=address,undefined)
-endif()
-if(KORVET_FUZZ)
-    target_compile_options(korvet_rules INTERFACE -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all)
     target_link_options(korvet_rules INTERFACE -fsanitize=address,undefined)
 endif()
 
