@@ -62,7 +62,7 @@ class Cover {
 
     /// The visible shares of a line between two vertices, in order.
     [[nodiscard]] std::vector<Stretch> VisibleParts(const Ray& ray) const {
-        Place place = Place::About({ray.At(0), ray.At(1)});
+        SolidPlace place = SolidPlace::About({ray.At(0), ray.At(1)});
         place.halfLength += NoLength * mesh_.size;
         place.halfWidth += NoLength * mesh_.size;
         const double deepest = std::min(ray.from.depth, ray.to.depth);
@@ -78,7 +78,7 @@ class Cover {
   private:
     struct Entry {
         const MeshFace* face = nullptr;
-        Place place;
+        SolidPlace place;
         double nearest = 0;
     };
 
@@ -96,8 +96,8 @@ class Cover {
         return entries;
     }
 
-    static std::vector<Place> PlacesOf(const std::vector<Entry>& entries) {
-        std::vector<Place> places;
+    static std::vector<SolidPlace> PlacesOf(const std::vector<Entry>& entries) {
+        std::vector<SolidPlace> places;
         places.reserve(entries.size());
         for (const Entry& entry : entries) {
             places.push_back(entry.place);

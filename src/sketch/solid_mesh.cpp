@@ -358,12 +358,12 @@ EdgeLook LookOf(const SolidMesh& mesh, const MeshEdge& edge) {
     return flatFacesMeet && !edge.diagonal ? EdgeLook::BendLine : EdgeLook::None;
 }
 
-Place PlaceOf(const SolidMesh& mesh, const MeshFace& face) {
+SolidPlace PlaceOf(const SolidMesh& mesh, const MeshFace& face) {
     std::vector<SketchXY> corners;
     for (const std::size_t corner : face.corners) {
         corners.push_back(OnPicture(mesh.vertices[corner]));
     }
-    return Place::About(corners);
+    return SolidPlace::About(corners);
 }
 
 double DepthAt(const SolidMesh& mesh, const MeshFace& face, const SketchXY& at) {

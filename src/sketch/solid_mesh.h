@@ -69,7 +69,7 @@ inline SketchXY OnPicture(const EyePoint& point) {
 double DepthAt(const SolidMesh& mesh, const MeshFace& face, const SketchXY& at);
 
 /// Where a face lies on the picture.
-Place PlaceOf(const SolidMesh& mesh, const MeshFace& face);
+SolidPlace PlaceOf(const SolidMesh& mesh, const MeshFace& face);
 
 /// The faces that are not on edge, from the back to the front.
 struct PaintingOrder {

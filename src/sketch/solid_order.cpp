@@ -139,7 +139,7 @@ struct CoverGraph {
 CoverGraph MakeCoverGraph(const SolidMesh& mesh, const std::vector<PaintedFace>& faces) {
     CoverGraph graph{std::vector<std::vector<std::size_t>>(faces.size()),
                      std::vector<std::size_t>(faces.size(), 0)};
-    std::vector<Place> places;
+    std::vector<SolidPlace> places;
     for (const PaintedFace& face : faces) {
         places.push_back(PlaceOf(mesh, mesh.faces[face.face]));
     }

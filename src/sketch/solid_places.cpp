@@ -22,7 +22,7 @@ SketchXY Across(const SketchXY& along) {
 
 /// The smallest rectangle in this direction about points.
 template <typename Points>
-Place PlaceAlong(const SketchXY& along, const Points& points) {
+SolidPlace PlaceAlong(const SketchXY& along, const Points& points) {
     constexpr double Far = std::numeric_limits<double>::infinity();
     double left = Far;
     double right = -Far;
@@ -42,7 +42,7 @@ Place PlaceAlong(const SketchXY& along, const Points& points) {
         {u * along.x - v * along.y, u * along.y + v * along.x}, along, (right - left) / 2, (high - low) / 2};
 }
 
-std::array<SketchXY, 4> CornersOf(const Place& place) {
+std::array<SketchXY, 4> CornersOf(const SolidPlace& place) {
     const auto corner = [&](double length, double width) {
         return SketchXY{place.middle.x + length * place.along.x - width * place.along.y,
                         place.middle.y + length * place.along.y + width * place.along.x};
@@ -64,7 +64,7 @@ SketchXY Halved(double x, double y) {
 
 }  // namespace
 
-Place Place::About(const std::vector<SketchXY>& points) {
+SolidPlace SolidPlace::About(const std::vector<SketchXY>& points) {
     SketchXY along = {1, 0};
     double longest = 0;
     for (std::size_t i = 0; i < points.size(); ++i) {
@@ -80,7 +80,7 @@ Place Place::About(const std::vector<SketchXY>& points) {
 }
 
 /// Two rectangles lie apart when they do so along or across one of them.
-bool Place::Meets(const Place& other) const {
+bool SolidPlace::Meets(const SolidPlace& other) const {
     const SketchXY apart = {other.middle.x - middle.x, other.middle.y - middle.y};
     const double cosine = std::fabs(Dot(along, other.along));
     const double sine = std::fabs(Dot(Across(along), other.along));
@@ -92,7 +92,7 @@ bool Place::Meets(const Place& other) const {
                other.halfWidth + halfLength * sine + halfWidth * cosine;
 }
 
-PlaceTree::PlaceTree(std::vector<Place> places) : places_(std::move(places)), order_(places_.size()) {
+PlaceTree::PlaceTree(std::vector<SolidPlace> places) : places_(std::move(places)), order_(places_.size()) {
     std::iota(order_.begin(), order_.end(), std::size_t{0});
     if (!order_.empty()) {
         AddGroup(0, order_.size());
@@ -100,11 +100,11 @@ PlaceTree::PlaceTree(std::vector<Place> places) : places_(std::move(places)), or
 }
 
 /// About a group, in the direction that most of its members lie in.
-Place PlaceTree::PlaceOf(std::size_t first, std::size_t end) const {
+SolidPlace PlaceTree::PlaceOf(std::size_t first, std::size_t end) const {
     SketchXY doubled;
     std::vector<SketchXY> corners;
     for (std::size_t i = first; i < end; ++i) {
-        const Place& place = places_[order_[i]];
+        const SolidPlace& place = places_[order_[i]];
         const double weight = place.halfLength * place.halfLength - place.halfWidth * place.halfWidth;
         doubled.x += weight * (place.along.x * place.along.x - place.along.y * place.along.y);
         doubled.y += weight * 2 * place.along.x * place.along.y;
@@ -128,7 +128,7 @@ void PlaceTree::AddGroup(std::size_t first, std::size_t end) {
         middles.push_back(places_[order_[i]].middle);
     }
     const SketchXY along = groups_[number].place.along;
-    const Place spread = PlaceAlong(along, middles);
+    const SolidPlace spread = PlaceAlong(along, middles);
     const SketchXY direction = spread.halfLength >= spread.halfWidth ? along : Across(along);
     const std::size_t half = first + (end - first) / 2;
     std::nth_element(at(first), at(half), at(end), [&](std::size_t a, std::size_t b) {
@@ -139,7 +139,7 @@ void PlaceTree::AddGroup(std::size_t first, std::size_t end) {
     groups_[number].next = groups_.size();
 }
 
-PlaceTree::Found PlaceTree::Meeting(const Place& place) const {
+PlaceTree::Found PlaceTree::Meeting(const SolidPlace& place) const {
     Found found;
     for (std::size_t i = 0; i < groups_.size();) {
         const Group& group = groups_[i];

@@ -244,7 +244,7 @@ TEST(PaintersOrder, CostsLittleMoreForTwiceTheStripsOfALeaningCone) {
     }
 }
 
-Place Anywhere(std::mt19937& generator) {
+SolidPlace Anywhere(std::mt19937& generator) {
     std::uniform_real_distribution<double> random(0, 1);
     const double t = 2 * std::numbers::pi * random(generator);
     return {{10 * random(generator), 10 * random(generator)},
@@ -253,7 +253,7 @@ Place Anywhere(std::mt19937& generator) {
             0.2 * random(generator)};
 }
 
-std::vector<SketchXY> CornersOf(const Place& place) {
+std::vector<SketchXY> CornersOf(const SolidPlace& place) {
     std::vector<SketchXY> corners;
     for (const auto& [u, v] : {SketchXY{-1, -1}, {1, -1}, {1, 1}, {-1, 1}}) {
         const double length = u * place.halfLength;
@@ -266,14 +266,14 @@ std::vector<SketchXY> CornersOf(const Place& place) {
 
 TEST(PlaceTree, FindsWhatOverlapsAndNothingElse) {
     std::mt19937 generator(3);
-    std::vector<Place> places;
+    std::vector<SolidPlace> places;
     for (int i = 0; i < 400; ++i) {
         places.push_back(Anywhere(generator));
     }
     const PlaceTree tree(places);
     std::size_t met = 0;
     for (int i = 0; i < 100; ++i) {
-        const Place place = Anywhere(generator);
+        const SolidPlace place = Anywhere(generator);
         std::vector<std::size_t> expected;
         for (std::size_t k = 0; k < places.size(); ++k) {
             if (CommonCorners(CornersOf(place), CornersOf(places[k])).size() >= 3) {
@@ -290,13 +290,13 @@ TEST(PlaceTree, WithoutPlacesFindsNothing) {
     EXPECT_TRUE(PlaceTree({}).Meeting({{0, 0}, {1, 0}, 5, 5}).numbers.empty());
 }
 
-TEST(Place, LiesAlongTheLongestSide) {
-    const Place place = Place::About({{1, 1}, {4, 5}, {3.2, 5.6}, {0.2, 1.6}});
-    EXPECT_NEAR(place.middle.x, 2.1, Near);
-    EXPECT_NEAR(place.middle.y, 3.3, Near);
-    EXPECT_NEAR(std::fabs(place.along.x * 4 - place.along.y * 3), 0, Near);
-    EXPECT_NEAR(place.halfLength, 2.5, Near);
-    EXPECT_NEAR(place.halfWidth, 0.5, Near);
+TEST(SolidPlace, LiesAlongTheLongestSide) {
+    const SolidPlace place = SolidPlace::About({{1, 1}, {4, 5}, {3.2, 5.6}, {0.2, 1.6}});
+    EXPECT_NEAR(place.middle.x, 2.1, Close);
+    EXPECT_NEAR(place.middle.y, 3.3, Close);
+    EXPECT_NEAR(std::fabs(place.along.x * 4 - place.along.y * 3), 0, Close);
+    EXPECT_NEAR(place.halfLength, 2.5, Close);
+    EXPECT_NEAR(place.halfWidth, 0.5, Close);
 }
 
 }  // namespace
