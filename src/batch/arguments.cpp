@@ -165,6 +165,14 @@ struct RawTexts {
     std::string view;
 };
 
+/// --NAME ticks a box of the export dialog and --no-NAME clears it; both together are refused.
+void AddTick(CLI::App& app, const std::string& name, std::optional<bool>& tick, const std::string& what) {
+    const auto set = [&tick](bool ticked) { return [&tick, ticked](std::int64_t) { tick = ticked; }; };
+    CLI::Option* on = app.add_flag_function("--" + name, set(true), "DXF: " + what);
+    CLI::Option* off = app.add_flag_function("--no-" + name, set(false), "DXF: without " + what);
+    on->excludes(off);
+}
+
 void AddOptions(CLI::App& app, Arguments& arguments, RawTexts& raw, LaterOutputs& later) {
     // What a script leaves empty by mistake must not pass for what was left out.
     const CLI::Validator notEmpty([](const std::string& text) { return text.empty() ? "it is empty" : ""; },
@@ -190,9 +198,9 @@ void AddOptions(CLI::App& app, Arguments& arguments, RawTexts& raw, LaterOutputs
     app.add_option("--dxf", arguments.dxf, "DXF of the view")->check(notEmpty);
     app.add_flag("--polylines", arguments.polylines, "DXF: edges as polylines instead of arcs");
     app.add_flag("--mesh", arguments.mesh, "DXF: surfaces as a mesh");
-    app.add_flag("--diagonals", arguments.diagonals, "DXF: diagonals");
-    app.add_flag("--dimensions", arguments.dimensions, "DXF: dimensions and what else is marked out");
-    app.add_flag("--label", arguments.label, "DXF: the text block");
+    AddTick(app, "diagonals", arguments.diagonals, "diagonals");
+    AddTick(app, "dimensions", arguments.dimensions, "dimensions and what else is marked out");
+    AddTick(app, "label", arguments.label, "the text block");
     app.add_option("--save", arguments.save, "write the parameter file")->check(notEmpty);
     app.add_option("--png", arguments.png, "picture of the view")->check(notEmpty);
     app.add_option("--svg", arguments.svg, "picture of the view")->check(notEmpty);

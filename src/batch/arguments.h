@@ -48,9 +48,9 @@ struct Arguments {
 
     bool polylines = false;  ///< boxes of the export dialog to tick
     bool mesh = false;
-    bool diagonals = false;
-    bool dimensions = false;
-    bool label = false;
+    std::optional<bool> diagonals;  ///< to tick or to clear; absent they are as the dialog has them
+    std::optional<bool> dimensions;
+    std::optional<bool> label;
 };
 
 /// Reads the command line. Nothing when it only asked for help, which has then been printed. Throws

@@ -75,19 +75,22 @@ void BatchUi::RunModal(DxfOptionsDialog& dialog) {
     if (arguments_.polylines) {
         dialog.optPolyMode.selected = 1;
     }
-    Tick(dialog.chkSurfaceMesh, arguments_.mesh);
+    Tick(dialog.chkSurfaceMesh, arguments_.mesh ? std::optional(true) : std::nullopt);
     Tick(dialog.chkDXFOutput[DxfOptionsDialog::Diagonals], arguments_.diagonals);
     Tick(dialog.chkDXFOutput[DxfOptionsDialog::Dimensions], arguments_.dimensions);
     Tick(dialog.chkDXFOutput[DxfOptionsDialog::Label], arguments_.label);
     dialog.lblStatus = "OK";
 }
 
-/// Ticks a box that the command line asks for. One that the dialog has greyed stays as it is, with a word
-/// about it.
-void BatchUi::Tick(CheckBox& box, bool wanted) {
-    if (wanted && box.enabled) {
-        box.checked = true;
-    } else if (wanted) {
+/// Ticks or clears a box that the command line names. One that the dialog has greyed stays as it is, with a
+/// word about it where it is to be ticked.
+void BatchUi::Tick(CheckBox& box, std::optional<bool> wanted) {
+    if (!wanted) {
+        return;
+    }
+    if (box.enabled) {
+        box.checked = *wanted;
+    } else if (*wanted) {
         PrintLine(name_ + ": there is nothing for \"" + box.caption + "\" in this view");
     }
 }

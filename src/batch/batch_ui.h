@@ -48,7 +48,7 @@ class BatchUi : public UserInterface {
 
   private:
     [[nodiscard]] std::string FurtherDetail(const MessageBox& message) const;
-    void Tick(CheckBox& box, bool wanted);
+    void Tick(CheckBox& box, std::optional<bool> wanted);
 
     const Arguments& arguments_;
     std::string name_;

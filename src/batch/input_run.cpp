@@ -4,48 +4,35 @@
 #include "frame/catalogue.h"
 #include "frame/new_fitting.h"
 #include "window/saving.h"
-#include "window/views.h"
 
 namespace korvet::batch {
-namespace {
-
-/// The factor of the Zoom Out command.
-constexpr double ZoomOutStep = 0.9;
-
-CRuleSurfs OneSurface(const CRuleSurf& surface) {
-    CRuleSurfs surfaces;
-    if (surface.List1) {
-        surfaces.Add(surface);
-    }
-    return surfaces;
-}
-
-}  // namespace
 
 InputRun::InputRun(const Arguments& arguments, WindowContext& context, BatchUi& ui, std::string input)
     : arguments_(arguments), context_(context), ui_(ui), input_(std::move(input)) {}
 
 void InputRun::Run() {
     try {
-        if (!OpenWindow() || !SetValues() || !BuildForReport()) {
-            return;
+        if (OpenWindow() && SetValues()) {
+            outputs_.emplace(arguments_, ui_, *window_, InputName(arguments_, input_));
+            succeeded_ = outputs_->Write();
         }
-        ui_.BeginOutputs();
-        ChooseView();
-        taken_ = window_->hasModel;
-        succeeded_ = taken_ && WriteOutputs();
     } catch (const UsageError&) {
         throw;
     } catch (const std::exception& error) {
-        taken_ = false;
+        outputs_.reset();
         ShowPlain(ui_, error.what());
     }
 }
 
 InputReport InputRun::Report() const {
-    const std::string none = "[]";
-    return {input_,         category_, window_.get(),          labels_,
-            ui_.Messages(), !taken_,   taken_ ? model_ : none, taken_ ? pattern_ : none};
+    InputReport report = {input_, category_, window_.get(), {}, ui_.Messages(), true, "[]", "[]"};
+    if (outputs_) {
+        report.labels = outputs_->Labels();
+        report.refused = !outputs_->Taken();
+        report.model = outputs_->Model();
+        report.pattern = outputs_->Pattern();
+    }
+    return report;
 }
 
 /// The window of a parameter file, filled from it, or a new one.
@@ -124,105 +111,6 @@ bool InputRun::SetValues() {
         good = SetValue(*window_, name, value) == Passed && good;
     }
     return good;
-}
-
-/// Model and pattern of a fresh fitting for the JSON output. False when the build refuses.
-bool InputRun::BuildForReport() {
-    if (arguments_.json.empty()) {
-        return true;
-    }
-    try {
-        const bool built = window_->BuildFitting() == Passed;
-        labels_ = window_->labels;
-        if (!built) {
-            return false;
-        }
-        window_->ApplySettings();
-        const FittingHandle& fitting = *window_->fitting;
-        const FittingResults& results = fitting.Results();
-        const bool many = window_->Table().multiple;
-        fitting.ConstructModel();
-        model_ = SurfacesJson(many ? results.ModelSurfaceList : OneSurface(results.ModelSurface));
-        fitting.DevelopModel();
-        pattern_ = SurfacesJson(many ? results.PatternSurfaceList : OneSurface(results.PatternSurface));
-        window_->ShowWarnings(results.warnings);
-    } catch (const std::exception& error) {
-        window_->RefuseBuild(error);
-    }
-    return window_->hasModel;
-}
-
-/// Builds in the view of the file, or the one that the command line asks for; a new window shows its pattern.
-void InputRun::ChooseView() {
-    const bool hasView = window_->views->Count() > 0;
-    const bool asSaved = arguments_.view == ViewChoice::AsSaved;
-    const bool wantsPattern = arguments_.view == ViewChoice::Pattern || (asSaved && !hasView);
-    if (hasView && (asSaved || InPatternView(*window_->views) == wantsPattern)) {
-        window_->UpdateFitting();
-    } else {
-        window_->ClickView(wantsPattern ? PatternButton : 0);
-    }
-}
-
-bool InputRun::WriteOutputs() {
-    const std::string name = InputName(arguments_, input_);
-    bool written = true;
-    if (!arguments_.save.empty()) {
-        written = window_->SaveFile(OutputPath(arguments_.save, name)) == Passed && written;
-    }
-    if (!arguments_.dxf.empty()) {
-        written = ExportDxf(OutputPath(arguments_.dxf, name)) && written;
-    }
-    if (!arguments_.png.empty()) {
-        written = WritePicture(OutputPath(arguments_.png, name), PictureFormat::Png) && written;
-    }
-    if (!arguments_.svg.empty()) {
-        written = WritePicture(OutputPath(arguments_.svg, name), PictureFormat::Svg) && written;
-    }
-    // The last, since it may turn to the pattern.
-    if (!arguments_.table.empty()) {
-        written = WriteTable(OutputPath(arguments_.table, name)) && written;
-    }
-    return written;
-}
-
-/// A table is of the pattern, whatever the view.
-bool InputRun::WriteTable(const std::string& path) {
-    if (!InPatternView(*window_->views)) {
-        window_->ClickView(PatternButton);
-    }
-    return window_->WriteTable(path) == Passed;
-}
-
-/// Exports the view. Diagonals that the command line asks for are shown for as long as this takes, so that
-/// the export has them to offer.
-bool InputRun::ExportDxf(const std::string& path) {
-    const bool shown = window_->display.DiagonalsRequested;
-    window_->display.DiagonalsRequested = shown || arguments_.diagonals;
-    const bool written = window_->Export(path, ExportMode::Dxf) == Passed;
-    window_->display.DiagonalsRequested = shown;
-    return written;
-}
-
-/// Draws the view as an opened window shows it, zoomed to the extents; then out by one step, since a drawing
-/// sits one text height off the centre and a picture has nobody to pan it.
-bool InputRun::WritePicture(const std::string& path, PictureFormat format) {
-    PictureDevice picture(format, arguments_.size.width, arguments_.size.height);
-    window_->display.DisplayDevice = &picture;
-    window_->UpdateFitting();
-    window_->ZoomExtents();
-    window_->ZoomX(ZoomOutStep);
-    window_->display.DisplayDevice = nullptr;
-    if (!window_->hasModel) {
-        return false;
-    }
-    try {
-        picture.Save(path, context_.files);
-    } catch (const FileError& error) {
-        ShowPlain(ui_, error.what());
-        return false;
-    }
-    return true;
 }
 
 }  // namespace korvet::batch

@@ -2,12 +2,13 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "batch/arguments.h"
 #include "batch/batch_ui.h"
 #include "batch/json_text.h"
-#include "platform/picture_device.h"
+#include "batch/outputs.h"
 #include "window/fitting_window.h"
 
 namespace korvet::batch {
@@ -33,12 +34,6 @@ class InputRun {
     bool ReadCategory();
     void PrepareNewWindow();
     bool SetValues();
-    bool BuildForReport();
-    void ChooseView();
-    bool WriteOutputs();
-    bool WriteTable(const std::string& path);
-    bool ExportDxf(const std::string& path);
-    bool WritePicture(const std::string& path, PictureFormat format);
 
     const Arguments& arguments_;
     WindowContext& context_;
@@ -46,10 +41,7 @@ class InputRun {
     std::string input_;
     std::string category_;
     std::unique_ptr<CFittingWindow> window_;
-    std::shared_ptr<const CLabels> labels_;
-    std::string model_ = "[]";
-    std::string pattern_ = "[]";
-    bool taken_ = false;
+    std::optional<Outputs> outputs_;  ///< once the window is filled
     bool succeeded_ = false;
 };
 

@@ -41,6 +41,12 @@ struct MouseModes {
     float currentY = 0;
 };
 
+/// What a build makes of the boxes, as the fitting has it.
+struct ModelAndPattern {
+    CRuleSurfs model;
+    CRuleSurfs pattern;
+};
+
 class CFittingWindow {
   public:
     /// A window of a catalogue row whose table is built. `drawingArea` is where it draws; null: nowhere, its
@@ -127,11 +133,9 @@ class CFittingWindow {
     /// The one path by which anything is rebuilt or redrawn; nothing happens before the first view.
     void UpdateFitting();
 
-    /// Says that the sizes led to no shape and leaves the window without a model.
-    void RefuseBuild(const std::exception& error);
-
-    /// Shows what a fitting class had to say while it was built, in its order.
-    void ShowWarnings(const std::vector<FittingWarning>& warnings);
+    /// BuildFitting, and then the model and after it the pattern of the fitting, neither placed nor drawn.
+    /// Nothing after a refusal or when the sizes lead to no shape, which is said.
+    std::optional<ModelAndPattern> MakeModelAndPattern();
 
     void CancelMouseModes();
 
@@ -175,7 +179,10 @@ class CFittingWindow {
     void AddTextBlock();
     void TakeNoOfSides();
     void ResetFieldColours();
+    void RefuseBuild(const std::exception& error);
+    void PrepareDisplay();
     void DevelopAndDisplay();
+    void ShowWarnings(const std::vector<FittingWarning>& warnings);
     float DrawnTextSize();
     template <typename Step>
     bool RunMouseStep(Step step);

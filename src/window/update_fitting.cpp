@@ -158,10 +158,8 @@ float CFittingWindow::DrawnTextSize() {
     return static_cast<float>(goodTextSize_);
 }
 
-/// Hands the fitting over to the display, which builds and draws it.
-void CFittingWindow::DevelopAndDisplay() {
-    const HourglassWhile working(controls);
-    controls.pboxGraphicWindow.backColor = context_.options.Colors.DisplayBackColor;
+/// Puts all that a display goes by into fitting and display.
+void CFittingWindow::PrepareDisplay() {
     ApplySettings();
     display.TextSize = DrawnTextSize();
     display.Decimals = context_.options.Decimals;
@@ -172,12 +170,20 @@ void CFittingWindow::DevelopAndDisplay() {
     display.DimensionList = dimensions;
     display.LabelList = labels;
     display.ViewList = views;
+}
+
+/// Hands the fitting over to the display, which builds and draws it. Only then are the boxes black again:
+/// what is typed in them is what is shown.
+void CFittingWindow::DevelopAndDisplay() {
+    const HourglassWhile working(controls);
+    PrepareDisplay();
     try {
         display.DisplayObject();
     } catch (const std::exception&) {
         ShowWarnings(display.Warnings);  // they came before what ended the build
         throw;
     }
+    controls.pboxGraphicWindow.backColor = context_.options.Colors.DisplayBackColor;
     edited = false;
     ResetFieldColours();
     UpdateSettings(*this);
@@ -185,6 +191,24 @@ void CFittingWindow::DevelopAndDisplay() {
     ShowWarnings(display.Warnings);
 }
 
+std::optional<ModelAndPattern> CFittingWindow::MakeModelAndPattern() {
+    try {
+        if (BuildFitting()) {
+            return std::nullopt;
+        }
+        PrepareDisplay();
+        ModelAndPattern made;
+        made.model = MakeSurfaces(*fitting, FittingShape::Model, Table().multiple);
+        made.pattern = MakeSurfaces(*fitting, FittingShape::Pattern, Table().multiple);
+        ShowWarnings(fitting->Results().warnings);
+        return made;
+    } catch (const std::exception& error) {
+        RefuseBuild(error);
+        return std::nullopt;
+    }
+}
+
+/// Shows what a fitting class had to say while it was built, in its order.
 void CFittingWindow::ShowWarnings(const std::vector<FittingWarning>& warnings) {
     for (const FittingWarning& warning : warnings) {
         if (warning.userError) {

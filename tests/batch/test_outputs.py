@@ -1,18 +1,16 @@
-"""The files that korvet-batch writes: drawings, pictures, and what becomes of them when writing fails."""
+"""The files that korvet-batch writes: drawings, and what becomes of them when writing fails."""
 
 import math
 import os
 import resource
-import struct
 import subprocess
 import unittest
-import xml.etree.ElementTree
 from pathlib import Path
 
 import cone_cases
 import dxf_measure
-from batch_program import (CONE, CUT_CONE, DONE, PROGRAM, REFUSED, FolderTest, cone_file, read_json, run, run_all,
-                           sets)
+from batch_program import (CONE, CUT_CONE, DONE, PROGRAM, REFUSED, WRONG_USAGE, FolderTest, cone_file, read_json, run,
+                           run_all, sets)
 from cone_cases import TYPES
 from dxf_measure import Drawing
 from window_checks import number_text
@@ -111,6 +109,44 @@ class DxfTest(FolderTest):
         self.assertEqual(len(frame), 4)
         self.assertAlmostEqual(sum(math.dist(*ends) for ends in frame), 2 * (width + height), delta=1e-5)
 
+    def test_boxes_are_ticked_and_cleared(self):
+        """What a file shows is ticked in the export dialog; --no-... clears it, for the export alone."""
+        path = self.write("in.Kvt", cone_file(Label=("12.5", "-3", "0"), Comment1="Hood", DiagonalsRequested="True",
+                                              TrueLengthsRequested="True"))
+
+        def content(*arguments):
+            drawing, report = self.make(path, "--polylines", *arguments)
+            texts = [text.dxf.text for text in drawing.texts]
+            # 12 rulings between 13 stations: 3 lengths a step, the last ruling, 12 diagonals.
+            lengths = len(texts) - (len(report["labels"]) if "Hood" in texts else 0)
+            diagonals = sum(layer == dxf_measure.DIMENSION for layer, _ in drawing.lines)
+            return lengths, diagonals, "Hood" in texts
+
+        self.assertEqual(content(), (3 * 12 + 1 + 12, 12, True))
+        self.assertEqual(content("--no-label"), (3 * 12 + 1 + 12, 12, False))
+        self.assertEqual(content("--no-dimensions"), (12, 12, True))
+        # Dimensions take the diagonals along that are shown, so that a cleared box alone would not do.
+        self.assertEqual(content("--no-diagonals"), (3 * 12 + 1, 0, True))
+        self.assertEqual(content("--no-diagonals", "--no-dimensions", "--no-label"), (0, 0, False))
+        self.assertEqual(content("--dimensions", "--label", "--diagonals"), content())
+        saved = self.folder / "saved.Kvt"
+        run(path, "--no-diagonals", "--dxf", self.folder / "a.dxf", "--save", saved)
+        self.assertEqual(saved.read_bytes(), path.read_bytes(), "the file shows what it showed")
+
+    def test_clearing_what_is_not_there_is_no_news(self):
+        for view in ("model", "pattern"):
+            result = run(*CONE, "--view", view, "--no-diagonals", "--no-dimensions", "--no-label",
+                         "--dxf", self.folder / "a.dxf")
+            self.assertEqual((result.status, result.errors), (DONE, ""))
+
+    def test_a_box_is_ticked_or_cleared(self):
+        for name in ("diagonals", "dimensions", "label"):
+            for pair in ((f"--{name}", f"--no-{name}"), (f"--no-{name}", f"--{name}")):
+                result = run(*CONE, *pair, "--dxf", self.folder / "a.dxf")
+                self.assertEqual(result.status, WRONG_USAGE, pair)
+                self.assertIn(f"--no-{name}", result.errors)
+                self.assertEqual(self.names(), [])
+
     def test_user_dimensions_and_text_block(self):
         path = self.write("in.Kvt", cone_file(Label=("12.5", "-3", "0"), Comment1="Hood", Comment2="Bay 4",
                                               Dimensions=("1", "25", "2", "2", "1", "1")))
@@ -164,96 +200,6 @@ class LocaleTest(FolderTest):
         self.assertIn("\n1,5\n", saved[1])
         # What was typed stays as it was typed.
         self.assertEqual(saved[0].replace("1.5707963267949", "1,5707963267949").replace("\n1.5\n", "\n1,5\n"), saved[1])
-
-
-class PictureTest(FolderTest):
-    def png(self, path):
-        data = path.read_bytes()
-        self.assertEqual(data[:8], b"\x89PNG\r\n\x1a\n")
-        self.assertEqual(data[12:16], b"IHDR")
-        self.assertEqual(data[-8:-4], b"IEND")
-        return struct.unpack(">II", data[16:24])
-
-    def svg(self, path):
-        root = xml.etree.ElementTree.parse(path).getroot()
-        self.assertEqual(root.tag, "{http://www.w3.org/2000/svg}svg")
-        shapes = [item for item in root.iter() if item.tag.split("}")[1] in ("polyline", "path", "line", "polygon")]
-        return root, shapes
-
-    def test_nothing_is_cut_off(self):
-        """The whole pattern is on the picture, though the drawing sits a text height off its centre."""
-        path = self.folder / "whole.svg"
-        for kind in ("1", "2", "3", "4", "5"):
-            result = run("--new", "Truncated Right Cone", "--type", kind, "--sample", "--set", "textsize=7",
-                         "--svg", path, "--size", "800x600")
-            self.assertEqual((result.status, result.errors), (DONE, ""))
-            _, shapes = self.svg(path)
-            points = [tuple(map(float, point.split(","))) for shape in shapes
-                      for point in shape.get("points", "").split()]
-            self.assertGreater(len(points), 50)
-            for x, y in points:
-                self.assertTrue(0 < x < 800 and 0 < y < 600, (kind, x, y))
-
-    def test_sizes(self):
-        for option, size in (((), (800, 600)), (("--size", "200x100"), (200, 100)), (("--size", "1x1"), (1, 1)),
-                             (("--size", "1000x31"), (1000, 31))):
-            with self.subTest(size=size):
-                png, svg = self.folder / "a.png", self.folder / "a.svg"
-                self.assertEqual(run(*CONE, *option, "--png", png, "--svg", svg).status, DONE)
-                self.assertEqual(self.png(png), size)
-                root, _ = self.svg(svg)
-                self.assertEqual([float(number) for number in root.get("viewBox").split()], [0, 0, *size])
-
-    def test_views_differ(self):
-        pictures = {}
-        for view in ("model", "pattern"):
-            for kind in ("png", "svg"):
-                path = self.folder / f"{view}.{kind}"
-                run(*CUT_CONE, "--view", view, f"--{kind}", path)
-                pictures[view, kind] = path.read_bytes()
-            self.assertGreater(len(self.svg(self.folder / f"{view}.svg")[1]), 10)
-            self.assertGreater(len(pictures[view, "png"]), 2000)
-        self.assertNotEqual(pictures["model", "png"], pictures["pattern", "png"])
-        self.assertNotEqual(pictures["model", "svg"], pictures["pattern", "svg"])
-
-    def test_picture_shows_the_pattern(self):
-        """The edges in the picture are those of the pattern, all alike enlarged, upright and inside."""
-        path = self.folder / "a.svg"
-        pattern = run(*CUT_CONE, "--svg", path, "--json", "-").json["pattern"][0]
-        _, shapes = self.svg(path)
-        drawn = [[tuple(float(number) for number in pair.split(",")) for pair in shape.get("points").split()]
-                 for shape in shapes]
-        for points in drawn:
-            self.assertTrue(all(0 <= x <= 800 and 0 <= y <= 600 for x, y in points))
-        edges = [points for points in drawn if len(points) == 25]
-        self.assertEqual(len(edges), 2)
-        scale = math.dist(edges[1][0], edges[1][24]) / math.dist(pattern["List2"][0], pattern["List2"][24])
-        middle = [(edges[1][0][0] - scale * pattern["List2"][0][0]), (edges[1][0][1] + scale * pattern["List2"][0][1])]
-        for name, edge in zip(("List1", "List2"), edges):
-            for p, (x, y) in zip(pattern[name], edge):
-                self.assertAlmostEqual(x, middle[0] + scale * p[0], delta=2)
-                self.assertAlmostEqual(y, middle[1] - scale * p[1], delta=2)
-
-    def test_nothing_is_said(self):
-        """A picture that was written is no news, however bare the environment is."""
-        for kind in ("png", "svg"):
-            result = subprocess.run([PROGRAM, *CONE, f"--{kind}", self.folder / "a"], capture_output=True, check=False,
-                                    env={"PATH": os.environ["PATH"], "HOME": str(self.folder)})
-            self.assertEqual((result.returncode, result.stdout, result.stderr), (DONE, b"", b""))
-            self.assertEqual(self.names(), ["a"])
-
-    def test_same_picture_every_time(self):
-        for kind in ("png", "svg"):
-            paths = [self.folder / f"{k}.{kind}" for k in range(2)]
-            for path in paths:
-                run(*CONE, f"--{kind}", path)
-            self.assertEqual(paths[0].read_bytes(), paths[1].read_bytes())
-
-    def test_largest_size(self):
-        path = self.folder / "wide.png"
-        result = run(*CONE, "--size", "20000x1", "--png", path)
-        self.assertEqual(result.status, DONE)
-        self.assertEqual(self.png(path), (20000, 1))
 
 
 OUTPUTS = ("json", "dxf", "save", "png", "svg")

@@ -1,0 +1,59 @@
+// What comes out of one filled window: the JSON of its surfaces, files and pictures.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "batch/arguments.h"
+#include "batch/batch_ui.h"
+#include "platform/picture_device.h"
+#include "window/fitting_window.h"
+
+namespace korvet::batch {
+
+class Outputs {
+  public:
+    /// `name` is what {name} stands for in the names of the files.
+    Outputs(const Arguments& arguments, BatchUi& ui, CFittingWindow& window, std::string name)
+        : arguments_(arguments), ui_(ui), window_(window), name_(std::move(name)) {}
+
+    /// Makes the fitting and writes what the command line asks for; with nothing asked for it is made all the
+    /// same, to see whether it is refused. True when all is written. No output has the fitting made more than
+    /// once: it is made for the JSON, for all that is of the view, and for the table when the view is of the
+    /// model.
+    bool Write();
+
+    // What Write leaves to tell.
+
+    /// Whether the window was built; false until then, and after a refusal.
+    [[nodiscard]] bool Taken() const { return taken_; }
+
+    /// The text block of the build that the JSON tells of, as far as it came; null without JSON.
+    [[nodiscard]] const std::shared_ptr<const CLabels>& Labels() const { return labels_; }
+
+    /// Model and pattern as JSON lists of surfaces, "[]" when the window was refused.
+    [[nodiscard]] std::string Model() const { return taken_ ? model_ : "[]"; }
+    [[nodiscard]] std::string Pattern() const { return taken_ ? pattern_ : "[]"; }
+
+  private:
+    bool MakeJson();
+    [[nodiscard]] bool IsOfView() const;
+    void ChooseView();
+    void Show();
+    bool WriteFiles();
+    bool WriteDxf(const std::string& path);
+    bool WritePicture(const std::string& path, PictureFormat format);
+    bool WriteTable(const std::string& path);
+
+    const Arguments& arguments_;
+    BatchUi& ui_;
+    CFittingWindow& window_;
+    std::string name_;
+    std::shared_ptr<const CLabels> labels_;
+    std::string model_ = "[]";
+    std::string pattern_ = "[]";
+    bool taken_ = false;
+    bool shown_ = false;  ///< the display holds the current view
+};
+
+}  // namespace korvet::batch
