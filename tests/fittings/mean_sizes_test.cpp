@@ -6,11 +6,11 @@
 #include "core/math_module.h"
 #include "tests/fittings/form_on_boxes.h"
 #include "tests/support/near.h"
+#include "tests/support/refusals.h"
 
 namespace korvet {
 namespace {
 
-const std::string NoRoom = "This dimension must be increased to allow for material thickness";
 /// Box 0 holds 200, box 1 holds 40.
 FittingForm& SizesFrom(FormOnBoxes& boxes, std::int16_t side) {
     boxes.settings.Thickness = 6;

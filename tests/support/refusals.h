@@ -12,6 +12,15 @@
 
 namespace korvet {
 
+// What refusals say; a limit follows where the text ends with a blank.
+inline const std::string AboveZero = "This dimension must be greater than 0";
+inline const std::string LessThan = "This dimension must be less than ";
+inline const std::string GreaterThan = "This dimension must be greater than ";
+inline const std::string AtLeast = "This dimension must be equal to or greater than ";
+inline const std::string AtMost = "This dimension must be equal to or less than ";
+inline const std::string Whole = "This dimension must be an integer (whole number)";
+inline const std::string NoRoom = "This dimension must be increased to allow for material thickness";
+
 using BoxTexts = std::map<int, std::string>;  ///< by index of the box
 
 /// A type with its sample sizes, some of them typed over, of which one box is refused.
@@ -44,6 +53,16 @@ inline void ExpectUserError(const RecordingUi& ui, const CFittingWindow& window,
     if (box) {
         EXPECT_EQ(window.controls.focus, "txtParameter_" + std::to_string(*box));
     }
+}
+
+/// The one message so far tells that the fitting cannot be made, about no box, and for this reason. Takes the
+/// message away.
+inline void ExpectNotMade(RecordingUi& ui, const CFittingWindow& window, const std::string& reason) {
+    EXPECT_FALSE(window.hasModel);
+    ASSERT_EQ(ui.Texts(), std::vector<std::string>{"This fitting cannot be made with these sizes"});
+    EXPECT_EQ(ui.messages[0].detail, reason);
+    EXPECT_FALSE(ui.messages[0].box);
+    ui.messages.clear();
 }
 
 /// The lines of the text block.

@@ -11,12 +11,6 @@
 namespace korvet {
 namespace {
 
-const std::string AboveZero = "This dimension must be greater than 0";
-const std::string GreaterThan = "This dimension must be greater than ";
-const std::string AtLeast = "This dimension must be equal to or greater than ";
-const std::string AtMost = "This dimension must be equal to or less than ";
-const std::string Whole = "This dimension must be an integer (whole number)";
-const std::string NoRoom = "This dimension must be increased to allow for material thickness";
 constexpr const char* Category = "Segmented Bend";
 
 const CSegBendParallel& Built(CFittingWindow& window) {
@@ -125,10 +119,7 @@ TEST(SegBendLimits, MorePiecesThanCanBeCountedAreNotMade) {
     const auto window = shell.OpenSample(Category, 1);
     TypeBoxes(*window, {{2, "32769"}});
     window->ClickView(0);
-    EXPECT_FALSE(window->hasModel);
-    ASSERT_EQ(shell.ui.messages.size(), 1U);
-    EXPECT_EQ(shell.ui.messages[0].text, "This fitting cannot be made with these sizes");
-    EXPECT_EQ(shell.ui.messages[0].detail, "a bend has 32768 segments at most");
+    ExpectNotMade(shell.ui, *window, "a bend has 32768 segments at most");
     TypeBoxes(*window, {{2, "32768"}});
     EXPECT_EQ(Built(*window).BendSegments, 32767);
 }
@@ -142,11 +133,8 @@ TEST(SegBendLimits, ManyPiecesOfManyFoldLinesAreNotMade) {
     EXPECT_EQ(Built(*window).BendSegments, 8);
     TypeBoxes(*window, {{2, "10"}});
     window->ClickView(0);
-    EXPECT_FALSE(window->hasModel);
-    ASSERT_EQ(shell.ui.messages.size(), 1U);
-    EXPECT_EQ(shell.ui.messages[0].text, "This fitting cannot be made with these sizes");
-    EXPECT_EQ(
-        shell.ui.messages[0].detail,
+    ExpectNotMade(
+        shell.ui, *window,
         "so many segments with 100000 fold lines each are too much: make one of the two numbers smaller");
 }
 
@@ -166,10 +154,7 @@ TEST_P(BendsWithoutAShape, AreNotMade) {
     const auto window = shell.OpenSample(Category, 2);
     TypeBoxes(*window, GetParam().boxes);
     window->ClickView(0);
-    EXPECT_FALSE(window->hasModel);
-    ASSERT_EQ(shell.ui.messages.size(), 1U);
-    EXPECT_EQ(shell.ui.messages[0].text, "This fitting cannot be made with these sizes");
-    EXPECT_EQ(shell.ui.messages[0].detail, GetParam().reason);
+    ExpectNotMade(shell.ui, *window, GetParam().reason);
 }
 
 INSTANTIATE_TEST_SUITE_P(

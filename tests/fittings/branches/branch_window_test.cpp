@@ -9,10 +9,6 @@
 namespace korvet {
 namespace {
 
-const std::string AboveZero = "This dimension must be greater than 0";
-const std::string AtLeast = "This dimension must be equal to or greater than ";
-const std::string AtMost = "This dimension must be equal to or less than ";
-
 /// Material of the two pipes.
 struct Material {
     double branch;

@@ -11,9 +11,6 @@
 namespace korvet {
 namespace {
 
-const std::string AboveZero = "This dimension must be greater than 0";
-const std::string NoRoom = "This dimension must be increased to allow for material thickness";
-
 void ExpectRefused(const std::string& category, const Refusal& refusal) {
     TestShell shell;
     const auto window = shell.OpenSample(category, refusal.type);

@@ -11,10 +11,6 @@
 namespace korvet {
 namespace {
 
-const std::string AboveZero = "This dimension must be greater than 0";
-const std::string LessThan = "This dimension must be less than ";
-const std::string GreaterThan = "This dimension must be greater than ";
-const std::string NoRoom = "This dimension must be increased to allow for material thickness";
 constexpr const char* Category = "Right Cylinder";
 
 const CRightCylinder& Built(CFittingWindow& window) {

@@ -9,9 +9,7 @@
 namespace korvet {
 namespace {
 
-const std::string AboveZero = "This dimension must be greater than 0";
 const std::string NotZero = "This dimension cannot be equal to 0";
-const std::string NoRoom = "This dimension must be increased to allow for material thickness";
 
 std::string AtMost(const std::string& limit) {
     return "This dimension must be equal to or less than " + limit;

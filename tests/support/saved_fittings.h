@@ -1,0 +1,39 @@
+// A fitting that is saved and opened again.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "tests/support/point_lists.h"
+#include "tests/support/test_context.h"
+#include "window/views.h"
+
+namespace korvet {
+
+/// The points of every surface are the same to the last bit.
+inline void ExpectSameSurfaces(const CRuleSurfs& a, const CRuleSurfs& b) {
+    ASSERT_EQ(a.Count(), b.Count());
+    for (std::size_t i = 1; i <= a.Count(); ++i) {
+        EXPECT_TRUE(SamePoints(*a.Item(i).List1, *b.Item(i).List1)) << i;
+        EXPECT_TRUE(SamePoints(*a.Item(i).List2, *b.Item(i).List2)) << i;
+    }
+}
+
+/// A window with patterns of several pieces: its pattern is drawn, and its file opens in a new window with
+/// the same surfaces and is saved from there with the same bytes.
+inline void ExpectFileKeepsEverything(TestShell& shell, CFittingWindow& window) {
+    window.ClickView(PatternButton);
+    ASSERT_EQ(window.SaveFile("a.Kvt"), Passed);
+    const auto opened = shell.Open(window.category);
+    ASSERT_EQ(opened->FillFromFile("a.Kvt"), Passed);
+    opened->Redraw();
+    EXPECT_EQ(opened->dtype, window.dtype);
+    ExpectSameSurfaces(window.fitting->Results().PatternSurfaceList,
+                       opened->fitting->Results().PatternSurfaceList);
+    ExpectSameSurfaces(window.fitting->Results().ModelSurfaceList,
+                       opened->fitting->Results().ModelSurfaceList);
+    ASSERT_EQ(opened->SaveFile("b.Kvt"), Passed);
+    EXPECT_EQ(shell.files.files["a.Kvt"], shell.files.files["b.Kvt"]);
+    EXPECT_TRUE(shell.ui.messages.empty());
+}
+
+}  // namespace korvet
