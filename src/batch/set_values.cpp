@@ -1,5 +1,6 @@
 #include "batch/set_values.h"
 
+#include <algorithm>
 #include <functional>
 #include <map>
 #include <variant>
@@ -93,7 +94,10 @@ Outcome SetMember(CFittingWindow& window, const std::string& name, const std::st
     const Member& member = Members().at(name);
     if (const auto* number = std::get_if<double CPatternSettings::*>(&member)) {
         TextBox box = DialogBox(name, value);
-        if (CheckNumber(window.Fields(), box)) {
+        const auto thicknesses = GivenThicknesses(window.settings);
+        const bool isThickness =
+            std::find(thicknesses.begin(), thicknesses.end(), *number) != thicknesses.end();
+        if (isThickness ? CheckAtLeast(window.Fields(), box, 0) : CheckNumber(window.Fields(), box)) {
             return Refused;
         }
         window.settings.** number = FieldValue(window.Fields(), box);

@@ -1,9 +1,20 @@
 #include "core/pattern_settings.h"
 
+#include <array>
+
 #include "core/number_text.h"
 #include "core/thick_compensator.h"
 
 namespace korvet {
+
+std::span<double CPatternSettings::*const> GivenThicknesses(const CPatternSettings& settings) {
+    static constexpr std::array Two = {&CPatternSettings::ThicknessA, &CPatternSettings::ThicknessB};
+    static constexpr std::array One = {&CPatternSettings::Thickness};
+    if (settings.BranchMaterialEnable) {
+        return Two;
+    }
+    return settings.MaterialDisable ? std::span<double CPatternSettings::*const>() : One;
+}
 
 const char* PositionWord(std::int16_t inOutMean) {
     switch (inOutMean) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 
 namespace korvet {
@@ -34,6 +35,10 @@ struct CPatternSettings {
     double ThicknessA = 0;  ///< thickness of the first section (the branch pipe)
     double ThicknessB = 0;  ///< thickness of the second section (the trunk pipe)
 };
+
+/// The thicknesses that the user gives: of branch and trunk where the fitting has both, of its one material
+/// else; none where that is greyed. None of them may be below 0.
+std::span<double CPatternSettings::*const> GivenThicknesses(const CPatternSettings& settings);
 
 /// The word for a MaterialSide: "mean", "inside" or "outside".
 const char* PositionWord(std::int16_t inOutMean);

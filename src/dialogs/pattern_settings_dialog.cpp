@@ -133,6 +133,15 @@ Outcome CheckNumbers(const FieldContext& fields, std::initializer_list<TextBox*>
         std::any_of(boxes.begin(), boxes.end(), [&](TextBox* box) { return CheckNumber(fields, *box); }));
 }
 
+/// No thickness that can be typed may be below 0. One that is greyed or hidden could not be mended.
+Outcome CheckThicknesses(PatternSettingsDialog& dialog, const FieldContext& fields) {
+    if (dialog.fraBranchMaterial.visible) {
+        return RefusedIf(CheckAtLeast(fields, dialog.txtThicknessA, 0) ||
+                         CheckAtLeast(fields, dialog.txtThicknessB, 0));
+    }
+    return dialog.txtThickness.enabled ? CheckAtLeast(fields, dialog.txtThickness, 0) : Passed;
+}
+
 }  // namespace
 
 FieldContext PatternSettingsDialog::Fields() {
@@ -190,7 +199,8 @@ void PatternSettingsDialog::ClickOK() {
         ShowPlain(*ui, GetMessage(LapWithoutSize, options->Language));
         return;
     }
-    if (CheckNumbers(fields, {&cboSegs.edit, &cboJoinAngle.edit, &txtKerfSpacing}) ||
+    if (CheckThicknesses(*this, fields) ||
+        CheckNumbers(fields, {&cboSegs.edit, &cboJoinAngle.edit, &txtKerfSpacing}) ||
         CheckSegs(fields, cboSegs.edit)) {
         return;
     }

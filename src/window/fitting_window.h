@@ -176,6 +176,7 @@ class CFittingWindow {
     void Rebuild();
     Outcome AddViewOfExtents();
     Outcome CheckAllFields();
+    Outcome CheckThicknesses();
     void AddTextBlock();
     void TakeNoOfSides();
     void ResetFieldColours();

@@ -56,6 +56,9 @@ Outcome CFittingWindow::BuildFitting() {
     labels = std::make_shared<CLabels>();
     labels->Add({comment1});
     labels->Add({comment2});
+    if (CheckThicknesses()) {
+        return Refused;
+    }
     if (!fitting) {
         fitting = Table().newFitting();
     }
@@ -79,6 +82,17 @@ Outcome CFittingWindow::CheckAllFields() {
     return RefusedIf(std::any_of(controls.txtParameter.begin(), controls.txtParameter.end(),
                                  [&](TextBox& box) { return CheckNumber(fields, box); }) ||
                      CheckNumber(fields, controls.txtTextSize));
+}
+
+/// A wall can't be thinner than none. The settings of a file come here without having been typed.
+Outcome CFittingWindow::CheckThicknesses() {
+    const auto thicknesses = GivenThicknesses(settings);
+    if (std::none_of(thicknesses.begin(), thicknesses.end(),
+                     [this](const auto thickness) { return settings.*thickness < 0; })) {
+        return Passed;
+    }
+    ShowUserError(context_.ui, context_.Message(MustBeAtLeast) + FormatLimit(Fields(), 0));
+    return Refused;
 }
 
 /// Another number of sides has its corners elsewhere, so that the seam starts anew at the first one.

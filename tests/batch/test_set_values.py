@@ -72,6 +72,30 @@ class SetTest(FolderTest):
                             ("1e300", "This dimension must be equal to or less than 100000")):
             self.refused("segs", value, text)
 
+    def test_thickness_below_nothing(self):
+        """Refused where it is given: one for most fittings, two for a branch, whose single one is greyed."""
+        text = "This dimension must be equal to or greater than 0"
+        for value in ("-1", "-1e-9"):
+            self.refused("Thickness", value, text)
+        for value in ("0", "-0", "1e-9"):
+            self.assertEqual(run(*CONE, "--set", f"Thickness={value}", "--json", "-").status, DONE)
+        branch = ["--new", "Branch", "--type", "1", "--sample", "--json", "-"]
+        plain = run(*branch).json
+        self.assertEqual(run(*branch, "--set", "Thickness=-1").json, plain)
+        for name in ("ThicknessA", "ThicknessB"):
+            report = run(*branch, "--set", f"{name}=-1").json
+            self.assertEqual([message["text"] for message in report["messages"]], [text])
+            self.assertEqual(run(*CONE, "--set", f"{name}=-1").status, DONE)
+
+    def test_file_with_a_thickness_below_nothing(self):
+        path = self.write("thin.Kvt", cone_file(Thickness="-1"))
+        result = run(path, "--json", "-")
+        text = "This dimension must be equal to or greater than 0"
+        self.assertEqual((result.status, result.lines), (REFUSED, [f"{path}: {text}"]))
+        self.assertEqual([(m["title"], m["text"], m["box"]) for m in result.json["messages"]],
+                         [("User Error", text, None)])
+        self.assertEqual(run(path, "--set", "Thickness=1", "--json", "-").status, DONE)
+
     def refused(self, name, value, text):
         with self.subTest(name=name, value=value):
             result = run(*CONE, "--set", f"{name}={value}", "--json", "-")

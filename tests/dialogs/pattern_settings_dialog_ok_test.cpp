@@ -53,6 +53,47 @@ TEST_F(PatternSettings, OkReadsEveryControl) {
     EXPECT_TRUE(ui.messages.empty());
 }
 
+TEST_F(PatternSettings, AThicknessBelowNothingStaysInTheDialog) {
+    CPatternSettings settings;
+    settings.Thickness = 2;
+    for (const auto& [text, accepted] :
+         {std::pair{"-0.001", false}, {"0", true}, {"-0", true}, {"1e-9", true}}) {
+        CPatternSettings changed = settings;
+        ui.messages.clear();
+        const bool taken = Run(changed, [text = text](Dialog& d) {
+            d.Change(d.txtThickness, text);
+            d.ClickOK();
+        });
+        EXPECT_EQ(taken, accepted) << text;
+        EXPECT_EQ(changed.Thickness == 2, !accepted);
+        if (!accepted) {
+            EXPECT_EQ(ui.Texts(),
+                      (std::vector<std::string>{"This dimension must be equal to or greater than 0"}));
+            EXPECT_EQ(ui.messages.at(0).title, "User Error");
+            EXPECT_EQ(ui.messages.at(0).control, "txtThickness");
+            EXPECT_EQ(dialog.focus, "txtThickness");
+        }
+    }
+}
+
+TEST_F(PatternSettings, OnlyThicknessesThatCanBeTypedAreHeldToNothing) {
+    const auto takes = [this](CPatternSettings settings, TextBox Dialog::*box) {
+        return Run(settings, [box](Dialog& d) {
+            d.Change(d.*box, "-1");
+            d.ClickOK();
+        });
+    };
+    CPatternSettings greyed;
+    greyed.MaterialDisable = true;
+    EXPECT_TRUE(takes(greyed, &Dialog::txtThickness));
+    CPatternSettings branch = greyed;
+    branch.BranchMaterialEnable = true;
+    EXPECT_TRUE(takes(branch, &Dialog::txtThickness));
+    EXPECT_FALSE(takes(branch, &Dialog::txtThicknessA));
+    EXPECT_FALSE(takes(branch, &Dialog::txtThicknessB));
+    EXPECT_TRUE(takes(CPatternSettings(), &Dialog::txtThicknessA));
+}
+
 TEST_F(PatternSettings, ABranchReadsTheOptionsOfItsOwnFrame) {
     CPatternSettings settings;
     settings.BranchMaterialEnable = true;

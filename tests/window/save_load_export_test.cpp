@@ -140,6 +140,35 @@ TEST_F(SaveLoadTest, ABuildThatIsRefusedIsNoFailedLoad) {
     EXPECT_EQ(window->controls.caption, "refused.Kvt");
 }
 
+TEST_F(SaveLoadTest, AFileWithAThicknessBelowNothingIsReadAndItsBuildRefused) {
+    shell.files.files["thin.Kvt"] = WithLine(SavedCone(), 16, "-2");
+    const auto window = shell.Open("Right Cone");
+    EXPECT_EQ(window->LoadFile("thin.Kvt"), Passed);
+    EXPECT_EQ(shell.ui.Texts(), (std::vector<std::string>{"This dimension must be equal to or greater than 0",
+                                                          "The item has no extents"}));
+    EXPECT_EQ(shell.ui.messages.at(0).title, "User Error");
+    EXPECT_FALSE(shell.ui.messages.at(0).box.has_value());
+    EXPECT_EQ(window->settings.Thickness, -2);
+    EXPECT_EQ(window->controls.caption, "thin.Kvt");
+    EXPECT_FALSE(window->hasModel);
+    window->settings.Thickness = 2;
+    window->Redraw();
+    EXPECT_TRUE(window->hasModel);
+}
+
+TEST_F(SaveLoadTest, ABranchIsHeldToTheThicknessesOfItsTwoPipes) {
+    for (const auto& [thickness, builds] : {std::pair{&CPatternSettings::Thickness, true},
+                                            {&CPatternSettings::ThicknessA, false},
+                                            {&CPatternSettings::ThicknessB, false}}) {
+        const auto window = shell.OpenSample("Branch", 1);
+        window->settings.*thickness = -1;
+        shell.ui.messages.clear();
+        window->ClickView(0);
+        EXPECT_EQ(window->hasModel, builds);
+        EXPECT_EQ(shell.ui.messages.size(), builds ? 0U : 1U);
+    }
+}
+
 TEST_F(SaveLoadTest, AMessageAboutAFileHasNoCharacterThatCannotBeShown) {
     const std::string good = SavedCone();
     // Control characters, the mark that turns the writing round, and a letter at the place where a quote
