@@ -104,16 +104,6 @@ TEST_F(OptionsFile, HasTwentyFiveLinesInTheirOrder) {
     EXPECT_EQ(files.writes[0].flush, Flush::Yes);
 }
 
-TEST_F(OptionsFile, BlanksAroundALanguageAreNoPartOfItsName) {
-    for (const char* const line : {"English ", " English", "\tEnglish \t"}) {
-        std::vector<std::string> lines = DefaultLines();
-        lines[3] = line;
-        files.files[Path] = Joined(lines);
-        Read();
-        EXPECT_EQ(options.Language, "English");
-    }
-}
-
 TEST_F(OptionsFile, ReadsBackEverythingThatItWrites) {
     COptions written;
     written.IniFileName = Path;
@@ -269,15 +259,15 @@ TEST_F(OptionsFile, TakesUnixLineEndsAndALastLineWithoutOne) {
     EXPECT_EQ(files.files[Path], text);
 }
 
-TEST_F(OptionsFile, TrimsLayerNamesButNotTheLanguage) {
+TEST_F(OptionsFile, TrimsLanguageAndLayerNames) {
     std::vector<std::string> lines = DefaultLines();
-    lines[3] = "English ";
+    lines[3] = "\tEnglish ";
     for (std::size_t i = 11; i <= 15; ++i) {
         lines[i] = "  My " + lines[i] + " \t";
     }
     files.files[Path] = Joined(lines);
     Read();
-    EXPECT_EQ(options.Language, "English ");
+    EXPECT_EQ(options.Language, "English");
     EXPECT_EQ(options.DXFTextLayer, "My TextLayer");
     EXPECT_EQ(options.DXFFoldLayer, "My FoldLayer");
     EXPECT_EQ(options.DXFCutLayer, "My CutLayer");
