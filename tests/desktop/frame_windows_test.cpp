@@ -91,6 +91,54 @@ class FrameWindowsTest : public QObject {
         QVERIFY(!desk.ActiveView().isMaximized());
     }
 
+    void closingAMaximisedWindowLeavesTheOthersMaximised() {
+        Desk desk;
+        for (int i = 0; i < 4; ++i) {
+            desk.New(0);
+            QVERIFY(desk.ActiveView().isMaximized());
+        }
+        desk.window.Frame().RunMenu("mnuFileClose");
+        QApplication::processEvents();
+        QVERIFY(desk.ActiveView().isMaximized());
+        desk.ActiveView().close();  // by its own button
+        QApplication::processEvents();
+        QVERIFY(desk.ActiveView().isMaximized());
+        QCOMPARE(desk.shell.options.WindowState, static_cast<std::int16_t>(MaximisedWindow));
+        desk.New(8);
+        QVERIFY(desk.ActiveView().isMaximized());
+        Bring(*desk.window.Frame().ActiveChild(), State::Model);
+        desk.shell.ui.answers = {Answer::No};
+        desk.shell.ui.onShow = [&](const MessageBox&) {
+            QWidget box;  // the question takes the focus away from the frame
+            box.show();
+            box.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&box));
+        };
+        desk.window.Frame().RunMenu("mnuFileClose");
+        QApplication::processEvents();
+        QCOMPARE(desk.window.Frame().Children().size(), 2U);
+        desk.window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&desk.window));
+        QVERIFY(desk.ActiveView().isMaximized());
+        desk.window.Frame().RunMenu("mnuFileClose");
+        desk.window.Frame().RunMenu("mnuFileClose");
+        QVERIFY(desk.window.Frame().Children().empty());
+        desk.New(0);
+        QVERIFY(desk.ActiveView().isMaximized());
+    }
+
+    void closingAWindowOfNormalSizeLeavesTheOthersAsTheyStand() {
+        Desk desk;
+        desk.New(0);
+        desk.ActiveView().showNormal();
+        const QRect place = desk.ActiveView().geometry();
+        desk.New(8);
+        desk.window.Frame().RunMenu("mnuFileClose");
+        QApplication::processEvents();
+        QVERIFY(!desk.ActiveView().isMaximized());
+        QCOMPARE(desk.ActiveView().geometry(), place);
+    }
+
     void theNextWindowIsActiveAfterOneHasClosedBehindABox() {
         Desk desk;
         CFittingWindow& first = desk.New(0);

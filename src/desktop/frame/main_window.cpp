@@ -232,6 +232,7 @@ void MainWindow::RemoveWindow(CFittingWindow& window) {
     if (child == nullptr) {
         return;
     }
+    const bool maximised = child->isMaximized();
     child->View().Detach();
     child->hide();
     area_->removeSubWindow(child);
@@ -242,6 +243,10 @@ void MainWindow::RemoveWindow(CFittingWindow& window) {
     if (next == nullptr && !left.isEmpty()) {
         next = left.last();
         area_->setActiveSubWindow(next);
+    }
+    // Of maximised windows the area keeps only the active one at full size, and forgets that with it.
+    if (maximised && next != nullptr && !next->isMinimized()) {
+        next->showMaximized();
     }
     TakeActive(next);
 }
