@@ -5,6 +5,7 @@
 #include "desktop/dialogs/branch_dialog.h"
 #include "desktop/dialogs/file_dialog.h"
 #include "desktop/dialogs/message_box.h"
+#include "desktop/dialogs/model_dialog.h"
 #include "desktop/dialogs/options_widgets.h"
 #include "desktop/dialogs/pattern_settings_widgets.h"
 #include "desktop/dialogs/small_dialogs.h"
@@ -24,6 +25,9 @@ QWidget* QtUi::Parent() const {
 void QtUi::Prepare() const {
     if (beforeModal) {
         beforeModal();
+    }
+    if (auto* const dialog = dynamic_cast<ModelDialog*>(QApplication::activeModalWidget())) {
+        dialog->Project();
     }
 }
 

@@ -86,6 +86,10 @@ void OptionsDialog::Fill() {
     txtCalibrate[1].text = number(options_.PrintYCalibration);
 }
 
+FieldContext OptionsDialog::Fields() {
+    return {ui_, options_, decimalMark_, focus, [this](const TextBox& box) { tab = TabOf(box.name); }};
+}
+
 void OptionsDialog::ChangeNumber(TextBox& box, const std::string& text) {
     box.text = text;
     CheckFieldChange(Fields(), box);
@@ -147,14 +151,6 @@ void OptionsDialog::ClickCancel() {
 }
 
 Outcome OptionsDialog::ApplyDialog() {
-    if (StoreValues()) {
-        tab = TabOf(focus);
-        return Refused;
-    }
-    return Passed;
-}
-
-Outcome OptionsDialog::StoreValues() {
     const FieldContext fields = Fields();
     for (TextBox* box :
          {&txtUserScale, &txtDisplayTextSize, &txtDXFTextSize, &txtCalibrate[0], &txtCalibrate[1]}) {
@@ -222,6 +218,7 @@ Outcome OptionsDialog::StoreTextSizes() {
 
 /// Says what is wrong with a box and puts the focus on it.
 Outcome OptionsDialog::Refuse(const TextBox& box, const char* text) {
+    tab = TabOf(box.name);
     ShowUserError(ui_, text);
     focus = box.name;
     return Refused;

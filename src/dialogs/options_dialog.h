@@ -89,11 +89,10 @@ struct OptionsDialog {
 
   private:
     void Fill();
-    Outcome StoreValues();
     Outcome StoreLayers();
     Outcome StoreTextSizes();
     Outcome Refuse(const TextBox& box, const char* text);
-    [[nodiscard]] FieldContext Fields() { return {ui_, options_, decimalMark_, focus}; }
+    [[nodiscard]] FieldContext Fields();
 
     COptions& options_;
     UserInterface& ui_;

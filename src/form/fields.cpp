@@ -10,9 +10,16 @@
 namespace korvet {
 namespace {
 
+void Reveal(const FieldContext& context, const TextBox& box) {
+    if (context.reveal) {
+        context.reveal(box);
+    }
+}
+
 /// A message about one box.
 void ShowAbout(const FieldContext& context, const TextBox& box, BoxStyle style, std::string_view title,
                const std::string& text) {
+    Reveal(context, box);
     context.boxes.Show({.text = text,
                         .style = style,
                         .title = std::string(title),
@@ -24,24 +31,8 @@ void ShowNotANumber(const FieldContext& context, const TextBox& box) {
     ShowAbout(context, box, QuestionBox, ProductTitle, GetMessage(NotAValidNumber, context.options.Language));
 }
 
-void SwapPages(PageSwap pages) {
-    if (pages.hide != nullptr && pages.show != nullptr) {
-        pages.hide->visible = false;
-        pages.show->visible = true;
-    }
-}
-
-/// CheckNumber, with the message on the page of the box.
-Outcome CheckNumberOnPage(const FieldContext& context, TextBox& box, PageSwap pages) {
-    if (!ParseNumber(box.text, context.decimalMark)) {
-        SwapPages(pages);
-    }
-    return CheckNumber(context, box);
-}
-
-/// Shows why a box is refused on its page and puts the focus on it, which selects its text.
-Outcome Refuse(const FieldContext& context, TextBox& box, PageSwap pages, const std::string& text) {
-    SwapPages(pages);
+/// Shows why a box is refused and puts the focus on it, which selects its text.
+Outcome Refuse(const FieldContext& context, TextBox& box, const std::string& text) {
     ShowAbout(context, box, ExclamationBox, "User Error", text);
     context.focus = box.name;
     SelectFieldText(box);
@@ -55,11 +46,11 @@ std::string LimitText(const FieldContext& context, int messageId, double limit) 
 /// The shape of all the checks of a number: message 9 when it is none, `text()` when `passes(value)` is
 /// false.
 template <typename Passes, typename Text>
-Outcome Check(const FieldContext& context, TextBox& box, PageSwap pages, Passes passes, Text text) {
-    if (CheckNumberOnPage(context, box, pages)) {
+Outcome Check(const FieldContext& context, TextBox& box, Passes passes, Text text) {
+    if (CheckNumber(context, box)) {
         return Refused;
     }
-    return passes(FieldValue(context, box)) ? Passed : Refuse(context, box, pages, text());
+    return passes(FieldValue(context, box)) ? Passed : Refuse(context, box, text());
 }
 
 }  // namespace
@@ -99,68 +90,66 @@ std::string FormatLimit(const FieldContext& context, double value) {
     return RoundedText(value, context.options.Decimals, context.decimalMark);
 }
 
-Outcome CheckPositive(const FieldContext& context, TextBox& box, PageSwap pages) {
+Outcome CheckPositive(const FieldContext& context, TextBox& box) {
     return Check(
-        context, box, pages, [](double value) { return value > 0; },
+        context, box, [](double value) { return value > 0; },
         [&] { return GetMessage(MustBeAboveZero, context.options.Language); });
 }
 
-Outcome CheckLessThan(const FieldContext& context, TextBox& box, double limit, PageSwap pages) {
+Outcome CheckLessThan(const FieldContext& context, TextBox& box, double limit) {
     return Check(
-        context, box, pages, [limit](double value) { return value < limit; },
+        context, box, [limit](double value) { return value < limit; },
         [&] { return LimitText(context, MustBeLessThan, limit); });
 }
 
-Outcome CheckGreaterThan(const FieldContext& context, TextBox& box, double limit, PageSwap pages) {
+Outcome CheckGreaterThan(const FieldContext& context, TextBox& box, double limit) {
     return Check(
-        context, box, pages, [limit](double value) { return value > limit; },
+        context, box, [limit](double value) { return value > limit; },
         [&] { return LimitText(context, MustBeGreaterThan, limit); });
 }
 
-Outcome CheckAtMost(const FieldContext& context, TextBox& box, double limit, PageSwap pages) {
+Outcome CheckAtMost(const FieldContext& context, TextBox& box, double limit) {
     return Check(
-        context, box, pages, [limit](double value) { return value <= limit; },
+        context, box, [limit](double value) { return value <= limit; },
         [&] { return LimitText(context, MustBeAtMost, limit); });
 }
 
-Outcome CheckAtLeast(const FieldContext& context, TextBox& box, double limit, PageSwap pages) {
+Outcome CheckAtLeast(const FieldContext& context, TextBox& box, double limit) {
     return Check(
-        context, box, pages, [limit](double value) { return value >= limit; },
+        context, box, [limit](double value) { return value >= limit; },
         [&] { return LimitText(context, MustBeAtLeast, limit); });
 }
 
-Outcome CheckNotEqual(const FieldContext& context, TextBox& box, double limit, PageSwap pages) {
+Outcome CheckNotEqual(const FieldContext& context, TextBox& box, double limit) {
     return Check(
-        context, box, pages, [limit](double value) { return value != limit; },
+        context, box, [limit](double value) { return value != limit; },
         [&] { return LimitText(context, CannotBeEqualTo, limit); });
 }
 
-Outcome CheckInteger(const FieldContext& context, TextBox& box, PageSwap pages) {
+Outcome CheckInteger(const FieldContext& context, TextBox& box) {
     return Check(
-        context, box, pages, [](double value) { return value == std::trunc(value); },
+        context, box, [](double value) { return value == std::trunc(value); },
         [&] { return GetMessage(MustBeInteger, context.options.Language); });
 }
 
-Outcome CheckRoomForThickness(const FieldContext& context, TextBox& box, double value, double allowance,
-                              PageSwap pages) {
+Outcome CheckRoomForThickness(const FieldContext& context, TextBox& box, double value, double allowance) {
     return value >= allowance
                ? Passed
-               : Refuse(context, box, pages, GetMessage(NoRoomForThickness, context.options.Language));
+               : Refuse(context, box, GetMessage(NoRoomForThickness, context.options.Language));
 }
 
-Outcome CheckBoxRoomForThickness(const FieldContext& context, TextBox& box, double allowance,
-                                 PageSwap pages) {
-    if (CheckNumberOnPage(context, box, pages)) {
+Outcome CheckBoxRoomForThickness(const FieldContext& context, TextBox& box, double allowance) {
+    if (CheckNumber(context, box)) {
         return Refused;
     }
-    return CheckRoomForThickness(context, box, FieldValue(context, box), allowance, pages);
+    return CheckRoomForThickness(context, box, FieldValue(context, box), allowance);
 }
 
-Outcome CheckNotSmaller(const FieldContext& context, double a, double b, TextBox& box, PageSwap pages) {
+Outcome CheckNotSmaller(const FieldContext& context, double a, double b, TextBox& box) {
     if (a >= b) {
         return Passed;
     }
-    SwapPages(pages);
+    Reveal(context, box);
     context.focus = box.name;
     return Refused;
 }
@@ -168,7 +157,7 @@ Outcome CheckNotSmaller(const FieldContext& context, double a, double b, TextBox
 Outcome CheckSegs(const FieldContext& context, TextBox& box) {
     const auto reachesOne = [](double value) { return value >= MinSegs; };
     const auto aboveZeroText = [&] { return GetMessage(MustBeAboveZero, context.options.Language); };
-    return RefusedIf(Check(context, box, {}, reachesOne, aboveZeroText) || CheckInteger(context, box) ||
+    return RefusedIf(Check(context, box, reachesOne, aboveZeroText) || CheckInteger(context, box) ||
                      CheckAtMost(context, box, MaxSegs));
 }
 

@@ -1,6 +1,8 @@
 // Tests of what is typed into a box, and the checks of limits that a build applies. A check that refuses
-// shows its message, and puts the focus on the box.
+// brings its box into sight, shows its message, and puts the focus on the box.
 #pragma once
+
+#include <functional>
 
 #include "form/controls.h"
 #include "form/message_boxes.h"
@@ -15,13 +17,9 @@ struct FieldContext {
     const COptions& options;
     char decimalMark;    ///< the locale's; a point is always taken too
     std::string& focus;  ///< name of the control that has the focus
-};
 
-/// Two pages of a parameter panel, of which a failed check hides one and shows the other before the focus
-/// moves.
-struct PageSwap {
-    Control* hide = nullptr;
-    Control* show = nullptr;
+    /// Brings a box into sight before a message is about it, where it may stand on a page that is not shown.
+    std::function<void(const TextBox&)> reveal = {};
 };
 
 /// Selects all the text of a box.
@@ -41,26 +39,23 @@ std::string FormatLimit(const FieldContext& context, double value);
 
 /// Each of these asks for a number first (CheckNumber), and then compares exactly. Limits are in the unit of
 /// the box.
-Outcome CheckPositive(const FieldContext& context, TextBox& box, PageSwap pages = {});  // above 0
-Outcome CheckLessThan(const FieldContext& context, TextBox& box, double limit, PageSwap pages = {});  // below
-Outcome CheckGreaterThan(const FieldContext& context, TextBox& box, double limit,
-                         PageSwap pages = {});                                                       // above
-Outcome CheckAtMost(const FieldContext& context, TextBox& box, double limit, PageSwap pages = {});   // up to
-Outcome CheckAtLeast(const FieldContext& context, TextBox& box, double limit, PageSwap pages = {});  // from
-Outcome CheckNotEqual(const FieldContext& context, TextBox& box, double limit, PageSwap pages = {});
-Outcome CheckInteger(const FieldContext& context, TextBox& box, PageSwap pages = {});
+Outcome CheckPositive(const FieldContext& context, TextBox& box);                   // above 0
+Outcome CheckLessThan(const FieldContext& context, TextBox& box, double limit);     // below
+Outcome CheckGreaterThan(const FieldContext& context, TextBox& box, double limit);  // above
+Outcome CheckAtMost(const FieldContext& context, TextBox& box, double limit);       // up to
+Outcome CheckAtLeast(const FieldContext& context, TextBox& box, double limit);      // from
+Outcome CheckNotEqual(const FieldContext& context, TextBox& box, double limit);
+Outcome CheckInteger(const FieldContext& context, TextBox& box);
 
 /// Refuses with message 17 when the mean size `value` of the box is smaller than `allowance`, half the
 /// material's thickness as the wall lies: there would be nothing left inside the wall.
-Outcome CheckRoomForThickness(const FieldContext& context, TextBox& box, double value, double allowance,
-                              PageSwap pages = {});
+Outcome CheckRoomForThickness(const FieldContext& context, TextBox& box, double value, double allowance);
 
 /// The same with the number in the box as the value.
-Outcome CheckBoxRoomForThickness(const FieldContext& context, TextBox& box, double allowance,
-                                 PageSwap pages = {});
+Outcome CheckBoxRoomForThickness(const FieldContext& context, TextBox& box, double allowance);
 
 /// Refuses without a word when a is below b: for use after a message of the caller.
-Outcome CheckNotSmaller(const FieldContext& context, double a, double b, TextBox& box, PageSwap pages = {});
+Outcome CheckNotSmaller(const FieldContext& context, double a, double b, TextBox& box);
 
 /// The tests of a free-text number of segments: a number (9), at least 1 (10), whole (18), at most 100,000
 /// (13).

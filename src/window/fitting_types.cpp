@@ -1,5 +1,7 @@
 #include "window/fitting_types.h"
 
+#include <algorithm>
+
 namespace korvet {
 namespace {
 
@@ -30,21 +32,29 @@ void LockType(CFittingWindow& window) {
     EnableSteps(window.controls, false, false);
 }
 
-std::int16_t StepFittingType(CFittingWindow& window, std::size_t button, std::int16_t dtype) {
-    WindowModel& controls = window.controls;
+void ShowPage(WindowModel& controls, std::size_t index) {
+    for (std::size_t i = 0; i < controls.Picture1.size(); ++i) {
+        controls.Picture1[i].visible = controls.Picture1[i].enabled = i == index;
+    }
     for (Control& page : controls.pboxMore) {
         page.visible = false;
     }
+}
+
+bool BearsBox(const PageEntry& page, int box) {
+    return std::any_of(page.boxes.begin(), page.boxes.end(),
+                       [box](const BoxEntry& entry) { return entry.index == box; });
+}
+
+std::int16_t StepFittingType(CFittingWindow& window, std::size_t button, std::int16_t dtype) {
+    WindowModel& controls = window.controls;
     const auto last = static_cast<std::int16_t>(controls.Picture1.size() - 1);
     const bool next = button == 0 && dtype < last;
     const bool previous = button == 1 && dtype > 0;
     if (next || previous) {
-        Control& left = controls.Picture1[static_cast<std::size_t>(dtype)];
-        left.visible = left.enabled = false;
         dtype = static_cast<std::int16_t>(next ? dtype + 1 : dtype - 1);
-        Control& entered = controls.Picture1[static_cast<std::size_t>(dtype)];
-        entered.visible = entered.enabled = true;
     }
+    ShowPage(controls, static_cast<std::size_t>(dtype));
     controls.lblDtype.caption = TypeCaption(dtype);
     EnableTypeButtons(window, dtype);
     return dtype;

@@ -8,6 +8,12 @@ namespace korvet {
 /// "Type " and the number of a type, counted from 1.
 std::string TypeCaption(std::int16_t dtype);
 
+/// Shows the parameter page of that index, from 0, and hides the others.
+void ShowPage(WindowModel& controls, std::size_t index);
+
+/// Whether the page of a type, from 0, bears the parameter box of that index.
+bool BearsBox(const PageEntry& page, int box);
+
 /// Steps to the next (button 0) or previous (button 1) type, where there is one, and returns the new type.
 std::int16_t StepFittingType(CFittingWindow& window, std::size_t button, std::int16_t dtype);
 

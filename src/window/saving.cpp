@@ -111,9 +111,7 @@ void TakeDisplayState(CFittingWindow& window, const CKvtFile& file) {
 
 void ShowPageOf(CFittingWindow& window, std::int16_t dtype) {
     WindowModel& controls = window.controls;
-    for (std::size_t i = 0; i < controls.Picture1.size(); ++i) {
-        controls.Picture1[i].visible = controls.Picture1[i].enabled = static_cast<int>(i) == dtype;
-    }
+    ShowPage(controls, static_cast<std::size_t>(dtype));
     controls.lblDtype.caption = std::to_string(dtype + 1);
     EnableTypeButtons(window, dtype);
 }

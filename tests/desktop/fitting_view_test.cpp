@@ -8,6 +8,7 @@
 #include <QSet>
 #include <QSignalSpy>
 #include <QTest>
+#include <algorithm>
 #include <cmath>
 #include <stdexcept>
 
@@ -82,6 +83,52 @@ class FittingViewTest : public QObject {
         QVERIFY(!IsRed(Box(desk, 3)) && !IsRed(Box(desk, 4)) && !IsRed(Box(desk, 5)));
         desk.window.findChild<QAction*>("mnuZoomExtents")->trigger();
         QVERIFY(Ink(Drawing(desk)) > 100);
+    }
+
+    void aRefusalShowsThePageOfItsBoxFirst() {
+        Desk desk;
+        desk.window.resize(1000, 560);  // so low that the page scrolls
+        CFittingWindow& window = desk.New(8);
+        TypeSamples(window);
+        const int elsewhere = window.Table().pages[4].boxes.back().index;
+        window.ChangeBox(static_cast<std::size_t>(elsewhere), "-");
+        desk.window.Project();
+        bool seen = false;
+        desk.shell.ui.onShow = [&](const MessageBox&) {
+            desk.window.Project();  // as the desktop's own boxes do before they come up
+            seen = !Box(desk, elsewhere).visibleRegion().isEmpty();
+        };
+        Click(desk.window, "btnView_0");
+        QCOMPARE(desk.shell.ui.Texts(), std::vector<std::string>{"Not a valid number"});
+        QVERIFY(seen);
+        QCOMPARE(desk.ActiveView().focusWidget(), static_cast<QWidget*>(&Box(desk, elsewhere)));
+        Type(Box(desk, elsewhere), "0");
+        Click(desk.window, "btnView_0");
+        QVERIFY(window.hasModel);
+        QVERIFY(!Box(desk, elsewhere).isVisible());
+        QVERIFY(Box(desk, window.Table().pages[0].boxes.front().index).isVisible());
+    }
+
+    void aRefusedBoxIsScrolledToThoughItHasTheFocus() {
+        Desk desk;
+        desk.window.resize(1000, 440);
+        CFittingWindow& window = desk.New(8);
+        TypeSamples(window);
+        const auto boxes =
+            desk.ActiveView().View().findChild<QWidget*>("Picture1_0")->findChildren<QLineEdit*>();
+        const auto highest =
+            *std::min_element(boxes.begin(), boxes.end(),
+                              [](const auto* one, const auto* other) { return one->y() < other->y(); });
+        Type(*highest, "-");
+        for (QWidget* parent = highest; parent != nullptr; parent = parent->parentWidget()) {
+            if (const auto* scroll = qobject_cast<QScrollArea*>(parent)) {
+                scroll->verticalScrollBar()->setValue(scroll->verticalScrollBar()->maximum());
+            }
+        }
+        QVERIFY(highest->visibleRegion().isEmpty());
+        Click(desk.window, "btnView_0");
+        QCOMPARE(desk.shell.ui.messages.size(), 1U);
+        QVERIFY(!highest->visibleRegion().isEmpty());
     }
 
     void tellsOfTextThatIsNoNumberWhileItIsTyped() {

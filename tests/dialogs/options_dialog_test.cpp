@@ -325,7 +325,11 @@ TEST_F(GlobalOptions, EveryBadBoxKeepsTheDialogOpenWithTheFocusOnIt) {
         ui.messages.clear();
         OptionsDialog dialog = Dialog();
         bad.spoil(dialog);
+        int tabUnderMessage = 0;
+        ui.onShow = [&](const MessageBox&) { tabUnderMessage = dialog.tab; };
         dialog.ClickOK();
+        ui.onShow = nullptr;
+        EXPECT_EQ(tabUnderMessage, bad.tab);
         EXPECT_EQ(ui.Texts(), std::vector<std::string>{bad.message});
         EXPECT_EQ(ui.messages.at(0).title, bad.message == notANumber ? "Korvet Development" : "User Error");
         EXPECT_EQ(dialog.focus, bad.focus);

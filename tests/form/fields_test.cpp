@@ -208,56 +208,42 @@ TEST_F(Fields, RoomForThicknessComparesTheMeanSizeThatItIsGiven) {
 
 TEST_F(Fields, NotSmallerMovesTheFocusWithoutAWord) {
     TextBox box = Box("100");
-    Control hide;
-    Control show;
-    show.visible = false;
-    EXPECT_EQ(CheckNotSmaller(context, 2, 2, box, {&hide, &show}), Passed);
+    EXPECT_EQ(CheckNotSmaller(context, 2, 2, box), Passed);
     EXPECT_EQ(focus, "before");
-    EXPECT_TRUE(hide.visible);
-    EXPECT_EQ(CheckNotSmaller(context, 1.999, 2, box, {&hide, &show}), Refused);
+    EXPECT_EQ(CheckNotSmaller(context, 1.999, 2, box), Refused);
     EXPECT_EQ(focus, "txtParameter_3");
-    EXPECT_FALSE(hide.visible);
-    EXPECT_TRUE(show.visible);
     EXPECT_TRUE(ui.messages.empty());
 }
 
-TEST_F(Fields, AFailedCheckSwapsThePagesAndAGoodOneDoesNot) {
-    Control hide;
-    Control show;
-    show.visible = false;
-    TextBox box = Box("5");
-    EXPECT_EQ(CheckPositive(context, box, {&hide, &show}), Passed);
-    EXPECT_TRUE(hide.visible);
-    EXPECT_FALSE(show.visible);
-    box.text = "0";
-    EXPECT_EQ(CheckPositive(context, box, {&hide, &show}), Refused);
-    EXPECT_FALSE(hide.visible);
-    EXPECT_TRUE(show.visible);
-}
-
-TEST_F(Fields, PagesSwapOnlyWhenBothAreGiven) {
-    Control page;
-    TextBox box = Box("0");
-    EXPECT_EQ(CheckPositive(context, box, {&page, nullptr}), Refused);
-    EXPECT_TRUE(page.visible);
-    page.visible = false;
-    EXPECT_EQ(CheckPositive(context, box, {nullptr, &page}), Refused);
-    EXPECT_FALSE(page.visible);
-}
-
-TEST_F(Fields, AWordInABoxOfTheHiddenPageSwapsThePagesToo) {
-    const std::vector<std::function<Outcome(TextBox&, PageSwap)>> checks = {
-        [this](TextBox& box, PageSwap pages) { return CheckPositive(context, box, pages); },
-        [this](TextBox& box, PageSwap pages) { return CheckBoxRoomForThickness(context, box, 1, pages); }};
+TEST_F(Fields, ABoxIsBroughtIntoSightBeforeTheMessageAboutIt) {
+    std::vector<std::string> steps;
+    context.reveal = [&](const TextBox& box) { steps.push_back("reveal " + box.name); };
+    ui.onShow = [&](const MessageBox& message) { steps.push_back(message.text); };
+    const std::vector<std::function<Outcome(TextBox&)>> checks = {
+        [this](TextBox& box) { return CheckNumber(context, box); },
+        [this](TextBox& box) { return CheckPositive(context, box); },
+        [this](TextBox& box) { return CheckLessThan(context, box, 0); },
+        [this](TextBox& box) { return CheckInteger(context, box); },
+        [this](TextBox& box) { return CheckBoxRoomForThickness(context, box, 1); },
+        [this](TextBox& box) { return CheckSegs(context, box); }};
     for (const auto& check : checks) {
-        Control hide;
-        Control show;
-        show.visible = false;
-        TextBox box = Box("word");
-        EXPECT_EQ(check(box, {&hide, &show}), Refused);
-        EXPECT_FALSE(hide.visible);
-        EXPECT_TRUE(show.visible);
+        TextBox word = Box("word");
+        steps.clear();
+        EXPECT_EQ(check(word), Refused);
+        EXPECT_EQ(steps, (std::vector<std::string>{"reveal txtParameter_3", "Not a valid number"}));
     }
+    TextBox low = Box("0");
+    steps.clear();
+    EXPECT_EQ(CheckPositive(context, low), Refused);
+    EXPECT_EQ(steps,
+              (std::vector<std::string>{"reveal txtParameter_3", "This dimension must be greater than 0"}));
+    steps.clear();
+    CheckFieldChange(context, low);
+    EXPECT_EQ(CheckNumber(context, low), Passed);
+    EXPECT_EQ(CheckAtLeast(context, low, 0), Passed);
+    EXPECT_TRUE(steps.empty());
+    EXPECT_EQ(CheckNotSmaller(context, 1, 2, low), Refused);
+    EXPECT_EQ(steps, (std::vector<std::string>{"reveal txtParameter_3"}));
 }
 
 TEST_F(Fields, SegsAreAWholeNumberFromOneToAHundredThousand) {

@@ -19,6 +19,9 @@ class RecordingUi final : public UserInterface {
     std::vector<FileChoice> fileDialogs;           ///< every file dialog shown, in order
     std::deque<std::optional<std::string>> files;  ///< what file dialogs return, first one first
 
+    /// A look at the program while a box is shown.
+    std::function<void(const MessageBox&)> onShow;
+
     // What the user does in a dialog. Without a hook the dialog is left as it was shown, which is Cancel.
     std::function<void(PatternSettingsDialog&)> onPatternSettings;
     std::function<void(OptionsDialog&)> onOptions;
@@ -32,6 +35,9 @@ class RecordingUi final : public UserInterface {
     /// Cancel when none is left.
     Answer Show(const MessageBox& message) override {
         messages.push_back(message);
+        if (onShow) {
+            onShow(message);
+        }
         constexpr int ButtonBits = 7;
         if ((message.style & ButtonBits) == 0) {
             return Answer::Ok;

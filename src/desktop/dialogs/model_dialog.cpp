@@ -211,6 +211,7 @@ void ModelDialog::ShowFocus() {
         if (QWidget* const wanted =
                 model_.focus->empty() ? nullptr : findChild<QWidget*>(Text(*model_.focus))) {
             wanted->setFocus(Qt::OtherFocusReason);
+            scroll_->ensureWidgetVisible(wanted);
         } else if (focusWidget() != nullptr) {
             *model_.focus = focusWidget()->objectName().toStdString();
         }

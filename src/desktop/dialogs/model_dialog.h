@@ -52,6 +52,9 @@ class ModelDialog final : public QDialog {
     /// The button with the global options on top, open on the tab of what is drawn and exported.
     void AddOptionsButton();
 
+    /// Shows what the model says now: before a message comes up over the dialog, and after every event.
+    void Project();
+
     /// Runs an event of the model, shows what has become of it, and closes when the model did.
     void Do(const std::function<void()>& event);
 
@@ -87,7 +90,6 @@ class ModelDialog final : public QDialog {
         std::function<void()> event;
     };
 
-    void Project();
     void ShowFocus();
     void FitToScreen();
 

@@ -12,6 +12,7 @@
 #include <QTimer>
 #include <QToolButton>
 #include <algorithm>
+#include <utility>
 
 #include "desktop/bindings.h"
 #include "desktop/fitting/view_icons.h"
@@ -232,6 +233,21 @@ void FittingView::Project() {
     ShowPointer();
     drawing_->Project();
     ProjectFocus();
+    RevealBox();
+}
+
+/// A message about a box scrolls to it before it comes up; afterwards the user scrolls as he likes.
+void FittingView::RevealBox() {
+    const std::string name = std::exchange(window_->controls.boxToReveal, {});
+    for (const BoundBox& box : boxes_) {
+        if (window_->controls.txtParameter.at(box.index).name == name &&
+            ShownPage().Box(static_cast<int>(box.index)) == box.edit) {
+            SketchScroll::Reveal(*box.edit);
+        }
+    }
+    if (window_->controls.txtTextSize.name == name) {
+        SketchScroll::Reveal(*textSize_);
+    }
 }
 
 /// A refusal has moved the model's focus, or has selected the text of the box that has it.
@@ -244,7 +260,6 @@ void FittingView::ProjectFocus() {
         if (model.focus != shownFocus_) {
             shownFocus_ = model.focus;
             edit.setFocus(Qt::OtherFocusReason);
-            SketchScroll::Reveal(edit);
         }
         if (box.selectionLength > 0) {
             ShowSelection(edit, box);

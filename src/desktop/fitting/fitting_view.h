@@ -87,6 +87,7 @@ class FittingView : public QWidget {
     void ShowIcons();
     void ShowPointer();
     void ProjectFocus();
+    void RevealBox();
     void ProjectOptions();
     [[nodiscard]] SketchPage& ShownPage() const;
     [[nodiscard]] bool IsShortcut(const QKeyEvent& event) const;
