@@ -309,6 +309,12 @@ void FindInnerSides(SolidMesh& mesh) {
     }
 }
 
+/// 1 for a wall that faces the eye by this depth of its normal, -1 for one that faces away, 0 for one on
+/// edge: both lines of that one are contours, and the near one hides the other.
+int Facing(double depth) {
+    return std::fabs(depth) <= EdgeOnShare ? 0 : depth > 0 ? 1 : -1;
+}
+
 /// Whether the face runs through the edge from its first vertex to its second.
 bool RunsAlong(const MeshFace& face, const MeshEdge& edge) {
     const auto at = std::find(face.corners.begin(), face.corners.end(), edge.from);
@@ -348,8 +354,7 @@ EdgeLook LookOf(const SolidMesh& mesh, const MeshEdge& edge) {
     // Two faces that run through their common line in the same direction have their normals on opposite
     // sides of the wall.
     const double sense = RunsAlong(face, edge) == RunsAlong(other, edge) ? -1 : 1;
-    const bool contour =
-        (face.wallNormal.depth > EdgeOnShare) != (sense * other.wallNormal.depth > EdgeOnShare);
+    const bool contour = Facing(face.wallNormal.depth) != Facing(sense * other.wallNormal.depth);
     const double bend = sense * Dot(face.wallNormal, other.wallNormal);
     if (contour || (bend < std::cos(DegToRad(20)) && !edge.diagonal)) {
         return EdgeLook::Outline;

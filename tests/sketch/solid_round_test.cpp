@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <numbers>
 
 #include "core/math_module.h"
 #include "sketch/solid.h"
@@ -105,6 +106,23 @@ TEST_F(ConePicture, TheDirectionOfTheListsDoesNotCount) {
                                 [](const SolidFace& face) { return face.inside; }),
                   32);
         EXPECT_EQ(Segments(picture).size(), Segments(picture_).size());
+    }
+}
+
+// With an odd number of strips the seam stands on the right, and at the left one strip is just on edge.
+TEST(DrawSolid, AStripOnEdgeHasItsContour) {
+    for (const bool backwards : {false, true}) {
+        std::vector<C3DPoint> top = Ring(1, 3, 35);
+        std::vector<C3DPoint> base = Ring(1, 0, 35);
+        if (backwards) {
+            std::reverse(top.begin(), top.end());
+            std::reverse(base.begin(), base.end());
+        }
+        const SolidPicture picture = DrawSolid(Model({Strip(top, base)}), {.turn = 0, .tilt = 0});
+        const double left = -std::cos(std::numbers::pi / 35);
+        std::vector<Segment> upright = Segments(picture);
+        std::erase_if(upright, [](const Segment& s) { return std::fabs(s.from.x - s.to.x) > 1e-6; });
+        ExpectSegments(upright, {{{left, 0}, {left, 3}}, {{1, 0}, {1, 3}}});
     }
 }
 
