@@ -4,13 +4,24 @@
 
 namespace korvet {
 
-/// A distinguished point of one line of a model: its middle (of the bounding box), or the first point with
-/// the smallest or largest coordinate.
-enum class Spot { Centre, MinX, MaxX, MinY, MaxY, MinZ, MaxZ };
+/// A distinguished point of one line of a model: its middle (of the bounding box), the first point with the
+/// smallest or largest coordinate, or the point with a number.
+enum class Spot { Centre, MinX, MaxX, MinY, MaxY, MinZ, MaxZ, Station };
+
+/// A step in polar form, as sizes of the trade are: a length at an angle. It is worked out where the point is
+/// looked up, so that no table holds the cosine of its sample.
+struct SketchStep {
+    double length = 0;   ///< in the user's unit
+    double rise = 0;     ///< degrees from the level upward: 90 is straight up, 180 level and backward
+    double bearing = 0;  ///< degrees on the plan, from x towards y: where a rise of 0 leads
+    bool level = false;  ///< `length` is that of the step on the plan; not for a rise of 90
+    bool operator==(const SketchStep&) const = default;
+};
 
 /// A point that a dimension line refers to: a point of the sample model, or the model's origin, and from
-/// there an offset in the user's unit. A height is measured off the middle of a line of the model, and its
-/// extension line starts where it leaves the shape; from every other point the extension line starts there.
+/// there an offset and a step in the user's unit. A height is measured off the middle of a line of the model,
+/// and its extension line starts where it leaves the shape; from every other point the extension line starts
+/// there.
 struct SketchPoint {
     int list = 0;  ///< 1 to 3: List1 to List3 of the surface; 0: the origin
     Spot spot = Spot::Centre;
@@ -18,6 +29,8 @@ struct SketchPoint {
     double dy = 0;
     double dz = 0;
     int surface = 1;  ///< counted from 1
+    int station = 0;  ///< of Spot::Station, counted from 1
+    SketchStep step = {};
 };
 
 enum class DimensionKind {
@@ -59,11 +72,49 @@ struct SketchView {
     double tilt = 12;
 };
 
-// How a window's table writes its sketch.
+// How a window's table writes its sketch. What a new fitting needs is told with these:
+//   an axis moved aside            LinearSize between OnAxis and AtXZ, on the plan between points with a dy
+//   a length along a tilted axis   AlignedSize from a point to PolarXZ (in the plan PolarXY) of it
+//   the angle between two axes     AngleSize with rays to PolarXZ or PolarXY of their crossing
+//   where lines at angles meet     SlopeXZ: the run is known, the height follows
+//   the radius of a corner         RadiusSize to PolarXY of its centre, on a view from above
+//   a piece beside the first       OfSurface
+//   a corner of a faceted wall     StationOf
+//   a number of pieces or sides    CountNote
+//   a size that one view hides     a view of its own, which the dimension names
 
 /// A point of a line of the first surface, moved by an offset.
 constexpr SketchPoint SpotOf(int list, Spot spot, double dx = 0, double dy = 0, double dz = 0) {
     return {.list = list, .spot = spot, .dx = dx, .dy = dy, .dz = dz};
+}
+
+/// The point of a line of the first surface with a number, from 1.
+constexpr SketchPoint StationOf(int list, int station) {
+    return {.list = list, .spot = Spot::Station, .station = station};
+}
+
+/// The same point of another surface.
+constexpr SketchPoint OfSurface(int surface, SketchPoint point) {
+    point.surface = surface;
+    return point;
+}
+
+/// A step from a point in the elevation: `angle` in degrees from x upward.
+constexpr SketchPoint PolarXZ(SketchPoint from, double angle, double length) {
+    from.step = {.length = length, .rise = angle};
+    return from;
+}
+
+/// A step from a point on the plan: `angle` in degrees from x towards y.
+constexpr SketchPoint PolarXY(SketchPoint from, double angle, double length) {
+    from.step = {.length = length, .bearing = angle};
+    return from;
+}
+
+/// A step from a point in the elevation at `angle`, as far as it takes to come `run` along x.
+constexpr SketchPoint SlopeXZ(SketchPoint from, double angle, double run) {
+    from.step = {.length = run, .rise = angle, .level = true};
+    return from;
 }
 
 /// The middle of a line of the first surface.
@@ -121,6 +172,11 @@ constexpr SketchDimension RoofTiltSize(Side side, const SketchPoint& ridge, int 
     const bool left = side == Side::Left;
     return AngleSize(side, ridge, SpotOf(list, left ? Spot::MinX : Spot::MaxX),
                      AtXZ(ridge.dx + (left ? -100 : 100), ridge.dz));
+}
+
+/// A number of pieces or sides, which no line measures.
+constexpr SketchDimension CountNote(Side side, int view = 0) {
+    return {.kind = DimensionKind::Note, .side = side, .view = view};
 }
 
 constexpr SketchConstruction ThinLine(const SketchPoint& a, const SketchPoint& b, int view = 0) {

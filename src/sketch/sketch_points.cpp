@@ -1,15 +1,24 @@
 #include "sketch/sketch_points.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 
 #include "core/checked.h"
+#include "core/math_module.h"
 #include "sketch/sample_model.h"
 #include "sketch/sketch_layout.h"
 #include "sketch/sketch_outline.h"
 
 namespace korvet {
 namespace {
+
+std::size_t CountedFromOne(int number) {
+    if (number < 1) {
+        throw ListError("surfaces and stations of a sketch count from 1");
+    }
+    return static_cast<std::size_t>(number);
+}
 
 const C3DPoints& LineOf(const CRuleSurf& surface, int number) {
     const PointList& list = number == 1 ? surface.List1 : number == 2 ? surface.List2 : surface.List3;
@@ -36,8 +45,8 @@ C3DPoint Extreme(const C3DPoints& line, double C3DPoint::*axis, bool largest) {
     });
 }
 
-C3DPoint SpotOnLine(const C3DPoints& line, Spot spot) {
-    switch (spot) {
+C3DPoint SpotOnLine(const C3DPoints& line, const SketchPoint& point) {
+    switch (point.spot) {
         case Spot::MinX:
             return Extreme(line, &C3DPoint::x, false);
         case Spot::MaxX:
@@ -50,10 +59,21 @@ C3DPoint SpotOnLine(const C3DPoints& line, Spot spot) {
             return Extreme(line, &C3DPoint::z, false);
         case Spot::MaxZ:
             return Extreme(line, &C3DPoint::z, true);
+        case Spot::Station:
+            return line.Item(CountedFromOne(point.station));
         case Spot::Centre:
             break;
     }
     return MiddleOfBox(line);
+}
+
+/// Where a step leads from the origin.
+C3DPoint StepInSpace(const SketchStep& step) {
+    const double rise = DegToRad(step.rise);
+    const double bearing = DegToRad(step.bearing);
+    const double length = step.level ? step.length / std::fabs(std::cos(rise)) : step.length;
+    const double run = length * std::cos(rise);
+    return {run * std::cos(bearing), run * std::sin(bearing), length * std::sin(rise), PlainStation};
 }
 
 bool IsInside(const SketchPoint& point) {
@@ -61,7 +81,7 @@ bool IsInside(const SketchPoint& point) {
 }
 
 bool IsDrawn(const SketchPoint& point) {
-    return point.list != 0 && point.dx == 0 && point.dy == 0 && point.dz == 0;
+    return point.list != 0 && point.dx == 0 && point.dy == 0 && point.dz == 0 && point.step == SketchStep();
 }
 
 }  // namespace
@@ -69,13 +89,12 @@ bool IsDrawn(const SketchPoint& point) {
 C3DPoint SketchPointInSpace(const CRuleSurfs& model, const SketchPoint& point) {
     C3DPoint found;
     if (point.list != 0) {
-        if (point.surface < 1) {
-            throw ListError("surfaces of a sketch count from 1");
-        }
-        const CRuleSurf& surface = model.Item(static_cast<std::size_t>(point.surface));
-        found = SpotOnLine(LineOf(surface, point.list), point.spot);
+        const CRuleSurf& surface = model.Item(CountedFromOne(point.surface));
+        found = SpotOnLine(LineOf(surface, point.list), point);
     }
-    return {found.x + point.dx, found.y + point.dy, found.z + point.dz, PlainStation};
+    const C3DPoint step = StepInSpace(point.step);
+    return {found.x + point.dx + step.x, found.y + point.dy + step.y, found.z + point.dz + step.z,
+            PlainStation};
 }
 
 std::size_t ShownOffSurface(const WindowTable& table, const OptionGroup& optPatternSelect) {

@@ -6,8 +6,8 @@
 
 namespace korvet {
 
-/// The point in space, in the user's unit. Throws ListError when the model does not have the surface or line,
-/// or the line is empty.
+/// The point in space, in the user's unit. Throws ListError when the model does not have the surface, line
+/// or station, or the line is empty.
 C3DPoint SketchPointInSpace(const CRuleSurfs& model, const SketchPoint& point);
 
 }  // namespace korvet
