@@ -1,6 +1,7 @@
 #include "batch/batch.h"
 
 #include <iostream>
+#include <stdexcept>
 
 #include "batch/batch_ui.h"
 #include "batch/catalogue_text.h"
@@ -133,6 +134,24 @@ int Run(const Arguments& arguments) {
         return Done;
     }
     return BatchRun(arguments).Run();
+}
+
+int RunCommandLine(int argc, const char* const* argv) {
+    try {
+        const auto arguments = ParseArguments(argc, argv);
+        const int status = arguments ? Run(*arguments) : Done;
+        std::cout.flush();
+        if (!std::cout && status == Done) {
+            throw std::runtime_error("the standard output cannot be written");
+        }
+        return status;
+    } catch (const UsageError& error) {
+        std::cerr << "korvet-batch: " << error.what() << "\nkorvet-batch --help tells the options.\n";
+        return WrongUsage;
+    } catch (const std::exception& error) {
+        std::cerr << "korvet-batch: " << error.what() << '\n';
+        return Refused;
+    }
 }
 
 }  // namespace korvet::batch

@@ -1,11 +1,16 @@
-"""Runs korvet-batch, whose path is in the environment variable KORVET_BATCH, for the tests of this folder."""
+"""Runs korvet-batch for the tests of this folder.
 
+Its path is in the environment variable KORVET_BATCH. When KORVET_BATCH_RUNS is the path of batch_runs, which does the
+same for many command lines in one process, all runs go there that need no process of their own.
+"""
+
+import atexit
 import json
 import os
 import subprocess
+import sys
 import tempfile
 import unittest
-from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
 PROGRAM = os.environ.get("KORVET_BATCH", "korvet-batch")
@@ -15,15 +20,10 @@ FAULTS = ("Sanitizer", "runtime error:", "terminate called", "Assertion")
 
 
 class Run:
-    """What one start of the program gave back."""
+    """What a command line of the program gave back."""
 
-    def __init__(self, arguments, cwd=None, stdout=subprocess.PIPE, environment=None):
-        result = subprocess.run([PROGRAM, *map(str, arguments)], stdin=subprocess.DEVNULL, stdout=stdout,
-                                stderr=subprocess.PIPE, timeout=TIMEOUT, cwd=cwd, check=False,
-                                env={**os.environ, "LC_ALL": "C", **(environment or {})})
-        self.status = result.returncode
-        self.output = result.stdout.decode("utf-8") if result.stdout is not None else ""
-        self.errors = result.stderr.decode("utf-8")
+    def __init__(self, arguments, status, output, errors):
+        self.status, self.output, self.errors = status, output, errors
         if self.status not in (DONE, REFUSED, WRONG_USAGE) or any(fault in self.errors for fault in FAULTS):
             raise AssertionError(f"{arguments} ended with {self.status}:\n{self.errors[-3000:]}")
 
@@ -36,14 +36,63 @@ class Run:
         return read_json(self.output)
 
 
-def run(*arguments, **options):
-    return Run(arguments, **options)
+def environment_of(changes=None):
+    return {**os.environ, "LC_ALL": "C", **(changes or {})}
+
+
+def start(*arguments, cwd=None, stdout=subprocess.PIPE, environment=None):
+    """Starts the program for one command line."""
+    result = subprocess.run([PROGRAM, *map(str, arguments)], stdin=subprocess.DEVNULL, stdout=stdout,
+                            stderr=subprocess.PIPE, timeout=TIMEOUT, cwd=cwd, check=False,
+                            env=environment_of(environment))
+    output = result.stdout.decode("utf-8") if result.stdout is not None else ""
+    return Run(arguments, result.returncode, output, result.stderr.decode("utf-8"))
+
+
+class ManyRuns:
+    """One process for the command lines of all tests of a file."""
+
+    def __init__(self, path):
+        self.complaints = tempfile.TemporaryFile()
+        self.process = subprocess.Popen([path], stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=self.complaints,
+                                        env=environment_of())
+        atexit.register(self.close)
+
+    def run(self, *arguments, cwd=None):
+        words = [str(argument) for argument in arguments]
+        try:
+            self.process.stdin.write(json.dumps([str(cwd or os.getcwd()), *words]).encode("utf-8") + b"\n")
+            self.process.stdin.flush()
+            answer = self.process.stdout.readline()
+        except BrokenPipeError:
+            answer = b""
+        if not answer:
+            raise AssertionError(f"{words} ended the process:\n{self.said()}")
+        return Run(words, **json.loads(answer))
+
+    def said(self):
+        self.complaints.seek(0)
+        return self.complaints.read().decode("utf-8", "replace")[-3000:]
+
+    def close(self):
+        """A fault that shows only at the end, such as lost memory, fails the tests too."""
+        self.process.stdin.close()
+        if self.process.wait(TIMEOUT) != 0 or any(fault in self.said() for fault in FAULTS):
+            print(self.said(), file=sys.stderr, flush=True)
+            os._exit(1)
+
+
+MANY_RUNS = ManyRuns(os.environ["KORVET_BATCH_RUNS"]) if "KORVET_BATCH_RUNS" in os.environ else None
+
+
+def run(*arguments, cwd=None, **options):
+    """Does what a command line asks for; further `options` of `start` ask for a process of its own."""
+    return (start if options or not MANY_RUNS else MANY_RUNS.run)(*arguments, cwd=cwd, **options)
 
 
 def run_all(argument_lists):
-    """Runs the program with each list of arguments, a few at a time; the Runs in the same order."""
-    with ThreadPoolExecutor(os.cpu_count()) as pool:
-        return list(pool.map(Run, argument_lists))
+    """Runs the program with each list of arguments; the Runs in the same order."""
+    return [run(*arguments) for arguments in argument_lists]
 
 
 def read_json(text):

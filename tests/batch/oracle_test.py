@@ -1,6 +1,7 @@
 """Compares what korvet-batch says of a case, number by number, with what was worked out a second time."""
 
 import datetime
+import os
 
 import fitting_cases
 from batch_program import DONE, REFUSED, FolderTest, run_all
@@ -71,7 +72,9 @@ class Comparison:
 
 class OracleTest(FolderTest):
     def check(self, cases):
-        """Runs new windows for the cases and compares all that they say."""
+        """Runs new windows for the cases and compares all that they say. With KORVET_SHARE=N for every N-th of them: where
+        the program is slow, and every case has been compared with a quick one."""
+        cases = cases[::int(os.environ.get("KORVET_SHARE", "1"))]
         faults = []
         for case, result in zip(cases, run_all([case.arguments() + ["--json", "-"] for case in cases])):
             answer = case.answer()

@@ -2,7 +2,7 @@
 
 import unittest
 
-from batch_program import CONE, DONE, REFUSED, WRONG_USAGE, FolderTest, cone_file, run, run_all
+from batch_program import CONE, DONE, REFUSED, WRONG_USAGE, FolderTest, cone_file, run, run_all, start
 
 CATALOGUE = """\
 Right Cone  frmRightCone1
@@ -50,7 +50,7 @@ NOT_BUILT = "  (not built yet)"
 
 class ListTest(unittest.TestCase):
     def test_list(self):
-        result = run("--list")
+        result = start("--list")
         self.assertEqual((result.status, result.errors), (DONE, ""))
         rows = [line for line in result.output.splitlines() if not line.startswith(" ")]
         self.assertEqual([row.removesuffix(NOT_BUILT) for row in rows], CATALOGUE)
@@ -84,12 +84,22 @@ class ListTest(unittest.TestCase):
         self.assertEqual(run("--new", "Truncated Right Cone", "--sample", "--json", "-").json["type"], 1)
 
     def test_help(self):
-        result = run("--help")
+        result = start("--help")
         self.assertEqual((result.status, result.errors), (DONE, ""))
         for option in ("--json", "--dxf", "--save", "--png", "--svg", "--size", "--view", "--set", "--new", "--type",
                        "--select", "--settings", "--list", "--polylines", "--mesh", "--diagonals", "--dimensions",
                        "--label", "{name}", "Exit status"):
             self.assertIn(option, result.output)
+
+
+class ExitStatusTest(FolderTest):
+    def test_statuses_of_the_program_itself(self):
+        for arguments, status in (((*CONE, "--json", "-"), DONE), ((*CONE, "--set", "box4=200"), REFUSED),
+                                  (("--bogus",), WRONG_USAGE)):
+            alone, among_others = start(*arguments), run(*arguments)
+            self.assertEqual((alone.status, alone.errors), (status, among_others.errors))
+            self.assertEqual(among_others.status, status)
+            self.assertEqual(alone.output, among_others.output)
 
 
 class WrongUsageTest(FolderTest):
