@@ -76,12 +76,12 @@ void VerifyPanel(const QWidget& panel, const QString& page) {
     VerifyControls(panel, controls, page);
 }
 
-}  // namespace
+/// The windows that are built, each with its view.
+class AllWindows {
+  public:
+    using Look = std::function<void(const QString& page, ViewOfTable& shown, const QScrollArea& scroll)>;
 
-class FittingLook : public QObject {
-    Q_OBJECT
-  private slots:
-    void initTestCase() {
+    AllWindows() {
         for (const CatalogueRow& row : Catalogue) {
             if (row.table != nullptr) {
                 windows_.push_back(
@@ -89,20 +89,95 @@ class FittingLook : public QObject {
                      std::make_unique<ViewOfTable>(*row.table)});
             }
         }
-        QVERIFY(!windows_.empty());
     }
 
-    void cleanupTestCase() { windows_.clear(); }
+    /// Shows every page of every window at a height; `scroll` is the frame of the whole panel.
+    void ForEachPage(int height, const Look& look) const {
+        for (const auto& [name, shown] : windows_) {
+            GoToFirstPage(*shown, height);
+            for (std::size_t page = 0; page < shown->table.pages.size(); ++page) {
+                Show(name, page, *shown, look);
+                shown->Get("btnPoint_0").click();
+            }
+        }
+    }
 
+    /// The same for the first page of every window alone.
+    void ForEachFirstPage(int height, const Look& look) const {
+        for (const auto& [name, shown] : windows_) {
+            GoToFirstPage(*shown, height);
+            Show(name, 0, *shown, look);
+        }
+    }
+
+  private:
+    struct NamedView {
+        QString name;
+        std::unique_ptr<ViewOfTable> shown;
+    };
+
+    static void GoToFirstPage(ViewOfTable& shown, int height) {
+        shown.view.resize(1000, height);
+        while (shown.Get("btnPoint_1").isEnabled()) {
+            shown.Get("btnPoint_1").click();
+        }
+    }
+
+    static void Show(const QString& name, std::size_t page, ViewOfTable& shown, const Look& look) {
+        QApplication::processEvents();
+        look(name + QStringLiteral("-%1").arg(page + 1), shown, *shown.view.findChild<QScrollArea*>());
+    }
+
+    std::vector<NamedView> windows_;
+};
+
+/// The panel is no wider than its widest part.
+void VerifyWidth(const ViewOfTable& shown, const QScrollArea& scroll, const QString& page) {
+    const int bar = scroll.verticalScrollBar()->sizeHint().width();
+    int widest = shown.Get<QGroupBox>("fraControls").minimumSizeHint().width();
+    for (const auto* sketch : shown.view.findChildren<SketchPage*>()) {
+        widest = std::max(widest, sketch->minimumSizeHint().width() + bar);
+    }
+    constexpr int Margins = 2 * 10;
+    QVERIFY2(scroll.width() <= widest + Margins + bar, qPrintable(page));
+}
+
+/// A picture of the whole panel; with a choice of pattern, of its first.
+void TakePicture(const QString& page, const ViewOfTable& shown, const QScrollArea& scroll) {
+    const QTemporaryDir otherwise;
+    const QString folder = qEnvironmentVariable("KORVET_PICTURES", otherwise.path());
+    QVERIFY(QDir().mkpath(folder));
+    if (auto* first = shown.Find("optPatternSelect_0")) {
+        first->click();
+        QApplication::processEvents();
+    }
+    QVERIFY(scroll.widget()->grab().save(QDir(folder).filePath(page + QStringLiteral(".png"))));
+}
+
+}  // namespace
+
+/// Every page at its largest.
+class FittingLook : public QObject {
+    Q_OBJECT
+  private slots:
     void everyPageIsWhole() {
-        ForEachPage(UsualHeight, [](const QString& page, ViewOfTable&, const QScrollArea& scroll) {
+        const AllWindows windows;
+        int pages = 0;
+        windows.ForEachPage(1200, [&](const QString& page, ViewOfTable& shown, const QScrollArea& scroll) {
             VerifyPanel(*scroll.widget(), page);
             QVERIFY2(!scroll.horizontalScrollBar()->isVisible(), qPrintable(page));
+            VerifyWidth(shown, scroll, page);
+            TakePicture(page, shown, scroll);
+            ++pages;
         });
+        QVERIFY(pages > 0);
     }
 
     void onAMonitorOfMiddlingHeightOnlyTheSketchScrolls() {
-        ForEachPage(700, [](const QString& page, ViewOfTable&, const QScrollArea& scroll) {
+        const QPalette usual = QApplication::palette();
+        QApplication::setPalette(DarkPalette());
+        const AllWindows windows;
+        windows.ForEachFirstPage(700, [](const QString& page, ViewOfTable& shown, const QScrollArea& scroll) {
             VerifyPanel(*scroll.widget(), page);
             QVERIFY2(!scroll.verticalScrollBar()->isVisible(), qPrintable(page));
             SketchPage* const sketch = ShownSketch(*scroll.widget());
@@ -112,15 +187,9 @@ class FittingLook : public QObject {
                 QVERIFY2(box->visibleRegion().boundingRect() == box->rect(),
                          qPrintable(page + box->objectName()));
             }
+            TakePicture(page + QStringLiteral("-dark"), shown, scroll);
         });
-    }
-
-    void aLowWindowScrollsToTheLastControl() {
-        ForEachPage(360, [](const QString& page, ViewOfTable&, const QScrollArea& scroll) {
-            VerifyPanel(*scroll.widget(), page);
-            QVERIFY2(scroll.verticalScrollBar()->isVisible(), qPrintable(page));
-            QVERIFY2(!scroll.horizontalScrollBar()->isVisible(), qPrintable(page));
-        });
+        QApplication::setPalette(usual);
     }
 
     void thePanelGrowsWithTheFont() {
@@ -136,69 +205,27 @@ class FittingLook : public QObject {
         QVERIFY(scroll->width() > before);
         QVERIFY(!scroll->horizontalScrollBar()->isVisible());
     }
-
-    void optionsDoNotWidenThePanel() {
-        ForEachPage(UsualHeight, [](const QString& page, ViewOfTable& shown, const QScrollArea& scroll) {
-            const int bar = scroll.verticalScrollBar()->sizeHint().width();
-            int widest = shown.Get<QGroupBox>("fraControls").minimumSizeHint().width();
-            for (const auto* sketch : shown.view.findChildren<SketchPage*>()) {
-                widest = std::max(widest, sketch->minimumSizeHint().width() + bar);
-            }
-            constexpr int Margins = 2 * 10;
-            QVERIFY2(scroll.width() <= widest + Margins + bar, qPrintable(page));
-        });
-    }
-
-    void picturesAreTaken() {
-        const QTemporaryDir otherwise;
-        const QString folder = qEnvironmentVariable("KORVET_PICTURES", otherwise.path());
-        QVERIFY(QDir().mkpath(folder));
-        const QPalette usual = QApplication::palette();
-        for (const bool dark : {false, true}) {
-            QApplication::setPalette(dark ? DarkPalette() : usual);
-            ForEachPage(1200, [&](const QString& page, ViewOfTable& shown, const QScrollArea& scroll) {
-                auto* first = shown.Find("optPatternSelect_0");
-                if (first != nullptr) {
-                    first->click();
-                    QApplication::processEvents();
-                }
-                const QString file = page + (dark ? QStringLiteral("-dark.png") : QStringLiteral(".png"));
-                QVERIFY(scroll.widget()->grab().save(QDir(folder).filePath(file)));
-            });
-        }
-        QApplication::setPalette(usual);
-    }
-
-  private:
-    struct NamedView {
-        QString name;
-        std::unique_ptr<ViewOfTable> shown;
-    };
-
-    static constexpr int UsualHeight = 900;
-
-    using Look = std::function<void(const QString& page, ViewOfTable& shown, const QScrollArea& scroll)>;
-
-    /// Shows every page of every window that is built, at a height; `scroll` is the frame of the whole panel.
-    void ForEachPage(int height, const Look& look) {
-        for (const auto& [name, shown] : windows_) {
-            shown->view.resize(1000, height);
-            while (shown->Get("btnPoint_1").isEnabled()) {
-                shown->Get("btnPoint_1").click();
-            }
-            for (std::size_t page = 0; page < shown->table.pages.size(); ++page) {
-                QApplication::processEvents();
-                look(name + QStringLiteral("-%1").arg(page + 1), *shown,
-                     *shown->view.findChild<QScrollArea*>());
-                shown->Get("btnPoint_0").click();
-            }
-        }
-    }
-
-    std::vector<NamedView> windows_;
 };
 
-static const Registered<FittingLook> registeredFittingLook("FittingLook", Scale::Both);
+/// Every page at its lowest.
+class LowFittingLook : public QObject {
+    Q_OBJECT
+  private slots:
+    void aLowWindowScrollsToTheLastControl() {
+        const AllWindows windows;
+        int pages = 0;
+        windows.ForEachPage(360, [&](const QString& page, ViewOfTable&, const QScrollArea& scroll) {
+            VerifyPanel(*scroll.widget(), page);
+            QVERIFY2(scroll.verticalScrollBar()->isVisible(), qPrintable(page));
+            QVERIFY2(!scroll.horizontalScrollBar()->isVisible(), qPrintable(page));
+            ++pages;
+        });
+        QVERIFY(pages > 0);
+    }
+};
+
+static const Registered<FittingLook> registeredFittingLook("FittingLook", Scale::One);
+static const Registered<LowFittingLook> registeredLowFittingLook("LowFittingLook", Scale::Two);
 
 }  // namespace korvet::desktop
 
