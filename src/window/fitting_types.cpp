@@ -41,9 +41,26 @@ void ShowPage(WindowModel& controls, std::size_t index) {
     }
 }
 
-bool BearsBox(const PageEntry& page, int box) {
-    return std::any_of(page.boxes.begin(), page.boxes.end(),
-                       [box](const BoxEntry& entry) { return entry.index == box; });
+void ShowPageOfBox(CFittingWindow& window, int box) {
+    const auto bearsIt = [box](const PageEntry& page) {
+        return std::any_of(page.boxes.begin(), page.boxes.end(),
+                           [box](const BoxEntry& entry) { return entry.index == box; });
+    };
+    const auto pages = window.Table().pages;
+    const auto ofType = pages.begin() + window.dtype;
+    const auto page = bearsIt(*ofType) ? ofType : std::find_if(pages.begin(), pages.end(), bearsIt);
+    if (page != pages.end()) {
+        ShowPage(window.controls, static_cast<std::size_t>(page - pages.begin()));
+    }
+}
+
+void ReturnToPageOfType(CFittingWindow& window) {
+    const auto ofType = static_cast<std::size_t>(window.dtype);
+    for (std::size_t i = 0; i < window.controls.Picture1.size(); ++i) {
+        if (i != ofType && window.controls.Picture1[i].visible) {
+            ShowPage(window.controls, ofType);
+        }
+    }
 }
 
 std::int16_t StepFittingType(CFittingWindow& window, std::size_t button, std::int16_t dtype) {

@@ -11,8 +11,11 @@ std::string TypeCaption(std::int16_t dtype);
 /// Shows the parameter page of that index, from 0, and hides the others.
 void ShowPage(WindowModel& controls, std::size_t index);
 
-/// Whether the page of a type, from 0, bears the parameter box of that index.
-bool BearsBox(const PageEntry& page, int box);
+/// Shows the page with the parameter box of that index: the one of the type, or the first that bears it.
+void ShowPageOfBox(CFittingWindow& window, int box);
+
+/// Shows the page of the type again where that of a box of another type is shown.
+void ReturnToPageOfType(CFittingWindow& window);
 
 /// Steps to the next (button 0) or previous (button 1) type, where there is one, and returns the new type.
 std::int16_t StepFittingType(CFittingWindow& window, std::size_t button, std::int16_t dtype);

@@ -1,6 +1,5 @@
 #include "window/fitting_window.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "core/constants.h"
@@ -62,15 +61,8 @@ FieldContext CFittingWindow::Fields() {
 /// A box of another type than the one that is built is shown on its own page, until the next build.
 void CFittingWindow::RevealBox(const TextBox& box) {
     controls.boxToReveal = box.name;
-    const auto pages = Table().pages;
-    const auto bearsIt = [&](const PageEntry& page) {
-        return box.parameterIndex && BearsBox(page, *box.parameterIndex);
-    };
-    const auto page = bearsIt(pages[static_cast<std::size_t>(dtype)])
-                          ? pages.begin() + dtype
-                          : std::find_if(pages.begin(), pages.end(), bearsIt);
-    if (page != pages.end()) {
-        ShowPage(controls, static_cast<std::size_t>(page - pages.begin()));
+    if (box.parameterIndex) {
+        ShowPageOfBox(*this, *box.parameterIndex);
     }
 }
 

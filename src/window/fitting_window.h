@@ -173,7 +173,6 @@ class CFittingWindow {
   private:
     void InitialiseFitting();
     void RevealBox(const TextBox& box);
-    void ReturnToPageOfType();
     Outcome RequireModel();
     void Rebuild();
     Outcome AddViewOfExtents();

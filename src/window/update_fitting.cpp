@@ -50,7 +50,7 @@ void CFittingWindow::RefuseBuild(const std::exception& error) {
 
 Outcome CFittingWindow::BuildFitting() {
     hasModel = false;
-    ReturnToPageOfType();
+    ReturnToPageOfType(*this);
     if (Table().checksAllFields && CheckAllFields()) {
         return Refused;
     }
@@ -83,16 +83,6 @@ Outcome CFittingWindow::CheckAllFields() {
     return RefusedIf(std::any_of(controls.txtParameter.begin(), controls.txtParameter.end(),
                                  [&](TextBox& box) { return CheckNumber(fields, box); }) ||
                      CheckNumber(fields, controls.txtTextSize));
-}
-
-/// A refusal may have shown the page of another type.
-void CFittingWindow::ReturnToPageOfType() {
-    const auto page = static_cast<std::size_t>(dtype);
-    for (std::size_t i = 0; i < controls.Picture1.size(); ++i) {
-        if (i != page && controls.Picture1[i].visible) {
-            ShowPage(controls, page);
-        }
-    }
 }
 
 /// A wall can't be thinner than none. The settings of a file come here without having been typed.

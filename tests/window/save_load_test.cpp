@@ -1,7 +1,6 @@
-// What a window writes and reads: parameter files, and the choices of an export.
+// What a window writes and reads of parameter files.
 #include <gtest/gtest.h>
 
-#include "core/constants.h"
 #include "frame/catalogue.h"
 #include "tests/support/test_context.h"
 #include "window/views.h"
@@ -11,14 +10,19 @@ namespace {
 
 class SaveLoadTest : public testing::Test {
   protected:
-    void SetUp() override { AcceptExports(shell.ui); }
-
     /// A saved pattern of the cone's sample, as the bytes of its file.
     std::string SavedCone() {
         const auto window = shell.OpenSample("Right Cone", 2);
         window->ClickView(PatternButton);
         EXPECT_EQ(window->SaveFile("cone.Kvt"), Passed);
         return shell.files.files["cone.Kvt"];
+    }
+
+    /// The same with another text for the height, at the name of a file.
+    void PutConeOfHeight(const std::string& name, const std::string& height) {
+        std::string file = SavedCone();
+        file.replace(file.find("\r\n250\r\n") + 2, 3, height);
+        shell.files.files[name] = file;
     }
 
     /// The file with one line (from 1) replaced.
@@ -211,10 +215,7 @@ TEST_F(SaveLoadTest, AMissingFileIsTold) {
 }
 
 TEST_F(SaveLoadTest, ALoadedBoxThatIsNoNumberIsTestedLikeTyping) {
-    const std::string good = SavedCone();
-    std::string bad = good;
-    bad.replace(bad.find("\r\n250\r\n") + 2, 3, "abc");
-    shell.files.files["bad.Kvt"] = bad;
+    PutConeOfHeight("bad.Kvt", "abc");
     const auto window = shell.Open("Right Cone");
     EXPECT_EQ(window->LoadFile("bad.Kvt"), Passed);
     const std::vector<std::string> expected = {"Not a valid number", "Not a valid number",
@@ -224,10 +225,7 @@ TEST_F(SaveLoadTest, ALoadedBoxThatIsNoNumberIsTestedLikeTyping) {
 }
 
 TEST_F(SaveLoadTest, SizesOfADesktopWithAnotherDecimalMarkGetTheMarkOfThisOne) {
-    const std::string good = SavedCone();
-    std::string file = good;
-    file.replace(file.find("\r\n250\r\n") + 2, 3, "2,5e2");
-    shell.files.files["comma.Kvt"] = file;
+    PutConeOfHeight("comma.Kvt", "2,5e2");
     const auto window = shell.Open("Right Cone");
     EXPECT_EQ(window->LoadFile("comma.Kvt"), Passed);
     EXPECT_EQ(shell.ui.Texts(), std::vector<std::string>());
@@ -239,22 +237,17 @@ TEST_F(SaveLoadTest, SizesOfADesktopWithAnotherDecimalMarkGetTheMarkOfThisOne) {
 }
 
 TEST_F(SaveLoadTest, ASizeThatIsANumberHereStaysAsItWasTyped) {
-    const std::string good = SavedCone();
-    shell.context.decimalMark = ',';
     for (const std::string text : {"250.0", "250,0", "2.5e2"}) {
-        std::string file = good;
-        file.replace(file.find("\r\n250\r\n") + 2, 3, text);
-        shell.files.files["size.Kvt"] = file;
+        PutConeOfHeight("size.Kvt", text);
+        shell.context.decimalMark = ',';
         const auto window = shell.Open("Right Cone");
         EXPECT_EQ(window->LoadFile("size.Kvt"), Passed);
         EXPECT_TRUE(window->hasModel) << text;
         EXPECT_EQ(window->controls.txtParameter[5].text, text);
+        shell.context.decimalMark = '.';
     }
-    shell.context.decimalMark = '.';
     for (const std::string text : {"1,234.5", "1,234,5", ",", "2,5,", "-,"}) {
-        std::string file = good;
-        file.replace(file.find("\r\n250\r\n") + 2, 3, text);
-        shell.files.files["none.Kvt"] = file;
+        PutConeOfHeight("none.Kvt", text);
         const auto window = shell.Open("Right Cone");
         EXPECT_EQ(window->FillFromFile("none.Kvt"), Passed);
         EXPECT_EQ(window->controls.txtParameter[5].text, text) << "no number with either mark";
@@ -292,182 +285,6 @@ TEST_F(SaveLoadTest, EveryPageOfEveryBuiltWindowHasAValidSample) {
     }
     EXPECT_GT(pages, 0);
     EXPECT_TRUE(shell.ui.messages.empty());
-}
-
-class ExportTest : public SaveLoadTest {
-  protected:
-    /// What the export dialog shows when the user gets to see it.
-    DxfOptionsDialog Shown(CFittingWindow& window, ExportMode mode = ExportMode::Dxf) {
-        DxfOptionsDialog shown;
-        shell.ui.onDxfOptions = [&](DxfOptionsDialog& dialog) { shown = dialog; };
-        (void)window.Export("out.dxf", mode);
-        AcceptExports(shell.ui);
-        return shown;
-    }
-
-    static bool IsOffered(const DxfOptionsDialog& dialog, std::size_t index) {
-        EXPECT_EQ(dialog.chkDXFOutput.at(index).checked, dialog.chkDXFOutput.at(index).enabled);
-        return dialog.chkDXFOutput.at(index).checked;
-    }
-};
-
-TEST_F(ExportTest, OffersWhatThePatternShows) {
-    const auto window = shell.OpenSample("Right Cone", 2);
-    window->ClickView(PatternButton);
-    DxfOptionsDialog dialog = Shown(*window);
-    EXPECT_EQ(dialog.caption, "Exporting out.dxf");
-    EXPECT_EQ(dialog.lblExportType, "Exporting unfolded pattern");
-    EXPECT_TRUE(IsOffered(dialog, DxfOptionsDialog::Outlines));
-    EXPECT_TRUE(IsOffered(dialog, DxfOptionsDialog::BendLines));
-    EXPECT_FALSE(IsOffered(dialog, DxfOptionsDialog::Diagonals));
-    EXPECT_FALSE(IsOffered(dialog, DxfOptionsDialog::Dimensions));
-    EXPECT_FALSE(IsOffered(dialog, DxfOptionsDialog::Label));
-    EXPECT_FALSE(dialog.chkSurfaceMesh.enabled);
-    EXPECT_TRUE(dialog.optPolyMode.IsOn(0));
-    window->display.DiagonalsRequested = true;
-    EXPECT_TRUE(IsOffered(Shown(*window), DxfOptionsDialog::Diagonals));
-    EXPECT_FALSE(IsOffered(Shown(*window), DxfOptionsDialog::Dimensions));
-    window->display.LabelPoint = C3DPoint{};
-    EXPECT_TRUE(IsOffered(Shown(*window), DxfOptionsDialog::Label));
-    for (bool CObjectDisplay::*request :
-         {&CObjectDisplay::TrueLengthsRequested, &CObjectDisplay::CoordGridRequested,
-          &CObjectDisplay::CoordTableRequested, &CObjectDisplay::FrameRequested}) {
-        window->display.*request = true;
-        EXPECT_TRUE(IsOffered(Shown(*window), DxfOptionsDialog::Dimensions));
-        window->display.*request = false;
-    }
-    window->dimensions->Add({1, 1, 2, 1, 1, 1});
-    EXPECT_TRUE(IsOffered(Shown(*window), DxfOptionsDialog::Dimensions));
-    shell.options.PolyMode = 1;
-    EXPECT_TRUE(Shown(*window).optPolyMode.IsOn(1));
-}
-
-TEST_F(ExportTest, APlotterTakesNeitherPolylinesNorText) {
-    const auto window = shell.OpenSample("Right Cone", 2);
-    window->display.FrameRequested = window->display.DiagonalsRequested = true;
-    window->display.LabelPoint = C3DPoint{};
-    shell.options.PolyMode = 1;
-    for (const int button : {PatternButton, 0}) {
-        window->ClickView(button);
-        const DxfOptionsDialog dialog = Shown(*window, ExportMode::Plotter);
-        EXPECT_TRUE(dialog.optPolyMode.IsOn(0));
-        EXPECT_FALSE(dialog.optPolyMode.enabled);
-        EXPECT_EQ(IsOffered(dialog, DxfOptionsDialog::Diagonals), button == PatternButton);
-        EXPECT_FALSE(IsOffered(dialog, DxfOptionsDialog::Dimensions));
-        EXPECT_FALSE(IsOffered(dialog, DxfOptionsDialog::Label));
-    }
-}
-
-TEST_F(ExportTest, OtherTargetsThanDxfAreRefusedForNow) {
-    const auto window = shell.OpenSample("Right Cone", 2);
-    window->ClickView(PatternButton);
-    EXPECT_EQ(window->Export("plot", ExportMode::Plotter), Refused);
-    EXPECT_EQ(shell.ui.Texts(), (std::vector<std::string>{"This version writes DXF files only"}));
-    EXPECT_TRUE(shell.files.files.empty());
-}
-
-TEST_F(ExportTest, OffersAMeshForAModel) {
-    const auto window = shell.OpenSample("Right Cone", 2);
-    window->ClickView(0);
-    window->display.DiagonalsRequested = true;
-    const DxfOptionsDialog dialog = Shown(*window);
-    EXPECT_EQ(dialog.lblExportType, "Exporting wire-frame model");
-    EXPECT_TRUE(dialog.chkSurfaceMesh.enabled);
-    EXPECT_FALSE(IsOffered(dialog, DxfOptionsDialog::Diagonals));
-}
-
-TEST_F(ExportTest, WritesTheFileAndSaysSo) {
-    const auto window = shell.OpenSample("Right Cone", 2);
-    window->ClickView(PatternButton);
-    EXPECT_EQ(window->Export("out.dxf", ExportMode::Dxf), Passed);
-    ASSERT_EQ(shell.ui.messages.size(), 1U);
-    EXPECT_EQ(shell.ui.messages[0].text, "DXF successfully saved to: out.dxf");
-    EXPECT_EQ(shell.ui.messages[0].style, InformationBox);
-    const std::string& dxf = shell.files.files["out.dxf"];
-    EXPECT_EQ(dxf.find("0\r\nSECTION\r\n2\r\nENTITIES\r\n"), 0U);
-    EXPECT_NE(dxf.find("ARC\r\n8\r\nCutLayer\r\n"), std::string::npos);
-    EXPECT_NE(dxf.find("LINE\r\n8\r\nFoldLayer\r\n"), std::string::npos);
-}
-
-TEST_F(ExportTest, DiagonalsFollowTheDisplayWhenDimensionsGoOut) {
-    const auto window = shell.OpenSample("Right Cone", 2);
-    window->display.TrueLengthsRequested = true;
-    window->ClickView(PatternButton);
-    shell.ui.onDxfOptions = [](DxfOptionsDialog& dialog) {
-        dialog.chkDXFOutput[DxfOptionsDialog::Diagonals].checked = true;
-        dialog.lblStatus = "OK";
-    };
-    ASSERT_EQ(window->Export("out.dxf", ExportMode::Dxf), Passed);
-    EXPECT_EQ(shell.files.files["out.dxf"].find("LINE\r\n8\r\nDimensionLayer"), std::string::npos);
-    shell.ui.onDxfOptions = [](DxfOptionsDialog& dialog) {
-        dialog.chkDXFOutput[DxfOptionsDialog::Diagonals].checked = true;
-        dialog.chkDXFOutput[DxfOptionsDialog::Dimensions].checked = false;
-        dialog.lblStatus = "OK";
-    };
-    ASSERT_EQ(window->Export("out.dxf", ExportMode::Dxf), Passed);
-    EXPECT_NE(shell.files.files["out.dxf"].find("LINE\r\n8\r\nDimensionLayer"), std::string::npos);
-}
-
-TEST_F(ExportTest, ALabelWithItsCommentsGoesThroughTheFileIntoTheDrawingUntilItIsTakenAway) {
-    auto window = shell.OpenSample("Right Cone", 2);
-    window->ClickView(PatternButton);
-    const auto labelDialog = [this](CFittingWindow& labelled, bool shown) {
-        shell.ui.onLabel = [shown](LabelDialog& dialog) {
-            dialog.txtLabelItem[0].text = "Order 7";
-            dialog.txtLabelItem[1].text = "two off";
-            dialog.chkDisplayLabel.checked = shown;
-            dialog.lblStatus = "OK";
-        };
-        labelled.PlaceLabel();
-    };
-    labelDialog(*window, true);
-    window->display.LabelPoint = C3DPoint{12, 34, 0, 0};
-    ASSERT_EQ(window->SaveFile("labelled.Kvt"), Passed);
-
-    const auto loaded = shell.Open("Right Cone");
-    ASSERT_EQ(loaded->LoadFile("labelled.Kvt"), Passed);
-    ASSERT_EQ(loaded->Export("labelled.dxf", ExportMode::Dxf), Passed);
-    const std::string& drawing = shell.files.files["labelled.dxf"];
-    const std::size_t first = drawing.find("\r\n1\r\nOrder 7\r\n");
-    const std::size_t second = drawing.find("\r\n1\r\ntwo off\r\n");
-    const std::size_t third = drawing.find("\r\n1\r\nBase diameter = 300\r\n");
-    ASSERT_NE(third, std::string::npos);
-    EXPECT_LT(first, second);
-    EXPECT_LT(second, third);
-
-    labelDialog(*loaded, false);
-    ASSERT_EQ(loaded->SaveFile("bare.Kvt"), Passed);
-    EXPECT_NE(shell.files.files["bare.Kvt"].find("Start LabelPoint\r\nEnd LabelPoint"), std::string::npos);
-    EXPECT_NE(shell.files.files["bare.Kvt"].find("Order 7"), std::string::npos);
-    ASSERT_EQ(loaded->Export("bare.dxf", ExportMode::Dxf), Passed);
-    EXPECT_EQ(shell.files.files["bare.dxf"].find("Order 7"), std::string::npos);
-}
-
-TEST_F(ExportTest, CancelWritesNothing) {
-    const auto window = shell.OpenSample("Right Cone", 2);
-    window->ClickView(PatternButton);
-    shell.ui.onDxfOptions = nullptr;
-    EXPECT_EQ(window->Export("out.dxf", ExportMode::Dxf), Refused);
-    EXPECT_TRUE(shell.files.files.empty());
-    EXPECT_TRUE(shell.ui.messages.empty());
-}
-
-TEST_F(ExportTest, AFailureNamesTheStepItCameTo) {
-    shell.files.unwritable.insert("out.dxf");
-    shell.files.files["out.dxf"] = "old";
-    for (const auto& [button, step] : {std::pair{PatternButton, "7"}, {0, "4"}}) {
-        const auto window = shell.OpenSample("Right Cone", 2);
-        window->ClickView(button);
-        shell.ui.messages.clear();
-        EXPECT_EQ(window->Export("out.dxf", ExportMode::Dxf), Refused);
-        ASSERT_EQ(shell.ui.messages.size(), 1U);
-        EXPECT_EQ(shell.ui.messages[0].text,
-                  std::string("A problem has occured creating the DXF file ") + step);
-        EXPECT_EQ(shell.ui.messages[0].style, PlainBox);
-        EXPECT_EQ(shell.ui.messages[0].detail, "out.dxf: cannot be written");
-        EXPECT_EQ(window->controls.mousePointer, Cursor::Default);
-    }
-    EXPECT_EQ(shell.files.files["out.dxf"], "old");
 }
 
 }  // namespace
