@@ -129,7 +129,14 @@ class OptionsWindow : public QObject {
             for (const Case& c : cases) {
                 Child<QTabWidget>(window, "SSTab2").setCurrentIndex(0);
                 Fill(window, c.box, c.bad);
-                QCOMPARE(PressToBox(window, "btnOK"), QString::fromLatin1(c.message));
+                int tabUnderMessage = 0;
+                WhenShown([&](QDialog& box) {
+                    QCOMPARE(static_cast<QMessageBox&>(box).text(), QString::fromLatin1(c.message));
+                    tabUnderMessage = OpenTab(window);
+                    QTest::keyClick(&box, Qt::Key_Escape);
+                });
+                Press(window, "btnOK");
+                QCOMPARE(tabUnderMessage, c.tab);
                 QVERIFY(window.isVisible());
                 QCOMPARE(OpenTab(window), c.tab);
                 QCOMPARE(window.focusWidget(), &Child<QLineEdit>(window, c.box));

@@ -138,6 +138,19 @@ class SettingsWindow : public QObject {
         QVERIFY(!accepted);
     }
 
+    void OkRefusesAThicknessBelowNothing() {
+        CPatternSettings settings;
+        Run(settings, [](QDialog& window) {
+            auto& box = Child<QLineEdit>(window, "txtThickness");
+            Retype(box, "-1");
+            QCOMPARE(PressToBox(window, "btnOK"),
+                     QStringLiteral("This dimension must be equal to or greater than 0"));
+            QVERIFY(window.isVisible());
+            QCOMPARE(window.focusWidget(), &box);
+        });
+        QCOMPARE(settings.Thickness, 0.0);
+    }
+
     void ListsTakeFreeTextThatOkTests() {
         CPatternSettings settings;
         Run(settings, [](QDialog& window) {
