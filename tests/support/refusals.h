@@ -18,7 +18,7 @@ inline const std::string LessThan = "This dimension must be less than ";
 inline const std::string GreaterThan = "This dimension must be greater than ";
 inline const std::string AtLeast = "This dimension must be equal to or greater than ";
 inline const std::string AtMost = "This dimension must be equal to or less than ";
-inline const std::string Whole = "This dimension must be an integer (whole number)";
+inline const std::string WholeNumber = "This dimension must be an integer (whole number)";
 inline const std::string NoRoom = "This dimension must be increased to allow for material thickness";
 
 using BoxTexts = std::map<int, std::string>;  ///< by index of the box

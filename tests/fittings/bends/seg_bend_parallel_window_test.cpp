@@ -53,8 +53,8 @@ TEST_P(SegBendRefusals, NameTheBox) {
 INSTANTIATE_TEST_SUITE_P(Quarter, SegBendRefusals,
                          testing::Values(Refusal{1, {{0, "-200"}, {1, "-200"}}, NoRoom, 0},
                                          Refusal{1, {{1, "100"}, {2, "2.5"}}, GreaterThan + "100", 1},
-                                         Refusal{1, {{2, "1.5"}, {3, "-1"}}, Whole, 2},
-                                         Refusal{1, {{2, "2.5"}, {3, "-1"}}, Whole, 2},
+                                         Refusal{1, {{2, "1.5"}, {3, "-1"}}, WholeNumber, 2},
+                                         Refusal{1, {{2, "2.5"}, {3, "-1"}}, WholeNumber, 2},
                                          Refusal{1, {{2, "1"}, {3, "-1"}}, AtLeast + "2", 2},
                                          Refusal{1, {{2, "-5"}}, AtLeast + "2", 2},
                                          Refusal{1, {{3, "-0.1"}, {4, "-1"}}, AtLeast + "0", 3},
@@ -68,7 +68,7 @@ INSTANTIATE_TEST_SUITE_P(AnyAngle, SegBendRefusals,
                                          Refusal{2, {{7, "-60"}, {8, "-1"}}, AboveZero, 7},
                                          Refusal{2, {{8, "-0.1"}, {9, "-1"}}, AtLeast + "0", 8},
                                          Refusal{2, {{9, "-0.1"}, {10, "1.5"}}, AtLeast + "0", 9},
-                                         Refusal{2, {{10, "3.2"}}, Whole, 10},
+                                         Refusal{2, {{10, "3.2"}}, WholeNumber, 10},
                                          Refusal{2, {{10, "1"}}, AtLeast + "2", 10}));
 
 TEST(SegBendLimits, TheLimitsThemselvesAreAllowed) {
