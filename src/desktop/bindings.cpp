@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPalette>
+#include <QRect>
 #include <QSignalBlocker>
 
 namespace korvet::desktop {
@@ -35,6 +36,14 @@ QStringList Entries(const QComboBox& combo) {
 }
 
 }  // namespace
+
+Place TwipsOf(const QRect& pixels) {
+    return {Twips(pixels.x()), Twips(pixels.y()), Twips(pixels.width()), Twips(pixels.height())};
+}
+
+QRect PixelsOf(const Place& twips) {
+    return {Pixels(twips.left), Pixels(twips.top), Pixels(twips.width), Pixels(twips.height)};
+}
 
 QString WithMnemonic(const std::string& caption, char letter) {
     QString text = Text(caption);

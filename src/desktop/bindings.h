@@ -11,15 +11,22 @@ class QAbstractButton;
 class QColor;
 class QComboBox;
 class QLineEdit;
+class QRect;
 class QWidget;
 
 namespace korvet::desktop {
 
-/// Twips to pixels, at 96 to the inch, of every layout of the program.
-inline constexpr int TwipsToPixel = 10;
+/// From twips to pixels and back.
 inline constexpr int Pixels(int twips) {
-    return twips / TwipsToPixel;
+    return twips / TwipsPerPixel;
 }
+inline constexpr int Twips(int pixels) {
+    return pixels * TwipsPerPixel;
+}
+
+/// The same of a rectangle.
+Place TwipsOf(const QRect& pixels);
+QRect PixelsOf(const Place& twips);
 
 inline QString Text(const std::string& text) {
     return QString::fromStdString(text);

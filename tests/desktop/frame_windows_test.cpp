@@ -46,7 +46,7 @@ class FrameWindowsTest : public QObject {
         desk.shell.ui.answers = {Answer::No, Answer::No};
         desk.window.close();
         QVERIFY(!desk.window.isVisible());
-        QCOMPARE(desk.settings.values.at("MainWidth"), std::to_string(1180 * 15));
+        QCOMPARE(desk.settings.values.at("MainWidth"), std::to_string(1180 * 10));
     }
 
     void aDroppedFileIsOpened() {

@@ -47,9 +47,7 @@ QWidget* MakeSheet(ModelDialog& window, OptionsDialog& dialog) {
     auto* printed = new PaintedWidget({0, 0}, {0, 0}, PaintPrinted);
     printed->setParent(sheet);
     NameWidget(*printed, "pboxOrientInner", QStringLiteral("Sketch of the print"));
-    const auto put = [](QWidget& widget, const Place& place) {
-        widget.setGeometry(Pixels(place.left), Pixels(place.top), Pixels(place.width), Pixels(place.height));
-    };
+    const auto put = [](QWidget& widget, const Place& place) { widget.setGeometry(PixelsOf(place)); };
     window.ShowBy([=, &dialog] {
         put(*sheet, dialog.pboxOrient.place);
         put(*printed, dialog.pboxOrientInner.place);

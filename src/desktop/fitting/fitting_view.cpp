@@ -23,14 +23,6 @@
 namespace korvet::desktop {
 namespace {
 
-int TwipsOf(int pixels) {
-    return pixels * TwipsToPixel;
-}
-
-Place PlaceOf(const QRect& rect) {
-    return {TwipsOf(rect.x()), TwipsOf(rect.y()), TwipsOf(rect.width()), TwipsOf(rect.height())};
-}
-
 /// At once, before the next key comes; a click takes the selection away again, so there it waits for its end.
 void SelectOnEntry(QLineEdit& box, Qt::FocusReason reason) {
     if (reason == Qt::MouseFocusReason) {
@@ -136,7 +128,7 @@ void FittingView::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     FitPanel();
     if (window_ != nullptr) {
-        window_->Resize(PlaceOf(rect()));
+        window_->Resize(TwipsOf(rect()));
         drawing_->Project();
     }
 }
@@ -186,8 +178,8 @@ void FittingView::SpeakWindow(const QString& name) {
 void FittingView::TakeShape(int state) {
     if (window_ != nullptr) {
         window_->controls.state = state;
-        window_->controls.place = PlaceOf(geometry());
-        window_->Resize(PlaceOf(rect()));
+        window_->controls.place = TwipsOf(geometry());
+        window_->Resize(TwipsOf(rect()));
         drawing_->Project();
     }
 }

@@ -26,9 +26,6 @@
 namespace korvet::desktop {
 namespace {
 
-/// The stored place of the frame counts the twips of a 96 dpi screen.
-constexpr int PlaceTwips = 15;
-
 /// Room for the frame that the desktop puts around the window.
 constexpr QMargins WindowFrame = {8, 36, 8, 8};
 
@@ -138,13 +135,11 @@ MainWindow::~MainWindow() {
 
 korvet::Place MainWindow::OuterPlace() const {
     const QRect outer = isMaximized() || isMinimized() ? normalGeometry() : geometry();
-    return {outer.x() * PlaceTwips, outer.y() * PlaceTwips, outer.width() * PlaceTwips,
-            outer.height() * PlaceTwips};
+    return TwipsOf(outer);
 }
 
 void MainWindow::Place(bool remembered) {
-    QRect place(frame_.place.left / PlaceTwips, frame_.place.top / PlaceTwips,
-                frame_.place.width / PlaceTwips, frame_.place.height / PlaceTwips);
+    QRect place = PixelsOf(frame_.place);
     if (!remembered) {
         place.setSize(place.size().expandedTo(ComfortableSize));
     }
@@ -345,7 +340,7 @@ void MainWindow::resizeEvent(QResizeEvent* event) {
 
 void MainWindow::TakeInnerSize() {
     const QSize inner = area_->viewport()->size();
-    frame_.Context().frame.inner = {0, 0, inner.width() * TwipsToPixel, inner.height() * TwipsToPixel};
+    frame_.Context().frame.inner = {0, 0, Twips(inner.width()), Twips(inner.height())};
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
