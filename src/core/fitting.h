@@ -4,6 +4,7 @@
 #include <concepts>
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <type_traits>
 #include <vector>
 
@@ -18,14 +19,15 @@ enum WarningMessage : int { HalfPatternNotApplicable = 19, SeamLapTooLarge = 25,
 struct FittingWarning {
     int messageId = 0;       ///< a WarningMessage
     bool userError = false;  ///< shown in the "User Error" box instead of a plain one
+    std::string text = {};   ///< shown instead of the message where the catalogue has none for it
 };
 
 /// The inputs that all fitting classes have. Lengths are mean dimensions in the user's unit, angles radians.
 /// The window sets Dtype in its build, the rest comes from the pattern settings before every display.
 struct FittingInputs {
-    double LapSize0 = 0;        ///< lap on the List1 side of the pattern
-    double LapSize1 = 0;        ///< seam lap
-    double LapSize2 = 0;        ///< lap on the List2 side
+    double LapSize0 = 0;        ///< width of the lap on the List1 side of the pattern
+    double LapSize1 = 0;        ///< of the seam lap
+    double LapSize2 = 0;        ///< of the lap on the List2 side
     std::int16_t JoinType = 0;  ///< laps are added when above 0
     double JoinAngle = 0;       ///< plan angle of the seam: polar angle of station 1 of a round section
     int segs = 24;              ///< straight segments of a full circle; a closed ring has segs + 1 stations
@@ -59,7 +61,8 @@ concept FittingClass = std::default_initializable<T> && requires(T fitting) {
 /// Lays the laps of `inputs` along a finished pattern when JoinType asks for them; true when it does.
 bool AddLaps(CRuleSurf& pattern, const FittingInputs& inputs);
 
-/// Any fitting object, shared like every object of a window. Copies of a handle drive the same fitting.
+/// Any fitting object, shared like every object of a window. Copies of a handle drive the same fitting. The
+/// fitting works on its own inputs and properties: set both, construct or develop, and then read the results.
 class FittingHandle {
   public:
     template <FittingClass T>
@@ -78,9 +81,19 @@ class FittingHandle {
         return *static_cast<T*>(object_.get());
     }
 
+    /// The inputs that all fittings share; lengths in the user's unit, angles in radians.
     [[nodiscard]] FittingInputs& Inputs() const { return operations_->inputs(object_.get()); }
+
+    /// What the last operation has made, in the user's unit.
     [[nodiscard]] FittingResults& Results() const { return operations_->results(object_.get()); }
+
+    // Both start with no warnings. Throw ArithmeticError or ListError, the results then being unusable, when
+    // the inputs and properties leave no shape or a coordinate that is not finite.
+
+    /// Builds the model in space.
     void ConstructModel() const { Run(operations_->constructModel); }
+
+    /// Builds the model and lays it flat.
     void DevelopModel() const { Run(operations_->developModel); }
 
   private:

@@ -31,7 +31,7 @@ Outcome WithinReach(FittingForm& form, const FittingHandle& fitting) {
     if (Build(form, fitting)) {
         return Refused;
     }
-    RequireWithinReach(form, Pages.at(static_cast<std::size_t>(form.dtype)).boxes);
+    RequireWithinReach(form, std::span(Pages)[static_cast<std::size_t>(form.dtype)].boxes);
     return Passed;
 }
 

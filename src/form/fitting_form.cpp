@@ -16,7 +16,8 @@ Outcome FittingForm::CheckAxes(int topBox, int baseBox) {
 }
 
 Outcome FittingForm::CheckPatternSelected() {
-    const bool missing = patternView_ && !options.optPatternSelect.selected;
+    const OptionGroup& patterns = options.optPatternSelect;
+    const bool missing = patternView_ && !patterns.captions.empty() && !patterns.selected;
     return missing ? Refuse(PatternMustBeSelected) : Passed;
 }
 

@@ -20,13 +20,15 @@ struct FormState {
     CPatternSettings& settings;
     const FittingOptions& options;
     const BranchOptions& branch;
-    std::string_view category;
-    std::int16_t dtype = 0;          ///< the type that is shown, from 0
+    std::string_view category;       ///< name of the fitting in the catalogue
+    std::int16_t dtype = 0;          ///< the type that is built, from 0
     std::int16_t miscellaneous = 0;  ///< selector of the pattern
     bool patternView = false;        ///< the current view shows the pattern
 };
 
-/// The parameter boxes of a window by their index in txtParameter, with the checks of form/fields.h on them.
+/// The parameter boxes of a window, with the checks of form/fields.h on them. A box is told by its index in
+/// txtParameter, for which each page has names: an enumeration in the page's namespace. Lengths are in the
+/// user's unit and angles in degrees, as typed.
 class FittingForm {
   public:
     FittingForm(FieldContext context, const FormState& state)
@@ -51,7 +53,7 @@ class FittingForm {
     /// has gone before.
     [[nodiscard]] double Value(int box) const { return FieldValue(context_, Box(box)); }
 
-    /// A compensator for one kind of wall of the window's material, or of another thickness.
+    /// A compensator for one kind of wall of the window's material, or of another thickness (user's unit).
     [[nodiscard]] CThickCompensator Compensator(WallShape shape) const {
         return Compensator(shape, settings.Thickness);
     }
@@ -59,7 +61,7 @@ class FittingForm {
         return {thickness, settings.InOutMean, shape};
     }
 
-    // The checks of form/fields.h by the index of the box.
+    // The checks of form/fields.h.
     Outcome CheckNumber(int box) { return korvet::CheckNumber(context_, Box(box)); }
     Outcome CheckPositive(int box) { return korvet::CheckPositive(context_, Box(box)); }
     Outcome CheckLessThan(int box, double limit) { return korvet::CheckLessThan(context_, Box(box), limit); }
@@ -88,10 +90,11 @@ class FittingForm {
     /// An angle in one of the two boxes, in degrees, has no axis selected to turn about.
     Outcome CheckAxes(int topBox, int baseBox);
 
-    /// A pattern is to be drawn and none of optPatternSelect is selected.
+    /// A pattern is to be drawn and none of optPatternSelect is selected, where there is any.
     Outcome CheckPatternSelected();
 
-    /// Says that the fitting has no half pattern with these sizes, and takes the whole one in the settings.
+    /// Says that the fitting has no half pattern with these sizes, and takes the whole one in the settings. A
+    /// build does this, so that the text block that follows tells of the whole one.
     void RefuseHalfPattern();
 
     /// Shows a message as the user's error.

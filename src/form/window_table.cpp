@@ -1,5 +1,7 @@
 #include "form/window_table.h"
 
+#include <stdexcept>
+
 namespace korvet {
 namespace {
 
@@ -8,6 +10,29 @@ OptionGroup MakeOptions(std::span<const std::string_view> captions) {
 }
 
 }  // namespace
+
+std::string LabelOf(const PageEntry& page, const LabelEntry& line) {
+    if (!line.label.empty()) {
+        return std::string(line.label);
+    }
+    for (const BoxEntry& box : page.boxes) {
+        if (box.index == line.box) {
+            return std::string(box.label.substr(0, box.label.find(" ("))) + " = ";
+        }
+    }
+    throw std::logic_error("the page has no box " + std::to_string(line.box) + " to label a line");
+}
+
+bool TellsOfHalf(const WindowTable& table, const CPatternSettings& settings) {
+    const bool hasHalf =
+        table.halfPatterns == HalfPatterns::Offered || table.halfPatterns == HalfPatterns::FromFiles;
+    return hasHalf && settings.HalfPattern;
+}
+
+Outcome BuildChosenPattern(const WindowTable& table, FittingForm& form, const FittingHandle& fitting) {
+    return RefusedIf(form.CheckPatternSelected() ||
+                     (table.afterPatternChoice != nullptr && table.afterPatternChoice(form, fitting)));
+}
 
 FittingOptions StartOptions(const WindowTable& table) {
     FittingOptions options;

@@ -26,17 +26,18 @@ struct BoxEntry {
 /// The box of a line of the text block that has none.
 inline constexpr int NoBox = -1;
 
-/// One line of the text block: the label and then the text of the box as typed.
+/// One line of the text block: a label and behind it the text of a box as typed.
 struct LabelEntry {
-    std::string_view label;
-    int box;
-    std::string_view text = {};  ///< what follows the label where there is no box
+    int box;                      ///< index in txtParameter, or NoBox
+    std::string_view label = {};  ///< empty: that of the box on its page, without the unit, and " = "
+    std::string_view text = {};   ///< what follows the label where there is no box
 };
 
 /// The views of a sketch that shows the shape once, from the front.
 inline constexpr SketchView FrontView[] = {{}};
 
-/// The parameters of one type of a fitting. Page k is shown as Type k + 1.
+/// The parameters of one type of a fitting. Page k is shown as Type k + 1. Its boxes have names, which
+/// checks, box table and labels use: the enumeration Box in a namespace that the window has for the page.
 struct PageEntry {
     std::span<const BoxEntry> boxes;
     std::span<const LabelEntry> labels;             ///< in the order of the text block
@@ -49,6 +50,14 @@ struct PageEntry {
 /// Captions of optTopAngle and optBaseAngle.
 inline constexpr std::string_view AxisCaptions[] = {"Angle about X-axis", "Angle about Y-axis"};
 
+/// Which patterns a window's fitting has, beside the whole one.
+enum class HalfPatterns {
+    Offered,    ///< the half, by the settings dialog; a build may refuse it (FittingForm::RefuseHalfPattern)
+    FromFiles,  ///< the dialog offers no half, but one that a file brings is made if the build lets it
+    RefusedByClass,  ///< none: the class says so (message 19) when a file brings a half
+    None             ///< none, and not a word about it
+};
+
 /// One step of the build of a fitting: reads the form and fills the fitting.
 using BuildStep = Outcome(FittingForm& form, const FittingHandle& fitting);
 
@@ -56,33 +65,37 @@ struct WindowTable {
     std::span<const PageEntry> pages;
     FittingHandle (*newFitting)();
 
-    /// Checks the boxes of form.dtype in their fixed order and sets the fitting's own properties.
+    /// Checks the boxes of form.dtype in their fixed order, decides on half patterns, and sets the fitting's
+    /// own properties. Then the text block is composed, and a window with patterns to select asks for one.
     BuildStep* buildFitting;
 
-    /// What is done once the text block stands, in the same way; null when nothing.
-    BuildStep* completeFitting = nullptr;
+    /// What is checked and set behind that question, last of all; null when nothing.
+    BuildStep* afterPatternChoice = nullptr;
 
     /// What a change of type does to the settings; null when nothing.
     void (*onTypeChanged)(std::int16_t dtype, CPatternSettings& settings) = nullptr;
 
     std::int16_t firstDtype = 0;     ///< type shown at the start, from 0
-    bool multiple = false;           ///< the pattern consists of several pieces
+    bool multiple = false;           ///< the fitting has lists of surfaces, one for each of its pieces
     std::int16_t miscellaneous = 0;  ///< selector handed to the fitting until an option is clicked
     bool checksAllFields = true;     ///< every box of every type must hold a number before a build
-    bool fullPatternLine = false;    ///< the text block says "Full pattern" whatever the settings are
     bool positionLine = false;       ///< the text block says which line of the material sizes mean
-    bool joinAngleDisable = false;   ///< flags of the pattern settings at the start
-    bool halfPatternDisable = false;
+    HalfPatterns halfPatterns = HalfPatterns::Offered;
+
+    // What the pattern settings of a new window start with.
+    bool joinAngleDisable = false;
     bool templateTypeEnabled = false;
     bool kerfEnabled = false;
     bool materialDisable = false;
-    bool branchMaterialEnable = false;
-    std::int16_t inOutMean = MeanDimension;
+    bool branchMaterialEnable = false;       ///< the window has two pipes, and btnPosition for how they join
+    std::int16_t inOutMean = MeanDimension;  ///< a MaterialSide
+
     bool moreButtons = false;  ///< pages bear btnMore and btnBack, which step the type
-    std::span<const std::string_view> patternSelect = {};  ///< captions of optPatternSelect
-    std::span<const int> patternSurface =
-        {};  ///< the surface of the model, from 1, that each of them develops; the sketch shows it off
-    std::span<const std::string_view> flushSide = {};  ///< captions of optFlushSide
+    std::span<const std::string_view> patternSelect = {};  ///< captions of optPatternSelect; empty: no choice
+
+    /// The surface of the model, from 1, that each of those patterns develops: the sketch shows it off.
+    std::span<const int> patternSurface = {};
+    std::span<const std::string_view> flushSide = {};  ///< captions of optFlushSide; empty: no choice
 
     /// Whether the window has optTopAngle and optBaseAngle.
     [[nodiscard]] constexpr bool HasAngleOptions() const {
@@ -106,13 +119,23 @@ struct WindowTable {
     }
 };
 
+/// The label of one line of the text block of a page. Throws std::logic_error when it is to be that of a box
+/// which the page has not.
+std::string LabelOf(const PageEntry& page, const LabelEntry& line);
+
+/// Whether the text block tells of a half pattern: with HalfPattern of the settings, where there is any.
+bool TellsOfHalf(const WindowTable& table, const CPatternSettings& settings);
+
+/// The end of a build: the question for the pattern, and what the table has behind it.
+Outcome BuildChosenPattern(const WindowTable& table, FittingForm& form, const FittingHandle& fitting);
+
 /// The pattern settings that a window of the table starts with, at `segs` fold lines. The laps that the
 /// fitting has are the catalogue's matter.
 inline CPatternSettings StartSettings(const WindowTable& table, int segs) {
     CPatternSettings settings;
     settings.segs = segs;
     settings.JoinAngleDisable = table.joinAngleDisable;
-    settings.HalfPatternDisable = table.halfPatternDisable;
+    settings.HalfPatternDisable = table.halfPatterns != HalfPatterns::Offered;
     settings.TemplateTypeEnabled = table.templateTypeEnabled;
     settings.KerfEnabled = table.kerfEnabled;
     settings.MaterialDisable = table.materialDisable;
@@ -134,7 +157,7 @@ inline void HoldSeam(CPatternSettings& settings, bool held) {
     }
 }
 
-/// The build function of a window's table for a fitting of class T, from one that knows the class.
+/// The build step of a window's table for a fitting of class T, from a function that knows the class.
 template <FittingClass T, Outcome (*Build)(FittingForm&, T&)>
 Outcome BuildAs(FittingForm& form, const FittingHandle& fitting) {
     return Build(form, fitting.As<T>());

@@ -58,8 +58,7 @@ FittingHandle SampleFitting(const WindowTable& table, std::size_t page) {
     FittingForm form({refusing, options, '.', focus},
                      {boxes, settings, choices, branch, {}, dtype, table.miscellaneous});
     FittingHandle fitting = table.newFitting();
-    if (table.buildFitting(form, fitting) ||
-        (table.completeFitting != nullptr && table.completeFitting(form, fitting))) {
+    if (table.buildFitting(form, fitting) || BuildChosenPattern(table, form, fitting)) {
         throw std::logic_error("the sample sizes are refused at " + focus);
     }
     FittingInputs& inputs = fitting.Inputs();

@@ -86,7 +86,7 @@ void FillControls(CFittingWindow& window, const KvtControls& kvt) {
 
 /// The settings of a file, with the flags that a file does not carry as the window sets them at its start.
 CPatternSettings WithWindowFlags(CPatternSettings settings, const WindowTable& table) {
-    settings.HalfPatternDisable = table.halfPatternDisable;
+    settings.HalfPatternDisable = table.halfPatterns != HalfPatterns::Offered;
     settings.MaterialDisable = table.materialDisable;
     settings.BranchMaterialEnable = table.branchMaterialEnable;
     return settings;

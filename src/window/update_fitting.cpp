@@ -51,6 +51,9 @@ void CFittingWindow::RefuseBuild(const std::exception& error) {
 Outcome CFittingWindow::BuildFitting() {
     hasModel = false;
     ReturnToPageOfType(*this);
+    if (Table().halfPatterns == HalfPatterns::None) {
+        settings.HalfPattern = false;
+    }
     if (Table().checksAllFields && CheckAllFields()) {
         return Refused;
     }
@@ -70,7 +73,7 @@ Outcome CFittingWindow::BuildFitting() {
     }
     AddTextBlock();
     TakeNoOfSides();
-    if (Table().completeFitting != nullptr && Table().completeFitting(form, *fitting)) {
+    if (BuildChosenPattern(Table(), form, *fitting)) {
         return Refused;
     }
     fitting->Inputs().Dtype = dtype;
@@ -118,11 +121,12 @@ std::optional<int> CFittingWindow::TypedSides() const {
 
 /// The sizes as typed, then what the window's table asks for of the common lines.
 void CFittingWindow::AddTextBlock() {
-    for (const LabelEntry& line : Table().pages[static_cast<std::size_t>(dtype)].labels) {
+    const PageEntry& page = Table().pages[static_cast<std::size_t>(dtype)];
+    for (const LabelEntry& line : page.labels) {
         const std::string text = line.box == NoBox
                                      ? std::string(line.text)
                                      : controls.txtParameter.at(static_cast<std::size_t>(line.box)).text;
-        labels->Add({std::string(line.label) + text});
+        labels->Add({LabelOf(page, line) + text});
     }
     const auto addThickness = [&](MessageId label, double thickness) {
         labels->Add({context_.Message(label) + NumberText(thickness, context_.decimalMark)});
@@ -137,7 +141,7 @@ void CFittingWindow::AddTextBlock() {
     if (Table().positionLine) {
         labels->Add({context_.Message(DimensionsBasedOn) + settings.PositionString});
     }
-    const bool half = settings.HalfPattern && !Table().fullPatternLine;
+    const bool half = TellsOfHalf(Table(), settings);
     labels->Add({category + "  " + context_.Message(half ? HalfPatternText : FullPatternText) + "  " +
                  context_.clock.ShortDate()});
 }
@@ -226,10 +230,14 @@ std::optional<ModelAndPattern> CFittingWindow::MakeModelAndPattern() {
 /// Shows what a fitting class had to say while it was built, in its order.
 void CFittingWindow::ShowWarnings(const std::vector<FittingWarning>& warnings) {
     for (const FittingWarning& warning : warnings) {
+        if (warning.messageId == HalfPatternNotApplicable) {
+            settings.HalfPattern = false;  // said once, and not at every redraw
+        }
+        const std::string text = warning.text.empty() ? context_.Message(warning.messageId) : warning.text;
         if (warning.userError) {
-            ShowUserError(context_.ui, context_.Message(warning.messageId));
+            ShowUserError(context_.ui, text);
         } else {
-            ShowPlain(context_.ui, context_.Message(warning.messageId));
+            ShowPlain(context_.ui, text);
         }
     }
 }

@@ -194,11 +194,11 @@ def build(case, box, answer):
     r, R = box.mean(box[dA] / 2, thick_a / 2), box.mean(box[dB] / 2, thick_b / 2)
     alpha = (check_square, check_slanting)[case.dtype](box, r, R)
     join = case.option("optInOrOn", MEAN_TO_MEAN)
-    answer.labels = text_block(case, box, join) + [category_line(case, settings.HalfPattern)]
     half = settings.HalfPattern
     if half and box[offset] != 0:
         answer.messages.append((USER_ERROR, NO_HALF, None))
         half = False
+    answer.labels = text_block(case, box, join) + [category_line(case, half)]
     if join == SET_ON and case.option("chkHeelCompensation", False) and alpha < QUARTER_TURN:
         alpha -= heel_angle(r, alpha, thick_a)
     branch_radii, trunk_radii = cutting_radii(join, r, R, thick_a, thick_b)

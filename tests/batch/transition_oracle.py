@@ -285,8 +285,10 @@ def build(case, box, answer):
     CHECKS[case.category, case.dtype](page, box)
     base, top = base_section(page), top_section(page)
     for section in (base, top):
-        if min(section.length_x, section.length_y) <= 0 or min(section.rad1, section.rad2) < 0:
-            raise Refusal(PRODUCT, IMPOSSIBLE, None)  # the material leaves nothing of the size
+        if min(section.length_x, section.length_y, section.rad1, section.rad2) < 0:
+            raise Refusal(PRODUCT, IMPOSSIBLE, None)  # the material takes more than there is of a size
+    if base.length_x == base.length_y == top.length_x == top.length_y == 0:
+        raise Refusal(PRODUCT, IMPOSSIBLE, None)  # a line has no area
     tilt(page, top, "ta", "optTopAngle")
     tilt(page, base, "ba", "optBaseAngle")
     half = settings.HalfPattern

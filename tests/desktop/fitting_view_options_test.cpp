@@ -223,6 +223,7 @@ class FittingViewOptionsTest : public QObject {
         for (const BoxEntry& box : shown.table.pages[0].boxes) {
             shown.window.ChangeBox(static_cast<std::size_t>(box.index), std::string(box.sample));
         }
+        shown.window.SelectPattern(0);
         shown.Get("btnView_9").click();
         QVERIFY(shown.window.hasModel);
         QVERIFY(!shown.Get("btnMore_0").isEnabled());

@@ -6,7 +6,7 @@
 #include <array>
 
 #include "core/checked.h"
-#include "tests/fittings/form_on_boxes.h"
+#include "tests/support/form_on_boxes.h"
 #include "tests/support/point_lists.h"
 
 namespace korvet {

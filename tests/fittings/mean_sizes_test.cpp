@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "core/math_module.h"
-#include "tests/fittings/form_on_boxes.h"
+#include "tests/support/form_on_boxes.h"
 #include "tests/support/near.h"
 #include "tests/support/refusals.h"
 

@@ -5,7 +5,7 @@
 
 #include <cmath>
 
-#include "tests/fittings/form_on_boxes.h"
+#include "tests/support/form_on_boxes.h"
 #include "tests/support/near.h"
 
 namespace korvet {

@@ -5,7 +5,6 @@
 #include <functional>
 
 #include "core/checked.h"
-#include "form/fitting_form.h"
 #include "tests/support/recording_ui.h"
 
 namespace korvet {
@@ -279,31 +278,6 @@ TEST_F(Fields, MessagesFollowTheLanguage) {
     ui.messages.clear();
     EXPECT_EQ(CheckPositive(context, box = Box("0")), Refused);
     EXPECT_EQ(OnlyText(), "");
-}
-
-TEST_F(Fields, AFormAddressesItsBoxesByIndex) {
-    std::vector<TextBox> boxes = {Box("10"), Box("0"), Box("-3"), Box("word")};
-    for (std::size_t i = 0; i < boxes.size(); ++i) {
-        boxes[i].name = "txtParameter_" + std::to_string(i);
-        boxes[i].parameterIndex = static_cast<int>(i);
-    }
-    CPatternSettings settings;
-    settings.Thickness = 2;
-    settings.InOutMean = InsideDimension;
-    const FittingOptions choices;
-    const BranchOptions branch;
-    FittingForm form(context, {boxes, settings, choices, branch, "Branch", 1});
-    EXPECT_EQ(form.Value(0), 10);
-    EXPECT_THROW(static_cast<void>(form.Value(3)), ArithmeticError);
-    EXPECT_EQ(form.Compensator(RoundWall).NewDistance(form.Value(0), 0, 0), 11);
-
-    EXPECT_EQ(form.CheckPositive(0), Passed);
-    EXPECT_EQ(form.CheckAllPositive(0, 2, 1), Refused) << "stops at the first failure in the order given";
-    EXPECT_EQ(focus, "txtParameter_2");
-    ASSERT_EQ(ui.messages.size(), 1U);
-    EXPECT_EQ(ui.messages[0].box, 2);
-    EXPECT_EQ(form.CheckNumber(3), Refused);
-    EXPECT_EQ(form.CheckNumber(2), Passed);
 }
 
 }  // namespace

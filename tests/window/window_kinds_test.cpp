@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "dialogs/branch_additional_dialog.h"
+#include "fittings/cones/right_cone.h"
 #include "fittings/windows.h"
 #include "frame/catalogue.h"
 #include "tests/support/test_context.h"
@@ -40,7 +41,7 @@ class WindowKindsTest : public testing::Test {
 };
 
 TEST_F(WindowKindsTest, ALineOfTheTextBlockMayHaveNoBox) {
-    const std::array<LabelEntry, 2> labels = {{{"Offset X = ", NoBox, "0"}, {"Base diameter = ", 3}}};
+    const std::array<LabelEntry, 2> labels = {{{NoBox, "Offset X = ", "0"}, {3}}};
     std::array<PageEntry, 3> pages = {table.pages[0], table.pages[1], table.pages[2]};
     pages[1].labels = labels;
     table.pages = pages;
@@ -52,21 +53,24 @@ TEST_F(WindowKindsTest, ALineOfTheTextBlockMayHaveNoBox) {
             "Thickness = 0", "Dimensions are based on the mean", "Right Cone  Full pattern  21 Nov 2026"}));
 }
 
-TEST_F(WindowKindsTest, WhatFollowsTheTextBlockFindsItComposed) {
-    table.completeFitting = [](FittingForm& form, const FittingHandle&) {
-        form.RefuseHalfPattern();
-        return Passed;
+TEST_F(WindowKindsTest, AHalfPatternThatABuildRefusesIsNotToldOf) {
+    table.buildFitting = [](FittingForm& form, const FittingHandle& fitting) {
+        if (form.settings.HalfPattern) {
+            form.RefuseHalfPattern();
+        }
+        return frmRightCone1.buildFitting(form, fitting);
     };
     Open().settings.HalfPattern = true;
-    ASSERT_EQ(window->BuildFitting(), Passed);
+    window->ClickView(0);
     EXPECT_EQ(shell.ui.Texts(), std::vector<std::string>{"Half pattern not applicable to this item"});
-    EXPECT_EQ(shell.ui.messages[0].title, "User Error");
-    EXPECT_FALSE(window->settings.HalfPattern);
-    EXPECT_EQ(window->labels->Last().LabelString, "Right Cone  Half pattern  21 Nov 2026");
+    EXPECT_EQ(window->labels->Last().LabelString, "Right Cone  Full pattern  21 Nov 2026");
+    EXPECT_FALSE(window->fitting->Inputs().HalfPattern);
+    window->Redraw();
+    EXPECT_EQ(shell.ui.messages.size(), 1U) << "said once";
 }
 
 TEST_F(WindowKindsTest, ARefusalBehindTheTextBlockEndsTheBuild) {
-    table.completeFitting = [](FittingForm& form, const FittingHandle&) {
+    table.afterPatternChoice = [](FittingForm& form, const FittingHandle&) {
         return form.Refuse(BranchTooLarge);
     };
     EXPECT_EQ(Open().BuildFitting(), Refused);
@@ -78,9 +82,6 @@ TEST_F(WindowKindsTest, ARefusalBehindTheTextBlockEndsTheBuild) {
 TEST_F(WindowKindsTest, APatternMustBeSelectedBeforeOneIsDrawn) {
     static constexpr std::array<std::string_view, 2> Choices = {"Trunk", "Branch"};
     table.patternSelect = Choices;
-    table.completeFitting = [](FittingForm& form, const FittingHandle&) {
-        return form.CheckPatternSelected();
-    };
     Open().FocusBox(4);
     window->ClickView(0);
     EXPECT_TRUE(window->hasModel);
@@ -99,7 +100,7 @@ TEST_F(WindowKindsTest, AnAngleNeedsAnAxis) {
     pages[1].angleOptions = true;
     table.pages = pages;
     // Boxes 0 and 1 stand for the angles: they are on another page and hold no sample.
-    table.completeFitting = [](FittingForm& form, const FittingHandle&) { return form.CheckAxes(0, 1); };
+    table.afterPatternChoice = [](FittingForm& form, const FittingHandle&) { return form.CheckAxes(0, 1); };
     Open();
     FittingOptions& options = window->controls.options;
     EXPECT_EQ(options.optTopAngle.captions,
@@ -136,11 +137,59 @@ TEST_F(WindowKindsTest, AFlushSideIsAlwaysSelected) {
     EXPECT_TRUE(window->controls.options.optFlushSide.IsOn(1));
 }
 
-TEST_F(WindowKindsTest, AFittingWithoutAHalfPatternSaysFullPattern) {
-    table.fullPatternLine = true;
+TEST_F(WindowKindsTest, AFittingWithoutAHalfPatternIsWholeEvenIfAFileBringsAHalf) {
+    table.halfPatterns = HalfPatterns::None;
     Open().settings.HalfPattern = true;
-    ASSERT_EQ(window->BuildFitting(), Passed);
+    window->ClickView(PatternButton);
+    ASSERT_TRUE(window->hasModel);
+    EXPECT_TRUE(shell.ui.messages.empty());
     EXPECT_EQ(window->labels->Last().LabelString, "Right Cone  Full pattern  21 Nov 2026");
+    EXPECT_FALSE(window->settings.HalfPattern);
+    const auto stations = static_cast<std::size_t>(window->settings.segs) + 1;
+    EXPECT_EQ(window->fitting->Results().PatternSurface.List1->Count(), stations);
+}
+
+/// A cone whose class has no half pattern, and says so.
+struct CWholeCone : CRightCone {
+    void ConstructModel() {
+        if (inputs.HalfPattern) {
+            inputs.HalfPattern = false;
+            results.warnings.push_back({HalfPatternNotApplicable, true});
+        }
+        CRightCone::ConstructModel();
+    }
+    void DevelopModel() {
+        ConstructModel();
+        CRightCone::DevelopModel();
+    }
+};
+
+Outcome BuildWholeCone(FittingForm&, CWholeCone& cone) {
+    cone.BaseRad = 100;
+    cone.ConeAngle = 0.5;
+    cone.CPHeight1 = 50;
+    return Passed;
+}
+
+TEST_F(WindowKindsTest, AHalfPatternThatTheClassRefusesIsSaidOnce) {
+    table.halfPatterns = HalfPatterns::RefusedByClass;
+    table.newFitting = [] { return FittingHandle(std::make_shared<CWholeCone>()); };
+    table.buildFitting = BuildAs<CWholeCone, BuildWholeCone>;
+    Open().settings.HalfPattern = true;
+    window->ClickView(PatternButton);
+    EXPECT_EQ(shell.ui.Texts(), std::vector<std::string>{"Half pattern not applicable to this item"});
+    EXPECT_EQ(window->labels->Last().LabelString, "Right Cone  Full pattern  21 Nov 2026");
+    EXPECT_FALSE(window->settings.HalfPattern);
+    window->Redraw();
+    EXPECT_EQ(shell.ui.messages.size(), 1U);
+}
+
+TEST_F(WindowKindsTest, AWarningMayHaveATextOfItsOwn) {
+    Open().ShowWarnings({{.text = "The legs cross"}, {.messageId = SeamLapTooLarge, .userError = true}});
+    ASSERT_EQ(shell.ui.messages.size(), 2U);
+    EXPECT_EQ(shell.ui.messages[0].text, "The legs cross");
+    EXPECT_EQ(shell.ui.messages[1].text, "Lap join along seam may be too large");
+    EXPECT_EQ(shell.ui.messages[1].title, "User Error");
 }
 
 TEST_F(WindowKindsTest, AnotherNumberOfSidesStartsTheSeamAnew) {

@@ -8,10 +8,10 @@
 #include "core/checked.h"
 #include "form/fitting_form.h"
 
-namespace korvet {
+namespace korvet::bend {
 
 /// The sizes of a bend, on the mean line: lengths in the user's unit, the angle in radians.
-struct BendSizes {
+struct Sizes {
     double baseRadius;
     double bendRadius;
     double bendAngle;
@@ -27,7 +27,7 @@ inline Outcome CheckPieces(FittingForm& form, int piecesBox) {
 
 /// The stations that all pieces of a bend may have together. Each of the two numbers has a limit of its own,
 /// but pieces by the thousand with fold lines by the thousand would take more memory than a machine has.
-inline constexpr double MostBendStations = 2'000'000;
+inline constexpr double MostStations = 2'000'000;
 
 /// Throws ArithmeticError for more pieces than a bend can count, or more than it can have at `segs` fold
 /// lines.
@@ -36,28 +36,24 @@ inline void RequireCountable(double pieces, int segs) {
     if (pieces > MostPieces) {
         throw ArithmeticError("a bend has " + std::to_string(MostPieces) + " segments at most");
     }
-    if (pieces * (2.0 * segs + 1) > MostBendStations) {
+    if (pieces * (2.0 * segs + 1) > MostStations) {
         throw ArithmeticError("so many segments with " + std::to_string(segs) +
                               " fold lines each are too much: make one of the two numbers smaller");
     }
 }
 
-/// The last test, that a pattern is chosen; then the sizes and the kerf go to a bend such as
-/// CSegBendParallel. Throws ArithmeticError for pieces that are not RequireCountable.
+/// Gives the sizes and the kerf to a bend such as CSegBendParallel. Throws ArithmeticError for pieces that
+/// are not RequireCountable.
 template <typename Bend>
-Outcome SetBend(FittingForm& form, Bend& bend, const BendSizes& sizes) {
-    if (form.CheckPatternSelected()) {
-        return Refused;
-    }
-    RequireCountable(sizes.pieces, form.settings.segs);
+void SetBend(const CPatternSettings& settings, const Sizes& sizes, Bend& bend) {
+    RequireCountable(sizes.pieces, settings.segs);
     bend.BaseRad = sizes.baseRadius;
     bend.BendSegments = RoundToInt16(sizes.pieces - 1);
     bend.BendAngle = sizes.bendAngle;
     bend.BendRadius = sizes.bendRadius;
     bend.Length1 = sizes.length1;
     bend.Length2 = sizes.length2;
-    bend.KerfSpacing = form.settings.KerfSpacing;
-    return Passed;
+    bend.KerfSpacing = settings.KerfSpacing;
 }
 
-}  // namespace korvet
+}  // namespace korvet::bend

@@ -1,6 +1,4 @@
 // Segmented Bend: a bend of straight pipe pieces, of a quarter turn or of any angle.
-#include <array>
-
 #include "core/constants.h"
 #include "core/math_module.h"
 #include "fittings/bends/bend_form.h"
@@ -17,79 +15,85 @@ Outcome CheckRadius(FittingForm& form, int diameterBox, int bendRadiusBox, doubl
     return RefusedIf(CheckRoundWall(form, diameterBox, R) || form.CheckGreaterThan(bendRadiusBox, R));
 }
 
-Outcome SetPipeBend(FittingForm& form, CSegBendParallel& bend, const BendSizes& sizes) {
-    if (SetBend(form, bend, sizes)) {
+void SetPipeBend(const CPatternSettings& settings, const bend::Sizes& sizes, CSegBendParallel& bend) {
+    bend::SetBend(settings, sizes, bend);
+    bend.TemplateType = settings.TemplateType;
+    bend.Thickness = settings.Thickness;
+}
+
+namespace quarter {
+
+enum Box : int { BaseDiameter = 0, BendRadius = 1, Segments = 2, Length1 = 3, Length2 = 4 };
+
+Outcome Build(FittingForm& form, CSegBendParallel& bend) {
+    const double R = MeanRadiusOfDiameter(form, BaseDiameter);
+    if (CheckRadius(form, BaseDiameter, BendRadius, R) || bend::CheckPieces(form, Segments) ||
+        form.CheckAtLeast(Length1, 0) || form.CheckAtLeast(Length2, 0)) {
         return Refused;
     }
-    bend.TemplateType = form.settings.TemplateType;
-    bend.Thickness = form.settings.Thickness;
+    SetPipeBend(form.settings,
+                {R, form.Value(BendRadius), QuarterTurn, form.Value(Length1), form.Value(Length2),
+                 form.Value(Segments)},
+                bend);
     return Passed;
 }
 
-Outcome BuildQuarterBend(FittingForm& form, CSegBendParallel& bend) {
-    const double R = MeanRadiusOfDiameter(form, 0);
-    if (CheckRadius(form, 0, 1, R) || CheckPieces(form, 2) || form.CheckAtLeast(3, 0) ||
-        form.CheckAtLeast(4, 0)) {
+constexpr BoxEntry Boxes[] = {
+    {BaseDiameter, "Base diameter", "200", DiameterSize(Side::Below, 2)},
+    {BendRadius, "Bend radius", "300", bend::BendRadiusSize(300, 100)},
+    {Segments, "Number of segments", "5", bend::PieceCount},
+    {Length1, "Length 1", "100", bend::FirstLengthSize(100)},
+    {Length2, "Length 2", "150", LinearSize(Side::Above, bend::EndOf(5), bend::EndOf(5, 150))}};
+constexpr LabelEntry Labels[] = {{BaseDiameter}, {BendRadius}, {NoBox, "Bend angle = ", "90"},
+                                 {Length1},      {Length2},    {Segments}};
+constexpr auto Lines = bend::Lines(300, AtXZ(-300, 300));
+
+}  // namespace quarter
+
+namespace any_angle {
+
+enum Box : int { BaseDiameter = 5, BendRadius = 6, BendAngle = 7, Length1 = 8, Length2 = 9, Segments = 10 };
+
+Outcome Build(FittingForm& form, CSegBendParallel& bend) {
+    const double R = MeanRadiusOfDiameter(form, BaseDiameter);
+    if (CheckRadius(form, BaseDiameter, BendRadius, R) || form.CheckAtMost(BendAngle, 360) ||
+        form.CheckPositive(BendAngle) || form.CheckAtLeast(Length1, 0) || form.CheckAtLeast(Length2, 0) ||
+        bend::CheckPieces(form, Segments)) {
         return Refused;
     }
-    return SetPipeBend(form, bend,
-                       {R, form.Value(1), QuarterTurn, form.Value(3), form.Value(4), form.Value(2)});
+    SetPipeBend(form.settings,
+                {R, form.Value(BendRadius), DegToRad(form.Value(BendAngle)), form.Value(Length1),
+                 form.Value(Length2), form.Value(Segments)},
+                bend);
+    return Passed;
 }
-
-Outcome BuildBend(FittingForm& form, CSegBendParallel& bend) {
-    const double R = MeanRadiusOfDiameter(form, 5);
-    if (CheckRadius(form, 5, 6, R) || form.CheckAtMost(7, 360) || form.CheckPositive(7) ||
-        form.CheckAtLeast(8, 0) || form.CheckAtLeast(9, 0) || CheckPieces(form, 10)) {
-        return Refused;
-    }
-    return SetPipeBend(
-        form, bend,
-        {R, form.Value(6), DegToRad(form.Value(7)), form.Value(8), form.Value(9), form.Value(10)});
-}
-
-constexpr std::array<BoxEntry, 5> QuarterBoxes = {
-    {{0, "Base diameter", "200", DiameterSize(Side::Below, 2)},
-     {1, "Bend radius", "300", BendRadiusSize(300, 100)},
-     {2, "Number of segments", "5", PieceCount},
-     {3, "Length 1", "100", FirstLengthSize(100)},
-     {4, "Length 2", "150", LinearSize(Side::Above, BendEndOf(5), BendEndOf(5, 150))}}};
-constexpr std::array QuarterLines = BendLines(300, AtXZ(-300, 300));
 
 // 400 from the centre at 60 degrees, and 120 further along the last piece.
 constexpr SketchPoint ArcEnd = AtXZ(-200, 346.4101615137755);
-constexpr std::array<BoxEntry, 6> BendBoxes = {
-    {{5, "Base diameter", "200", DiameterSize(Side::Below, 2)},
-     {6, "Bend radius", "400", BendRadiusSize(400, 100)},
-     {7, "Bend angle (degrees)", "60", BendAngleSize(400, ArcEnd)},
-     {8, "Length 1", "100", FirstLengthSize(100)},
-     {9, "Length 2", "120", AlignedSize(Side::Above, BendEndOf(4), BendEndOf(4, 103.92304845413264, -60))},
-     {10, "Number of segments", "4", PieceCount}}};
-constexpr std::array BendToArcEnd = BendLines(400, ArcEnd);
+constexpr BoxEntry Boxes[] = {
+    {BaseDiameter, "Base diameter", "200", DiameterSize(Side::Below, 2)},
+    {BendRadius, "Bend radius", "400", bend::BendRadiusSize(400, 100)},
+    {BendAngle, "Bend angle (degrees)", "60", bend::BendAngleSize(400, ArcEnd)},
+    {Length1, "Length 1", "100", bend::FirstLengthSize(100)},
+    {Length2, "Length 2", "120",
+     AlignedSize(Side::Above, bend::EndOf(4), bend::EndOf(4, 103.92304845413264, -60))},
+    {Segments, "Number of segments", "4", bend::PieceCount}};
+constexpr LabelEntry Labels[] = {{BaseDiameter}, {BendRadius}, {BendAngle}, {Length1}, {Length2}, {Segments}};
+constexpr auto Lines = bend::Lines(400, ArcEnd);
 
-constexpr std::array<LabelEntry, 6> QuarterLabels = {{{"Base diameter = ", 0},
-                                                      {"Bend radius = ", 1},
-                                                      {"Bend angle = ", NoBox, "90"},
-                                                      {"Length 1 = ", 3},
-                                                      {"Length 2 = ", 4},
-                                                      {"Number of segments = ", 2}}};
-constexpr std::array<LabelEntry, 6> BendLabels = {{{"Base diameter = ", 5},
-                                                   {"Bend radius = ", 6},
-                                                   {"Bend angle = ", 7},
-                                                   {"Length 1 = ", 8},
-                                                   {"Length 2 = ", 9},
-                                                   {"Number of segments = ", 10}}};
+}  // namespace any_angle
 
-constexpr std::array<PageEntry, 2> Pages = {
-    {{QuarterBoxes, QuarterLabels, BendView, QuarterLines}, {BendBoxes, BendLabels, BendView, BendToArcEnd}}};
+constexpr PageEntry Pages[] = {{quarter::Boxes, quarter::Labels, bend::Views, quarter::Lines},
+                               {any_angle::Boxes, any_angle::Labels, bend::Views, any_angle::Lines}};
 
-constexpr std::array<std::string_view, 2> PatternChoices = {"Full Pattern", "First, Last, one intermediate"};
+constexpr std::string_view PatternChoices[] = {"Full Pattern", "First, Last, one intermediate"};
 
 }  // namespace
 
 const WindowTable frmSegBendParallel = {
     .pages = Pages,
     .newFitting = FittingHandle::Make<CSegBendParallel>,
-    .buildFitting = WithinReach<Pages, BuildByType<CSegBendParallel, BuildQuarterBend, BuildBend>>,
+    .buildFitting = WithinReach<Pages, BuildByType<CSegBendParallel, quarter::Build, any_angle::Build>>,
     .multiple = true,
     .templateTypeEnabled = true,
     .kerfEnabled = true,

@@ -6,7 +6,7 @@
 #include "core/math_module.h"
 #include "fittings/mean_sizes.h"
 
-namespace korvet {
+namespace korvet::branch {
 namespace {
 
 Outcome CheckDiametersAndLength(FittingForm& form, const PipeBoxes& boxes) {
@@ -14,12 +14,12 @@ Outcome CheckDiametersAndLength(FittingForm& form, const PipeBoxes& boxes) {
 }
 
 /// The branch reaches out of the trunk.
-Outcome CheckBranchLength(FittingForm& form, const PipeBoxes& boxes, const BranchWalls& walls) {
+Outcome CheckBranchLength(FittingForm& form, const PipeBoxes& boxes, const Walls& walls) {
     return form.CheckAtLeast(boxes.branchLength, walls.tB / 2 + walls.R);
 }
 
 /// A branch beside the trunk's axis stays within the trunk's width.
-Outcome CheckOffset(FittingForm& form, const PipeBoxes& boxes, const BranchWalls& walls) {
+Outcome CheckOffset(FittingForm& form, const PipeBoxes& boxes, const Walls& walls) {
     const int box = boxes.offset;
     const double limit = walls.R - walls.r;
     return RefusedIf(box != NoBox && form.Value(box) != 0 &&
@@ -31,7 +31,7 @@ Outcome CheckSquare(FittingForm& form, const PipeBoxes& boxes) {
     if (CheckDiametersAndLength(form, boxes)) {
         return Refused;
     }
-    const BranchWalls walls = WallsOf(form, boxes);
+    const Walls walls = WallsOf(form, boxes);
     return RefusedIf(CheckBranchLength(form, boxes, walls) || form.CheckAtLeast(boxes.distance, walls.r) ||
                      form.CheckAtLeast(boxes.mainLength, walls.r + form.Value(boxes.distance)) ||
                      CheckOffset(form, boxes, walls));
@@ -44,7 +44,7 @@ Outcome CheckSlanting(FittingForm& form, const PipeBoxes& boxes) {
     if (CheckDiametersAndLength(form, boxes)) {
         return Refused;
     }
-    const BranchWalls walls = WallsOf(form, boxes);
+    const Walls walls = WallsOf(form, boxes);
     if (CheckOffset(form, boxes, walls) || CheckBranchLength(form, boxes, walls) ||
         form.CheckGreaterThan(boxes.angle, 0) || form.CheckAtMost(boxes.angle, 90)) {
         return Refused;
@@ -65,7 +65,7 @@ double TypedAngle(const FittingForm& form, const PipeBoxes& boxes) {
     return boxes.angle == NoBox ? QuarterTurn : DegToRad(form.Value(boxes.angle));
 }
 
-BranchWalls WallsOf(const FittingForm& form, const PipeBoxes& boxes) {
+Walls WallsOf(const FittingForm& form, const PipeBoxes& boxes) {
     const double tA = form.settings.ThicknessA;
     const double tB = form.settings.ThicknessB;
     return {MeanRadiusOfDiameter(form, boxes.branchDiameter, tA),
@@ -77,7 +77,7 @@ Outcome CheckPipes(FittingForm& form, const PipeBoxes& boxes) {
 }
 
 Outcome CheckMeeting(FittingForm& form, const CutRadii& radii, double offset) {
-    return BranchMeetsTrunk(radii, offset) ? Passed : form.Refuse(BranchTooLarge);
+    return MeetsTrunk(radii, offset) ? Passed : form.Refuse(BranchTooLarge);
 }
 
 void SetPipes(const FittingForm& form, const PipeBoxes& boxes, CBranch& branch) {
@@ -99,4 +99,4 @@ void SetHoleRadii(CBranch& branch, const CutRadii& hole) {
     branch.TrunkRadiusPipeB = hole.pipeB;
 }
 
-}  // namespace korvet
+}  // namespace korvet::branch

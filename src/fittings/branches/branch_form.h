@@ -7,9 +7,9 @@
 #include "fittings/branches/branch_join.h"
 #include "fittings/windows.h"
 
-namespace korvet {
+namespace korvet::branch {
 
-/// The boxes of one page, by their index in txtParameter.
+/// The boxes of one page.
 struct PipeBoxes {
     int branchDiameter;
     int mainDiameter;
@@ -20,20 +20,40 @@ struct PipeBoxes {
     int offset = NoBox;  ///< of the axes; none: the window finds it itself
 };
 
-/// The boxes of a page with a square branch and of one with a slanting branch, as all these windows have
-/// them.
-constexpr PipeBoxes SquareBoxes(int offsetBox = NoBox) {
-    return {0, 1, 2, 3, 4, NoBox, offsetBox};
+/// The page with a square branch, as all these windows have it. The box of an offset is the window's own.
+namespace square {
+
+enum Box : int { BranchDiameter = 0, MainDiameter = 1, BranchLength = 2, Distance = 3, MainLength = 4 };
+
+constexpr PipeBoxes PipesWith(int offsetBox) {
+    return {BranchDiameter, MainDiameter, BranchLength, Distance, MainLength, NoBox, offsetBox};
 }
-constexpr PipeBoxes SlantingBoxes(int offsetBox = NoBox) {
-    return {5, 6, 7, 8, 9, 10, offsetBox};
+
+}  // namespace square
+
+/// The page with a slanting branch.
+namespace slanting {
+
+enum Box : int {
+    BranchDiameter = 5,
+    MainDiameter = 6,
+    BranchLength = 7,
+    Distance = 8,
+    MainLength = 9,
+    BranchAngle = 10
+};
+
+constexpr PipeBoxes PipesWith(int offsetBox) {
+    return {BranchDiameter, MainDiameter, BranchLength, Distance, MainLength, BranchAngle, offsetBox};
 }
+
+}  // namespace slanting
 
 /// The angle between the axes as typed, in radians; QuarterTurn of a square branch.
 double TypedAngle(const FittingForm& form, const PipeBoxes& boxes);
 
 /// Mean radii and material of both pipes, in the user's unit.
-BranchWalls WallsOf(const FittingForm& form, const PipeBoxes& boxes);
+Walls WallsOf(const FittingForm& form, const PipeBoxes& boxes);
 
 // Checks, with the focus on the box after a refusal or, without one, left alone.
 
@@ -51,24 +71,25 @@ void SetPipes(const FittingForm& form, const PipeBoxes& boxes, CBranch& branch);
 void SetEdgeRadii(CBranch& branch, const CutRadii& edge);
 void SetHoleRadii(CBranch& branch, const CutRadii& hole);
 
-inline constexpr std::string_view BranchPatterns[] = {"Trunk", "Branch"};
-inline constexpr int BranchPatternSurfaces[] = {2, 1};
+inline constexpr std::string_view Patterns[] = {"Trunk", "Branch"};
+inline constexpr int PatternSurfaces[] = {2, 1};
 
 /// The table of such a window. The seam lies opposite the branch, whatever JoinAngle the settings hold: they
 /// keep what a file has brought.
-constexpr WindowTable BranchTable(std::span<const PageEntry> pages, BuildStep* build, BuildStep* complete) {
+constexpr WindowTable Table(std::span<const PageEntry> pages, BuildStep* build,
+                            BuildStep* afterPatternChoice) {
     return {.pages = pages,
             .newFitting = FittingHandle::Make<CBranch>,
             .buildFitting = build,
-            .completeFitting = complete,
+            .afterPatternChoice = afterPatternChoice,
             .multiple = true,
             .miscellaneous = TrunkPattern,
             .joinAngleDisable = true,
             .templateTypeEnabled = true,
             .materialDisable = true,
             .branchMaterialEnable = true,
-            .patternSelect = BranchPatterns,
-            .patternSurface = BranchPatternSurfaces};
+            .patternSelect = Patterns,
+            .patternSurface = PatternSurfaces};
 }
 
-}  // namespace korvet
+}  // namespace korvet::branch

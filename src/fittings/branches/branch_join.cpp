@@ -6,11 +6,11 @@
 #include "core/constants.h"
 #include "core/math_module.h"
 
-namespace korvet {
+namespace korvet::branch {
 namespace {
 
 /// Radius of the trunk at the depth to which a set-in branch reaches.
-double SetInDepth(const BranchWalls& walls) {
+double SetInDepth(const Walls& walls) {
     if (walls.r <= walls.R - walls.tB / 2) {
         return walls.R - walls.tB / 2;
     }
@@ -29,7 +29,7 @@ void RequireBranchWidth(double width) {
 
 }  // namespace
 
-CutRadii BranchCutRadii(BranchJoin join, const BranchWalls& walls) {
+CutRadii EdgeRadii(BranchJoin join, const Walls& walls) {
     switch (join) {
         case SetInJoin:
             return {walls.r, SetInDepth(walls)};
@@ -41,7 +41,7 @@ CutRadii BranchCutRadii(BranchJoin join, const BranchWalls& walls) {
     return {walls.r, walls.R};
 }
 
-CutRadii TrunkHoleRadii(BranchJoin join, const BranchWalls& walls) {
+CutRadii HoleRadii(BranchJoin join, const Walls& walls) {
     switch (join) {
         case SetInJoin:
             return {walls.r + walls.tA / 2, walls.R};
@@ -53,7 +53,7 @@ CutRadii TrunkHoleRadii(BranchJoin join, const BranchWalls& walls) {
     return {walls.r, walls.R};
 }
 
-bool BranchMeetsTrunk(const CutRadii& radii, double offset) {
+bool MeetsTrunk(const CutRadii& radii, double offset) {
     RequireBranchWidth(radii.pipeA);
     return radii.pipeA + AbsValue(offset) <= radii.pipeB;
 }
@@ -84,4 +84,4 @@ double JointAngle(const BranchOptions& options, double r, double alpha, double t
     return angle;
 }
 
-}  // namespace korvet
+}  // namespace korvet::branch

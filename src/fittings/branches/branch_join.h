@@ -3,10 +3,10 @@
 
 #include "core/branch_options.h"
 
-namespace korvet {
+namespace korvet::branch {
 
 /// Both pipes of a joint: radii of their mean surfaces and their material, in the user's unit.
-struct BranchWalls {
+struct Walls {
     double r = 0;   ///< radius of the branch
     double R = 0;   ///< radius of the trunk
     double tA = 0;  ///< thickness of the branch
@@ -23,19 +23,19 @@ struct CutRadii {
 /// on the trunk's outside, R + tB / 2; mean to mean it meets the mean surface R. A set-in branch reaches as
 /// deep into the trunk as its size allows: to the inside R - tB / 2, or to R, or, when it is wider than that
 /// and thinner than the trunk, to R + tB / 2 - tA / 2.
-CutRadii BranchCutRadii(BranchJoin join, const BranchWalls& walls);
+CutRadii EdgeRadii(BranchJoin join, const Walls& walls);
 
 /// The cylinders for the hole, which is laid out on the trunk's mean surface R: the outside r + tA / 2 of a
 /// branch that is set in, the inside r - tA / 2 of one that is set on, else r.
-CutRadii TrunkHoleRadii(BranchJoin join, const BranchWalls& walls);
+CutRadii HoleRadii(BranchJoin join, const Walls& walls);
 
 /// Whether a branch at this distance of the axes meets the trunk all round: its far side lies no further from
 /// the trunk's axis than the trunk's surface. Throws ArithmeticError when the branch has no radius left to
 /// cut, its material being too thick for its diameter.
-bool BranchMeetsTrunk(const CutRadii& radii, double offset);
+bool MeetsTrunk(const CutRadii& radii, double offset);
 
 /// By how much the axial angle `alpha` (radians, below a quarter turn) of a set-on branch is made smaller so
-/// that the outside of its wall touches the trunk at the heel; radians. `r` and `tA` as in BranchWalls.
+/// that the outside of its wall touches the trunk at the heel; radians. `r` and `tA` as in Walls.
 /// Throws ArithmeticError when the sizes leave no such triangle.
 double BranchAngComp(double r, double alpha, double tA);
 
@@ -43,4 +43,4 @@ double BranchAngComp(double r, double alpha, double tA);
 /// compensation that is not square. Throws ArithmeticError when nothing is left of the angle.
 double JointAngle(const BranchOptions& options, double r, double alpha, double tA);
 
-}  // namespace korvet
+}  // namespace korvet::branch

@@ -4,9 +4,9 @@
 
 #include <array>
 
-#include "form/window_table.h"
+#include "fittings/branches/branch_form.h"
 
-namespace korvet::branch_sketch {
+namespace korvet::branch {
 
 /// The middle of the branch's free end, moved in the plane of the elevation.
 constexpr SketchPoint BranchEnd(double dx = 0, double dz = 0) {
@@ -19,9 +19,9 @@ constexpr SketchPoint Trunk(int list, Spot spot, double dz = 0) {
     return {.list = list, .spot = spot, .dz = dz, .surface = 2};
 }
 
-inline constexpr SketchDimension MainLength =
+inline constexpr SketchDimension MainLengthSize =
     LinearSize(Side::Left, Trunk(2, Spot::Centre), Trunk(1, Spot::Centre));
-constexpr SketchDimension Distance(double distance) {
+constexpr SketchDimension DistanceSize(double distance) {
     return LinearSize(Side::Left, Trunk(2, Spot::Centre), Trunk(2, Spot::Centre, distance));
 }
 inline constexpr SketchConstruction TrunkAxis = CentreLine(Trunk(2, Spot::Centre), Trunk(1, Spot::Centre));
@@ -36,52 +36,52 @@ constexpr SketchDimension OffsetSize(double offset) {
     return LinearSize(Side::Right, BranchEnd(), {.list = 1, .spot = Spot::Centre, .dy = offset}, Plan);
 }
 
-/// The boxes of a square branch but for its offset.
-inline constexpr std::array<BoxEntry, 5> SquareEntries = {
-    {{0, "Branch pipe diameter", "120",
+namespace square {
+
+/// The boxes but for the offset.
+inline constexpr std::array<BoxEntry, 5> Boxes = {
+    {{BranchDiameter, "Branch pipe diameter", "120",
       LinearSize(Side::Right, BranchRim(Spot::MinZ), BranchRim(Spot::MaxZ))},
-     {1, "Main pipe diameter", "200", LinearSize(Side::Above, Trunk(1, Spot::MinX), Trunk(1, Spot::MaxX))},
-     {2, "Branch pipe length", "250", LinearSize(Side::Below, BranchEnd(-250), BranchEnd())},
-     {3, "Distance to intersection", "160", Distance(160)},
-     {4, "Main pipe length", "320", MainLength}}};
-inline constexpr std::array<SketchConstruction, 4> SquareLines = {
+     {MainDiameter, "Main pipe diameter", "200",
+      LinearSize(Side::Above, Trunk(1, Spot::MinX), Trunk(1, Spot::MaxX))},
+     {BranchLength, "Branch pipe length", "250", LinearSize(Side::Below, BranchEnd(-250), BranchEnd())},
+     {Distance, "Distance to intersection", "160", DistanceSize(160)},
+     {MainLength, "Main pipe length", "320", MainLengthSize}}};
+inline constexpr std::array<LabelEntry, 5> Labels = {
+    {{BranchDiameter}, {MainDiameter}, {BranchLength}, {Distance}, {MainLength}}};
+inline constexpr std::array<SketchConstruction, 4> Lines = {
     {TrunkAxis, CentreLine(BranchEnd(-250), BranchEnd()), CentreLine(BranchEnd(-250), BranchEnd(), Plan),
      CentreLine({.dx = -100, .dz = 160}, {.dx = 250, .dz = 160}, Plan)}};
 
-inline constexpr std::array<LabelEntry, 5> SquareLabels = {{{"Branch pipe diameter = ", 0},
-                                                            {"Main pipe diameter = ", 1},
-                                                            {"Branch pipe length = ", 2},
-                                                            {"Distance to intersection = ", 3},
-                                                            {"Main pipe length = ", 4}}};
+}  // namespace square
+
+namespace slanting {
 
 // At 60 degrees: the sine is 0.866, the cosine 0.5.
 inline constexpr double Sine60 = 0.8660254037844386;
 inline constexpr SketchPoint Crossing = BranchEnd(-280 * Sine60, 140);
 
-/// The boxes of a slanting branch but for its offset, whose axis stands at `y` in the sample.
-constexpr std::array<BoxEntry, 6> SlantingEntries(double y) {
-    return {{{5, "Branch pipe diameter", "100",
+/// The boxes but for the offset of the axis, which stands at `y` in the sample.
+constexpr std::array<BoxEntry, 6> BoxesAt(double y) {
+    return {{{BranchDiameter, "Branch pipe diameter", "100",
               AlignedSize(Side::Right, BranchRim(Spot::MinZ), BranchRim(Spot::MaxZ))},
-             {6, "Main pipe diameter", "200",
+             {MainDiameter, "Main pipe diameter", "200",
               LinearSize(Side::Left, Trunk(1, Spot::MinY), Trunk(1, Spot::MaxY), Plan)},
-             {7, "Branch pipe length", "280",
+             {BranchLength, "Branch pipe length", "280",
               AlignedSize(Side::Above, BranchRim(Spot::MaxZ, -280 * Sine60, 140), BranchRim(Spot::MaxZ))},
-             {8, "Distance to intersection", "200", Distance(200)},
-             {9, "Main pipe length", "300", MainLength},
-             {10, "Branch angle (degrees)", "60",
+             {Distance, "Distance to intersection", "200", DistanceSize(200)},
+             {MainLength, "Main pipe length", "300", MainLengthSize},
+             {BranchAngle, "Branch angle (degrees)", "60",
               AngleSize(Side::Below, Crossing, {.dy = y, .dz = 20}, BranchRim(Spot::MinZ, 25, 50 * Sine60),
                         0.7)}}};
 }
-constexpr std::array<SketchConstruction, 4> SlantingLines(double y) {
+inline constexpr std::array<LabelEntry, 6> Labels = {
+    {{BranchDiameter}, {MainDiameter}, {BranchLength}, {Distance}, {MainLength}, {BranchAngle}}};
+constexpr std::array<SketchConstruction, 4> LinesAt(double y) {
     return {{TrunkAxis, CentreLine(Crossing, BranchEnd()), CentreLine(Crossing, BranchEnd(), Plan),
              CentreLine({.list = 1, .dx = -342, .dy = -y}, {.list = 1, .dy = -y}, Plan)}};
 }
 
-inline constexpr std::array<LabelEntry, 6> SlantingLabels = {{{"Branch pipe diameter = ", 5},
-                                                              {"Main pipe diameter = ", 6},
-                                                              {"Branch pipe length = ", 7},
-                                                              {"Distance to intersection = ", 8},
-                                                              {"Main pipe length = ", 9},
-                                                              {"Branch angle = ", 10}}};
+}  // namespace slanting
 
-}  // namespace korvet::branch_sketch
+}  // namespace korvet::branch

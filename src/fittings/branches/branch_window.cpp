@@ -6,62 +6,66 @@
 namespace korvet {
 namespace {
 
-constexpr PipeBoxes Square = SquareBoxes(11);
-constexpr PipeBoxes Slanting = SlantingBoxes(12);
-
-template <PipeBoxes Boxes>
-Outcome Build(FittingForm& form, CBranch& branch) {
-    if (CheckPipes(form, Boxes)) {
+/// The boxes and the offset. Half of a branch beside the trunk's axis is no mirror of the other half.
+template <branch::PipeBoxes Pipes>
+Outcome Build(FittingForm& form, CBranch& fitting) {
+    if (branch::CheckPipes(form, Pipes)) {
         return Refused;
     }
-    SetPipes(form, Boxes, branch);
-    branch.Offset = -form.Value(Boxes.offset);
+    branch::SetPipes(form, Pipes, fitting);
+    fitting.Offset = -form.Value(Pipes.offset);
+    if (form.settings.HalfPattern && fitting.Offset != 0) {
+        form.RefuseHalfPattern();
+    }
     return Passed;
 }
 
 /// The angle and the radii by the way the pipes are joined.
-Outcome SetJoint(FittingForm& form, const PipeBoxes& boxes, CBranch& branch) {
-    const BranchWalls walls = WallsOf(form, boxes);
-    branch.AxialAngle = JointAngle(form.branch, walls.r, TypedAngle(form, boxes), walls.tA);
-    const CutRadii edge = BranchCutRadii(form.branch.join, walls);
-    SetEdgeRadii(branch, edge);
-    if (CheckMeeting(form, edge, branch.Offset)) {
+template <branch::PipeBoxes Pipes>
+Outcome Join(FittingForm& form, CBranch& fitting) {
+    const branch::Walls walls = branch::WallsOf(form, Pipes);
+    fitting.AxialAngle = branch::JointAngle(form.branch, walls.r, branch::TypedAngle(form, Pipes), walls.tA);
+    const branch::CutRadii edge = branch::EdgeRadii(form.branch.join, walls);
+    branch::SetEdgeRadii(fitting, edge);
+    if (branch::CheckMeeting(form, edge, fitting.Offset)) {
         return Refused;
     }
-    const CutRadii hole = TrunkHoleRadii(form.branch.join, walls);
-    SetHoleRadii(branch, hole);
-    return CheckMeeting(form, hole, branch.Offset);
+    const branch::CutRadii hole = branch::HoleRadii(form.branch.join, walls);
+    branch::SetHoleRadii(fitting, hole);
+    return branch::CheckMeeting(form, hole, fitting.Offset);
 }
 
-/// Half of a branch beside the trunk's axis is no mirror of the other half.
-template <PipeBoxes Boxes>
-Outcome Complete(FittingForm& form, CBranch& branch) {
-    if (form.settings.HalfPattern && branch.Offset != 0) {
-        form.RefuseHalfPattern();
-    }
-    return RefusedIf(form.CheckPatternSelected() || SetJoint(form, Boxes, branch));
-}
+namespace square {
 
-namespace sketch = branch_sketch;
+enum Box : int { Offset = 11 };  // beside those of every square branch
 
-constexpr double SlantingOffset = 15;
+constexpr branch::PipeBoxes Pipes = branch::square::PipesWith(Offset);
+constexpr auto Boxes =
+    Joined(branch::square::Boxes, BoxEntry{Offset, "Offset", "25", branch::OffsetSize(25)});
+constexpr auto Labels = Joined(branch::square::Labels, LabelEntry{Offset});
 
-constexpr auto SquareEntries =
-    Joined(sketch::SquareEntries, BoxEntry{Square.offset, "Offset", "25", sketch::OffsetSize(25)});
-constexpr auto SlantingEntries =
-    Joined(sketch::SlantingEntries(-SlantingOffset),
-           BoxEntry{Slanting.offset, "Offset", "15", sketch::OffsetSize(SlantingOffset)});
-constexpr auto SquareLabels = Joined(sketch::SquareLabels, LabelEntry{"Offset = ", Square.offset});
-constexpr auto SlantingLabels = Joined(sketch::SlantingLabels, LabelEntry{"Offset = ", Slanting.offset});
-constexpr auto SlantingLines = sketch::SlantingLines(-SlantingOffset);
+}  // namespace square
 
-constexpr std::array<PageEntry, 2> Pages = {
-    {{SquareEntries, SquareLabels, sketch::Views, sketch::SquareLines},
-     {SlantingEntries, SlantingLabels, sketch::Views, SlantingLines}}};
+namespace slanting {
+
+enum Box : int { Offset = 12 };  // beside those of every slanting branch
+
+constexpr branch::PipeBoxes Pipes = branch::slanting::PipesWith(Offset);
+constexpr double SampleOffset = 15;
+constexpr auto Boxes = Joined(branch::slanting::BoxesAt(-SampleOffset),
+                              BoxEntry{Offset, "Offset", "15", branch::OffsetSize(SampleOffset)});
+constexpr auto Labels = Joined(branch::slanting::Labels, LabelEntry{Offset});
+constexpr auto Lines = branch::slanting::LinesAt(-SampleOffset);
+
+}  // namespace slanting
+
+constexpr PageEntry Pages[] = {{square::Boxes, square::Labels, branch::Views, branch::square::Lines},
+                               {slanting::Boxes, slanting::Labels, branch::Views, slanting::Lines}};
 
 }  // namespace
 
-const WindowTable frmBranch = BranchTable(Pages, BuildByType<CBranch, Build<Square>, Build<Slanting>>,
-                                          BuildByType<CBranch, Complete<Square>, Complete<Slanting>>);
+const WindowTable frmBranch =
+    branch::Table(Pages, BuildByType<CBranch, Build<square::Pipes>, Build<slanting::Pipes>>,
+                  BuildByType<CBranch, Join<square::Pipes>, Join<slanting::Pipes>>);
 
 }  // namespace korvet

@@ -1,8 +1,8 @@
 // Right Cone: a cone frustum with level ends, given by its apex height, its own height or its angle.
-#include <array>
 #include <cmath>
 
 #include "core/math_module.h"
+#include "fittings/cones/cone_sketch.h"
 #include "fittings/cones/right_cone.h"
 #include "fittings/mean_sizes.h"
 #include "fittings/windows.h"
@@ -21,7 +21,7 @@ Outcome CheckDiameters(FittingForm& form, DiameterBoxes boxes) {
     return form.CheckLessThan(boxes.top, form.Value(boxes.base));
 }
 
-/// The thickness tests of both diameters; then the sizes that every group comes down to go to the cone.
+/// The thickness tests of both diameters; then the sizes that every type comes down to go to the cone.
 Outcome SetFrustum(FittingForm& form, CRightCone& cone, DiameterBoxes boxes, double coneAngle,
                    double height) {
     const double R = MeanConeRadius(form, boxes.base, coneAngle);
@@ -35,82 +35,93 @@ Outcome SetFrustum(FittingForm& form, CRightCone& cone, DiameterBoxes boxes, dou
     return Passed;
 }
 
-Outcome BuildFromApexHeight(FittingForm& form, CRightCone& cone) {
-    if (form.CheckAllPositive(0, 1, 2)) {
+namespace by_apex_height {
+
+enum Box : int { BaseDiameter = 0, TopDiameter = 1, ApexHeight = 2 };
+
+Outcome Build(FittingForm& form, CRightCone& cone) {
+    if (form.CheckAllPositive(BaseDiameter, TopDiameter, ApexHeight)) {
         return Refused;
     }
-    const double R = form.Value(0) / 2;
-    const double r = form.Value(1) / 2;
-    const double H = form.Value(2);
-    if (CheckDiameters(form, {0, 1})) {
+    const double R = form.Value(BaseDiameter) / 2;
+    const double r = form.Value(TopDiameter) / 2;
+    const double H = form.Value(ApexHeight);
+    if (CheckDiameters(form, {BaseDiameter, TopDiameter})) {
         return Refused;
     }
     // Similar triangles: the top lies r H / R below the apex.
-    return SetFrustum(form, cone, {0, 1}, std::atan(R / H), H - (r * H) / R);
+    return SetFrustum(form, cone, {BaseDiameter, TopDiameter}, std::atan(R / H), H - (r * H) / R);
 }
 
-Outcome BuildFromHeight(FittingForm& form, CRightCone& cone) {
-    if (form.CheckAllPositive(3, 4, 5)) {
+constexpr SketchPoint Apex = OnAxis(400);
+constexpr BoxEntry Boxes[] = {{BaseDiameter, "Base diameter", "300", DiameterSize(Side::Below, 2)},
+                              {TopDiameter, "Top diameter", "120", DiameterSize(Side::Above, 1)},
+                              {ApexHeight, "Apex height", "400", LinearSize(Side::Right, MiddleOf(2), Apex)}};
+constexpr LabelEntry Labels[] = {{BaseDiameter}, {TopDiameter}, {ApexHeight}};
+constexpr auto Lines = cone::LinesToApex(Apex);
+
+}  // namespace by_apex_height
+
+namespace by_height {
+
+enum Box : int { BaseDiameter = 3, TopDiameter = 4, CuttingPlaneHeight = 5 };
+
+Outcome Build(FittingForm& form, CRightCone& cone) {
+    if (form.CheckAllPositive(BaseDiameter, TopDiameter, CuttingPlaneHeight)) {
         return Refused;
     }
-    const double R = form.Value(3) / 2;
-    const double r = form.Value(4) / 2;
-    if (CheckDiameters(form, {3, 4})) {
+    const double R = form.Value(BaseDiameter) / 2;
+    const double r = form.Value(TopDiameter) / 2;
+    if (CheckDiameters(form, {BaseDiameter, TopDiameter})) {
         return Refused;
     }
-    const double H = (form.Value(5) * R) / (R - r);
-    return SetFrustum(form, cone, {3, 4}, std::atan(R / H), form.Value(5));
+    const double H = (form.Value(CuttingPlaneHeight) * R) / (R - r);
+    return SetFrustum(form, cone, {BaseDiameter, TopDiameter}, std::atan(R / H),
+                      form.Value(CuttingPlaneHeight));
 }
 
-Outcome BuildFromConeAngle(FittingForm& form, CRightCone& cone) {
-    if (form.CheckAllPositive(6, 7) || form.CheckNumber(8)) {
+constexpr BoxEntry Boxes[] = {
+    {BaseDiameter, "Base diameter", "300", DiameterSize(Side::Below, 2)},
+    {TopDiameter, "Top diameter", "120", DiameterSize(Side::Above, 1)},
+    {CuttingPlaneHeight, "Cutting plane height", "250", LinearSize(Side::Right, MiddleOf(2), MiddleOf(1))}};
+constexpr LabelEntry Labels[] = {{BaseDiameter}, {TopDiameter}, {CuttingPlaneHeight}};
+constexpr SketchConstruction Lines[] = {CentreLine(MiddleOf(2), MiddleOf(1))};
+
+}  // namespace by_height
+
+namespace by_cone_angle {
+
+enum Box : int { BaseDiameter = 6, TopDiameter = 7, ConeAngle = 8 };
+
+Outcome Build(FittingForm& form, CRightCone& cone) {
+    if (form.CheckAllPositive(BaseDiameter, TopDiameter) || form.CheckNumber(ConeAngle)) {
         return Refused;
     }
-    const double R = form.Value(6) / 2;
-    const double r = form.Value(7) / 2;
-    const double coneAngle = DegToRad(form.Value(8) / 2);
-    if (CheckDiameters(form, {6, 7}) || form.CheckPositive(8) || form.CheckLessThan(8, 180)) {
+    const double R = form.Value(BaseDiameter) / 2;
+    const double r = form.Value(TopDiameter) / 2;
+    const double coneAngle = DegToRad(form.Value(ConeAngle) / 2);
+    if (CheckDiameters(form, {BaseDiameter, TopDiameter}) || form.CheckPositive(ConeAngle) ||
+        form.CheckLessThan(ConeAngle, 180)) {
         return Refused;
     }
-    return SetFrustum(form, cone, {6, 7}, coneAngle, (R - r) / std::tan(coneAngle));
+    return SetFrustum(form, cone, {BaseDiameter, TopDiameter}, coneAngle, (R - r) / std::tan(coneAngle));
 }
 
-// The top is List1, the base List2.
-constexpr SketchPoint ApexByHeight = OnAxis(400);
-constexpr SketchPoint ApexByAngle = OnAxis(259.8076211353316);  // 150 / tan 30 degrees
+constexpr SketchPoint Apex = OnAxis(259.8076211353316);  // 150 / tan 30 degrees
+constexpr BoxEntry Boxes[] = {
+    {BaseDiameter, "Base diameter", "300", DiameterSize(Side::Below, 2)},
+    {TopDiameter, "Top diameter", "120", DiameterSize(Side::Above, 1)},
+    {ConeAngle, "Cone angle (degrees, included)", "60",
+     AngleSize(Side::Right, Apex, SpotOf(2, Spot::MinX), SpotOf(2, Spot::MaxX), 0.2)}};
+constexpr LabelEntry Labels[] = {{BaseDiameter}, {TopDiameter}, {ConeAngle}};
+constexpr auto Lines = cone::LinesToApex(Apex);
 
-constexpr std::array<BoxEntry, 3> ApexHeightBoxes = {
-    {{0, "Base diameter", "300", DiameterSize(Side::Below, 2)},
-     {1, "Top diameter", "120", DiameterSize(Side::Above, 1)},
-     {2, "Apex height", "400", LinearSize(Side::Right, MiddleOf(2), ApexByHeight)}}};
-constexpr std::array<BoxEntry, 3> HeightBoxes = {
-    {{3, "Base diameter", "300", DiameterSize(Side::Below, 2)},
-     {4, "Top diameter", "120", DiameterSize(Side::Above, 1)},
-     {5, "Cutting plane height", "250", LinearSize(Side::Right, MiddleOf(2), MiddleOf(1))}}};
-constexpr std::array<BoxEntry, 3> ConeAngleBoxes = {
-    {{6, "Base diameter", "300", DiameterSize(Side::Below, 2)},
-     {7, "Top diameter", "120", DiameterSize(Side::Above, 1)},
-     {8, "Cone angle (degrees, included)", "60",
-      AngleSize(Side::Right, ApexByAngle, SpotOf(2, Spot::MinX), SpotOf(2, Spot::MaxX), 0.2)}}};
+}  // namespace by_cone_angle
 
-constexpr std::array<SketchConstruction, 3> ApexHeightLines = {{ThinLine(SpotOf(1, Spot::MinX), ApexByHeight),
-                                                                ThinLine(SpotOf(1, Spot::MaxX), ApexByHeight),
-                                                                CentreLine(OnAxis(0), ApexByHeight)}};
-constexpr std::array<SketchConstruction, 1> HeightLines = {{CentreLine(MiddleOf(2), MiddleOf(1))}};
-constexpr std::array<SketchConstruction, 3> ConeAngleLines = {{ThinLine(SpotOf(1, Spot::MinX), ApexByAngle),
-                                                               ThinLine(SpotOf(1, Spot::MaxX), ApexByAngle),
-                                                               CentreLine(OnAxis(0), ApexByAngle)}};
-
-constexpr std::array<LabelEntry, 3> ApexHeightLabels = {
-    {{"Base diameter = ", 0}, {"Top diameter = ", 1}, {"Apex height = ", 2}}};
-constexpr std::array<LabelEntry, 3> HeightLabels = {
-    {{"Base diameter = ", 3}, {"Top diameter = ", 4}, {"Cutting plane height = ", 5}}};
-constexpr std::array<LabelEntry, 3> ConeAngleLabels = {
-    {{"Base diameter = ", 6}, {"Top diameter = ", 7}, {"Cone angle = ", 8}}};
-
-constexpr std::array<PageEntry, 3> Pages = {{{ApexHeightBoxes, ApexHeightLabels, FrontView, ApexHeightLines},
-                                             {HeightBoxes, HeightLabels, FrontView, HeightLines},
-                                             {ConeAngleBoxes, ConeAngleLabels, FrontView, ConeAngleLines}}};
+constexpr PageEntry Pages[] = {
+    {by_apex_height::Boxes, by_apex_height::Labels, FrontView, by_apex_height::Lines},
+    {by_height::Boxes, by_height::Labels, FrontView, by_height::Lines},
+    {by_cone_angle::Boxes, by_cone_angle::Labels, FrontView, by_cone_angle::Lines}};
 
 }  // namespace
 
@@ -119,7 +130,7 @@ constexpr std::array<PageEntry, 3> Pages = {{{ApexHeightBoxes, ApexHeightLabels,
 const WindowTable frmRightCone1 = {
     .pages = Pages,
     .newFitting = FittingHandle::Make<CRightCone>,
-    .buildFitting = BuildByType<CRightCone, BuildFromApexHeight, BuildFromHeight, BuildFromConeAngle>,
+    .buildFitting = BuildByType<CRightCone, by_apex_height::Build, by_height::Build, by_cone_angle::Build>,
     .firstDtype = 1,
     .checksAllFields = false,
     .positionLine = true,

@@ -1,10 +1,10 @@
 // Truncated Right Cone: a cone cut by a tilted plane, by two planes, or by a roof of two planes at the top or
 // bottom.
-#include <array>
 #include <cmath>
 
 #include "core/constants.h"
 #include "core/math_module.h"
+#include "fittings/cones/cone_sketch.h"
 #include "fittings/cones/right_cone.h"
 #include "fittings/mean_sizes.h"
 #include "fittings/tilt.h"
@@ -30,134 +30,268 @@ double MeanApexHeight(const CRightCone& cone) {
     return cone.BaseRad / std::tan(cone.ConeAngle);
 }
 
-Outcome BuildPlaneByConeAngle(FittingForm& form, CRightCone& cone) {
-    if (form.CheckAllPositive(0, 1, 2) || form.CheckLessThan(2, 180)) {
+// The sketches: planes are measured on the axis, a roof at its ridge, and every tilt against the level in the
+// elevation.
+
+constexpr SketchPoint BaseLeft = AtXZ(-200, 0);
+constexpr SketchPoint BaseRight = AtXZ(200, 0);
+
+namespace plane_by_cone_angle {
+
+enum Box : int { BaseDiameter = 0, CuttingPlaneHeight = 1, ConeAngle = 2, CuttingPlaneAngle = 3 };
+
+Outcome Build(FittingForm& form, CRightCone& cone) {
+    if (form.CheckAllPositive(BaseDiameter, CuttingPlaneHeight, ConeAngle) ||
+        form.CheckLessThan(ConeAngle, 180)) {
         return Refused;
     }
     // Here alone the whole half thickness counts, as the diameter is read before the angle of the wall.
-    cone.BaseRad = MeanConeRadius(form, 0, 0);
-    cone.CPHeight1 = form.Value(1);
-    cone.ConeAngle = DegToRad(form.Value(2) / 2);
-    cone.CPAngle1 = DegToRad(form.Value(3));
-    if (CheckConeWall(form, 0, cone.BaseRad, cone.ConeAngle)) {
+    cone.BaseRad = MeanConeRadius(form, BaseDiameter, 0);
+    cone.CPHeight1 = form.Value(CuttingPlaneHeight);
+    cone.ConeAngle = DegToRad(form.Value(ConeAngle) / 2);
+    cone.CPAngle1 = DegToRad(form.Value(CuttingPlaneAngle));
+    if (CheckConeWall(form, BaseDiameter, cone.BaseRad, cone.ConeAngle)) {
         return Refused;
     }
     const double H = MeanApexHeight(cone);
-    return RefusedIf(form.CheckLessThan(1, H) || CheckPlaneTilt(form, 3, cone.CPHeight1, cone.BaseRad));
+    return RefusedIf(form.CheckLessThan(CuttingPlaneHeight, H) ||
+                     CheckPlaneTilt(form, CuttingPlaneAngle, cone.CPHeight1, cone.BaseRad));
 }
 
-Outcome BuildPlaneByApexHeight(FittingForm& form, CRightCone& cone) {
-    if (form.CheckAllPositive(4, 6, 7)) {
+constexpr SketchPoint Apex = OnAxis(321.6760380764337);  // 150 / tan 25 degrees
+constexpr BoxEntry Boxes[] = {
+    {BaseDiameter, "Base diameter", "300", DiameterSize(Side::Below, 2)},
+    {CuttingPlaneHeight, "Cutting plane height", "150", LinearSize(Side::Left, MiddleOf(2), OnAxis(150))},
+    {ConeAngle, "Cone angle (degrees, included)", "50",
+     AngleSize(Side::Left, Apex, SpotOf(2, Spot::MinX), SpotOf(2, Spot::MaxX), 0.2)},
+    {CuttingPlaneAngle, "Cutting plane angle (degrees)", "20", TiltSize(1)}};
+// The two angles stand the other way round here than in the sizes: files and drawings made so far have it so.
+constexpr LabelEntry Labels[] = {{BaseDiameter},
+                                 {CuttingPlaneAngle, "Cone angle = "},
+                                 {ConeAngle, "Cutting plane angle = "},
+                                 {CuttingPlaneHeight}};
+constexpr auto Lines = cone::LinesToApex(Apex);
+
+}  // namespace plane_by_cone_angle
+
+namespace plane_by_apex_height {
+
+enum Box : int { BaseDiameter = 4, CuttingPlaneAngle = 5, ApexHeight = 6, CuttingPlaneHeight = 7 };
+
+Outcome Build(FittingForm& form, CRightCone& cone) {
+    if (form.CheckAllPositive(BaseDiameter, ApexHeight, CuttingPlaneHeight)) {
         return Refused;
     }
-    cone.CPAngle1 = DegToRad(form.Value(5));
-    cone.CPHeight1 = form.Value(7);
-    if (SetWall(form, cone, 4, TypedConeAngle(form, 4, 6))) {
+    cone.CPAngle1 = DegToRad(form.Value(CuttingPlaneAngle));
+    cone.CPHeight1 = form.Value(CuttingPlaneHeight);
+    if (SetWall(form, cone, BaseDiameter, TypedConeAngle(form, BaseDiameter, ApexHeight))) {
         return Refused;
     }
     const double H = MeanApexHeight(cone);
-    return RefusedIf(form.CheckLessThan(7, H) || CheckPlaneTilt(form, 5, cone.CPHeight1, cone.BaseRad));
+    return RefusedIf(form.CheckLessThan(CuttingPlaneHeight, H) ||
+                     CheckPlaneTilt(form, CuttingPlaneAngle, cone.CPHeight1, cone.BaseRad));
 }
 
-Outcome BuildTwoPlanes(FittingForm& form, CRightCone& cone) {
-    if (form.CheckAllPositive(8, 9, 11, 13)) {
+constexpr SketchPoint Apex = OnAxis(400);
+constexpr BoxEntry Boxes[] = {
+    {BaseDiameter, "Base diameter", "300", DiameterSize(Side::Below, 2)},
+    {CuttingPlaneAngle, "Cutting plane angle (degrees)", "25", TiltSize(1)},
+    {ApexHeight, "Apex height", "400", LinearSize(Side::Right, MiddleOf(2), Apex)},
+    {CuttingPlaneHeight, "Cutting plane height", "200", LinearSize(Side::Left, MiddleOf(2), OnAxis(200))}};
+constexpr LabelEntry Labels[] = {{BaseDiameter}, {ApexHeight}, {CuttingPlaneAngle}, {CuttingPlaneHeight}};
+constexpr auto Lines = cone::LinesToApex(Apex);
+
+}  // namespace plane_by_apex_height
+
+namespace two_planes {
+
+enum Box : int {
+    BaseDiameter = 8,
+    CuttingPlaneHeight1 = 9,
+    CuttingPlaneAngle2 = 10,
+    CuttingPlaneHeight2 = 11,
+    CuttingPlaneAngle1 = 12,
+    ApexHeight = 13
+};
+
+Outcome Build(FittingForm& form, CRightCone& cone) {
+    if (form.CheckAllPositive(BaseDiameter, CuttingPlaneHeight1, CuttingPlaneHeight2, ApexHeight)) {
         return Refused;
     }
-    cone.CPHeight1 = form.Value(9);
-    cone.CPHeight2 = form.Value(11);
-    cone.CPAngle1 = DegToRad(form.Value(12));
+    cone.CPHeight1 = form.Value(CuttingPlaneHeight1);
+    cone.CPHeight2 = form.Value(CuttingPlaneHeight2);
+    cone.CPAngle1 = DegToRad(form.Value(CuttingPlaneAngle1));
     // A positive entry tilts the lower plane the opposite way to the upper one.
-    cone.CPAngle2 = -DegToRad(form.Value(10));
-    if (SetWall(form, cone, 8, TypedConeAngle(form, 8, 13))) {
+    cone.CPAngle2 = -DegToRad(form.Value(CuttingPlaneAngle2));
+    if (SetWall(form, cone, BaseDiameter, TypedConeAngle(form, BaseDiameter, ApexHeight))) {
         return Refused;
     }
     const double H = MeanApexHeight(cone);
-    return RefusedIf(form.CheckLessThan(9, H) || form.CheckLessThan(11, H) ||
-                     CheckPlaneTilt(form, 12, cone.CPHeight1, cone.BaseRad) ||
-                     CheckPlaneTilt(form, 10, cone.CPHeight2, cone.BaseRad));
+    return RefusedIf(form.CheckLessThan(CuttingPlaneHeight1, H) ||
+                     form.CheckLessThan(CuttingPlaneHeight2, H) ||
+                     CheckPlaneTilt(form, CuttingPlaneAngle1, cone.CPHeight1, cone.BaseRad) ||
+                     CheckPlaneTilt(form, CuttingPlaneAngle2, cone.CPHeight2, cone.BaseRad));
 }
 
-/// Both tilts of an upper roof: neither plane may leave the cone through its base, nor pass by its apex.
-Outcome CheckUpperRoofTilts(FittingForm& form, const CRightCone& cone, double H) {
+constexpr SketchPoint Apex = OnAxis(600);
+constexpr BoxEntry Boxes[] = {
+    {BaseDiameter, "Base diameter", "400", LinearSize(Side::Below, BaseLeft, BaseRight)},
+    {CuttingPlaneHeight1, "Cutting plane height 1", "320", LinearSize(Side::Left, OnAxis(0), OnAxis(320))},
+    {CuttingPlaneAngle2, "Cutting plane angle 2 (degrees)", "15", TiltSize(2)},
+    {CuttingPlaneHeight2, "Cutting plane height 2", "80", LinearSize(Side::Left, OnAxis(0), OnAxis(80))},
+    {CuttingPlaneAngle1, "Cutting plane angle 1 (degrees)", "20", TiltSize(1)},
+    {ApexHeight, "Apex height", "600", LinearSize(Side::Right, OnAxis(0), Apex)}};
+constexpr LabelEntry Labels[] = {{BaseDiameter},       {ApexHeight},          {CuttingPlaneAngle1},
+                                 {CuttingPlaneAngle2}, {CuttingPlaneHeight1}, {CuttingPlaneHeight2}};
+constexpr SketchConstruction Lines[] = {ThinLine(SpotOf(1, Spot::MinX), Apex),
+                                        ThinLine(SpotOf(1, Spot::MaxX), Apex),
+                                        ThinLine(SpotOf(2, Spot::MinX), BaseLeft),
+                                        ThinLine(SpotOf(2, Spot::MaxX), BaseRight),
+                                        ThinLine(BaseLeft, BaseRight),
+                                        CentreLine(OnAxis(0), Apex)};
+
+}  // namespace two_planes
+
+namespace upper_roof {
+
+enum Box : int {
+    CuttingPlaneAngle1 = 14,
+    Offset = 15,
+    CuttingPlaneAngle2 = 16,
+    ApexHeight = 17,
+    CuttingPlaneHeight1 = 18,
+    BaseDiameter = 19
+};
+
+/// Both tilts: neither plane may leave the cone through its base, nor pass by its apex.
+Outcome CheckTilts(FittingForm& form, const CRightCone& cone, double H) {
     const double toApex = H - cone.CPHeight1;
-    if (form.CheckLessThan(14, TiltLimit(cone.CPHeight1, cone.BaseRad + cone.Offset))) {
+    if (form.CheckLessThan(CuttingPlaneAngle1, TiltLimit(cone.CPHeight1, cone.BaseRad + cone.Offset))) {
         return Refused;
     }
     const double farLimit = cone.Offset > 0 ? TiltLimit(toApex, cone.Offset) : 90;
-    if (form.CheckGreaterThan(14, -farLimit) ||
-        form.CheckLessThan(16, TiltLimit(cone.CPHeight1, cone.BaseRad - cone.Offset))) {
+    if (form.CheckGreaterThan(CuttingPlaneAngle1, -farLimit) ||
+        form.CheckLessThan(CuttingPlaneAngle2, TiltLimit(cone.CPHeight1, cone.BaseRad - cone.Offset))) {
         return Refused;
     }
     const double nearLimit = cone.Offset >= 0 ? 90 : TiltLimit(toApex, -cone.Offset);
-    return form.CheckGreaterThan(16, -nearLimit);
+    return form.CheckGreaterThan(CuttingPlaneAngle2, -nearLimit);
 }
 
-Outcome BuildUpperRoof(FittingForm& form, CRightCone& cone) {
-    if (form.CheckAllPositive(19, 18, 17)) {
+Outcome Build(FittingForm& form, CRightCone& cone) {
+    if (form.CheckAllPositive(BaseDiameter, CuttingPlaneHeight1, ApexHeight)) {
         return Refused;
     }
-    cone.CPHeight1 = form.Value(18);
-    cone.CPAngle3 = -DegToRad(form.Value(14));
-    cone.CPAngle1 = DegToRad(form.Value(16));
-    cone.Offset = form.Value(15);
-    if (SetWall(form, cone, 19, TypedConeAngle(form, 19, 17))) {
+    cone.CPHeight1 = form.Value(CuttingPlaneHeight1);
+    cone.CPAngle3 = -DegToRad(form.Value(CuttingPlaneAngle1));
+    cone.CPAngle1 = DegToRad(form.Value(CuttingPlaneAngle2));
+    cone.Offset = form.Value(Offset);
+    if (SetWall(form, cone, BaseDiameter, TypedConeAngle(form, BaseDiameter, ApexHeight))) {
         return Refused;
     }
     const double H = MeanApexHeight(cone);
-    if (form.CheckLessThan(18, H)) {
+    if (form.CheckLessThan(CuttingPlaneHeight1, H)) {
         return Refused;
     }
     // The ridge may touch the cone on the far side, where the radius at its height is rc.
     const double rc = ((H - cone.CPHeight1) * cone.BaseRad) / H;
-    if (form.CheckAtLeast(15, -rc) || form.CheckLessThan(15, rc) || CheckUpperRoofTilts(form, cone, H)) {
+    if (form.CheckAtLeast(Offset, -rc) || form.CheckLessThan(Offset, rc) || CheckTilts(form, cone, H)) {
         return Refused;
     }
     cone.ConeAngle = std::atan(cone.BaseRad / H);
     return Passed;
 }
 
-/// The upper limit, in degrees, of a lower plane's tilt: it must pass below the top edge, which on that side
-/// lies `run` away from the ridge.
+constexpr SketchPoint Apex = OnAxis(600);
+constexpr SketchPoint Ridge = AtXZ(15, 320);
+constexpr BoxEntry Boxes[] = {
+    {CuttingPlaneAngle1, "Cutting plane angle 1 (degrees)", "25", RoofTiltSize(Side::Left, Ridge, 1)},
+    {Offset, "Offset", "15", LinearSize(Side::Above, OnAxis(320), Ridge)},
+    {CuttingPlaneAngle2, "Cutting plane angle 2 (degrees)", "35", RoofTiltSize(Side::Right, Ridge, 1)},
+    {ApexHeight, "Apex height", "600", LinearSize(Side::Left, MiddleOf(2), Apex)},
+    {CuttingPlaneHeight1, "Cutting plane height 1", "320", LinearSize(Side::Right, MiddleOf(2, 15), Ridge)},
+    {BaseDiameter, "Base diameter", "400", DiameterSize(Side::Below, 2)}};
+constexpr LabelEntry Labels[] = {{BaseDiameter},       {ApexHeight},          {CuttingPlaneAngle1},
+                                 {CuttingPlaneAngle2}, {CuttingPlaneHeight1}, {Offset}};
+constexpr auto Lines = cone::LinesToApex(Apex);
+
+}  // namespace upper_roof
+
+namespace lower_roof {
+
+enum Box : int {
+    BaseDiameter = 20,
+    TopDiameter = 21,
+    CuttingPlaneHeight1 = 22,
+    CuttingPlaneHeight2 = 23,
+    Offset = 24,
+    CuttingPlaneAngle1 = 25,
+    CuttingPlaneAngle2 = 26
+};
+
+/// The upper limit, in degrees, of a plane's tilt: it must pass below the top edge, which on that side lies
+/// `run` away from the ridge and `rise` above it.
 double BelowTopLimit(double run, double rise) {
     return run <= 0 ? 90 : 90 - TiltLimit(run, rise);
 }
 
-Outcome BuildLowerRoof(FittingForm& form, CRightCone& cone) {
-    if (form.CheckAllPositive(20, 21, 22, 23)) {
+Outcome Build(FittingForm& form, CRightCone& cone) {
+    if (form.CheckAllPositive(BaseDiameter, TopDiameter, CuttingPlaneHeight1, CuttingPlaneHeight2)) {
         return Refused;
     }
-    cone.CPHeight1 = form.Value(22);
-    cone.CPHeight2 = form.Value(23);
-    cone.CPAngle3 = DegToRad(form.Value(25));
-    cone.CPAngle2 = -DegToRad(form.Value(26));
-    cone.Offset = form.Value(24);
-    if (form.CheckLessThan(21, form.Value(20))) {
+    cone.CPHeight1 = form.Value(CuttingPlaneHeight1);
+    cone.CPHeight2 = form.Value(CuttingPlaneHeight2);
+    cone.CPAngle3 = DegToRad(form.Value(CuttingPlaneAngle1));
+    cone.CPAngle2 = -DegToRad(form.Value(CuttingPlaneAngle2));
+    cone.Offset = form.Value(Offset);
+    if (form.CheckLessThan(TopDiameter, form.Value(BaseDiameter))) {
         return Refused;
     }
-    const double typedR = form.Value(20) / 2;
-    const double typedH = (form.Value(22) * typedR) / (typedR - form.Value(21) / 2);
-    if (SetWall(form, cone, 20, std::atan(typedR / typedH))) {
+    const double typedR = form.Value(BaseDiameter) / 2;
+    const double typedH = (form.Value(CuttingPlaneHeight1) * typedR) / (typedR - form.Value(TopDiameter) / 2);
+    if (SetWall(form, cone, BaseDiameter, std::atan(typedR / typedH))) {
         return Refused;
     }
     const double H = MeanApexHeight(cone);
-    if (form.CheckLessThan(22, H) || form.CheckLessThan(23, cone.CPHeight1)) {
+    if (form.CheckLessThan(CuttingPlaneHeight1, H) ||
+        form.CheckLessThan(CuttingPlaneHeight2, cone.CPHeight1)) {
         return Refused;
     }
-    const double r = MeanConeRadius(form, 21, cone.ConeAngle);
-    if (CheckConeWall(form, 21, r, cone.ConeAngle)) {
+    const double r = MeanConeRadius(form, TopDiameter, cone.ConeAngle);
+    if (CheckConeWall(form, TopDiameter, r, cone.ConeAngle)) {
         return Refused;
     }
     const double rc = ((H - cone.CPHeight2) * cone.BaseRad) / H;
-    if (form.CheckGreaterThan(24, -rc) || form.CheckLessThan(24, rc)) {
+    if (form.CheckGreaterThan(Offset, -rc) || form.CheckLessThan(Offset, rc)) {
         return Refused;
     }
     const double rise = cone.CPHeight1 - cone.CPHeight2;
     const double alongWall = -RadToDeg(QuarterTurn - cone.ConeAngle);
-    return RefusedIf(form.CheckLessThan(26, BelowTopLimit(r - cone.Offset, rise)) ||
-                     form.CheckGreaterThan(26, alongWall) ||
-                     form.CheckLessThan(25, BelowTopLimit(r + cone.Offset, rise)) ||
-                     form.CheckGreaterThan(25, alongWall));
+    return RefusedIf(form.CheckLessThan(CuttingPlaneAngle2, BelowTopLimit(r - cone.Offset, rise)) ||
+                     form.CheckGreaterThan(CuttingPlaneAngle2, alongWall) ||
+                     form.CheckLessThan(CuttingPlaneAngle1, BelowTopLimit(r + cone.Offset, rise)) ||
+                     form.CheckGreaterThan(CuttingPlaneAngle1, alongWall));
 }
+
+/// Seen level: from above, the near wall would hang over the ridge and its tilts.
+constexpr SketchView LevelView[] = {{.turn = 0, .tilt = 0}};
+constexpr SketchPoint Ridge = AtXZ(20, 120);
+constexpr BoxEntry Boxes[] = {
+    {BaseDiameter, "Base diameter", "400", LinearSize(Side::Below, BaseLeft, BaseRight)},
+    {TopDiameter, "Top diameter", "160", DiameterSize(Side::Above, 1)},
+    {CuttingPlaneHeight1, "Cutting plane height 1", "350", LinearSize(Side::Left, OnAxis(0), MiddleOf(1))},
+    {CuttingPlaneHeight2, "Cutting plane height 2", "120", LinearSize(Side::Right, AtXZ(20, 0), Ridge)},
+    {Offset, "Offset", "20", LinearSize(Side::Below, OnAxis(120), Ridge)},
+    {CuttingPlaneAngle1, "Cutting plane angle 1 (degrees)", "25", RoofTiltSize(Side::Left, Ridge, 2)},
+    {CuttingPlaneAngle2, "Cutting plane angle 2 (degrees)", "30", RoofTiltSize(Side::Right, Ridge, 2)}};
+constexpr LabelEntry Labels[] = {
+    {BaseDiameter},        {TopDiameter}, {CuttingPlaneAngle1}, {CuttingPlaneAngle2}, {CuttingPlaneHeight1},
+    {CuttingPlaneHeight2}, {Offset}};
+constexpr SketchConstruction Lines[] = {ThinLine(SpotOf(2, Spot::MinX), BaseLeft),
+                                        ThinLine(SpotOf(2, Spot::MaxX), BaseRight),
+                                        ThinLine(BaseLeft, BaseRight), CentreLine(OnAxis(0), MiddleOf(1))};
+
+}  // namespace lower_roof
 
 /// Breaks of a roof are measured from plan angle 0, so the seam of types 4 and 5 stands there.
 void HoldSeamOfRoofs(std::int16_t dtype, CPatternSettings& settings) {
@@ -169,112 +303,16 @@ Outcome Build(FittingForm& form, const FittingHandle& fitting) {
     HoldSeamOfRoofs(form.dtype, form.settings);
     auto& cone = fitting.As<CRightCone>();
     cone.CPAngle1 = cone.CPAngle2 = cone.CPAngle3 = cone.Offset = cone.CPHeight2 = 0;
-    return BuildByType<CRightCone, BuildPlaneByConeAngle, BuildPlaneByApexHeight, BuildTwoPlanes,
-                       BuildUpperRoof, BuildLowerRoof>(form, fitting);
+    return BuildByType<CRightCone, plane_by_cone_angle::Build, plane_by_apex_height::Build, two_planes::Build,
+                       upper_roof::Build, lower_roof::Build>(form, fitting);
 }
 
-// The top is List1, the bottom List2. Planes are measured on the axis, a roof at its ridge, and every tilt
-// against the level in the elevation.
-constexpr SketchPoint BaseLeft = AtXZ(-200, 0);
-constexpr SketchPoint BaseRight = AtXZ(200, 0);
-
-constexpr SketchPoint ConeAngleApex = OnAxis(321.6760380764337);  // 150 / tan 25 degrees
-constexpr std::array<BoxEntry, 4> ConeAngleBoxes = {
-    {{0, "Base diameter", "300", DiameterSize(Side::Below, 2)},
-     {1, "Cutting plane height", "150", LinearSize(Side::Left, MiddleOf(2), OnAxis(150))},
-     {2, "Cone angle (degrees, included)", "50",
-      AngleSize(Side::Left, ConeAngleApex, SpotOf(2, Spot::MinX), SpotOf(2, Spot::MaxX), 0.2)},
-     {3, "Cutting plane angle (degrees)", "20", TiltSize(1)}}};
-constexpr std::array<SketchConstruction, 3> ConeAngleLines = {{ThinLine(SpotOf(1, Spot::MinX), ConeAngleApex),
-                                                               ThinLine(SpotOf(1, Spot::MaxX), ConeAngleApex),
-                                                               CentreLine(OnAxis(0), ConeAngleApex)}};
-
-constexpr SketchPoint ApexHeightApex = OnAxis(400);
-constexpr std::array<BoxEntry, 4> ApexHeightBoxes = {
-    {{4, "Base diameter", "300", DiameterSize(Side::Below, 2)},
-     {5, "Cutting plane angle (degrees)", "25", TiltSize(1)},
-     {6, "Apex height", "400", LinearSize(Side::Right, MiddleOf(2), ApexHeightApex)},
-     {7, "Cutting plane height", "200", LinearSize(Side::Left, MiddleOf(2), OnAxis(200))}}};
-constexpr std::array<SketchConstruction, 3> ApexHeightLines = {
-    {ThinLine(SpotOf(1, Spot::MinX), ApexHeightApex), ThinLine(SpotOf(1, Spot::MaxX), ApexHeightApex),
-     CentreLine(OnAxis(0), ApexHeightApex)}};
-
-constexpr SketchPoint TwoPlaneApex = OnAxis(600);
-constexpr std::array<BoxEntry, 6> TwoPlaneBoxes = {
-    {{8, "Base diameter", "400", LinearSize(Side::Below, BaseLeft, BaseRight)},
-     {9, "Cutting plane height 1", "320", LinearSize(Side::Left, OnAxis(0), OnAxis(320))},
-     {10, "Cutting plane angle 2 (degrees)", "15", TiltSize(2)},
-     {11, "Cutting plane height 2", "80", LinearSize(Side::Left, OnAxis(0), OnAxis(80))},
-     {12, "Cutting plane angle 1 (degrees)", "20", TiltSize(1)},
-     {13, "Apex height", "600", LinearSize(Side::Right, OnAxis(0), TwoPlaneApex)}}};
-constexpr std::array<SketchConstruction, 6> TwoPlaneLines = {
-    {ThinLine(SpotOf(1, Spot::MinX), TwoPlaneApex), ThinLine(SpotOf(1, Spot::MaxX), TwoPlaneApex),
-     ThinLine(SpotOf(2, Spot::MinX), BaseLeft), ThinLine(SpotOf(2, Spot::MaxX), BaseRight),
-     ThinLine(BaseLeft, BaseRight), CentreLine(OnAxis(0), TwoPlaneApex)}};
-
-constexpr SketchPoint UpperRoofApex = OnAxis(600);
-constexpr SketchPoint UpperRidge = AtXZ(15, 320);
-constexpr std::array<BoxEntry, 6> UpperRoofBoxes = {
-    {{14, "Cutting plane angle 1 (degrees)", "25", RoofTiltSize(Side::Left, UpperRidge, 1)},
-     {15, "Offset", "15", LinearSize(Side::Above, OnAxis(320), UpperRidge)},
-     {16, "Cutting plane angle 2 (degrees)", "35", RoofTiltSize(Side::Right, UpperRidge, 1)},
-     {17, "Apex height", "600", LinearSize(Side::Left, MiddleOf(2), UpperRoofApex)},
-     {18, "Cutting plane height 1", "320", LinearSize(Side::Right, MiddleOf(2, 15), UpperRidge)},
-     {19, "Base diameter", "400", DiameterSize(Side::Below, 2)}}};
-constexpr std::array<SketchConstruction, 3> UpperRoofLines = {{ThinLine(SpotOf(1, Spot::MinX), UpperRoofApex),
-                                                               ThinLine(SpotOf(1, Spot::MaxX), UpperRoofApex),
-                                                               CentreLine(OnAxis(0), UpperRoofApex)}};
-
-// The lower roof is seen level: from above, the near wall would hang over the ridge and its tilts.
-constexpr std::array<SketchView, 1> LevelView = {{{.turn = 0, .tilt = 0}}};
-constexpr SketchPoint LowerRidge = AtXZ(20, 120);
-constexpr std::array<BoxEntry, 7> LowerRoofBoxes = {
-    {{20, "Base diameter", "400", LinearSize(Side::Below, BaseLeft, BaseRight)},
-     {21, "Top diameter", "160", DiameterSize(Side::Above, 1)},
-     {22, "Cutting plane height 1", "350", LinearSize(Side::Left, OnAxis(0), MiddleOf(1))},
-     {23, "Cutting plane height 2", "120", LinearSize(Side::Right, AtXZ(20, 0), LowerRidge)},
-     {24, "Offset", "20", LinearSize(Side::Below, OnAxis(120), LowerRidge)},
-     {25, "Cutting plane angle 1 (degrees)", "25", RoofTiltSize(Side::Left, LowerRidge, 2)},
-     {26, "Cutting plane angle 2 (degrees)", "30", RoofTiltSize(Side::Right, LowerRidge, 2)}}};
-constexpr std::array<SketchConstruction, 4> LowerRoofLines = {
-    {ThinLine(SpotOf(2, Spot::MinX), BaseLeft), ThinLine(SpotOf(2, Spot::MaxX), BaseRight),
-     ThinLine(BaseLeft, BaseRight), CentreLine(OnAxis(0), MiddleOf(1))}};
-
-// The two angle boxes stand the other way round here than in the sizes: files and drawings made so far have
-// it so.
-constexpr std::array<LabelEntry, 4> ConeAngleLabels = {{{"Base diameter = ", 0},
-                                                        {"Cone angle = ", 3},
-                                                        {"Cutting plane angle = ", 2},
-                                                        {"Cutting plane height = ", 1}}};
-constexpr std::array<LabelEntry, 4> ApexHeightLabels = {{{"Base diameter = ", 4},
-                                                         {"Apex height = ", 6},
-                                                         {"Cutting plane angle = ", 5},
-                                                         {"Cutting plane height = ", 7}}};
-constexpr std::array<LabelEntry, 6> TwoPlaneLabels = {{{"Base diameter = ", 8},
-                                                       {"Apex height = ", 13},
-                                                       {"Cutting plane angle 1 = ", 12},
-                                                       {"Cutting plane angle 2 = ", 10},
-                                                       {"Cutting plane height 1 = ", 9},
-                                                       {"Cutting plane height 2 = ", 11}}};
-constexpr std::array<LabelEntry, 6> UpperRoofLabels = {{{"Base diameter = ", 19},
-                                                        {"Apex height = ", 17},
-                                                        {"Cutting plane angle 1 = ", 14},
-                                                        {"Cutting plane angle 2 = ", 16},
-                                                        {"Cutting plane height 1 = ", 18},
-                                                        {"Offset = ", 15}}};
-constexpr std::array<LabelEntry, 7> LowerRoofLabels = {{{"Base diameter = ", 20},
-                                                        {"Top diameter = ", 21},
-                                                        {"Cutting plane angle 1 = ", 25},
-                                                        {"Cutting plane angle 2 = ", 26},
-                                                        {"Cutting plane height 1 = ", 22},
-                                                        {"Cutting plane height 2 = ", 23},
-                                                        {"Offset = ", 24}}};
-
-constexpr std::array<PageEntry, 5> Pages = {{{ConeAngleBoxes, ConeAngleLabels, FrontView, ConeAngleLines},
-                                             {ApexHeightBoxes, ApexHeightLabels, FrontView, ApexHeightLines},
-                                             {TwoPlaneBoxes, TwoPlaneLabels, FrontView, TwoPlaneLines},
-                                             {UpperRoofBoxes, UpperRoofLabels, FrontView, UpperRoofLines},
-                                             {LowerRoofBoxes, LowerRoofLabels, LevelView, LowerRoofLines}}};
+constexpr PageEntry Pages[] = {
+    {plane_by_cone_angle::Boxes, plane_by_cone_angle::Labels, FrontView, plane_by_cone_angle::Lines},
+    {plane_by_apex_height::Boxes, plane_by_apex_height::Labels, FrontView, plane_by_apex_height::Lines},
+    {two_planes::Boxes, two_planes::Labels, FrontView, two_planes::Lines},
+    {upper_roof::Boxes, upper_roof::Labels, FrontView, upper_roof::Lines},
+    {lower_roof::Boxes, lower_roof::Labels, lower_roof::LevelView, lower_roof::Lines}};
 
 }  // namespace
 

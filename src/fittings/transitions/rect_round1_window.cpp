@@ -1,54 +1,72 @@
 // Rectangle to Round: a sharp rectangle below a circle.
-#include <array>
-
-#include "fittings/transitions/transition_window.h"
+#include "fittings/transitions/rectangle_base_form.h"
 
 namespace korvet {
 namespace {
 
-constexpr TiltBoxes Tilts = {10, 11};
-
 /// The base as its corners are bent: each length of the mean line loses one thickness more.
-TransitionSection BaseOf(const FittingForm& form, LengthBoxes lengths) {
-    TransitionSection base = RectangleOf(form, lengths, 0);
+transition::Section BaseOf(const FittingForm& form, transition::LengthBoxes lengths) {
+    transition::Section base = transition::RectangleOf(form, lengths, 0);
     base.lengthX -= form.settings.Thickness;
     base.lengthY -= form.settings.Thickness;
     return base;
 }
 
-Outcome BuildCentred(FittingForm& form, CTransition& transition) {
+namespace centred {
+
+enum Box : int { Diameter = 0 };
+using namespace transition::centred;
+
+Outcome Build(FittingForm& form, CTransition& fitting) {
     const double t = form.settings.Thickness;
-    if (form.CheckAllPositive(0, 1, 2) || form.CheckBoxRoomForThickness(1, t) ||
-        form.CheckBoxRoomForThickness(2, t) || form.CheckNotEqual(3, 0)) {
+    if (form.CheckAllPositive(Diameter, RectangleLengthX, RectangleLengthY) ||
+        form.CheckBoxRoomForThickness(RectangleLengthX, t) ||
+        form.CheckBoxRoomForThickness(RectangleLengthY, t) || form.CheckNotEqual(Height, 0)) {
         return Refused;
     }
-    SetSections(transition, EllipseOf(form, {0, 0}), BaseOf(form, {1, 2}), form.Value(3));
+    transition::SetSections(fitting, transition::EllipseOf(form, {Diameter, Diameter}),
+                            BaseOf(form, Rectangle), form.Value(Height));
     return Passed;
 }
+
+constexpr auto Boxes = Joined(transition::CentredDiameter(Diameter), RectangleEntries);
+constexpr auto Labels = Joined(LabelEntry{Diameter}, RectangleLabels);
+
+}  // namespace centred
+
+namespace placed {
+
+enum Box : int { Diameter = 4, TopAngle = 10, BaseAngle = 11 };
+using namespace transition::placed;
+
+constexpr transition::TiltBoxes Tilts = {TopAngle, BaseAngle};
 
 /// The sizes are asked for twice, the second time with another message; the first one always speaks.
-Outcome BuildPlaced(FittingForm& form, CTransition& transition) {
-    if (form.CheckAllPositive(4, 5, 6) || form.CheckNotEqual(9, 0) || CheckTilts(form, Tilts) ||
-        form.CheckGreaterThan(4, 0) || form.CheckGreaterThan(5, 0) || form.CheckGreaterThan(6, 0) ||
-        form.CheckNotEqual(9, 0)) {
+Outcome Build(FittingForm& form, CTransition& fitting) {
+    if (form.CheckAllPositive(Diameter, RectangleLengthX, RectangleLengthY) ||
+        form.CheckNotEqual(Height, 0) || transition::CheckTilts(form, Tilts) ||
+        form.CheckGreaterThan(Diameter, 0) || form.CheckGreaterThan(RectangleLengthX, 0) ||
+        form.CheckGreaterThan(RectangleLengthY, 0) || form.CheckNotEqual(Height, 0)) {
         return Refused;
     }
-    SetSections(transition, EllipseOf(form, {4, 4}), BaseOf(form, {5, 6}), form.Value(9));
-    PlaceTop(form, transition, {7, 8}, Tilts);
+    transition::SetSections(fitting, transition::EllipseOf(form, {Diameter, Diameter}),
+                            BaseOf(form, Rectangle), form.Value(Height));
+    transition::PlaceTop(form, fitting, Offsets, Tilts);
     return Passed;
 }
 
-constexpr auto CentredBoxes = Joined(CentredDiameter, CentredRectangle);
-constexpr auto PlacedBoxes =
-    Joined(PlacedDiameter, PlacedRectangle(100, "50", 50), TiltEntries(Tilts, "20", 100));
-constexpr auto CentredLabels = Joined(LabelEntry{"Diameter = ", 0}, CentredRectangleLabels);
-constexpr auto PlacedLabels = Joined(LabelEntry{"Diameter = ", 4}, PlacedRectangleLabels);
+constexpr auto Boxes = Joined(transition::PlacedDiameter(Diameter), RectangleEntries(100, "50", 50),
+                              TiltEntries(Tilts, "20", 100));
+constexpr auto Labels = Joined(LabelEntry{Diameter}, RectangleLabels);
+
+}  // namespace placed
 
 constexpr auto Pages =
-    TransitionPages({CentredBoxes, CentredLabels}, {PlacedBoxes, PlacedLabels, {}, PlacedAxes<60, 60>}, true);
+    transition::Pages({centred::Boxes, centred::Labels},
+                      {placed::Boxes, placed::Labels, {}, transition::PlacedAxes<60, 60>}, true);
 
 }  // namespace
 
-const WindowTable frmRectRound1 = TransitionTable<BuildCentred, BuildPlaced>(Pages);
+const WindowTable frmRectRound1 = transition::Table<centred::Build, placed::Build>(Pages);
 
 }  // namespace korvet

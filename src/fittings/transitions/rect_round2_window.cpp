@@ -1,49 +1,68 @@
 // Rectangle (Radius) to Round: a rectangle with round corners below a circle.
-#include <array>
-
 #include "fittings/mean_sizes.h"
-#include "fittings/transitions/transition_window.h"
+#include "fittings/transitions/rectangle_base_form.h"
 
 namespace korvet {
 namespace {
 
-constexpr TiltBoxes Tilts = {12, 13};
+namespace centred {
 
-Outcome BuildCentred(FittingForm& form, CTransition& transition) {
+enum Box : int { Diameter = 0 };
+using namespace transition::centred;
+
+Outcome Build(FittingForm& form, CTransition& fitting) {
     const double t = form.settings.Thickness;
-    if (form.CheckAllPositive(0, 1, 2) || form.CheckBoxRoomForThickness(10, t / 2) ||
-        CheckRadiusFits(form, 10, {1, 2}) || form.CheckBoxRoomForThickness(1, t) ||
-        form.CheckBoxRoomForThickness(2, t) || form.CheckNotEqual(3, 0)) {
+    if (form.CheckAllPositive(Diameter, RectangleLengthX, RectangleLengthY) ||
+        form.CheckBoxRoomForThickness(CornerRadius, t / 2) ||
+        transition::CheckRadiusFits(form, CornerRadius, Rectangle) ||
+        form.CheckBoxRoomForThickness(RectangleLengthX, t) ||
+        form.CheckBoxRoomForThickness(RectangleLengthY, t) || form.CheckNotEqual(Height, 0)) {
         return Refused;
     }
-    SetSections(transition, EllipseOf(form, {0, 0}), RectangleOf(form, {1, 2}, MeanRadius(form, 10)),
-                form.Value(3));
+    transition::SetSections(fitting, transition::EllipseOf(form, {Diameter, Diameter}),
+                            transition::RectangleOf(form, Rectangle, MeanRadius(form, CornerRadius)),
+                            form.Value(Height));
     return Passed;
 }
 
-Outcome BuildPlaced(FittingForm& form, CTransition& transition) {
-    if (form.CheckAllPositive(4, 5, 6) || CheckTilts(form, Tilts) || form.CheckNotEqual(9, 0) ||
-        form.CheckBoxRoomForThickness(11, form.settings.Thickness / 2) || CheckRadiusFits(form, 11, {5, 6})) {
+constexpr auto Boxes = Joined(transition::CentredDiameter(Diameter), RectangleEntries, CornerEntry);
+constexpr auto Labels = Joined(LabelEntry{Diameter}, RectangleLabels, CornerLabel);
+
+}  // namespace centred
+
+namespace placed {
+
+enum Box : int { Diameter = 4, TopAngle = 12, BaseAngle = 13 };
+using namespace transition::placed;
+
+constexpr transition::TiltBoxes Tilts = {TopAngle, BaseAngle};
+
+Outcome Build(FittingForm& form, CTransition& fitting) {
+    if (form.CheckAllPositive(Diameter, RectangleLengthX, RectangleLengthY) ||
+        transition::CheckTilts(form, Tilts) || form.CheckNotEqual(Height, 0) ||
+        form.CheckBoxRoomForThickness(CornerRadius, form.settings.Thickness / 2) ||
+        transition::CheckRadiusFits(form, CornerRadius, Rectangle)) {
         return Refused;
     }
-    SetSections(transition, EllipseOf(form, {4, 4}), RectangleOf(form, {5, 6}, MeanRadius(form, 11)),
-                form.Value(9));
-    PlaceTop(form, transition, {7, 8}, Tilts);
+    transition::SetSections(fitting, transition::EllipseOf(form, {Diameter, Diameter}),
+                            transition::RectangleOf(form, Rectangle, MeanRadius(form, CornerRadius)),
+                            form.Value(Height));
+    transition::PlaceTop(form, fitting, Offsets, Tilts);
     return Passed;
 }
 
-constexpr auto CentredBoxes = Joined(CentredDiameter, CentredRectangle, CentredCorner);
-constexpr auto PlacedBoxes =
-    Joined(PlacedDiameter, PlacedRectangle(50, "50", 50), PlacedCorner, TiltEntries(Tilts, "20", 50));
-constexpr auto CentredLabels =
-    Joined(LabelEntry{"Diameter = ", 0}, CentredRectangleLabels, CentredCornerLabel);
-constexpr auto PlacedLabels = Joined(LabelEntry{"Diameter = ", 4}, PlacedRectangleLabels, PlacedCornerLabel);
+constexpr auto Boxes = Joined(transition::PlacedDiameter(Diameter), RectangleEntries(50, "50", 50),
+                              CornerEntry, TiltEntries(Tilts, "20", 50));
+constexpr auto Labels = Joined(LabelEntry{Diameter}, RectangleLabels, CornerLabel);
+
+}  // namespace placed
 
 constexpr auto Pages =
-    TransitionPages({CentredBoxes, CentredLabels}, {PlacedBoxes, PlacedLabels, {}, PlacedAxes<60, 60>}, true);
+    transition::Pages({centred::Boxes, centred::Labels},
+                      {placed::Boxes, placed::Labels, {}, transition::PlacedAxes<60, 60>}, true);
 
 }  // namespace
 
-const WindowTable frmRectRound2 = TransitionTable<BuildCentred, BuildPlaced>(Pages);
+const WindowTable frmRectRound2 = transition::Table<centred::Build, placed::Build>(Pages);
 
 }  // namespace korvet

@@ -1,17 +1,24 @@
 // Rectangle to Rectangle (folded): two rectangles with round corners, for folding.
 #include <algorithm>
-#include <array>
 
 #include "fittings/mean_sizes.h"
-#include "fittings/transitions/transition_window.h"
+#include "fittings/transitions/transition_sketch.h"
 
 namespace korvet {
 namespace {
 
 /// The boxes of one rectangle.
-struct FoldedBoxes {
-    LengthBoxes lengths;
+struct RectangleBoxes {
+    transition::LengthBoxes lengths;
     int radius;
+};
+
+/// The boxes of both ends of a page.
+struct EndBoxes {
+    RectangleBoxes top;
+    RectangleBoxes base;
+    int height;
+    std::array<int, 4> byThickness;  ///< the lengths in the order in which they are held against it
 };
 
 /// Room for the material in lengths as typed, in the order given.
@@ -22,79 +29,118 @@ Outcome CheckLengths(FittingForm& form, const std::array<int, 4>& boxes) {
 }
 
 /// The radius of a rectangle: half of the thickness at least, and half of each mean length at most.
-Outcome CheckCorner(FittingForm& form, const FoldedBoxes& boxes) {
+Outcome CheckCorner(FittingForm& form, const RectangleBoxes& boxes) {
     return RefusedIf(form.CheckAtLeast(boxes.radius, form.settings.Thickness / 2) ||
-                     CheckRadiusFits(form, boxes.radius, MeanLength(form, boxes.lengths.x),
-                                     MeanLength(form, boxes.lengths.y)));
+                     transition::CheckRadiusFits(form, boxes.radius, MeanLength(form, boxes.lengths.x),
+                                                 MeanLength(form, boxes.lengths.y)));
 }
 
-TransitionSection SectionOf(const FittingForm& form, const FoldedBoxes& boxes) {
-    return RectangleOf(form, boxes.lengths, MeanRadius(form, boxes.radius));
+transition::Section SectionOf(const FittingForm& form, const RectangleBoxes& boxes) {
+    return transition::RectangleOf(form, boxes.lengths, MeanRadius(form, boxes.radius));
 }
 
-/// The boxes of one page.
-struct FoldedPage {
-    FoldedBoxes top;
-    FoldedBoxes base;
-    int height;
-    std::array<int, 4> byThickness;  ///< the lengths in the order in which they are held against it
+Outcome BuildEnds(FittingForm& form, const EndBoxes& boxes, CTransition& fitting) {
+    const transition::LengthBoxes& top = boxes.top.lengths;
+    const transition::LengthBoxes& base = boxes.base.lengths;
+    if (form.CheckAllPositive(top.x, top.y, base.x, base.y) || form.CheckNotEqual(boxes.height, 0) ||
+        CheckLengths(form, boxes.byThickness) || CheckCorner(form, boxes.base) ||
+        CheckCorner(form, boxes.top)) {
+        return Refused;
+    }
+    transition::SetSections(fitting, SectionOf(form, boxes.top), SectionOf(form, boxes.base),
+                            form.Value(boxes.height));
+    return Passed;
+}
+
+namespace centred {
+
+enum Box : int {
+    TopLengthX = 0,
+    TopLengthY = 1,
+    BaseLengthY = 2,
+    Height = 3,
+    BaseLengthX = 4,
+    BaseRadius = 10,
+    TopRadius = 13
 };
 
-constexpr FoldedPage Centred = {{{0, 1}, 13}, {{4, 2}, 10}, 3, {0, 1, 4, 2}};
-constexpr FoldedPage Placed = {{{6, 5}, 15}, {{7, 8}, 11}, 9, {5, 6, 7, 8}};
+Outcome Build(FittingForm& form, CTransition& fitting) {
+    return BuildEnds(form,
+                     {{{TopLengthX, TopLengthY}, TopRadius},
+                      {{BaseLengthX, BaseLengthY}, BaseRadius},
+                      Height,
+                      {TopLengthX, TopLengthY, BaseLengthX, BaseLengthY}},
+                     fitting);
+}
 
-template <FoldedPage Page>
-Outcome BuildFolded(FittingForm& form, CTransition& transition) {
-    const LengthBoxes& top = Page.top.lengths;
-    const LengthBoxes& base = Page.base.lengths;
-    if (form.CheckAllPositive(top.x, top.y, base.x, base.y) || form.CheckNotEqual(Page.height, 0) ||
-        CheckLengths(form, Page.byThickness) || CheckCorner(form, Page.base) || CheckCorner(form, Page.top)) {
+constexpr BoxEntry Boxes[] = {
+    {TopLengthX, "Top length X", "180", transition::LengthXSize(Side::Above, 180, 60, 250)},
+    {TopLengthY, "Top length Y", "120", transition::LengthYSize(Side::Right, 120, 90, 250)},
+    {BaseLengthX, "Base length X", "300", transition::LengthXSize(Side::Below, 300, -100, 0)},
+    {BaseLengthY, "Base length Y", "200", transition::LengthYSize(Side::Left, 200, -150, 0), "00"},
+    {Height, "Height", "250", transition::HeightSize(Side::Right)},
+    {TopRadius, "Top radius", "30", transition::CornerSize(Side::Above, -60, 30, 30, 250)},
+    {BaseRadius, "Base radius", "50", transition::CornerSize(Side::Right, 100, 50, 50)}};
+constexpr auto Labels =
+    Joined(LabelEntry{TopLengthX}, LabelEntry{TopLengthY}, LabelEntry{BaseLengthX}, LabelEntry{BaseLengthY},
+           transition::NoOffsetLabels, LabelEntry{Height}, LabelEntry{TopRadius, "Top Radius = "},
+           LabelEntry{BaseRadius, "Base Radius = "});
+
+}  // namespace centred
+
+namespace placed {
+
+enum Box : int {
+    TopLengthY = 5,
+    TopLengthX = 6,
+    BaseLengthX = 7,
+    BaseLengthY = 8,
+    Height = 9,
+    BaseRadius = 11,
+    OffsetX = 12,
+    OffsetY = 14,
+    TopRadius = 15
+};
+
+Outcome Build(FittingForm& form, CTransition& fitting) {
+    if (BuildEnds(form,
+                  {{{TopLengthX, TopLengthY}, TopRadius},
+                   {{BaseLengthX, BaseLengthY}, BaseRadius},
+                   Height,
+                   {TopLengthY, TopLengthX, BaseLengthX, BaseLengthY}},
+                  fitting)) {
         return Refused;
     }
-    SetSections(transition, SectionOf(form, Page.top), SectionOf(form, Page.base), form.Value(Page.height));
+    transition::SetOffsets(form, fitting, {OffsetX, OffsetY});
+    transition::RefuseSkewHalf(form, fitting);
     return Passed;
 }
 
-Outcome BuildPlaced(FittingForm& form, CTransition& transition) {
-    if (BuildFolded<Placed>(form, transition)) {
-        return Refused;
-    }
-    SetOffsets(form, transition, {12, 14});
-    RefuseSkewHalf(form, transition);
-    return Passed;
-}
+constexpr BoxEntry Boxes[] = {
+    {TopLengthX, "Top length X", "180",
+     LinearSize(Side::Above, transition::TopAt(-90, 60), transition::TopAt(90, 60), transition::Elevation)},
+    {TopLengthY, "Top length Y", "120",
+     LinearSize(Side::Right, transition::TopAt(90, -60), transition::TopAt(90, 60), transition::Plan)},
+    {BaseLengthX, "Base length X", "300", transition::LengthXSize(Side::Below, 300, -100, 0)},
+    {BaseLengthY, "Base length Y", "200", transition::LengthYSize(Side::Left, 200, -150, 0)},
+    {OffsetX, "Offset X", "40", transition::OffsetXSize(Side::Above, 40)},
+    {OffsetY, "Offset Y", "20", transition::OffsetYSize(Side::Right, -20)},
+    {Height, "Height", "250", transition::HeightSize(Side::Right, 40, -20)},
+    {TopRadius, "Top radius", "30",
+     RadiusSize(Side::Above, transition::PointAt(-38, 34, 250), transition::PointAt(-20, 10, 250),
+                transition::Plan)},
+    {BaseRadius, "Base radius", "50", transition::CornerSize(Side::Right, 100, 50, 50)}};
+constexpr LabelEntry Labels[] = {{TopLengthX}, {TopLengthY}, {BaseLengthX}, {BaseLengthY}, {OffsetX},
+                                 {OffsetY},    {Height},     {TopRadius},   {BaseRadius}};
 
-constexpr std::array<BoxEntry, 7> CentredBoxes = {
-    {{0, "Top length X", "180", LengthXSize(Side::Above, 180, 60, 250)},
-     {1, "Top length Y", "120", LengthYSize(Side::Right, 120, 90, 250)},
-     {4, "Base length X", "300", LengthXSize(Side::Below, 300, -100, 0)},
-     {2, "Base length Y", "200", LengthYSize(Side::Left, 200, -150, 0), "00"},
-     {3, "Height", "250", HeightSize(Side::Right)},
-     {13, "Top radius", "30", CornerSize(Side::Above, -60, 30, 30, 250)},
-     {10, "Base radius", "50", CornerSize(Side::Right, 100, 50, 50)}}};
-constexpr std::array<BoxEntry, 9> PlacedBoxes = {
-    {{6, "Top length X", "180", LinearSize(Side::Above, TopAt(-90, 60), TopAt(90, 60), Elevation)},
-     {5, "Top length Y", "120", LinearSize(Side::Right, TopAt(90, -60), TopAt(90, 60), Plan)},
-     {7, "Base length X", "300", LengthXSize(Side::Below, 300, -100, 0)},
-     {8, "Base length Y", "200", LengthYSize(Side::Left, 200, -150, 0)},
-     {12, "Offset X", "40", OffsetXSize(Side::Above, 40)},
-     {14, "Offset Y", "20", OffsetYSize(Side::Right, -20)},
-     {9, "Height", "250", HeightSize(Side::Right, 40, -20)},
-     {15, "Top radius", "30", RadiusSize(Side::Above, PointAt(-38, 34, 250), PointAt(-20, 10, 250), Plan)},
-     {11, "Base radius", "50", CornerSize(Side::Right, 100, 50, 50)}}};
+}  // namespace placed
 
-constexpr auto CentredLabels =
-    Joined(LengthLabels(Centred.top.lengths, Centred.base.lengths), NoOffsetLabels,
-           std::array<LabelEntry, 3>{{{"Height = ", 3}, {"Top Radius = ", 13}, {"Base Radius = ", 10}}});
-constexpr auto PlacedLabels =
-    Joined(LengthLabels(Placed.top.lengths, Placed.base.lengths), OffsetLabels({12, 14}),
-           std::array<LabelEntry, 3>{{{"Height = ", 9}, {"Top radius = ", 15}, {"Base radius = ", 11}}});
-
-constexpr auto Pages = TransitionPages({CentredBoxes, CentredLabels},
-                                       {PlacedBoxes, PlacedLabels, {}, PlacedAxes<90, 60>}, false);
+constexpr auto Pages =
+    transition::Pages({centred::Boxes, centred::Labels},
+                      {placed::Boxes, placed::Labels, {}, transition::PlacedAxes<90, 60>}, false);
 
 }  // namespace
 
-const WindowTable frmRectToRectRad = TransitionTable<BuildFolded<Centred>, BuildPlaced>(Pages);
+const WindowTable frmRectToRectRad = transition::Table<centred::Build, placed::Build>(Pages);
 
 }  // namespace korvet

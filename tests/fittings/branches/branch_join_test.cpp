@@ -10,12 +10,12 @@
 #include "core/constants.h"
 #include "core/math_module.h"
 
-namespace korvet {
+namespace korvet::branch {
 namespace {
 
 struct JoinCase {
     BranchJoin join;
-    BranchWalls walls;
+    Walls walls;
     CutRadii branch;
     CutRadii hole;
 };
@@ -29,10 +29,10 @@ class JoinRadii : public testing::TestWithParam<JoinCase> {};
 
 TEST_P(JoinRadii, FollowFromTheJoin) {
     const JoinCase& example = GetParam();
-    const CutRadii branch = BranchCutRadii(example.join, example.walls);
+    const CutRadii branch = EdgeRadii(example.join, example.walls);
     EXPECT_DOUBLE_EQ(branch.pipeA, example.branch.pipeA);
     EXPECT_DOUBLE_EQ(branch.pipeB, example.branch.pipeB);
-    const CutRadii hole = TrunkHoleRadii(example.join, example.walls);
+    const CutRadii hole = HoleRadii(example.join, example.walls);
     EXPECT_DOUBLE_EQ(hole.pipeA, example.hole.pipeA);
     EXPECT_DOUBLE_EQ(hole.pipeB, example.hole.pipeB);
 }
@@ -54,18 +54,18 @@ INSTANTIATE_TEST_SUITE_P(
                     JoinCase{SetInJoin, {60, 90, 0, 0}, {60, 90}, {60, 90}},
                     JoinCase{SetOnJoin, {60, 90, 0, 0}, {60, 90}, {60, 90}}));
 
-TEST(BranchMeetsTrunk, UpToTheEdgeOfTheTrunk) {
-    EXPECT_TRUE(BranchMeetsTrunk({50, 80}, 30));
-    EXPECT_TRUE(BranchMeetsTrunk({50, 80}, -30));
-    EXPECT_TRUE(BranchMeetsTrunk({80, 80}, 0));
-    EXPECT_FALSE(BranchMeetsTrunk({50, 80}, 30.001));
-    EXPECT_FALSE(BranchMeetsTrunk({50, 80}, -30.001));
-    EXPECT_FALSE(BranchMeetsTrunk({80.001, 80}, 0));
+TEST(MeetsTrunk, UpToTheEdgeOfTheTrunk) {
+    EXPECT_TRUE(MeetsTrunk({50, 80}, 30));
+    EXPECT_TRUE(MeetsTrunk({50, 80}, -30));
+    EXPECT_TRUE(MeetsTrunk({80, 80}, 0));
+    EXPECT_FALSE(MeetsTrunk({50, 80}, 30.001));
+    EXPECT_FALSE(MeetsTrunk({50, 80}, -30.001));
+    EXPECT_FALSE(MeetsTrunk({80.001, 80}, 0));
 }
 
-TEST(BranchMeetsTrunk, APipeWithoutARadiusIsAnError) {
-    EXPECT_THROW((void)BranchMeetsTrunk({0, 80}, 0), ArithmeticError);
-    EXPECT_THROW((void)BranchMeetsTrunk({-2, 80}, 0), ArithmeticError);
+TEST(MeetsTrunk, APipeWithoutARadiusIsAnError) {
+    EXPECT_THROW((void)MeetsTrunk({0, 80}, 0), ArithmeticError);
+    EXPECT_THROW((void)MeetsTrunk({-2, 80}, 0), ArithmeticError);
 }
 
 TEST(HeelCompensation, IsTheAngleUnderWhichTheWallStandsOffTheTrunk) {
@@ -106,4 +106,4 @@ TEST(JointAngle, ThatIsUsedUpIsAnError) {
 }
 
 }  // namespace
-}  // namespace korvet
+}  // namespace korvet::branch

@@ -143,8 +143,7 @@ TEST_F(JoinWindowTest, HalfPatternsNeedCrossingAxes) {
     ASSERT_EQ(shell.ui.Texts(), std::vector<std::string>{NoHalf});
     EXPECT_EQ(shell.ui.messages[0].title, "User Error");
     EXPECT_FALSE(window->settings.HalfPattern);
-    // The text block was there before; the next build tells the whole pattern.
-    EXPECT_EQ(window->labels->Last().LabelString, "Branch  Half pattern  21 Nov 2026");
+    EXPECT_EQ(window->labels->Last().LabelString, "Branch  Full pattern  21 Nov 2026");
     ASSERT_EQ(window->BuildFitting(), Passed);
     EXPECT_EQ(window->labels->Last().LabelString, "Branch  Full pattern  21 Nov 2026");
     EXPECT_EQ(shell.ui.messages.size(), 1U);

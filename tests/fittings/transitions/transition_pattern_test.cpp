@@ -157,6 +157,24 @@ double TriangleArea(const C3DPoint& p, const C3DPoint& q, const C3DPoint& r) {
     return std::hypot(uy * vz - uz * vy, uz * vx - ux * vz, ux * vy - uy * vx) / 2;
 }
 
+TEST(TransitionPattern, OfAPointOrAnEdgeAtOneEndKeepsItsArea) {
+    // A pyramid of 200 by 120 and 80 high: triangles of slant height 100 over 200 and 128.0625 over 120.
+    const double pyramid = 200 * 100 + 120 * std::hypot(80, 100);
+    const CTransition toPoint =
+        Developed(TransitionOf(RectangleSection(0, 0), RectangleSection(200, 120), 80));
+    EXPECT_NEAR(PatternArea(toPoint), pyramid, 1e-6);
+    const CTransition fromPoint =
+        Developed(TransitionOf(RectangleSection(200, 120), RectangleSection(0, 0), 80));
+    EXPECT_NEAR(PatternArea(fromPoint), pyramid, 1e-6);
+    // A wedge with an edge of 200: two sides of slant height 100, and two triangles of height 80.
+    const CTransition wedge =
+        Developed(TransitionOf(RectangleSection(200, 0), RectangleSection(200, 120), 80));
+    EXPECT_NEAR(PatternArea(wedge), 2 * 200 * 100 + 120 * 80, 1e-6);
+    // A round point over it, developed in fans: the same pyramid.
+    const CTransition fan = Developed(TransitionOf(CircleSection(0), RectangleSection(200, 120), 80));
+    EXPECT_NEAR(PatternArea(fan), pyramid, 1e-6);
+}
+
 TEST(TransitionPattern, FlatSidedShapesKeepTheirArea) {
     // A pyramid cut off: four trapezoids of slant height sqrt(120^2 + 50^2) = 130.
     const CTransition pyramid =

@@ -3,8 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "core/checked.h"
-#include "fittings/transitions/transition_window.h"
+#include "fittings/transitions/transition_form.h"
 #include "tests/fittings/transitions/transition_window_fixture.h"
+#include "window/views.h"
 
 namespace korvet {
 namespace {
@@ -18,7 +19,7 @@ std::string AtLeast(const std::string& limit) {
     return "This dimension must be equal to or greater than " + limit;
 }
 
-/// A box of sizes that pass every check, of which the plate of 6 leaves nothing.
+/// Sizes that pass every check, of which a plate of 6 leaves nothing, or less.
 struct TooThick {
     std::string category;
     int type;
@@ -33,12 +34,17 @@ void PrintTo(const TooThick& example, std::ostream* out) {
 
 class TransitionThickness : public testing::TestWithParam<TooThick> {};
 
-TEST_P(TransitionThickness, ThatLeavesNothingOfASizeEndsTheBuild) {
-    TestShell shell;
-    const auto window = shell.OpenSample(GetParam().category, GetParam().type);
+std::unique_ptr<CFittingWindow> OpenWithPlate(TestShell& shell, const TooThick& example) {
+    auto window = shell.OpenSample(example.category, example.type);
     window->settings.Thickness = 6;
-    window->settings.InOutMean = GetParam().side;
-    TypeBoxes(*window, GetParam().boxes);
+    window->settings.InOutMean = example.side;
+    TypeBoxes(*window, example.boxes);
+    return window;
+}
+
+TEST_P(TransitionThickness, ThatTakesMoreThanThereIsEndsTheBuild) {
+    TestShell shell;
+    const auto window = OpenWithPlate(shell, GetParam());
     window->ClickView(0);
     EXPECT_FALSE(window->hasModel);
     ASSERT_EQ(shell.ui.messages.size(), 1U);
@@ -51,31 +57,52 @@ TEST_P(TransitionThickness, ThatLeavesNothingOfASizeEndsTheBuild) {
 // speaks before the base, X before Y.
 INSTANTIATE_TEST_SUITE_P(
     Sizes, TransitionThickness,
-    testing::Values(TooThick{RectRound1, 1, {{0, "6"}, {1, "6"}}, "diameter of the top"},
-                    TooThick{RectRound1, 2, {{4, "1"}, {5, "12"}}, "diameter of the top"},
-                    TooThick{RectRound1, 1, {{1, "12"}, {2, "12"}}, "length X of the base"},
-                    TooThick{RectRound1, 1, {{2, "12"}}, "length Y of the base"},
-                    TooThick{RectRound1, 1, {{1, "6"}}, "length X of the base", MeanDimension},
+    testing::Values(TooThick{RectRound1, 1, {{0, "5.9"}, {1, "6"}}, "diameter of the top"},
+                    TooThick{RectRound1, 2, {{4, "1"}, {5, "11"}}, "diameter of the top"},
+                    TooThick{RectRound1, 1, {{1, "11.9"}, {2, "11"}}, "length X of the base"},
+                    TooThick{RectRound1, 1, {{2, "11.9"}}, "length Y of the base"},
                     TooThick{RectRound1, 2, {{5, "1"}}, "length X of the base", MeanDimension},
                     TooThick{RectRound1, 2, {{6, "11.9"}}, "length Y of the base"},
                     TooThick{RectRound2, 1, {{0, "5.9"}}, "diameter of the top"},
-                    TooThick{RectRound2, 2, {{4, "6"}}, "diameter of the top"},
+                    TooThick{RectRound2, 2, {{4, "5.9"}}, "diameter of the top"},
+                    TooThick{RectEllipse, 1, {{0, "5.9"}, {12, "5"}}, "length X of the top"},
+                    TooThick{RectEllipse, 1, {{12, "5"}}, "length Y of the top"},
+                    TooThick{RectEllipse, 2, {{4, "5.9"}}, "length X of the top"},
+                    TooThick{RectEllipse, 2, {{13, "5.9"}}, "length Y of the top"}));
+
+class TransitionKnifeEdges : public testing::TestWithParam<TooThick> {};
+
+TEST_P(TransitionKnifeEdges, AreMadeWhenTheMaterialUsesUpASizeExactly) {
+    TestShell shell;
+    const auto window = OpenWithPlate(shell, GetParam());
+    window->ClickView(PatternButton);
+    EXPECT_TRUE(window->hasModel);
+    EXPECT_TRUE(shell.ui.messages.empty());
+    EXPECT_GT(window->fitting->Results().PatternSurface.List1->Count(), 1U);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Sizes, TransitionKnifeEdges,
+    testing::Values(TooThick{RectRound1, 1, {{0, "6"}}, "diameter of the top"},
+                    TooThick{RectRound1, 1, {{1, "12"}}, "length X of the base"},
+                    TooThick{RectRound1, 1, {{1, "12"}, {2, "12"}}, "both lengths of the base"},
+                    TooThick{RectRound1, 1, {{1, "6"}}, "length X of the base", MeanDimension},
+                    TooThick{RectRound1, 2, {{4, "6"}}, "diameter of the top"},
+                    TooThick{RectRound1, 2, {{6, "6"}}, "length Y of the base", MeanDimension},
                     TooThick{RectRound2, 1, {{10, "3"}, {1, "6"}}, "length X of the base"},
                     TooThick{RectRound2, 2, {{11, "3"}, {6, "6"}}, "length Y of the base"},
-                    TooThick{RectEllipse, 1, {{0, "6"}, {12, "6"}}, "length X of the top"},
-                    TooThick{RectEllipse, 1, {{12, "5"}}, "length Y of the top"},
-                    TooThick{RectEllipse, 2, {{4, "6"}}, "length X of the top"},
+                    TooThick{RectEllipse, 1, {{0, "6"}, {12, "6"}}, "both lengths of the top"},
                     TooThick{RectEllipse, 2, {{13, "6"}}, "length Y of the top"},
                     TooThick{RectEllipse, 2, {{11, "3"}, {5, "6"}}, "length X of the base"}));
 
 TEST(TransitionThickSizes, IsMetAfterEveryCheck) {
-    // The diameter leaves nothing; the height, the axis and the half pattern are asked for later.
+    // The diameter leaves less than nothing; the height, the axis and the half pattern are asked for later.
     TestShell shell;
     const auto window = shell.OpenSample(RectRound1, 2);
     window->settings.Thickness = 6;
     window->settings.InOutMean = OutsideDimension;
     window->settings.HalfPattern = true;
-    TypeBoxes(*window, {{4, "6"}, {11, "91"}});
+    TypeBoxes(*window, {{4, "5.99"}, {11, "91"}});
     EXPECT_EQ(window->BuildFitting(), Refused);
     ExpectUserError(shell.ui, *window, AtMost("90"), 11);
     shell.ui.messages.clear();
@@ -83,21 +110,34 @@ TEST(TransitionThickSizes, IsMetAfterEveryCheck) {
     EXPECT_THROW((void)window->BuildFitting(), ArithmeticError);
     EXPECT_TRUE(shell.ui.messages.empty());
     EXPECT_TRUE(window->settings.HalfPattern);
-    TypeBoxes(*window, {{4, "6.01"}});
+    TypeBoxes(*window, {{4, "6"}});
     EXPECT_EQ(window->BuildFitting(), Passed);
 }
 
 TEST(TransitionThickSizes, MayLeaveSharpCornersButNotLess) {
-    const TransitionSection sharp = {300, 200, 0, 0};
-    CTransition transition;
-    EXPECT_NO_THROW(SetSections(transition, sharp, sharp, 100));
-    for (const TransitionSection& bad : {TransitionSection{300, 200, -0.5, 1}, {300, 200, 1, -0.5}}) {
+    const transition::Section sharp = {300, 200, 0, 0};
+    CTransition fitting;
+    EXPECT_NO_THROW(transition::SetSections(fitting, sharp, sharp, 100));
+    for (const transition::Section& bad : {transition::Section{300, 200, -0.5, 1}, {300, 200, 1, -0.5}}) {
         try {
-            SetSections(transition, sharp, bad, 100);
+            transition::SetSections(fitting, sharp, bad, 100);
             FAIL() << "the corner is less than sharp";
         } catch (const ArithmeticError& error) {
             EXPECT_STREQ(error.what(), "the material is too thick for the corner radius of the base");
         }
+    }
+}
+
+TEST(TransitionThickSizes, MustLeaveSomethingOfAnEnd) {
+    const transition::Section nothing = {0, 0, 0, 0};
+    CTransition fitting;
+    EXPECT_NO_THROW(transition::SetSections(fitting, nothing, {300, 0, 0, 0}, 100));
+    EXPECT_NO_THROW(transition::SetSections(fitting, {0, 200, 0, 0}, nothing, 100));
+    try {
+        transition::SetSections(fitting, nothing, nothing, 100);
+        FAIL() << "a line has no area";
+    } catch (const ArithmeticError& error) {
+        EXPECT_STREQ(error.what(), "the material leaves nothing of the top and the base");
     }
 }
 

@@ -1,4 +1,4 @@
-#include "fittings/transitions/transition_window.h"
+#include "fittings/transitions/transition_form.h"
 
 #include <string>
 
@@ -6,7 +6,7 @@
 #include "core/math_module.h"
 #include "fittings/mean_sizes.h"
 
-namespace korvet {
+namespace korvet::transition {
 namespace {
 
 Outcome CheckTilt(FittingForm& form, int box) {
@@ -24,12 +24,12 @@ void SetTilt(const FittingForm& form, const OptionGroup& axes, int box, double& 
     throw ArithmeticError("the material is too thick for the " + size + " of the " + section);
 }
 
-/// Ends the build when the material has used up a size of the section. Corners may be sharp.
-void RequireSizes(const TransitionSection& section, const std::string& name) {
-    if (section.lengthX <= 0) {
+/// Ends the build when the material takes more than there is of a size.
+void RequireSizes(const Section& section, const std::string& name) {
+    if (section.lengthX < 0) {
         ThrowTooThick(section.circle ? "diameter" : "length X", name);
     }
-    if (section.lengthY <= 0) {
+    if (section.lengthY < 0) {
         ThrowTooThick("length Y", name);
     }
     if (section.rad1 < 0 || section.rad2 < 0) {
@@ -37,15 +37,19 @@ void RequireSizes(const TransitionSection& section, const std::string& name) {
     }
 }
 
+bool IsPoint(const Section& section) {
+    return section.lengthX == 0 && section.lengthY == 0;
+}
+
 }  // namespace
 
-TransitionSection EllipseOf(const FittingForm& form, LengthBoxes lengths) {
+Section EllipseOf(const FittingForm& form, LengthBoxes lengths) {
     const double a = MeanRadiusOfDiameter(form, lengths.x);
     const double b = MeanRadiusOfDiameter(form, lengths.y);
     return {2 * a, 2 * b, a, b, lengths.x == lengths.y};
 }
 
-TransitionSection RectangleOf(const FittingForm& form, LengthBoxes lengths, double radius) {
+Section RectangleOf(const FittingForm& form, LengthBoxes lengths, double radius) {
     return {MeanLength(form, lengths.x), MeanLength(form, lengths.y), radius, radius, false};
 }
 
@@ -62,10 +66,12 @@ Outcome CheckTilts(FittingForm& form, TiltBoxes boxes) {
                      form.CheckAxes(boxes.top, boxes.base));
 }
 
-void SetSections(CTransition& transition, const TransitionSection& top, const TransitionSection& base,
-                 double height) {
+void SetSections(CTransition& transition, const Section& top, const Section& base, double height) {
     RequireSizes(top, "top");
     RequireSizes(base, "base");
+    if (IsPoint(top) && IsPoint(base)) {
+        throw ArithmeticError("the material leaves nothing of the top and the base");
+    }
     transition.TopLengthX = top.lengthX;
     transition.TopLengthY = top.lengthY;
     transition.TopRad1 = top.rad1;
@@ -103,4 +109,4 @@ void PlaceTop(FittingForm& form, CTransition& transition, OffsetBoxes offsets, T
     RefuseSkewHalf(form, transition);
 }
 
-}  // namespace korvet
+}  // namespace korvet::transition
