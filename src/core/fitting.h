@@ -20,6 +20,7 @@ struct FittingWarning {
     int messageId = 0;       ///< a WarningMessage
     bool userError = false;  ///< shown in the "User Error" box instead of a plain one
     std::string text = {};   ///< shown instead of the message where the catalogue has none for it
+    bool operator==(const FittingWarning&) const = default;
 };
 
 /// The inputs that all fitting classes have. Lengths are mean dimensions in the user's unit, angles radians.

@@ -25,6 +25,17 @@ MessageId BranchTypeText(BranchJoin join) {
     }
 }
 
+/// The warnings of a model and of the pattern made behind it, which repeats most of them: a half pattern is
+/// refused by the model alone, for then there is none any more.
+std::vector<FittingWarning> EachOnce(std::vector<FittingWarning> ofModel,
+                                     const std::vector<FittingWarning>& ofPattern) {
+    std::erase_if(ofModel, [&](const FittingWarning& warning) {
+        return std::find(ofPattern.begin(), ofPattern.end(), warning) != ofPattern.end();
+    });
+    ofModel.insert(ofModel.end(), ofPattern.begin(), ofPattern.end());
+    return ofModel;
+}
+
 }  // namespace
 
 void CFittingWindow::UpdateFitting() {
@@ -218,8 +229,9 @@ std::optional<ModelAndPattern> CFittingWindow::MakeModelAndPattern() {
         PrepareDisplay();
         ModelAndPattern made;
         made.model = MakeSurfaces(*fitting, FittingShape::Model, Table().multiple);
+        const std::vector<FittingWarning> ofModel = fitting->Results().warnings;
         made.pattern = MakeSurfaces(*fitting, FittingShape::Pattern, Table().multiple);
-        ShowWarnings(fitting->Results().warnings);
+        ShowWarnings(EachOnce(ofModel, fitting->Results().warnings));
         return made;
     } catch (const std::exception& error) {
         RefuseBuild(error);
@@ -227,11 +239,12 @@ std::optional<ModelAndPattern> CFittingWindow::MakeModelAndPattern() {
     }
 }
 
-/// Shows what a fitting class had to say while it was built, in its order.
+/// Shows what a fitting class had to say while it was built, in its order. A half pattern that it refused is
+/// taken out of the settings, so that this is said once.
 void CFittingWindow::ShowWarnings(const std::vector<FittingWarning>& warnings) {
     for (const FittingWarning& warning : warnings) {
         if (warning.messageId == HalfPatternNotApplicable) {
-            settings.HalfPattern = false;  // said once, and not at every redraw
+            settings.HalfPattern = false;
         }
         const std::string text = warning.text.empty() ? context_.Message(warning.messageId) : warning.text;
         if (warning.userError) {

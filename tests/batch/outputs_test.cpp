@@ -109,9 +109,6 @@ TEST_F(OutputsTest, ARefusedWindowHasNoSurfaces) {
 TEST_F(OutputsTest, AViewMayRefuseWhatTheJsonIsOf) {
     constexpr static std::array<std::string_view, 2> choices = {"one", "two"};
     table.patternSelect = choices;
-    table.completeFitting = [](FittingForm& form, const FittingHandle&) {
-        return form.CheckPatternSelected();
-    };
     arguments.json = "-";
     EXPECT_FALSE(Write());
     EXPECT_FALSE(outputs->Taken());

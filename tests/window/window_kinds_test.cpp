@@ -184,8 +184,29 @@ TEST_F(WindowKindsTest, AHalfPatternThatTheClassRefusesIsSaidOnce) {
     EXPECT_EQ(shell.ui.messages.size(), 1U);
 }
 
+TEST_F(WindowKindsTest, AHalfPatternThatTheClassRefusesIsSaidOnceOfModelAndPatternTogether) {
+    table.halfPatterns = HalfPatterns::RefusedByClass;
+    table.newFitting = [] { return FittingHandle(std::make_shared<CWholeCone>()); };
+    table.buildFitting = BuildAs<CWholeCone, BuildWholeCone>;
+    Open().settings.HalfPattern = true;
+    ASSERT_TRUE(window->MakeModelAndPattern());
+    EXPECT_EQ(shell.ui.Texts(), std::vector<std::string>{"Half pattern not applicable to this item"});
+    EXPECT_FALSE(window->settings.HalfPattern);
+    ASSERT_TRUE(window->MakeModelAndPattern());
+    EXPECT_EQ(shell.ui.messages.size(), 1U);
+}
+
+/// A cone whose class warns in words of its own and by a message.
+struct CTalkingCone : CRightCone {
+    void ConstructModel() {
+        results.warnings = {{.text = "The legs cross"}, {.messageId = SeamLapTooLarge, .userError = true}};
+        CRightCone::ConstructModel();
+    }
+};
+
 TEST_F(WindowKindsTest, AWarningMayHaveATextOfItsOwn) {
-    Open().ShowWarnings({{.text = "The legs cross"}, {.messageId = SeamLapTooLarge, .userError = true}});
+    table.newFitting = FittingHandle::Make<CTalkingCone>;
+    Open().ClickView(0);
     ASSERT_EQ(shell.ui.messages.size(), 2U);
     EXPECT_EQ(shell.ui.messages[0].text, "The legs cross");
     EXPECT_EQ(shell.ui.messages[1].text, "Lap join along seam may be too large");
