@@ -16,7 +16,7 @@ static_assert(CutPiece<CRightCone>);
 static_assert(!CutPiece<FittingInputs>);
 
 /// A whole with every setting at a value of its own.
-FittingInputs Whole() {
+FittingInputs WholeInputs() {
     return {.LapSize0 = 3,
             .LapSize1 = 4,
             .LapSize2 = 5,
@@ -29,7 +29,7 @@ FittingInputs Whole() {
 }
 
 TEST(PieceInputs, TakeSegmentsHalfAndLapsAndHaveTheirOwnSeamAndType) {
-    const FittingInputs piece = PieceInputs(Whole(), {.Dtype = TiltedEnds, .JoinAngle = 1.5});
+    const FittingInputs piece = PieceInputs(WholeInputs(), {.Dtype = TiltedEnds, .JoinAngle = 1.5});
     EXPECT_EQ(piece.segs, 11);
     EXPECT_TRUE(piece.HalfPattern);
     EXPECT_EQ(piece.JoinType, 1);
@@ -39,23 +39,23 @@ TEST(PieceInputs, TakeSegmentsHalfAndLapsAndHaveTheirOwnSeamAndType) {
     EXPECT_EQ(piece.Dtype, TiltedEnds);
     EXPECT_EQ(piece.JoinAngle, 1.5);
     EXPECT_EQ(piece.Miscellaneous, 0);
-    EXPECT_EQ(PieceInputs(Whole(), {}).JoinAngle, 0) << "not the whole's";
+    EXPECT_EQ(PieceInputs(WholeInputs(), {}).JoinAngle, 0) << "not the whole's";
 }
 
 TEST(PieceInputs, MayLeaveTheHalfToTheWhole) {
-    EXPECT_FALSE(PieceInputs(Whole(), {.halved = false}).HalfPattern);
-    FittingInputs full = Whole();
+    EXPECT_FALSE(PieceInputs(WholeInputs(), {.halved = false}).HalfPattern);
+    FittingInputs full = WholeInputs();
     full.HalfPattern = false;
     EXPECT_FALSE(PieceInputs(full, {.halved = true}).HalfPattern);
 }
 
 TEST(PieceInputs, MayTakeTheSeamLapAloneOrNone) {
-    const FittingInputs seam = PieceInputs(Whole(), {.laps = SeamLapOnly});
+    const FittingInputs seam = PieceInputs(WholeInputs(), {.laps = SeamLapOnly});
     EXPECT_EQ(seam.JoinType, 1);
     EXPECT_EQ(seam.LapSize0, 0);
     EXPECT_EQ(seam.LapSize1, 4);
     EXPECT_EQ(seam.LapSize2, 0);
-    EXPECT_EQ(PieceInputs(Whole(), {.laps = NoLaps}).JoinType, 0);
+    EXPECT_EQ(PieceInputs(WholeInputs(), {.laps = NoLaps}).JoinType, 0);
 }
 
 TEST(TakeTemplate, HandsOnTypeAndThickness) {
@@ -87,7 +87,7 @@ TEST(ConstructWithSeamBefore, TheModelIsOneBuildBehindThePattern) {
     pipe.BaseRad = 10;
     SetEnds(pipe, {.CPHeight1 = 20, .CPAngle1 = 0.5});
     const auto build = [&](double seam) {
-        pipe.inputs = PieceInputs(Whole(), {.Dtype = TiltedEnds, .JoinAngle = pipe.inputs.JoinAngle});
+        pipe.inputs = PieceInputs(WholeInputs(), {.Dtype = TiltedEnds, .JoinAngle = pipe.inputs.JoinAngle});
         ConstructWithSeamBefore(pipe, seam);
         return SeamOf(pipe.results.ModelSurface);
     };
