@@ -1,6 +1,7 @@
 #include "core/rule_surf.h"
 
 #include <array>
+#include <cmath>
 
 #include "core/math_module.h"
 
@@ -49,10 +50,12 @@ PointList* ListByNumber(CRuleSurf& surface, int number) {
     return number >= 1 && number <= 5 ? lists[static_cast<std::size_t>(number - 1)] : nullptr;
 }
 
-void RequireFinitePoint(const C3DPoint& point) {
-    Finite(point.x, "a coordinate");
-    Finite(point.y, "a coordinate");
-    Finite(point.z, "a coordinate");
+void RequirePointWithinReach(const C3DPoint& point) {
+    for (const double coordinate : {point.x, point.y, point.z}) {
+        if (std::fabs(Finite(coordinate, "a coordinate")) > LargestSize) {
+            throw ArithmeticError("the fitting is larger than a thousand million");
+        }
+    }
 }
 
 }  // namespace
@@ -133,17 +136,17 @@ CRuleSurf TrimSurface(const CRuleSurf& surface, bool quarter, bool fromEnd) {
     return result;
 }
 
-void RequireFinite(const CRuleSurf& surface) {
+void RequireWithinReach(const CRuleSurf& surface) {
     for (const PointList& list :
          {surface.List1, surface.List2, surface.List3, surface.LapList1, surface.LapList2}) {
         if (list) {
             for (const C3DPoint& point : *list) {
-                RequireFinitePoint(point);
+                RequirePointWithinReach(point);
             }
         }
     }
     if (surface.RefPoint) {
-        RequireFinitePoint(*surface.RefPoint);
+        RequirePointWithinReach(*surface.RefPoint);
     }
 }
 

@@ -70,7 +70,11 @@ class CRuleSurfs {
 /// are not. Throws ListError when a list is missing or shorter than List1.
 CRuleSurf TrimSurface(const CRuleSurf& surface, bool quarter, bool fromEnd);
 
-/// Throws ArithmeticError when a coordinate of the surface is a NaN or infinite.
-void RequireFinite(const CRuleSurf& surface);
+/// The largest size and coordinate that a fitting may have, in the user's unit: a coordinate of this size
+/// still has the digits for a thousandth.
+inline constexpr double LargestSize = 1e9;
+
+/// Throws ArithmeticError when a coordinate of the surface is no number or above LargestSize in magnitude.
+void RequireWithinReach(const CRuleSurf& surface);
 
 }  // namespace korvet

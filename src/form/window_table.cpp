@@ -1,6 +1,9 @@
 #include "form/window_table.h"
 
+#include <cmath>
 #include <stdexcept>
+
+#include "core/checked.h"
 
 namespace korvet {
 namespace {
@@ -27,6 +30,14 @@ bool TellsOfHalf(const WindowTable& table, const CPatternSettings& settings) {
     const bool hasHalf =
         table.halfPatterns == HalfPatterns::Offered || table.halfPatterns == HalfPatterns::FromFiles;
     return hasHalf && settings.HalfPattern;
+}
+
+void RequireSizesWithinReach(const FittingForm& form, const PageEntry& page) {
+    for (const BoxEntry& box : page.boxes) {
+        if (std::fabs(form.Value(box.index)) > LargestSize) {
+            throw ArithmeticError(std::string(box.label) + " is above a thousand million");
+        }
+    }
 }
 
 Outcome BuildChosenPattern(const WindowTable& table, FittingForm& form, const FittingHandle& fitting) {

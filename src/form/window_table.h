@@ -126,6 +126,10 @@ std::string LabelOf(const PageEntry& page, const LabelEntry& line);
 /// Whether the text block tells of a half pattern: with HalfPattern of the settings, where there is any.
 bool TellsOfHalf(const WindowTable& table, const CPatternSettings& settings);
 
+/// No size in the boxes of a page may be above LargestSize in magnitude. Throws ArithmeticError that names
+/// the box, also for one that holds no number.
+void RequireSizesWithinReach(const FittingForm& form, const PageEntry& page);
+
 /// The end of a build: the question for the pattern, and what the table has behind it.
 Outcome BuildChosenPattern(const WindowTable& table, FittingForm& form, const FittingHandle& fitting);
 

@@ -82,6 +82,7 @@ Outcome CFittingWindow::BuildFitting() {
     if (Table().buildFitting(form, *fitting)) {
         return Refused;
     }
+    RequireSizesWithinReach(form, Table().pages[static_cast<std::size_t>(dtype)]);
     AddTextBlock();
     TakeNoOfSides();
     if (BuildChosenPattern(Table(), form, *fitting)) {

@@ -336,26 +336,42 @@ TEST(TrimSurface, NeedsBothListsInFull) {
     EXPECT_THROW(TrimSurface(LongStrip(0), false, false), ListError);
 }
 
-TEST(RequireFinite, FindsABadNumberInEveryPlace) {
-    EXPECT_NO_THROW(RequireFinite(FullSurface()));
-    EXPECT_NO_THROW(RequireFinite(CRuleSurf()));
+TEST(RequireWithinReach, FindsABadNumberInEveryPlace) {
+    EXPECT_NO_THROW(RequireWithinReach(FullSurface()));
+    EXPECT_NO_THROW(RequireWithinReach(CRuleSurf()));
     const double nan = std::numeric_limits<double>::quiet_NaN();
     const double inf = std::numeric_limits<double>::infinity();
     for (const PointList CRuleSurf::*list : {&CRuleSurf::List1, &CRuleSurf::List2, &CRuleSurf::List3,
                                              &CRuleSurf::LapList1, &CRuleSurf::LapList2}) {
         const CRuleSurf surface = FullSurface();
         (surface.*list)->Item(2).z = nan;
-        EXPECT_THROW(RequireFinite(surface), ArithmeticError);
+        EXPECT_THROW(RequireWithinReach(surface), ArithmeticError);
     }
     CRuleSurf surface = FullSurface();
     surface.List1->Item(1).x = inf;
-    EXPECT_THROW(RequireFinite(surface), ArithmeticError);
+    EXPECT_THROW(RequireWithinReach(surface), ArithmeticError);
     surface = FullSurface();
     surface.List1->Item(1).y = -inf;
-    EXPECT_THROW(RequireFinite(surface), ArithmeticError);
+    EXPECT_THROW(RequireWithinReach(surface), ArithmeticError);
     surface = FullSurface();
     surface.RefPoint->y = nan;
-    EXPECT_THROW(RequireFinite(surface), ArithmeticError);
+    EXPECT_THROW(RequireWithinReach(surface), ArithmeticError);
+}
+
+TEST(RequireWithinReach, FindsAPointBeyondTheLargestSize) {
+    for (double C3DPoint::*coordinate : {&C3DPoint::x, &C3DPoint::y, &C3DPoint::z}) {
+        for (const PointList CRuleSurf::*list : {&CRuleSurf::List1, &CRuleSurf::List2, &CRuleSurf::List3,
+                                                 &CRuleSurf::LapList1, &CRuleSurf::LapList2}) {
+            const CRuleSurf surface = FullSurface();
+            double& value = (surface.*list)->Item(2).*coordinate;
+            for (const double sign : {1.0, -1.0}) {
+                value = sign * LargestSize;
+                EXPECT_NO_THROW(RequireWithinReach(surface));
+                value = sign * 1.000001e9;
+                EXPECT_THROW(RequireWithinReach(surface), ArithmeticError);
+            }
+        }
+    }
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 
 #include <stdexcept>
 
+#include "core/checked.h"
 #include "tests/support/form_on_boxes.h"
 
 namespace korvet {
@@ -127,6 +128,25 @@ TEST(HoldSeam, GreysTheSeamAngleAndSetsItToNothing) {
     HoldSeam(settings, true);
     EXPECT_TRUE(settings.JoinAngleDisable);
     EXPECT_EQ(settings.JoinAngle, 0);
+}
+
+constexpr BoxEntry TwoBoxes[] = {{0, "Length 1", "10"}, {2, "Length 2", "20"}};
+
+TEST(SizesWithinReach, HaveALargest) {
+    const PageEntry page = {TwoBoxes, {}};
+    for (const char* text : {"1e9", "-1e9", "0"}) {
+        FormOnBoxes boxes{"5", "1e30", text};  // the one between is not on the page
+        EXPECT_NO_THROW(RequireSizesWithinReach(boxes.form, page)) << text;
+    }
+    for (const char* text : {"1.000001e9", "-1.000001e9", "1e300"}) {
+        FormOnBoxes boxes{"5", "0", text};
+        try {
+            RequireSizesWithinReach(boxes.form, page);
+            ADD_FAILURE() << text;
+        } catch (const ArithmeticError& error) {
+            EXPECT_STREQ(error.what(), "Length 2 is above a thousand million");
+        }
+    }
 }
 
 }  // namespace

@@ -56,4 +56,7 @@ void SetBend(const CPatternSettings& settings, const Sizes& sizes, Bend& bend) {
     bend.KerfSpacing = settings.KerfSpacing;
 }
 
+/// Captions of optPatternSelect: every piece (LayOutEveryPiece), or one of each kind.
+inline constexpr std::string_view PatternChoices[] = {"Full Pattern", "First, Last, one intermediate"};
+
 }  // namespace korvet::bend

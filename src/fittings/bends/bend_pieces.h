@@ -5,7 +5,21 @@
 #include "fittings/piece_layout.h"
 #include "fittings/pieces.h"
 
+namespace korvet {
+
+/// The value of Miscellaneous by which a segmented bend lays out every piece; any other one: the first piece,
+/// one of those between, and the last.
+inline constexpr std::int16_t LayOutEveryPiece = 1;
+
+}  // namespace korvet
+
 namespace korvet::bend {
+
+/// How many middle pieces of a bend with `gores` cuts are laid out. The short layout shows one even of two
+/// pieces, which have none between them.
+constexpr int MiddlePieces(std::int16_t miscellaneous, int gores) {
+    return miscellaneous == LayOutEveryPiece ? gores - 1 : 1;
+}
 
 /// What a bend's pieces have to know of it. Lengths in the user's unit, angles radians.
 struct Pieces {

@@ -22,15 +22,13 @@ void CSegBendParallel::ConstructModel() {
     RequireWall(BaseRad);
     CRightCylinder pipe = Pipe();
     results.ModelSurfaceList = bend::Assemble(pipe, Pieces(), PI);
-    RequireWithinReach(results.ModelSurfaceList);
 }
 
 void CSegBendParallel::DevelopModel() {
     ConstructModel();
-    const int middlePieces = inputs.Miscellaneous == LayOutEveryPiece ? BendSegments - 1 : 1;
     CRightCylinder pipe = Pipe();
-    bend::LayOut(pipe, Pieces(), middlePieces, KerfSpacing, PI, results);
-    RequireWithinReach(results.PatternSurfaceList);
+    bend::LayOut(pipe, Pieces(), bend::MiddlePieces(inputs.Miscellaneous, BendSegments), KerfSpacing, PI,
+                 results);
 }
 
 }  // namespace korvet

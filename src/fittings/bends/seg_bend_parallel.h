@@ -8,10 +8,6 @@
 
 namespace korvet {
 
-/// The value of Miscellaneous by which CSegBendParallel lays out every piece; any other one: the first piece,
-/// one of those between, and the last.
-inline constexpr std::int16_t LayOutEveryPiece = 1;
-
 /// Lengths are mean dimensions in the user's unit, angles radians. The first piece runs up along z from
 /// -Length1, and the bend turns on from it towards -x, about the line x = -BendRadius, z = 0.
 struct CSegBendParallel {

@@ -4,7 +4,6 @@
 #include "fittings/bends/bend_form.h"
 #include "fittings/bends/bend_sketch.h"
 #include "fittings/bends/seg_bend_parallel.h"
-#include "fittings/makeable.h"
 #include "fittings/mean_sizes.h"
 #include "fittings/windows.h"
 
@@ -86,18 +85,16 @@ constexpr auto Lines = bend::Lines(400, ArcEnd);
 constexpr PageEntry Pages[] = {{quarter::Boxes, quarter::Labels, bend::Views, quarter::Lines},
                                {any_angle::Boxes, any_angle::Labels, bend::Views, any_angle::Lines}};
 
-constexpr std::string_view PatternChoices[] = {"Full Pattern", "First, Last, one intermediate"};
-
 }  // namespace
 
 const WindowTable frmSegBendParallel = {
     .pages = Pages,
     .newFitting = FittingHandle::Make<CSegBendParallel>,
-    .buildFitting = WithinReach<Pages, BuildByType<CSegBendParallel, quarter::Build, any_angle::Build>>,
+    .buildFitting = BuildByType<CSegBendParallel, quarter::Build, any_angle::Build>,
     .multiple = true,
     .templateTypeEnabled = true,
     .kerfEnabled = true,
-    .patternSelect = PatternChoices,
+    .patternSelect = bend::PatternChoices,
 };
 
 }  // namespace korvet

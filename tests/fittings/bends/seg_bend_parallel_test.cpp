@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 #include <tuple>
 #include <vector>
 
@@ -390,12 +391,13 @@ TEST(SegBendModel, ACutTurnsByLessThanHalfATurn) {
 }
 
 TEST(SegBendLayout, StaysWithinReach) {
-    CSegBendParallel bend = QuarterBend();
-    bend.KerfSpacing = 0.3e9;
-    EXPECT_NO_THROW(bend.ConstructModel());
-    EXPECT_THROW(bend.DevelopModel(), ArithmeticError);
-    bend.inputs.Miscellaneous = 0;  // three pieces instead of five
-    EXPECT_NO_THROW(bend.DevelopModel());
+    const auto bend = std::make_shared<CSegBendParallel>(QuarterBend());
+    const FittingHandle fitting(bend);
+    bend->KerfSpacing = 0.3e9;
+    EXPECT_NO_THROW(fitting.ConstructModel());
+    EXPECT_THROW(fitting.DevelopModel(), ArithmeticError);
+    bend->inputs.Miscellaneous = 0;  // three pieces instead of five
+    EXPECT_NO_THROW(fitting.DevelopModel());
 }
 
 TEST(SegBendModel, ABendWithoutCutsIsAnError) {
