@@ -1,0 +1,138 @@
+// The window of the oval bend: how it starts, every limit in its place, the choice of the pattern, the sizes
+// that it hands on, text lines.
+#include <gtest/gtest.h>
+
+#include "core/constants.h"
+#include "core/math_module.h"
+#include "fittings/ovals/seg_bend_parallel_oval.h"
+#include "tests/support/refusals.h"
+#include "window/views.h"
+
+namespace korvet {
+namespace {
+
+constexpr const char* OvalBendCategory = "Oval Segmented Bend";
+
+TEST(OvalBendWindow, Starts) {
+    TestShell shell;
+    const auto window = shell.Open(OvalBendCategory);
+    EXPECT_EQ(window->Row().helpContextId, 2410);
+    EXPECT_EQ(window->miscellaneous, 0);
+    EXPECT_TRUE(window->Table().multiple);
+    EXPECT_EQ(window->settings.LapEnable, SeamLapOnly);
+    EXPECT_TRUE(window->settings.JoinAngleDisable);
+    EXPECT_TRUE(window->settings.HalfPatternDisable);
+    EXPECT_TRUE(window->settings.KerfEnabled);
+    EXPECT_FALSE(window->settings.TemplateTypeEnabled);
+    const OptionGroup& patterns = window->controls.options.optPatternSelect;
+    EXPECT_EQ(patterns.captions, (std::vector<std::string>{"Full Pattern", "First, Last, one intermediate"}));
+    EXPECT_EQ(window->controls.txtParameter.size(), 13U);
+}
+
+class OvalBendRefusals : public testing::TestWithParam<Refusal> {};
+
+TEST_P(OvalBendRefusals, NameTheBox) {
+    TestShell shell;
+    const auto window = shell.OpenSample(OvalBendCategory, GetParam().type);
+    TypeBoxes(*window, GetParam().boxes);
+    EXPECT_EQ(window->BuildFitting(), Refused);
+    ExpectUserError(shell.ui, *window, GetParam().message, GetParam().box);
+}
+
+// The box that is refused later in the order is wrong too.
+INSTANTIATE_TEST_SUITE_P(EveryCheck, OvalBendRefusals,
+                         testing::Values(Refusal{1, {{0, "0"}, {11, "-1"}}, AboveZero, 0},
+                                         Refusal{1, {{11, "159.9"}, {1, "0"}}, AtLeast + "160", 11},
+                                         Refusal{1, {{1, "79.9"}, {3, "-1"}}, AtLeast + "80", 1},
+                                         Refusal{1, {{3, "-0.1"}, {4, "-1"}}, AtLeast + "0", 3},
+                                         Refusal{1, {{4, "-0.1"}, {2, "1"}}, AtLeast + "0", 4},
+                                         Refusal{1, {{2, "1.5"}}, AtLeast + "2", 2},
+                                         Refusal{1, {{2, "2.5"}}, WholeNumber, 2},
+                                         Refusal{2, {{5, "0"}, {12, "-1"}}, AboveZero, 5},
+                                         Refusal{2, {{12, "180"}, {6, "0"}}, GreaterThan + "180", 12},
+                                         Refusal{2, {{6, "89.9"}, {8, "-1"}}, AtLeast + "90", 6},
+                                         Refusal{2, {{8, "-0.1"}, {9, "-1"}}, AtLeast + "0", 8},
+                                         Refusal{2, {{9, "-0.1"}, {10, "1"}}, AtLeast + "0", 9},
+                                         Refusal{2, {{10, "1.5"}, {7, "0"}}, AtLeast + "2", 10},
+                                         Refusal{2, {{10, "2.5"}, {7, "0"}}, WholeNumber, 10},
+                                         Refusal{2, {{7, "0"}}, AboveZero, 7},
+                                         Refusal{2, {{7, "360"}}, LessThan + "360", 7}));
+
+TEST(OvalBendLimits, TheLimitsThemselvesAreAllowed) {
+    const std::vector<std::pair<int, BoxTexts>> cases = {
+        {1, {{11, "160"}}},   {1, {{1, "80"}}}, {1, {{3, "0"}, {4, "0"}}},     {1, {{2, "2"}}},
+        {2, {{12, "180.1"}}}, {2, {{6, "90"}}}, {2, {{7, "359.9"}, {10, "9"}}}};
+    for (const auto& [type, boxes] : cases) {
+        TestShell shell;
+        const auto window = shell.OpenSample(OvalBendCategory, type);
+        TypeBoxes(*window, boxes);
+        EXPECT_EQ(window->BuildFitting(), Passed);
+        EXPECT_TRUE(shell.ui.messages.empty());
+        window->fitting->DevelopModel();
+    }
+}
+
+TEST(OvalBendLimits, WallMustFitIntoTheHalfCircles) {
+    for (const auto& [type, box, length] : {std::tuple{1, 0, 11}, {2, 5, 12}}) {
+        TestShell shell;
+        const auto window = shell.OpenSample(OvalBendCategory, type);
+        window->settings.InOutMean = OutsideDimension;
+        window->settings.Thickness = 90.1;
+        TypeBoxes(*window, {{length, "1"}});  // wrong as well, but comes after
+        EXPECT_EQ(window->BuildFitting(), Refused);
+        ExpectUserError(shell.ui, *window, NoRoom, box);
+    }
+}
+
+TEST(OvalBendSizes, AreHandedOn) {
+    TestShell shell;
+    const auto window = shell.OpenSample(OvalBendCategory, 2);
+    window->settings.Thickness = 4;
+    window->settings.InOutMean = InsideDimension;
+    window->settings.KerfSpacing = 7;
+    EXPECT_EQ(window->BuildFitting(), Passed);
+    const auto& bend = window->fitting->As<CSegBendParallelOval>();
+    EXPECT_DOUBLE_EQ(bend.BaseRad, 92);
+    EXPECT_DOUBLE_EQ(bend.OvalCenterDistance, 240);  // 420 - 180
+    EXPECT_DOUBLE_EQ(bend.BendAngle, DegToRad(60));
+    EXPECT_EQ(bend.BendSegments, 3);
+    EXPECT_EQ(bend.BendRadius, 450);
+    EXPECT_EQ(bend.Length1, 110);
+    EXPECT_EQ(bend.Length2, 130);
+    EXPECT_EQ(bend.KerfSpacing, 7);
+    const auto quarter = shell.OpenSample(OvalBendCategory, 1);
+    EXPECT_EQ(quarter->BuildFitting(), Passed);
+    EXPECT_EQ(quarter->fitting->As<CSegBendParallelOval>().BendAngle, QuarterTurn);
+}
+
+TEST(OvalBendWindow, AsksForThePattern) {
+    TestShell shell;
+    const auto window = shell.OpenSample(OvalBendCategory, 1);
+    window->ClickView(0);
+    EXPECT_TRUE(shell.ui.messages.empty());
+    window->ClickView(PatternButton);
+    ExpectUserError(shell.ui, *window, "A pattern must be selected");
+}
+
+TEST(OvalBendText, HasTheSizesAsTyped) {
+    TestShell shell;
+    const auto quarter = shell.OpenSample(OvalBendCategory, 1);
+    TypeBoxes(*quarter, {{6, "17"}});
+    EXPECT_EQ(quarter->BuildFitting(), Passed);
+    EXPECT_EQ(TextBlock(*quarter),
+              (std::vector<std::string>{"", "", "Base diameter = 160", "Base length = 380",
+                                        "Bend radius = 320", "Bend angle = 90", "Length 1 = 90",
+                                        "Length 2 = 140", "Number of segments = 17", "Thickness = 0",
+                                        "Oval Segmented Bend  Full pattern  21 Nov 2026"}));
+    const auto any = shell.OpenSample(OvalBendCategory, 2);
+    any->settings.HalfPattern = true;
+    EXPECT_EQ(any->BuildFitting(), Passed);
+    EXPECT_EQ(TextBlock(*any),
+              (std::vector<std::string>{"", "", "Base diameter = 180", "Base length = 420",
+                                        "Bend radius = 450", "Bend angle = 60", "Length 1 = 110",
+                                        "Length 2 = 130", "Number of segments = 4", "Thickness = 0",
+                                        "Oval Segmented Bend  Full pattern  21 Nov 2026"}));
+}
+
+}  // namespace
+}  // namespace korvet
