@@ -25,6 +25,8 @@ inline void ExpectFileKeepsEverything(TestShell& shell, CFittingWindow& window) 
     ASSERT_EQ(window.SaveFile("a.Kvt"), Passed);
     const auto opened = shell.Open(window.category);
     ASSERT_EQ(opened->FillFromFile("a.Kvt"), Passed);
+    // As often as the window before its save: some models have the seam of the build before.
+    opened->Redraw();
     opened->Redraw();
     EXPECT_EQ(opened->dtype, window.dtype);
     ExpectSameSurfaces(window.fitting->Results().PatternSurfaceList,
