@@ -25,7 +25,7 @@ const std::array<CatalogueRow, CatalogueSize> Catalogue = {{
     {"Auger", "frmAuger", "CAuger", 2290, NoLaps, nullptr},
     {"Rectangle to Ellipse", "frmRectEllipse", "CTransition", 2300, SeamLapOnly, &frmRectEllipse},
     {"Prism", "frmPrism", "CPrism", 2310, AllLaps, nullptr},
-    {"Elbow", "frmElbow", "CElbow", 2320, SeamLapOnly, nullptr},
+    {"Elbow", "frmElbow", "CElbow", 2320, SeamLapOnly, &frmElbow},
     {"Rectangle to Round", "frmRectRound1", "CTransition", 2330, SeamLapOnly, &frmRectRound1},
     {"Tapered Bend", "FrmSegBendTapered", "CSegBendTapered", 2340, SeamLapOnly, nullptr},
     {"Cone to Pipe Elbow", "frmElbowPipeCone1", "CElbowPipeToCone", 2350, SeamLapOnly, nullptr},

@@ -1,0 +1,247 @@
+// The window of the elbow: how it starts, every limit in its place, the sizes that it hands on, text lines,
+// saved files. The sample elbows have diameters of 200, 150 and 180.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <numbers>
+
+#include "core/constants.h"
+#include "core/math_module.h"
+#include "fittings/bends/elbow.h"
+#include "tests/support/refusals.h"
+#include "tests/support/saved_fittings.h"
+#include "window/views.h"
+
+namespace korvet {
+namespace {
+
+constexpr const char* ElbowCategory = "Elbow";
+
+const CElbow& BuiltElbow(CFittingWindow& window) {
+    EXPECT_EQ(window.BuildFitting(), Passed);
+    return window.fitting->As<CElbow>();
+}
+
+TEST(ElbowWindow, StartsAsAnElbowDoes) {
+    TestShell shell;
+    const auto window = shell.Open(ElbowCategory);
+    EXPECT_EQ(window->Row().helpContextId, 2320);
+    EXPECT_EQ(window->dtype, 0);
+    EXPECT_EQ(window->miscellaneous, 0);
+    EXPECT_TRUE(window->Table().multiple);
+    EXPECT_EQ(window->settings.LapEnable, SeamLapOnly);
+    EXPECT_FALSE(window->settings.JoinAngleDisable);
+    EXPECT_TRUE(window->settings.TemplateTypeEnabled);
+    EXPECT_TRUE(window->settings.KerfEnabled);
+    EXPECT_FALSE(window->settings.HalfPatternDisable);
+    EXPECT_TRUE(window->controls.options.optPatternSelect.captions.empty());
+    ASSERT_EQ(window->controls.txtParameter.size(), 10U);
+    for (const TextBox& box : window->controls.txtParameter) {
+        EXPECT_EQ(box.text, "0");
+    }
+}
+
+class ElbowRefusals : public testing::TestWithParam<Refusal> {};
+
+TEST_P(ElbowRefusals, NameTheBox) {
+    TestShell shell;
+    const auto window = shell.OpenSample(ElbowCategory, GetParam().type);
+    TypeBoxes(*window, GetParam().boxes);
+    EXPECT_EQ(window->BuildFitting(), Refused);
+    ExpectUserError(shell.ui, *window, GetParam().message, GetParam().box);
+}
+
+// The box that is refused later in the order is wrong too. The shortest leg at 120 degrees is
+// 100 / tan(60 degrees) = 57.7 long.
+INSTANTIATE_TEST_SUITE_P(Legs, ElbowRefusals,
+                         testing::Values(Refusal{1, {{0, "0"}, {3, "0"}}, AboveZero, 0},
+                                         Refusal{1, {{0, "-200"}, {3, "0"}}, AboveZero, 0},
+                                         Refusal{1, {{3, "0"}, {1, "1"}}, AboveZero, 3},
+                                         Refusal{1, {{3, "-120"}, {1, "1"}}, AboveZero, 3},
+                                         Refusal{1, {{3, "180"}, {1, "-1"}}, LessThan + "180", 3},
+                                         Refusal{1, {{3, "180.5"}, {1, "-1"}}, LessThan + "180", 3},
+                                         Refusal{1, {{1, "57.7"}, {2, "1"}}, AtLeast + "57.7", 1},
+                                         Refusal{1, {{2, "57.7"}}, AtLeast + "57.7", 2},
+                                         Refusal{1, {{3, "90"}, {2, "99.999999"}}, AtLeast + "100", 2},
+                                         Refusal{1, {{1, "-57.8"}, {2, "1"}}, AtLeast + "57.7", 1}));
+
+INSTANTIATE_TEST_SUITE_P(Square, ElbowRefusals,
+                         testing::Values(Refusal{2, {{4, "-150"}, {5, "-1"}}, NoRoom, 4},
+                                         Refusal{2, {{5, "74.9"}, {6, "1"}}, AtLeast + "75", 5},
+                                         Refusal{2, {{6, "74.9"}}, AtLeast + "75", 6}));
+
+INSTANTIATE_TEST_SUITE_P(Bend, ElbowRefusals,
+                         testing::Values(Refusal{3, {{7, "-180"}, {8, "-1"}}, NoRoom, 7},
+                                         Refusal{3, {{8, "89.9"}, {9, "0"}}, AtLeast + "90", 8},
+                                         Refusal{3, {{9, "0"}}, AboveZero, 9},
+                                         Refusal{3, {{9, "-60"}}, AboveZero, 9},
+                                         Refusal{3, {{9, "180"}}, LessThan + "180", 9}));
+
+TEST(ElbowLimits, TheLimitsThemselvesAreAllowed) {
+    const std::vector<std::pair<int, BoxTexts>> cases = {{1, {{0, "0.001"}}},
+                                                         {1, {{1, "57.735026919"}, {2, "57.735026919"}}},
+                                                         {1, {{3, "90"}, {1, "100"}, {2, "100"}}},
+                                                         {1, {{3, "179.999"}}},
+                                                         {1, {{3, "0.1"}, {1, "115000"}, {2, "115000"}}},
+                                                         {2, {{5, "75"}, {6, "75"}}},
+                                                         {2, {{4, "0.001"}}},
+                                                         {3, {{8, "90"}}},
+                                                         {3, {{9, "0.001"}}},
+                                                         {3, {{9, "179.999"}}}};
+    for (const auto& [type, boxes] : cases) {
+        TestShell shell;
+        const auto window = shell.OpenSample(ElbowCategory, type);
+        TypeBoxes(*window, boxes);
+        window->ClickView(PatternButton);
+        EXPECT_TRUE(window->hasModel) << type << " " << boxes.begin()->first;
+        EXPECT_EQ(shell.ui.Texts(), std::vector<std::string>());
+    }
+}
+
+TEST(ElbowLimits, WallMustFitIntoThePipe) {
+    const std::map<int, std::pair<int, double>> boxes = {{1, {0, 100}}, {2, {4, 75}}, {3, {7, 90}}};
+    for (const auto& [type, box] : boxes) {
+        TestShell shell;
+        const auto window = shell.OpenSample(ElbowCategory, type);
+        window->settings.InOutMean = OutsideDimension;
+        window->settings.Thickness = box.second;
+        EXPECT_EQ(window->BuildFitting(), Passed);
+        // The size after it is wrong as well, but comes after.
+        TypeBoxes(*window, {{type == 1 ? 3 : box.first + 1, "0"}});
+        window->settings.Thickness = box.second + 0.1;
+        EXPECT_EQ(window->BuildFitting(), Refused);
+        ExpectUserError(shell.ui, *window, NoRoom, box.first);
+    }
+}
+
+TEST(ElbowLimits, LengthsAreHeldAgainstTheMeanRadius) {
+    const std::map<int, std::pair<int, std::string>> limits = {
+        {1, {2, "60.6"}}, {2, {6, "80"}}, {3, {8, "95"}}};  // 105 / tan(60 degrees), then half plus 5
+    for (const auto& [type, limit] : limits) {
+        TestShell shell;
+        const auto window = shell.OpenSample(ElbowCategory, type);
+        window->settings.Thickness = 10;
+        window->settings.InOutMean = InsideDimension;
+        TypeBoxes(*window, {{limit.first, "60"}});
+        EXPECT_EQ(window->BuildFitting(), Refused);
+        ExpectUserError(shell.ui, *window, AtLeast + limit.second, limit.first);
+    }
+}
+
+struct ShapelessElbow {
+    int type;
+    BoxTexts boxes;
+    std::string reason;
+};
+
+void PrintTo(const ShapelessElbow& example, std::ostream* out) {
+    *out << "type " << example.type << ": " << example.reason;
+}
+
+class ElbowsWithoutAShape : public testing::TestWithParam<ShapelessElbow> {};
+
+TEST_P(ElbowsWithoutAShape, AreNotMade) {
+    TestShell shell;
+    const auto window = shell.OpenSample(ElbowCategory, GetParam().type);
+    TypeBoxes(*window, GetParam().boxes);
+    for (const int view : {0, PatternButton}) {
+        window->ClickView(view);
+        ExpectNotMade(shell.ui, *window, GetParam().reason);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Sizes, ElbowsWithoutAShape,
+    testing::Values(ShapelessElbow{2, {{4, "0"}}, "a pipe with a diameter of 0 has no wall"},
+                    ShapelessElbow{3, {{7, "0"}, {8, "0"}}, "a pipe with a diameter of 0 has no wall"},
+                    ShapelessElbow{1, {{1, "1.1e9"}}, "Length 1 is above a thousand million"},
+                    ShapelessElbow{2, {{6, "1e300"}}, "Length 2 is above a thousand million"},
+                    ShapelessElbow{3, {{8, "2e9"}, {9, "1e-6"}}, "Bend radius is above a thousand million"},
+                    ShapelessElbow{
+                        3, {{9, "179.99999999"}}, "the fitting is larger than a thousand million"}));
+
+TEST(ElbowSizes, OfTwoLegsAreTaken) {
+    TestShell shell;
+    const auto window = shell.OpenSample(ElbowCategory, 1);
+    const CElbow& elbow = BuiltElbow(*window);
+    EXPECT_EQ(elbow.BaseRad, 100);
+    EXPECT_EQ(elbow.Length1, 320);
+    EXPECT_EQ(elbow.Length2, 260);
+    EXPECT_DOUBLE_EQ(elbow.BendAngle, -2 * std::numbers::pi / 3);
+    EXPECT_EQ(elbow.inputs.Dtype, 0);
+}
+
+TEST(ElbowSizes, OfASquareElbowHaveTheRightAngle) {
+    TestShell shell;
+    const auto window = shell.OpenSample(ElbowCategory, 2);
+    const CElbow& elbow = BuiltElbow(*window);
+    EXPECT_EQ(elbow.BaseRad, 75);
+    EXPECT_EQ(elbow.Length1, 240);
+    EXPECT_EQ(elbow.Length2, 190);
+    EXPECT_EQ(elbow.BendAngle, QuarterTurn);
+    EXPECT_EQ(elbow.inputs.Dtype, 1);
+}
+
+/// A change of direction by 60 degrees leaves 120 between the legs; a tangent to an arc of 300 over half of
+/// that is 300 tan(30 degrees) = 100 times the root of 3 long.
+TEST(ElbowSizes, OfAnElbowOnABendRadiusAreItsTangents) {
+    TestShell shell;
+    const auto window = shell.OpenSample(ElbowCategory, 3);
+    const CElbow& elbow = BuiltElbow(*window);
+    EXPECT_EQ(elbow.BaseRad, 90);
+    EXPECT_EQ(elbow.BendRadius, 300);
+    EXPECT_NEAR(elbow.Length1, 100 * std::numbers::sqrt3, 1e-10);
+    EXPECT_EQ(elbow.Length2, elbow.Length1);
+    EXPECT_NEAR(elbow.BendAngle, -2 * std::numbers::pi / 3, 1e-13);
+    EXPECT_EQ(elbow.inputs.Dtype, 2);
+}
+
+TEST(ElbowSizes, MaterialAndKerfComeFromTheSettings) {
+    TestShell shell;
+    for (const auto& [type, R] : {std::pair{1, 98.0}, {2, 73.0}, {3, 88.0}}) {
+        const auto window = shell.OpenSample(ElbowCategory, type);
+        window->settings.Thickness = 4;
+        window->settings.InOutMean = OutsideDimension;
+        window->settings.TemplateType = 1;
+        window->settings.KerfSpacing = 12.5;
+        const CElbow& elbow = BuiltElbow(*window);
+        EXPECT_EQ(elbow.BaseRad, R);
+        EXPECT_EQ(elbow.Thickness, 4);
+        EXPECT_EQ(elbow.TemplateType, 1);
+        EXPECT_EQ(elbow.KerfSpacing, 12.5);
+    }
+}
+
+TEST(ElbowTextBlock, TellsTheSizesAsTyped) {
+    const std::map<int, std::vector<std::string>> expected = {
+        {1, {"Pipe diameter = 200", "Length 1 = 320", "Length 2 = 260", "Angle = 120"}},
+        {2, {"Pipe diameter = 150", "Length 1 = 240", "Length 2 = 190", "Angle = 90"}},
+        {3, {"Pipe diameter = 180", "Bend radius = 300", "Angle = 60"}}};
+    for (const auto& [type, sizes] : expected) {
+        TestShell shell;
+        const auto window = shell.OpenSample(ElbowCategory, type);
+        window->settings.Thickness = 1.5;
+        window->settings.PositionString = "inside";
+        ASSERT_EQ(window->BuildFitting(), Passed);
+        std::vector<std::string> lines = {"", ""};
+        lines.insert(lines.end(), sizes.begin(), sizes.end());
+        // No line tells which side of the material the sizes mean.
+        lines.insert(lines.end(), {"Thickness = 1.5", "Elbow  Full pattern  21 Nov 2026"});
+        EXPECT_EQ(TextBlock(*window), lines);
+    }
+}
+
+TEST(ElbowFiles, ReadBackToTheSameBytesAndSurfaces) {
+    for (const int type : {1, 2, 3}) {
+        TestShell shell;
+        const auto window = shell.OpenSample(ElbowCategory, type);
+        window->settings.Thickness = 2;
+        window->settings.JoinAngle = 35;
+        window->settings.KerfSpacing = 3;
+        window->settings.HalfPattern = type == 2;
+        ExpectFileKeepsEverything(shell, *window);
+    }
+}
+
+}  // namespace
+}  // namespace korvet
