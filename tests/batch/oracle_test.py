@@ -6,6 +6,7 @@ import os
 import fitting_cases
 from batch_program import DONE, REFUSED, FolderTest, run_all
 from fitting_maths import LISTS, Settings
+from window_checks import as_list
 
 TOLERANCE = 1e-9
 
@@ -18,10 +19,6 @@ def shown(case):
 
 def near(a, b):
     return abs(a - b) <= TOLERANCE * max(1.0, abs(a), abs(b))
-
-
-def as_list(surfaces):
-    return [] if surfaces is None else surfaces if isinstance(surfaces, list) else [surfaces]
 
 
 class Comparison:

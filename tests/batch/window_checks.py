@@ -7,6 +7,8 @@ import math
 import re
 from dataclasses import dataclass, field
 
+from fitting_maths import coordinates
+
 PRODUCT = "Korvet Development"
 USER_ERROR = "User Error"
 LESS_THAN = "This dimension must be less than "
@@ -24,7 +26,7 @@ NO_PATTERN = "A pattern must be selected"
 IMPOSSIBLE = "This fitting cannot be made with these sizes"
 
 POSITION = ("mean", "inside", "outside")
-LARGEST = 1e9  # of a typed size and of a coordinate, where a window has such a limit
+LARGEST = 1e9  # of a typed size and of a coordinate
 
 
 @dataclass
@@ -47,6 +49,10 @@ def require_shape(is_one):
     """What sizes that pass every check may still lead to."""
     if not is_one:
         raise Refusal(PRODUCT, IMPOSSIBLE, None)
+
+
+def as_list(surfaces):
+    return [] if surfaces is None else surfaces if isinstance(surfaces, list) else [surfaces]
 
 
 def require_within_reach(values):
@@ -155,6 +161,7 @@ def answer_to(case, first_texts, build, all_boxes=True):
         for index in range(len(texts) if all_boxes else 0):
             boxes[index]
         build(case, boxes, answer)
+        require_within_reach(coordinates(as_list(answer.model) + as_list(answer.pattern)))
     except Refusal as refusal:
         answer.messages.append(refusal.message)
         answer.refused = True

@@ -86,8 +86,8 @@ TEST_F(DrawPicture, LapsAndALabelFarOffAreInIt) {
 }
 
 TEST_F(DrawPicture, SizesFarOffBecomeAPicture) {
-    fitting->canned.PatternSurface.List1 = Points({{0, 1e12, 0, 1}, {1e12, 1e12, 0, 1}});
-    fitting->canned.PatternSurface.List2 = Points({{0, 0, 0, 1}, {1e12, 0, 0, 1}});
+    fitting->canned.PatternSurface.List1 = Points({{0, 9e8, 0, 1}, {9e8, 9e8, 0, 1}});
+    fitting->canned.PatternSurface.List2 = Points({{0, 0, 0, 1}, {9e8, 0, 0, 1}});
     ExpectWhole("a large one");
     fitting->canned.PatternSurface.List1 = Points({{0, 1e-6, 0, 1}, {1e-6, 1e-6, 0, 1}});
     fitting->canned.PatternSurface.List2 = Points({{0, 0, 0, 1}, {1e-6, 0, 0, 1}});

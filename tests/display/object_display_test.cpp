@@ -155,7 +155,7 @@ TEST_F(ObjectDisplay, APassThatFailsLeavesThePictureAndWhatIsKnownOfIt) {
     fitting->fails = true;
     expectAsBefore("a build");
     fitting->fails = false;
-    fitting->canned.ModelSurface = Sheet(1e12);
+    fitting->canned.ModelSurface = Sheet(9e8);
     expectAsBefore("a drawing beyond all pixels");
     display.ViewList->Item(2).Patternview = true;
     fitting->failsFrom = fitting->developed + 2;
