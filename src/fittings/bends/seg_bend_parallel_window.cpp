@@ -68,14 +68,13 @@ Outcome Build(FittingForm& form, CSegBendParallel& bend) {
 }
 
 // 400 from the centre at 60 degrees, and 120 further along the last piece.
-constexpr SketchPoint ArcEnd = AtXZ(-200, 346.4101615137755);
+constexpr SketchPoint ArcEnd = PolarXZ(bend::Centre(400), 60, 400);
 constexpr BoxEntry Boxes[] = {
     {BaseDiameter, "Base diameter", "200", DiameterSize(Side::Below, 2)},
     {BendRadius, "Bend radius", "400", bend::BendRadiusSize(400, 100)},
     {BendAngle, "Bend angle (degrees)", "60", bend::BendAngleSize(400, ArcEnd)},
     {Length1, "Length 1", "100", bend::FirstLengthSize(100)},
-    {Length2, "Length 2", "120",
-     AlignedSize(Side::Above, bend::EndOf(4), bend::EndOf(4, 103.92304845413264, -60))},
+    {Length2, "Length 2", "120", AlignedSize(Side::Above, bend::EndOf(4), PolarXZ(bend::EndOf(4), -30, 120))},
     {Segments, "Number of segments", "4", bend::PieceCount}};
 constexpr LabelEntry Labels[] = {{BaseDiameter}, {BendRadius}, {BendAngle}, {Length1}, {Length2}, {Segments}};
 constexpr auto Lines = bend::Lines(400, ArcEnd);

@@ -57,9 +57,8 @@ inline constexpr std::array<SketchConstruction, 4> Lines = {
 
 namespace slanting {
 
-// At 60 degrees: the sine is 0.866, the cosine 0.5.
-inline constexpr double Sine60 = 0.8660254037844386;
-inline constexpr SketchPoint Crossing = BranchEnd(-280 * Sine60, 140);
+// At 60 degrees to the trunk the branch falls by 30.
+inline constexpr SketchPoint Crossing = PolarXZ(BranchEnd(), 150, 280);
 
 /// The boxes but for the offset of the axis, which stands at `y` in the sample.
 constexpr std::array<BoxEntry, 6> BoxesAt(double y) {
@@ -68,11 +67,11 @@ constexpr std::array<BoxEntry, 6> BoxesAt(double y) {
              {MainDiameter, "Main pipe diameter", "200",
               LinearSize(Side::Left, Trunk(1, Spot::MinY), Trunk(1, Spot::MaxY), Plan)},
              {BranchLength, "Branch pipe length", "280",
-              AlignedSize(Side::Above, BranchRim(Spot::MaxZ, -280 * Sine60, 140), BranchRim(Spot::MaxZ))},
+              AlignedSize(Side::Above, PolarXZ(BranchRim(Spot::MaxZ), 150, 280), BranchRim(Spot::MaxZ))},
              {Distance, "Distance to intersection", "200", DistanceSize(200)},
              {MainLength, "Main pipe length", "300", MainLengthSize},
              {BranchAngle, "Branch angle (degrees)", "60",
-              AngleSize(Side::Below, Crossing, {.dy = y, .dz = 20}, BranchRim(Spot::MinZ, 25, 50 * Sine60),
+              AngleSize(Side::Below, Crossing, {.dy = y, .dz = 20}, PolarXZ(BranchRim(Spot::MinZ), 60, 50),
                         0.7)}}};
 }
 inline constexpr std::array<LabelEntry, 6> Labels = {

@@ -107,7 +107,8 @@ Outcome Build(FittingForm& form, CRightCone& cone) {
     return SetFrustum(form, cone, {BaseDiameter, TopDiameter}, coneAngle, (R - r) / std::tan(coneAngle));
 }
 
-constexpr SketchPoint Apex = OnAxis(259.8076211353316);  // 150 / tan 30 degrees
+// Half the angle of 60 degrees lies between wall and axis, 60 between wall and base.
+constexpr SketchPoint Apex = SlopeXZ(AtXZ(-150, 0), 60, 150);
 constexpr BoxEntry Boxes[] = {
     {BaseDiameter, "Base diameter", "300", DiameterSize(Side::Below, 2)},
     {TopDiameter, "Top diameter", "120", DiameterSize(Side::Above, 1)},

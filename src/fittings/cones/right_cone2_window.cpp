@@ -58,7 +58,8 @@ Outcome Build(FittingForm& form, CRightCone& cone) {
                      CheckPlaneTilt(form, CuttingPlaneAngle, cone.CPHeight1, cone.BaseRad));
 }
 
-constexpr SketchPoint Apex = OnAxis(321.6760380764337);  // 150 / tan 25 degrees
+// Half the angle of 50 degrees lies between wall and axis, 65 between wall and base.
+constexpr SketchPoint Apex = SlopeXZ(AtXZ(-150, 0), 65, 150);
 constexpr BoxEntry Boxes[] = {
     {BaseDiameter, "Base diameter", "300", DiameterSize(Side::Below, 2)},
     {CuttingPlaneHeight, "Cutting plane height", "150", LinearSize(Side::Left, MiddleOf(2), OnAxis(150))},

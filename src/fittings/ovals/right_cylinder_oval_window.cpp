@@ -122,8 +122,8 @@ Outcome Build(FittingForm& form, CRightCylinderOval& pipe) {
                      CheckTiltWithin(form, CuttingPlaneAngle2, -90, m));
 }
 
-// The right end of the base stands 200 tan 15 degrees above the left one.
-constexpr SketchPoint BelowRightEnd = SpotOf(2, Spot::MaxX, 0, 0, -53.58983848622454);
+// The right end of the base stands above the left one.
+constexpr SketchPoint BelowRightEnd = SpotOf(2, Spot::MinX, 200);
 constexpr BoxEntry Boxes[] = {
     {BaseDiameter, "Base diameter", "200", LinearSize(Side::Below, SpotOf(2, Spot::MinX), BelowRightEnd)},
     {BaseLength, "Base length", "450", oval::LengthOfSection},

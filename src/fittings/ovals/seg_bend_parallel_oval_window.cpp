@@ -94,15 +94,14 @@ Outcome Build(FittingForm& form, CSegBendParallelOval& bend) {
     return Passed;
 }
 
-constexpr SketchPoint ArcEnd = AtXZ(-450 + 450 * 0.5, 450 * 0.8660254037844386);
+constexpr SketchPoint ArcEnd = PolarXZ(bend::Centre(450), 60, 450);
 constexpr BoxEntry Boxes[] = {
     {BaseDiameter, "Base diameter", "180", oval::DiameterOfSection},
     {BaseLength, "Base length", "420", oval::LengthOfSection},
     {BendRadius, "Bend radius", "450", bend::BendRadiusSize(450, 110)},
     {BendAngle, "Bend angle (degrees)", "60", bend::BendAngleSize(450, ArcEnd)},
     {Length1, "Length 1", "110", bend::FirstLengthSize(110)},
-    {Length2, "Length 2", "130",
-     AlignedSize(Side::Above, bend::EndOf(4), bend::EndOf(4, 130 * 0.8660254037844386, -65))},
+    {Length2, "Length 2", "130", AlignedSize(Side::Above, bend::EndOf(4), PolarXZ(bend::EndOf(4), -30, 130))},
     {Segments, "Number of segments", "4", bend::PieceCount}};
 constexpr LabelEntry Labels[] = {{BaseDiameter}, {BaseLength}, {BendRadius}, {BendAngle},
                                  {Length1},      {Length2},    {Segments}};

@@ -142,23 +142,22 @@ Outcome Build(FittingForm& form, CRightCylinder& pipe) {
 // The base is turned by 60 degrees. A second view, turned as far, shows its tilt, and the plan shows by how
 // much it is turned.
 constexpr SketchView Views[] = {{.turn = 0, .tilt = 0}, {.turn = 60, .tilt = 0}, {.turn = 0, .tilt = 90}};
-constexpr SketchPoint TurnedRay = {.dx = 50, .dy = -86.60254037844386};
+constexpr SketchPoint TurnedRay = PolarXY(OnAxis(0), -60, 100);
 constexpr BoxEntry Boxes[] = {
     {BaseDiameter, "Base diameter", "200",
-     LinearSize(Side::Below, SpotOf(2, Spot::MinX), SpotOf(2, Spot::MaxX, 0, 0, -26.79491924311227))},
+     LinearSize(Side::Below, SpotOf(2, Spot::MinX), SpotOf(2, Spot::MinX, 200))},
     {CuttingPlaneHeight, "Cutting plane height", "220", LinearSize(Side::Left, MiddleOf(2), MiddleOf(1))},
     {CuttingPlaneAngle1, "Cutting plane angle 1 (degrees)", "20", TiltSize(1)},
     {CuttingPlaneAngle2, "Cutting plane angle 2 (degrees)", "15",
      AngleSize(Side::Right, SpotOf(2, Spot::MinZ), SpotOf(2, Spot::MaxZ),
-               SpotOf(2, Spot::MinZ, 50, -86.60254037844386), 1.15, 1)},
+               PolarXY(SpotOf(2, Spot::MinZ), -60, 100), 1.15, 1)},
     {RotationOfBase, "Rotation of base (degrees)", "60",
      AngleSize(Side::Right, OnAxis(0), AtXZ(100, 0), TurnedRay, 1.15, 2)}};
 constexpr LabelEntry Labels[] = {
     {BaseDiameter}, {CuttingPlaneHeight}, {CuttingPlaneAngle1}, {CuttingPlaneAngle2}, {RotationOfBase}};
-constexpr SketchConstruction Lines[] = {CentreLine(OnAxis(0), OnAxis(220)),
-                                        CentreLine(OnAxis(0), OnAxis(220), 1),
-                                        CentreLine(AtXZ(-100, 0), AtXZ(100, 0), 2),
-                                        CentreLine({.dx = -50, .dy = 86.60254037844386}, TurnedRay, 2)};
+constexpr SketchConstruction Lines[] = {
+    CentreLine(OnAxis(0), OnAxis(220)), CentreLine(OnAxis(0), OnAxis(220), 1),
+    CentreLine(AtXZ(-100, 0), AtXZ(100, 0), 2), CentreLine(PolarXY(OnAxis(0), 120, 100), TurnedRay, 2)};
 
 }  // namespace tilted_ends
 

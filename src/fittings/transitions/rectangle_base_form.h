@@ -42,8 +42,10 @@ inline constexpr OffsetBoxes Offsets = {OffsetX, OffsetY};
 // The base is 300 by 200, turned by 10 degrees, its front at y -100. Its left side (MinX) is found at its
 // rear end, where the corner begins at `cornerY`, the right side in its middle.
 
-inline constexpr double Cos10 = 0.984807753012208;
-inline constexpr double Sin10 = 0.17364817766693;
+/// A point of the base, `along` from its middle to the right and at y.
+constexpr SketchPoint TiltedAt(double along, double y) {
+    return PolarXZ({.dy = y}, 10, along);
+}
 
 constexpr SketchPoint TiltedFrontLeft(double cornerY, double dx = 0) {
     return SpotOf(2, Spot::MinX, dx, -100 - cornerY);
@@ -53,12 +55,12 @@ inline constexpr SketchPoint TiltedFrontRight = SpotOf(2, Spot::MaxX, 0, -100);
 constexpr SketchDimension TiltedLengthXSize(double cornerY) {
     return AlignedSize(Side::Below, TiltedFrontLeft(cornerY), TiltedFrontRight, Elevation);
 }
-inline constexpr SketchDimension TiltedLengthYSize = LinearSize(
-    Side::Left, PointAt(-150 * Cos10, -100, -150 * Sin10), PointAt(-150 * Cos10, 100, -150 * Sin10), Plan);
+inline constexpr SketchDimension TiltedLengthYSize =
+    LinearSize(Side::Left, TiltedAt(-150, -100), TiltedAt(-150, 100), Plan);
 
 /// The radius of 50 of a corner on the right.
-inline constexpr SketchDimension TiltedCornerSize = RadiusSize(
-    Side::Right, PointAt(130 * Cos10, 90, 130 * Sin10), PointAt(100 * Cos10, 50, 100 * Sin10), Plan);
+inline constexpr SketchDimension TiltedCornerSize =
+    RadiusSize(Side::Right, TiltedAt(130, 90), TiltedAt(100, 50), Plan);
 
 constexpr SketchDimension BaseTiltSize(double cornerY) {
     return AngleSize(Side::Right, TiltedFrontLeft(cornerY), TiltedFrontRight, TiltedFrontLeft(cornerY, 100),
