@@ -178,7 +178,8 @@ class DialogBoxes : public QObject {
                                                              {"flat.KVT", "flat.KVT"},
                                                              {"flat.kvt", "flat.kvt"}};
         for (const auto& [typed, saved] : names) {
-            WhenShown([&](QDialog& window) { ChooseName(window, folder_.filePath(typed)); });
+            const QString path = folder_.filePath(typed);
+            WhenShown([&](QDialog& window) { ChooseName(window, path); });
             QCOMPARE(desk_.ui.ChooseFile(SaveAs), folder_.filePath(saved).toStdString());
         }
     }
