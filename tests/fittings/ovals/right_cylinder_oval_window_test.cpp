@@ -91,7 +91,7 @@ TEST(OvalPipeSizes, OfTheMeanLine) {
 
 TEST(OvalPipeSizes, OfTiltedCuts) {
     TestShell shell;
-    const CRightCylinderOval& tilted = BuiltOvalPipe(*shell.OpenSample(OvalPipeCategory, 2));
+    const CRightCylinderOval tilted = BuiltOvalPipe(*shell.OpenSample(OvalPipeCategory, 2));
     EXPECT_DOUBLE_EQ(tilted.CPAngle1, -DegToRad(25));
     const CRightCylinderOval heights = BuiltOvalPipe(*shell.OpenSample(OvalPipeCategory, 3));
     EXPECT_DOUBLE_EQ(heights.CPHeight1, 280);
