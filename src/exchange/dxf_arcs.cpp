@@ -12,7 +12,6 @@
 namespace korvet {
 namespace {
 
-constexpr int Places = 6;
 constexpr double StraightTurn = 1e-08;
 constexpr double CentreTolerance = 0.0001;
 
@@ -20,17 +19,17 @@ constexpr double CentreTolerance = 0.0001;
 constexpr double StationTolerance = 0.001;
 
 double RoundedDistance(const C3DPoint& a, const C3DPoint& b) {
-    return RoundPlaces(Distance3D(a, b), Places);
+    return RoundPlaces(Distance3D(a, b), DxfPlaces);
 }
 
 double RoundedBearing(const C3DPoint& a, const C3DPoint& b) {
-    return RoundPlaces(PlanAngle(a, b), Places);
+    return RoundPlaces(PlanAngle(a, b), DxfPlaces);
 }
 
 /// Change of bearing at p2, from 0; a full turn counts as none.
 double TurnAt(const C3DPoint& p1, const C3DPoint& p2, const C3DPoint& p3) {
     const double turn = AbsValue(PlanAngle(p2, p3) - PlanAngle(p1, p2));
-    return RoundPlaces(turn, Places) == RoundPlaces(FullTurn, Places) ? 0 : turn;
+    return RoundPlaces(turn, DxfPlaces) == RoundPlaces(FullTurn, DxfPlaces) ? 0 : turn;
 }
 
 bool TurnsLeft(const C3DPoint& p1, const C3DPoint& p2, const C3DPoint& p3) {
@@ -68,8 +67,8 @@ struct AngleSteps {
     explicit AngleSteps(const Arc& arc) {
         const double start = RadToDeg(PlanAngle(arc.centre, arc.start));
         const double end = RadToDeg(PlanAngle(arc.centre, arc.end));
-        const double writtenStart = RoundPlaces(start, Places);
-        const double writtenEnd = RoundPlaces(end, Places);
+        const double writtenStart = RoundPlaces(start, DxfPlaces);
+        const double writtenEnd = RoundPlaces(end, DxfPlaces);
         const double radius = Distance3D(arc.centre, arc.start);
         startGap = radius * DegToRad(writtenStart - start);
         endGap = radius * DegToRad(end - writtenEnd);

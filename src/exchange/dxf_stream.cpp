@@ -13,7 +13,6 @@ namespace korvet {
 namespace {
 
 constexpr std::string_view LineEnd = "\r\n";
-constexpr int Places = 6;
 
 // Group codes. The y and z of a point follow its x by 10 and 20.
 constexpr int EntityCode = 0;
@@ -166,7 +165,7 @@ void DxfStream::WriteNumber(int code, double value) {
 }
 
 void DxfStream::WriteRounded(int code, double value) {
-    WriteNumber(code, RoundPlaces(value, Places));
+    WriteNumber(code, RoundPlaces(value, DxfPlaces));
 }
 
 void DxfStream::WritePoint(int xCode, const C3DPoint& point) {

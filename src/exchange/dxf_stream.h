@@ -9,6 +9,9 @@
 
 namespace korvet {
 
+/// Decimal places of coordinates, radii and arc angles in the file.
+inline constexpr int DxfPlaces = 6;
+
 /// Which end of a text stands at its point (group 72).
 enum class TextJustification : int { Left = 0, Centre = 1, Right = 2 };
 

@@ -12,7 +12,6 @@
 namespace korvet {
 namespace {
 
-constexpr int DotsPerInch = 96;
 constexpr int PointsPerInch = 72;
 constexpr int LargestFont = 20000;  // pixels
 constexpr double ClipMargin = 32;   // pixels, beyond the width of every pen

@@ -15,6 +15,9 @@ class QPainter;
 
 namespace korvet {
 
+/// Logical pixels to the inch, on screens and in pictures.
+inline constexpr int DotsPerInch = 96;
+
 /// A colour of the drawing as the toolkit has it.
 QColor ColorOf(Color color);
 

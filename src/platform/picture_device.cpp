@@ -14,8 +14,6 @@
 namespace korvet {
 namespace {
 
-constexpr int DotsPerInch = 96;
-
 /// Fonts live in a graphics application. A program without one gets one that needs no screen, and keeps it to
 /// its end.
 void EnsureGraphicsApplication() {

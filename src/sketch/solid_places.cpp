@@ -7,14 +7,12 @@
 #include <numeric>
 #include <utility>
 
+#include "sketch/sketch_plane.h"
+
 namespace korvet {
 namespace {
 
 constexpr std::size_t SmallGroup = 4;
-
-double Dot(const SketchXY& a, const SketchXY& b) {
-    return a.x * b.x + a.y * b.y;
-}
 
 SketchXY Across(const SketchXY& along) {
     return {-along.y, along.x};

@@ -15,7 +15,7 @@
 namespace korvet::desktop {
 namespace {
 
-constexpr QSize SizeInTwips = {7600, 4300};
+constexpr QSize BranchDialogTwips = {7600, 4300};
 
 using Description = BranchAdditionalDialog::Description;
 using Lines = std::span<const std::string_view>;
@@ -80,7 +80,7 @@ QLayout* MakeDescriptions(ModelDialog& window, const BranchAdditionalDialog& dia
 }  // namespace
 
 void RunDialog(const DialogHost& host, BranchAdditionalDialog& dialog) {
-    ModelDialog window(host, "frmBranchAdditional", dialog.caption, SizeInTwips);
+    ModelDialog window(host, "frmBranchAdditional", dialog.caption, BranchDialogTwips);
     QGroupBox* const types =
         MakeFrame("fraBranchTypes", Text(dialog.fraBranchTypes), Text(dialog.fraBranchTypes));
     auto* column = new QVBoxLayout(types);

@@ -69,7 +69,7 @@ void LeaveRoomForTitle(QMessageBox& box) {
 }
 
 /// A text with the line breaks of the toolkit.
-QString Lines(const std::string& text) {
+QString TextInLines(const std::string& text) {
     return Text(text).replace(QLatin1String("\r\n"), QLatin1String("\n"));
 }
 
@@ -81,8 +81,8 @@ Answer RunMessageBox(QWidget* parent, const MessageBox& message) {
     box.setWindowTitle(Text(message.title));
     box.setIcon(IconOf(message.style));
     box.setTextFormat(Qt::PlainText);
-    box.setText(Lines(message.text));
-    box.setInformativeText(Lines(message.detail));
+    box.setText(TextInLines(message.text));
+    box.setInformativeText(TextInLines(message.detail));
     for (QLabel* label : box.findChildren<QLabel*>()) {
         label->setTextFormat(Qt::PlainText);
     }

@@ -19,7 +19,7 @@
 namespace korvet::desktop {
 namespace {
 
-constexpr QSize SizeInTwips = {7400, 4800};
+constexpr QSize OptionsDialogTwips = {7400, 4800};
 
 /// Decimal places, a list of which one is always picked.
 void AddDecimals(ModelDialog& window, OptionsDialog& dialog, QFormLayout& form) {
@@ -160,7 +160,7 @@ QWidget* MakeDxfTab(ModelDialog& window, OptionsDialog& dialog) {
 }
 
 void RunDialog(const DialogHost& host, OptionsDialog& dialog) {
-    ModelDialog window(host, "frmOptions", dialog.caption, SizeInTwips, OptionsDialog::HelpContextID);
+    ModelDialog window(host, "frmOptions", dialog.caption, OptionsDialogTwips, OptionsDialog::HelpContextID);
     AddTabs(window, dialog);
     AddOkAndCancel(window, dialog);
     window.AddButton(ModelDialog::Role::Other, "btnSave", QStringLiteral("&Save"), QStringLiteral("Save"),

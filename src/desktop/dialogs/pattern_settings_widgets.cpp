@@ -18,7 +18,7 @@
 namespace korvet::desktop {
 namespace {
 
-constexpr QSize SizeInTwips = {7125, 6600};
+constexpr QSize SettingsDialogTwips = {7125, 6600};
 constexpr int HelpContextID = 2020;
 
 /// A box whose text is tested as it is typed, and selected when the user goes to it.
@@ -195,7 +195,7 @@ void AddButtons(ModelDialog& window, PatternSettingsDialog& dialog) {
 }  // namespace
 
 void RunDialog(const DialogHost& host, PatternSettingsDialog& dialog) {
-    ModelDialog window(host, "frmPatternSettings", dialog.caption, SizeInTwips, HelpContextID);
+    ModelDialog window(host, "frmPatternSettings", dialog.caption, SettingsDialogTwips, HelpContextID);
     auto* columns = new QHBoxLayout;
     window.Body().addLayout(columns);
     auto* left = new QVBoxLayout;
