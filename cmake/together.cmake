@@ -1,0 +1,16 @@
+# korvet_together(TARGET WANTED): when it is wanted, compiles the sources of each folder up to eight at a time, so that
+# what all of them include is read once. What stands in their anonymous namespaces has a name of its own in the folder.
+function(korvet_together target wanted)
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ${wanted} UNITY_BUILD_MODE GROUP)
+    get_target_property(sources ${target} SOURCES)
+    list(FILTER sources INCLUDE REGEX "[.]cpp$")
+    foreach(source IN LISTS sources)
+        cmake_path(GET source PARENT_PATH folder)
+        cmake_path(RELATIVE_PATH folder BASE_DIRECTORY ${PROJECT_SOURCE_DIR})
+        string(MAKE_C_IDENTIFIER ${folder} folder)
+        list(APPEND ${folder} ${source})
+        list(LENGTH ${folder} count)
+        math(EXPR batch "(${count} - 1) / 8")
+        set_source_files_properties(${source} PROPERTIES UNITY_GROUP ${folder}_${batch})
+    endforeach()
+endfunction()
