@@ -127,7 +127,7 @@ Outcome CMainFrame::ReadCategory(const std::string& path) {
 bool CMainFrame::CloseChild(CFittingWindow& window) {
     bool closed = false;
     Guarded([&] {
-        closed = window.CloseForm();
+        closed = window.CloseForm() == Passed;
         if (closed) {
             Remove(window);
         }
@@ -148,9 +148,8 @@ void CMainFrame::Remove(CFittingWindow& window) {
 }
 
 bool CMainFrame::AskAllToClose() {
-    return std::all_of(children_.begin(), children_.end(), [](const auto& child) {
-        return ConfirmSave(*child) != static_cast<int>(Answer::Cancel);
-    });
+    return std::all_of(children_.begin(), children_.end(),
+                       [](const auto& child) { return ConfirmSave(*child) == Passed; });
 }
 
 /// When the user logs off, the desktop closes a dialog together with the frame, and the command that showed

@@ -23,9 +23,9 @@ std::string TypeCaption(std::int16_t dtype) {
     return "Type " + std::to_string(dtype + 1);
 }
 
-void EnableTypeButtons(CFittingWindow& window, std::int16_t dtype) {
+void EnableTypeButtons(CFittingWindow& window) {
     const auto last = static_cast<std::int16_t>(window.controls.Picture1.size() - 1);
-    EnableSteps(window.controls, dtype != last, dtype != 0);
+    EnableSteps(window.controls, window.dtype != last, window.dtype != 0);
 }
 
 void LockType(CFittingWindow& window) {
@@ -63,8 +63,9 @@ void ReturnToPageOfType(CFittingWindow& window) {
     }
 }
 
-std::int16_t StepFittingType(CFittingWindow& window, std::size_t button, std::int16_t dtype) {
+void StepFittingType(CFittingWindow& window, std::size_t button) {
     WindowModel& controls = window.controls;
+    std::int16_t& dtype = window.dtype;
     const auto last = static_cast<std::int16_t>(controls.Picture1.size() - 1);
     const bool next = button == 0 && dtype < last;
     const bool previous = button == 1 && dtype > 0;
@@ -73,8 +74,7 @@ std::int16_t StepFittingType(CFittingWindow& window, std::size_t button, std::in
     }
     ShowPage(controls, static_cast<std::size_t>(dtype));
     controls.lblDtype.caption = TypeCaption(dtype);
-    EnableTypeButtons(window, dtype);
-    return dtype;
+    EnableTypeButtons(window);
 }
 
 }  // namespace korvet

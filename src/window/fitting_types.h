@@ -1,11 +1,12 @@
-// The types of a fitting window: one is shown, and its neighbours can be stepped to until the first drawing.
+// The types of a fitting window and their parameter pages: one is shown, and its neighbours can be stepped to
+// until the first drawing. Page k is that of type k; the user counts both from 1.
 #pragma once
 
 #include "window/fitting_window.h"
 
 namespace korvet {
 
-/// "Type " and the number of a type, counted from 1.
+/// What the label of the types says of a type, from 0: "Type " and its number, counted from 1.
 std::string TypeCaption(std::int16_t dtype);
 
 /// Shows the parameter page of that index, from 0, and hides the others.
@@ -17,11 +18,12 @@ void ShowPageOfBox(CFittingWindow& window, int box);
 /// Shows the page of the type again where that of a box of another type is shown.
 void ReturnToPageOfType(CFittingWindow& window);
 
-/// Steps to the next (button 0) or previous (button 1) type, where there is one, and returns the new type.
-std::int16_t StepFittingType(CFittingWindow& window, std::size_t button, std::int16_t dtype);
+/// Steps the window to its next (button 0) or previous (button 1) type, where there is one, and shows the
+/// page of the type that it then has.
+void StepFittingType(CFittingWindow& window, std::size_t button);
 
-/// Enables the type buttons that have a type to go to from `dtype`.
-void EnableTypeButtons(CFittingWindow& window, std::int16_t dtype);
+/// Enables the type buttons that have a type to go to from that of the window.
+void EnableTypeButtons(CFittingWindow& window);
 
 /// Disables them for good: the type of a fitting is fixed by its first drawing.
 void LockType(CFittingWindow& window);

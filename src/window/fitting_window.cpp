@@ -101,7 +101,7 @@ void CFittingWindow::ClickPoint(std::size_t index) {
     if (!controls.btnPoint.at(index).enabled) {
         return;
     }
-    dtype = StepFittingType(*this, index, dtype);
+    StepFittingType(*this, index);
     if (Table().onTypeChanged != nullptr) {
         Table().onTypeChanged(dtype, settings);
     }
@@ -151,6 +151,7 @@ void CFittingWindow::PressKeyInDrawing() {
 
 void CFittingWindow::Resize(const Place& scale) {
     controls.scale = scale;
+    ShareWindowState(*this);
     ArrangeFittingWindow(*this);
 }
 
@@ -166,13 +167,13 @@ void CFittingWindow::CancelMouseModes() {
     controls.pboxGraphicWindow.toolTip.clear();
 }
 
-bool CFittingWindow::CloseForm() {
-    if (ConfirmSave(*this) == static_cast<int>(Answer::Cancel)) {
-        return false;
+Outcome CFittingWindow::CloseForm() {
+    if (ConfirmSave(*this)) {
+        return Refused;
     }
     context_.patternSettingsDialog = PatternSettingsDialog();
     closed = true;
-    return true;
+    return Passed;
 }
 
 Outcome CFittingWindow::FillFromFile(const std::string& path) {

@@ -89,8 +89,8 @@ class CFittingWindow {
     /// check refuses end with its message, and the load has passed.
     Outcome LoadFile(const std::string& path);
 
-    /// Asks about saving, then closes. False when the user keeps the window open.
-    bool CloseForm();
+    /// Asks about saving, then closes. Refused when the user keeps the window open.
+    Outcome CloseForm();
 
     // Events of the controls.
     void ChangeBox(std::size_t index, const std::string& text);

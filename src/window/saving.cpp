@@ -113,7 +113,7 @@ void ShowPageOf(CFittingWindow& window, std::int16_t dtype) {
     WindowModel& controls = window.controls;
     ShowPage(controls, static_cast<std::size_t>(dtype));
     controls.lblDtype.caption = std::to_string(dtype + 1);
-    EnableTypeButtons(window, dtype);
+    EnableTypeButtons(window);
 }
 
 /// What is wrong with a file, behind its name; the errors of the disk name it themselves.
@@ -231,9 +231,9 @@ std::optional<std::string> ChooseSaveName(UserInterface& ui) {
     return ui.ChooseFile({"SaveAs", std::string(ProductTitle) + " Files (*.Kvt)|*.Kvt", true});
 }
 
-int ConfirmSave(CFittingWindow& window) {
+Outcome ConfirmSave(CFittingWindow& window) {
     if (!window.hasModel) {
-        return 0;
+        return Passed;
     }
     WindowContext& context = window.Context();
     const std::string& caption = window.controls.caption;
@@ -243,11 +243,11 @@ int ConfirmSave(CFittingWindow& window) {
                                            {},
                                            std::nullopt});
     if (answer != Answer::Yes) {
-        return static_cast<int>(answer);
+        return RefusedIf(answer == Answer::Cancel);
     }
     const std::optional<std::string> path = HasNoFile(window) ? ChooseSaveName(context.ui) : caption;
     // What was not written must not be thrown away with its window.
-    return static_cast<int>(path && window.SaveFile(*path) == Passed ? Answer::Yes : Answer::Cancel);
+    return path ? window.SaveFile(*path) : Refused;
 }
 
 }  // namespace korvet

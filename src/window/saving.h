@@ -10,7 +10,7 @@
 
 namespace korvet {
 
-/// How the caption of a window begins that has no file yet.
+/// How the caption of a window begins that has no file yet; the caption of any other one is its path.
 inline constexpr std::string_view NewWindowCaption = "Development";
 
 /// Whether the window has no file yet, by its caption.
@@ -20,8 +20,8 @@ bool HasNoFile(const CFittingWindow& window);
 /// with a message, when the file could not be written; the caption and an old file then stay as they were.
 Outcome SaveFitting(CFittingWindow& window, const std::string& path);
 
-/// Fills the window from a parameter file. Throws FileError and ParameterFileError; what was read before the
-/// fault stays in the controls.
+/// Fills the window from a parameter file and shows the page of its type; nothing is built. Returns what was
+/// read. Throws FileError and ParameterFileError; what was read before the fault stays in the controls.
 CKvtFile LoadFitting(CFittingWindow& window, const std::string& path);
 
 /// Asks under which name a parameter file is to be saved; nothing after Cancel.
@@ -37,8 +37,8 @@ void ShowHeaderError(MessageBoxes& boxes, const std::string& path, const std::ex
 /// faulty header, before message 109. Each names the file, and shows only what can be seen of its contents.
 void ShowLoadError(WindowContext& context, const std::string& path, const std::exception& error);
 
-/// The close question. Returns 0 when none was needed, 6 after a save, 7 for No, 2 when the window stays
-/// open: Cancel, in the question or the file dialog, or a save that failed.
-int ConfirmSave(CFittingWindow& window);
+/// Lets a window be closed: asks whether its model is to be saved, and saves it. Refuses when the window is
+/// to stay open: after Cancel, in the question or the file dialog, or when it could not be saved.
+Outcome ConfirmSave(CFittingWindow& window);
 
 }  // namespace korvet

@@ -90,8 +90,4 @@ Outcome RequirePatternView(MessageBoxes& boxes, const COptions& options, const C
     return Refused;
 }
 
-int RequirePatternViewValue(MessageBoxes& boxes, const COptions& options, const CViewList& views, int value) {
-    return RequirePatternView(boxes, options, views) ? 0 : value;
-}
-
 }  // namespace korvet

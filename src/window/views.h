@@ -34,7 +34,4 @@ bool InPatternView(const CViewList& views);
 /// Refuses any other view than one of the pattern, by a plain box with message 71.
 Outcome RequirePatternView(MessageBoxes& boxes, const COptions& options, const CViewList& views);
 
-/// `value` in a pattern view; 0, with a plain box with message 71, otherwise.
-int RequirePatternViewValue(MessageBoxes& boxes, const COptions& options, const CViewList& views, int value);
-
 }  // namespace korvet

@@ -165,7 +165,7 @@ void CFittingWindow::AddDimension(int kind) {
     if (RequireModel()) {
         return;
     }
-    if (RequirePatternViewValue(context_.ui, context_.options, *views, kind) > 0) {
+    if (RequirePatternView(context_.ui, context_.options, *views) == Passed) {
         modes.dimensionMode = kind;
     }
     controls.pboxGraphicWindow.toolTip = context_.Message(FirstAndSecondPoint);

@@ -51,7 +51,7 @@ void PlaceParameterPage(Control& page) {
     page.visible = false;
 }
 
-void ArrangeFittingWindow(CFittingWindow& window) {
+void ShareWindowState(CFittingWindow& window) {
     COptions& options = window.Context().options;
     WindowModel& controls = window.controls;
     if (options.WindowState == -1) {
@@ -60,6 +60,10 @@ void ArrangeFittingWindow(CFittingWindow& window) {
     } else {
         options.WindowState = static_cast<std::int16_t>(controls.state);
     }
+}
+
+void ArrangeFittingWindow(CFittingWindow& window) {
+    WindowModel& controls = window.controls;
     const Place& scale = controls.scale;
     // A frame narrower than the panel leaves no drawing area, never a negative one.
     controls.pboxGraphicWindow.place = {scale.left + PanelWidth, scale.top + 100,
@@ -77,6 +81,7 @@ void SetupFittingWindow(CFittingWindow& window) {
     }
     controls.place = {0, controls.place.top, context.frame.inner.width, context.frame.inner.height};
     controls.scale = {0, 0, context.frame.inner.width, context.frame.inner.height};
+    ShareWindowState(window);
     ArrangeFittingWindow(window);
     std::for_each(controls.Picture1.begin(), controls.Picture1.end(), PlaceParameterPage);
     std::for_each(controls.pboxMore.begin(), controls.pboxMore.end(), PlaceParameterPage);
@@ -89,7 +94,7 @@ void SetupFittingWindow(CFittingWindow& window) {
     window.ChangeTextSize(NumberText(context.options.DisplayTextSize, context.decimalMark));
     EnableFittingCommands(context.frame);
     UpdateSettings(window);
-    EnableTypeButtons(window, window.dtype);
+    EnableTypeButtons(window);
 }
 
 void UpdateSettings(CFittingWindow& window) {

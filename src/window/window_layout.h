@@ -5,16 +5,21 @@
 
 namespace korvet {
 
-/// Gives a parameter page its standard rectangle and hides it.
+/// Gives a parameter page its standard rectangle, in twips, and hides it.
 void PlaceParameterPage(Control& page);
 
-/// Lays the window's areas out in its inner size, twips, and remembers its state for the next window.
+/// The state of a window is that of the next one: it is stored for it. The first window of a run is
+/// maximised.
+void ShareWindowState(CFittingWindow& window);
+
+/// Places drawing and panel of the window in its inner area; all in twips.
 void ArrangeFittingWindow(CFittingWindow& window);
 
-/// The common part of a window's load: layout, captions, boxes, type label, status line.
+/// What all windows do when they are made: state, layout, captions, boxes, page and label of the type, status
+/// line, and the commands of the frame that need a window.
 void SetupFittingWindow(CFittingWindow& window);
 
-/// Composes the status line of the window's settings and puts it into the frame.
+/// Composes the status line of the window's settings anew and puts it into the frame.
 void UpdateSettings(CFittingWindow& window);
 
 }  // namespace korvet

@@ -147,9 +147,8 @@ TEST(ViewHistory, PatternCommandsAskForThePattern) {
     EXPECT_EQ(RequirePatternView(ui, options, views), Refused);
     AddPresetView(PatternButton, views);
     EXPECT_EQ(RequirePatternView(ui, options, views), Passed);
-    EXPECT_EQ(RequirePatternViewValue(ui, options, views, 3), 3);
     AddPresetView(1, views);
-    EXPECT_EQ(RequirePatternViewValue(ui, options, views, 3), 0);
+    EXPECT_EQ(RequirePatternView(ui, options, views), Refused);
     EXPECT_EQ(ui.messages.size(), 2U);
     EXPECT_EQ(ui.messages[0].text, "This option is only available in pattern view");
 }

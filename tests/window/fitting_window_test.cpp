@@ -326,15 +326,15 @@ TEST_F(FittingWindowTest, RemovingAllDimensionsEmptiesTheList) {
 
 TEST_F(FittingWindowTest, ClosingAsksOnlyWithAModel) {
     const auto empty = Cone();
-    EXPECT_TRUE(empty->CloseForm());
+    EXPECT_EQ(empty->CloseForm(), Passed);
     EXPECT_TRUE(shell.ui.messages.empty());
 
     const auto window = ConeWithView(PatternButton);
-    EXPECT_FALSE(window->CloseForm());  // the box is answered with Cancel
+    EXPECT_EQ(window->CloseForm(), Refused);  // the box is answered with Cancel
     ExpectMessage("Save parameter file for Development 2", YesNoCancelBox, "Korvet Development");
     EXPECT_FALSE(window->closed);
     shell.ui.answers = {Answer::No};
-    EXPECT_TRUE(window->CloseForm());
+    EXPECT_EQ(window->CloseForm(), Passed);
     EXPECT_TRUE(shell.files.files.empty());
 }
 
@@ -342,7 +342,7 @@ TEST_F(FittingWindowTest, ClosingWithYesSavesFirst) {
     const auto window = ConeWithView(PatternButton);
     shell.ui.answers = {Answer::Yes};
     shell.ui.files = {"cone.Kvt"};
-    EXPECT_TRUE(window->CloseForm());
+    EXPECT_EQ(window->CloseForm(), Passed);
     EXPECT_EQ(shell.ui.fileDialogs.at(0).title, "SaveAs");
     EXPECT_EQ(shell.ui.fileDialogs.at(0).filter, "Korvet Development Files (*.Kvt)|*.Kvt");
     EXPECT_TRUE(shell.files.files.contains("cone.Kvt"));
@@ -352,9 +352,9 @@ TEST_F(FittingWindowTest, ClosingStopsWhenTheSaveDoesNotHappen) {
     const auto window = ConeWithView(PatternButton);
     shell.ui.answers = {Answer::Yes, Answer::Yes};
     shell.ui.files = {std::nullopt, "full/cone.Kvt"};
-    EXPECT_FALSE(window->CloseForm());  // the file dialog was cancelled
+    EXPECT_EQ(window->CloseForm(), Refused);  // the file dialog was cancelled
     shell.files.unwritable.insert("full/cone.Kvt");
-    EXPECT_FALSE(window->CloseForm());
+    EXPECT_EQ(window->CloseForm(), Refused);
     EXPECT_EQ(shell.ui.messages.back().text, "full/cone.Kvt: cannot be written");
     EXPECT_EQ(window->controls.caption, "Development 1");
     EXPECT_FALSE(window->closed);
@@ -365,7 +365,7 @@ TEST_F(FittingWindowTest, ASavedWindowIsSavedUnderItsName) {
     EXPECT_EQ(window->SaveFile("cone.Kvt"), Passed);
     EXPECT_EQ(window->controls.caption, "cone.Kvt");
     shell.ui.answers = {Answer::Yes};
-    EXPECT_TRUE(window->CloseForm());
+    EXPECT_EQ(window->CloseForm(), Passed);
     EXPECT_TRUE(shell.ui.fileDialogs.empty());
 }
 
