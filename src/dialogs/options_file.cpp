@@ -11,6 +11,7 @@
 #include "core/number_text.h"
 #include "core/text_encoding.h"
 #include "form/messages.h"
+#include "form/outcome.h"
 
 namespace korvet {
 namespace {
@@ -152,11 +153,11 @@ bool IsThisVersion(std::string_view text) {
     return Trimmed(text.substr(0, text.find('\n'))) == SettingsVersion;
 }
 
-/// Makes sure that there is a file of this version. False when it could not be made.
-bool CheckIniFile(const COptions& options, FileStore& files, MessageBoxes& boxes, char decimalMark) {
+/// Makes sure that there is a file of this version. Refuses when it could not be made.
+Outcome CheckIniFile(const COptions& options, FileStore& files, MessageBoxes& boxes, char decimalMark) {
     const bool exists = files.Exists(options.IniFileName);
     if (exists && IsThisVersion(ReadText(options, files))) {
-        return true;
+        return Passed;
     }
     if (exists) {
         ShowPlain(boxes, GetMessage(IniFileUpdated, options.Language));
@@ -168,9 +169,9 @@ bool CheckIniFile(const COptions& options, FileStore& files, MessageBoxes& boxes
         WriteIniFile(options, files, decimalMark);
     } catch (const FileError& error) {
         ShowPlain(boxes, error.what());
-        return false;
+        return Refused;
     }
-    return true;
+    return Passed;
 }
 
 /// Lines 2 to 17: segments, numbers, language, colours and layers.
@@ -240,7 +241,7 @@ void WriteIniFile(const COptions& options, FileStore& files, char decimalMark) {
 }
 
 void ReadIniFile(COptions& options, FileStore& files, MessageBoxes& boxes, char decimalMark) {
-    if (!CheckIniFile(options, files, boxes, decimalMark)) {
+    if (CheckIniFile(options, files, boxes, decimalMark)) {
         return;
     }
     const std::string text = ReadText(options, files);

@@ -6,7 +6,7 @@
 namespace korvet {
 
 void ShowHelp(MessageBoxes& boxes, const COptions& options, HelpViewer& help, int contextId) {
-    if (!RequireHelp(boxes, help)) {
+    if (RequireHelp(boxes, help) == Refused) {
         return;
     }
     if (contextId == 0 || !help.ShowTopic(contextId)) {
@@ -14,15 +14,15 @@ void ShowHelp(MessageBoxes& boxes, const COptions& options, HelpViewer& help, in
     }
 }
 
-bool RequireHelp(MessageBoxes& boxes, const HelpViewer& help) {
+Outcome RequireHelp(MessageBoxes& boxes, const HelpViewer& help) {
     if (help.HasHelp()) {
-        return true;
+        return Passed;
     }
     // The title is the caption of the frame.
     boxes.Show({.text = "Unable to display Help Contents. There is no Help associated with this project.",
                 .style = InformationBox,
                 .title = std::string(ProductTitle)});
-    return false;
+    return Refused;
 }
 
 }  // namespace korvet

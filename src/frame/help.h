@@ -3,6 +3,7 @@
 
 #include "form/message_boxes.h"
 #include "form/options.h"
+#include "form/outcome.h"
 
 namespace korvet {
 
@@ -27,7 +28,7 @@ class HelpViewer {
 /// file at all.
 void ShowHelp(MessageBoxes& boxes, const COptions& options, HelpViewer& help, int contextId);
 
-/// Whether there is help; the box that says there is none when not.
-bool RequireHelp(MessageBoxes& boxes, const HelpViewer& help);
+/// Refuses, with a box that says so, where there is no help.
+Outcome RequireHelp(MessageBoxes& boxes, const HelpViewer& help);
 
 }  // namespace korvet

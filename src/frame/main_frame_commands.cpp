@@ -247,13 +247,13 @@ void CMainFrame::WindowArrangeIcons() {
 void CMainFrame::HelpContents() {
     if (active_ != nullptr) {
         ShowHelp(context_.ui, context_.options, help_, active_->Row().helpContextId);
-    } else if (RequireHelp(context_.ui, help_)) {
+    } else if (RequireHelp(context_.ui, help_) == Passed) {
         help_.ShowContents();
     }
 }
 
 void CMainFrame::HelpSearch() {
-    if (RequireHelp(context_.ui, help_)) {
+    if (RequireHelp(context_.ui, help_) == Passed) {
         help_.ShowSearch();
     }
 }
