@@ -44,7 +44,7 @@ const std::array<CatalogueRow, CatalogueSize> Catalogue = {{
      2450, SeamLapOnly, nullptr},
     {"Imported Mesh", "frmImportMesh", "CImportMesh", 2460, NoLaps, nullptr},
     {"Elliptical Hole", "frmEllipticalHole", "CBaffle", 2480, AllLaps, nullptr},
-    {"Pipe to Bend", "frmPipeToBend", "CPipeToBend", 2470, AllLaps, nullptr},
+    {"Pipe to Bend", "frmPipeToBend", "CPipeToBend", 2470, AllLaps, &frmPipeToBend},
     {"Mitre Elbow", "frmMitreElbow", "CMitreElbow", 0, AllLaps, nullptr, true},
     {"Rectangular Tee", "frmRectTee", "CRectTee", 0, AllLaps, nullptr, true},
     {"Bends", "frmBends", "CBends", 2100, AllLaps, nullptr, true},

@@ -1,0 +1,184 @@
+// The window of the pipe on a bend: how it starts, every limit in its place, the sizes that it hands on, text
+// lines, saved files. The sample is a pipe of 120 on a bend of 200 with a centre line of 300, 180 up.
+#include <gtest/gtest.h>
+
+#include "fittings/branches/pipe_to_bend.h"
+#include "tests/support/refusals.h"
+#include "tests/support/saved_fittings.h"
+#include "window/views.h"
+
+namespace korvet {
+namespace {
+
+constexpr const char* PipeToBend = "Pipe to Bend";
+
+const CPipeToBend& BuiltPipeToBend(CFittingWindow& window) {
+    EXPECT_EQ(window.BuildFitting(), Passed);
+    return window.fitting->As<CPipeToBend>();
+}
+
+TEST(PipeToBendWindow, StartsAsAPipeOnABendDoes) {
+    TestShell shell;
+    const auto window = shell.Open(PipeToBend);
+    EXPECT_EQ(window->Row().helpContextId, 2470);
+    EXPECT_EQ(window->dtype, 0);
+    EXPECT_EQ(window->miscellaneous, 0);
+    EXPECT_TRUE(window->Table().multiple);
+    EXPECT_EQ(window->settings.LapEnable, AllLaps);
+    EXPECT_TRUE(window->settings.JoinAngleDisable);
+    EXPECT_TRUE(window->settings.TemplateTypeEnabled);
+    EXPECT_FALSE(window->settings.KerfEnabled);
+    EXPECT_FALSE(window->settings.HalfPatternDisable);
+    EXPECT_TRUE(window->controls.options.optPatternSelect.captions.empty());
+    ASSERT_EQ(window->controls.txtParameter.size(), 5U);
+    for (const TextBox& box : window->controls.txtParameter) {
+        EXPECT_EQ(box.text, "0");
+    }
+}
+
+class PipeToBendRefusals : public testing::TestWithParam<Refusal> {};
+
+TEST_P(PipeToBendRefusals, NameTheBox) {
+    TestShell shell;
+    const auto window = shell.OpenSample(PipeToBend, GetParam().type);
+    TypeBoxes(*window, GetParam().boxes);
+    EXPECT_EQ(window->BuildFitting(), Refused);
+    ExpectUserError(shell.ui, *window, GetParam().message, GetParam().box);
+}
+
+// The box that is refused later in the order is wrong too. A pipe 180 up comes 120 up with its lowest rule,
+// and 400 around the bend's centre that is 381.6 beside it.
+INSTANTIATE_TEST_SUITE_P(Sizes, PipeToBendRefusals,
+                         testing::Values(Refusal{1, {{0, "-120"}, {1, "-200"}}, NoRoom, 0},
+                                         Refusal{1, {{1, "119.9"}, {3, "1"}}, AtLeast + "120", 1},
+                                         Refusal{1, {{3, "59.9"}, {2, "1"}}, AtLeast + "60", 3},
+                                         Refusal{1, {{2, "99.9"}, {4, "1"}}, AtLeast + "100", 2},
+                                         Refusal{1, {{2, "130"}, {4, "1"}, {3, "170.1"}}, AtMost + "170", 3},
+                                         Refusal{1, {{3, "340.1"}, {4, "1"}}, AtMost + "340", 3},
+                                         Refusal{1, {{4, "381.5"}}, GreaterThan + "381.6", 4},
+                                         Refusal{1, {{3, "340"}, {4, "285.6"}}, GreaterThan + "285.7", 4},
+                                         Refusal{1, {{4, "-520"}}, GreaterThan + "381.6", 4}));
+
+TEST(PipeToBendLimits, TheLimitsThemselvesAreAllowed) {
+    const std::vector<BoxTexts> cases = {{{1, "120"}},
+                                         {{0, "200"}},
+                                         {{0, "0.001"}},
+                                         {{3, "60"}},
+                                         {{2, "100"}, {3, "140"}},
+                                         {{3, "340"}},
+                                         {{3, "300"}, {4, "320.0001"}},  // a triangle of 240, 320 and 400
+                                         {{0, "200"}, {2, "100"}, {3, "100"}}};
+    for (const BoxTexts& boxes : cases) {
+        TestShell shell;
+        const auto window = shell.OpenSample(PipeToBend, 1);
+        TypeBoxes(*window, boxes);
+        window->ClickView(PatternButton);
+        EXPECT_TRUE(window->hasModel) << boxes.begin()->first;
+        EXPECT_EQ(shell.ui.Texts(), std::vector<std::string>());
+    }
+}
+
+TEST(PipeToBendLimits, LengthMustBeBeyondTheBend) {
+    TestShell shell;
+    const auto window = shell.OpenSample(PipeToBend, 1);
+    TypeBoxes(*window, {{3, "300"}, {4, "320"}});
+    EXPECT_EQ(window->BuildFitting(), Refused);
+    ExpectUserError(shell.ui, *window, GreaterThan + "320", 4);
+}
+
+TEST(PipeToBendLimits, WallMustFitIntoThePipe) {
+    TestShell shell;
+    const auto window = shell.OpenSample(PipeToBend, 1);
+    window->settings.InOutMean = OutsideDimension;
+    window->settings.Thickness = 60;
+    EXPECT_EQ(window->BuildFitting(), Passed);
+    // The bend is too narrow as well, but comes after.
+    TypeBoxes(*window, {{1, "1"}});
+    window->settings.Thickness = 60.1;
+    EXPECT_EQ(window->BuildFitting(), Refused);
+    ExpectUserError(shell.ui, *window, NoRoom, 0);
+}
+
+/// The sizes of the bend are taken as they are typed.
+TEST(PipeToBendLimits, AreHeldAgainstTheMeanSizeOfThePipe) {
+    const std::vector<std::pair<BoxTexts, std::string>> cases = {
+        {{{1, "125"}}, AtLeast + "130"}, {{{3, "64"}}, AtLeast + "65"}, {{{3, "340"}}, AtMost + "335"}};
+    for (const auto& [boxes, message] : cases) {
+        TestShell shell;
+        const auto window = shell.OpenSample(PipeToBend, 1);
+        window->settings.Thickness = 10;
+        window->settings.InOutMean = InsideDimension;
+        TypeBoxes(*window, boxes);
+        EXPECT_EQ(window->BuildFitting(), Refused);
+        ExpectUserError(shell.ui, *window, message, boxes.begin()->first);
+    }
+}
+
+TEST(PipeToBendLimits, APipeOfNoDiameterIsNotMade) {
+    TestShell shell;
+    for (const BoxTexts& boxes :
+         {BoxTexts{{0, "0"}, {1, "0"}, {2, "0"}, {3, "0"}, {4, "5"}}, BoxTexts{{0, "0"}}}) {
+        const auto window = shell.OpenSample(PipeToBend, 1);
+        TypeBoxes(*window, boxes);
+        for (const int view : {0, PatternButton}) {
+            window->ClickView(view);
+            ExpectNotMade(shell.ui, *window, "a pipe with a diameter of 0 has no wall");
+        }
+    }
+}
+
+TEST(PipeToBendLimits, MoreStationsThanABendMayHaveAreNotMade) {
+    TestShell shell;
+    const auto window = shell.OpenSample(PipeToBend, 1);
+    // 13 pieces of 2 segs + 1 stations, and the pipe of segs + 1, are two million at most.
+    window->settings.segs = 74073;
+    EXPECT_EQ(window->BuildFitting(), Passed);
+    window->settings.segs = 74074;
+    window->ClickView(0);
+    ExpectNotMade(shell.ui, *window,
+                  "a bend with 74074 fold lines on each piece is too much: make them fewer");
+}
+
+TEST(PipeToBendSizes, AreThoseOfTheBoxes) {
+    TestShell shell;
+    const auto window = shell.OpenSample(PipeToBend, 1);
+    window->settings.Thickness = 4;
+    window->settings.InOutMean = OutsideDimension;
+    window->settings.TemplateType = 1;
+    const CPipeToBend& fitting = BuiltPipeToBend(*window);
+    EXPECT_EQ(fitting.PipeRadius, 58);
+    EXPECT_EQ(fitting.BendRadius, 100);
+    EXPECT_EQ(fitting.BendCLRadius, 300);
+    EXPECT_EQ(fitting.PipeCLHeight, 180);
+    EXPECT_EQ(fitting.PipeLength, 520);
+    EXPECT_EQ(fitting.Thickness, 4);
+    EXPECT_EQ(fitting.TemplateType, 1);
+    EXPECT_EQ(fitting.inputs.Dtype, 0);
+}
+
+TEST(PipeToBendTextBlock, TellsTheSizesAsTyped) {
+    TestShell shell;
+    const auto window = shell.OpenSample(PipeToBend, 1);
+    window->settings.Thickness = 1.5;
+    window->settings.PositionString = "inside";
+    ASSERT_EQ(window->BuildFitting(), Passed);
+    // No line tells which side of the material the sizes mean.
+    EXPECT_EQ(TextBlock(*window),
+              (std::vector<std::string>{"", "", "Pipe diameter = 120", "Bend diameter = 200",
+                                        "Bend center line radius = 300", "Pipe center height = 180",
+                                        "Pipe length = 520", "Thickness = 1.5",
+                                        "Pipe to Bend  Full pattern  21 Nov 2026"}));
+}
+
+TEST(PipeToBendFiles, ReadBackToTheSameBytesAndSurfaces) {
+    TestShell shell;
+    const auto window = shell.OpenSample(PipeToBend, 1);
+    window->settings.Thickness = 2;
+    window->settings.TemplateType = 1;
+    window->settings.JoinType = 1;
+    window->settings.LapSize1 = 12;
+    ExpectFileKeepsEverything(shell, *window);
+}
+
+}  // namespace
+}  // namespace korvet
