@@ -48,7 +48,7 @@ const std::array<CatalogueRow, CatalogueSize> Catalogue = {{
     {"Mitre Elbow", "frmMitreElbow", "CMitreElbow", 0, AllLaps, nullptr, true},
     {"Rectangular Tee", "frmRectTee", "CRectTee", 0, AllLaps, nullptr, true},
     {"Bends", "frmBends", "CBends", 2100, AllLaps, nullptr, true},
-    {"Murok Mitre", "frmMurokMitre", "CMurokMitre", 0, NoLaps, nullptr, true},
+    {"Murok Mitre", "frmMurokMitre", "CMurokMitre", 0, NoLaps, &frmMurokMitre, true},
 }};
 
 const std::array<int, CatalogueSize> DisplayOrder = {0,  8,  7,  14, 2,  11, 19, 4,  16, 6,  25, 26, 28,

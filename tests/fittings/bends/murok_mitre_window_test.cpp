@@ -1,0 +1,131 @@
+// The window of the Murok mitre: how it starts, every limit in its place, the sizes that it hands on, text
+// lines, saved files.
+#include <gtest/gtest.h>
+
+#include "fittings/bends/murok_mitre.h"
+#include "tests/support/refusals.h"
+#include "tests/support/saved_fittings.h"
+#include "window/views.h"
+
+namespace korvet {
+namespace {
+
+constexpr const char* MurokMitre = "Murok Mitre";
+
+TEST(MurokMitreWindow, StartsAsAMurokMitreDoes) {
+    TestShell shell;
+    const auto window = shell.Open(MurokMitre);
+    EXPECT_EQ(window->Row().helpContextId, 0);
+    EXPECT_EQ(window->dtype, 0);
+    EXPECT_EQ(window->miscellaneous, 0);
+    EXPECT_TRUE(window->Table().multiple);
+    EXPECT_EQ(window->settings.LapEnable, NoLaps);
+    EXPECT_FALSE(window->settings.JoinAngleDisable);
+    EXPECT_FALSE(window->settings.TemplateTypeEnabled);
+    EXPECT_TRUE(window->settings.KerfEnabled);
+    EXPECT_FALSE(window->settings.HalfPatternDisable);
+    EXPECT_TRUE(window->controls.options.optPatternSelect.captions.empty());
+    ASSERT_EQ(window->controls.txtParameter.size(), 5U);
+    for (const TextBox& box : window->controls.txtParameter) {
+        EXPECT_EQ(box.text, "0");
+    }
+}
+
+class MurokMitreRefusals : public testing::TestWithParam<Refusal> {};
+
+TEST_P(MurokMitreRefusals, NameTheBox) {
+    TestShell shell;
+    const auto window = shell.OpenSample(MurokMitre, GetParam().type);
+    TypeBoxes(*window, GetParam().boxes);
+    EXPECT_EQ(window->BuildFitting(), Refused);
+    ExpectUserError(shell.ui, *window, GetParam().message, GetParam().box);
+}
+
+// The box that is refused later in the order is wrong too.
+INSTANTIATE_TEST_SUITE_P(Sizes, MurokMitreRefusals,
+                         testing::Values(Refusal{1, {{0, "0"}, {1, "0"}}, AboveZero, 0},
+                                         Refusal{1, {{0, "-70"}, {1, "0"}}, AboveZero, 0},
+                                         Refusal{1, {{1, "0"}, {2, "0"}}, AboveZero, 1},
+                                         Refusal{1, {{1, "-180"}, {2, "0"}}, AboveZero, 1},
+                                         Refusal{1, {{2, "0"}, {3, "-1"}}, AboveZero, 2},
+                                         Refusal{1, {{3, "0"}, {4, "-1"}}, AboveZero, 3},
+                                         Refusal{1, {{4, "0"}}, AboveZero, 4},
+                                         Refusal{1, {{4, "-280"}}, AboveZero, 4}));
+
+TEST(MurokMitreLimits, EverySizeAboveNothingIsAllowed) {
+    for (const int box : {0, 1, 2, 3, 4}) {
+        TestShell shell;
+        const auto window = shell.OpenSample(MurokMitre, 1);
+        TypeBoxes(*window, {{box, "0.001"}});
+        window->ClickView(PatternButton);
+        EXPECT_TRUE(window->hasModel) << box;
+        EXPECT_EQ(shell.ui.Texts(), std::vector<std::string>());
+    }
+}
+
+TEST(MurokMitreLimits, WallMustFitIntoThePipe) {
+    TestShell shell;
+    const auto window = shell.OpenSample(MurokMitre, 1);
+    window->settings.InOutMean = OutsideDimension;
+    window->settings.Thickness = 70;
+    EXPECT_EQ(window->BuildFitting(), Passed);
+    // The next size is wrong as well, but comes after.
+    TypeBoxes(*window, {{1, "0"}});
+    window->settings.Thickness = 70.1;
+    EXPECT_EQ(window->BuildFitting(), Refused);
+    ExpectUserError(shell.ui, *window, NoRoom, 0);
+}
+
+/// An offset next to nothing: legs all but level, which run out of reach before they come to their free ends.
+TEST(MurokMitreLimits, FreeEndsOutOfReachAreNotMade) {
+    TestShell shell;
+    const auto window = shell.OpenSample(MurokMitre, 1);
+    TypeBoxes(*window, {{4, "1e-6"}});
+    for (const int view : {0, PatternButton}) {
+        window->ClickView(view);
+        ExpectNotMade(shell.ui, *window, "the fitting is larger than a thousand million");
+    }
+}
+
+TEST(MurokMitreSizes, AreThoseOfTheBoxes) {
+    TestShell shell;
+    const auto window = shell.OpenSample(MurokMitre, 1);
+    window->settings.Thickness = 4;
+    window->settings.InOutMean = InsideDimension;
+    window->settings.TemplateType = 1;
+    window->settings.KerfSpacing = 12.5;
+    ASSERT_EQ(window->BuildFitting(), Passed);
+    const auto& mitre = window->fitting->As<CMurokMitre>();
+    EXPECT_EQ(mitre.BaseRad, 72);
+    EXPECT_EQ(mitre.OffsetLength, 180);
+    EXPECT_EQ(mitre.Length1, 200);
+    EXPECT_EQ(mitre.Length2, 150);
+    EXPECT_EQ(mitre.Offset, 280);
+    EXPECT_EQ(mitre.Thickness, 4);
+    EXPECT_EQ(mitre.TemplateType, 1);
+    EXPECT_EQ(mitre.KerfSpacing, 12.5);
+}
+
+TEST(MurokMitreTextBlock, TellsTheSizesAsTyped) {
+    TestShell shell;
+    const auto window = shell.OpenSample(MurokMitre, 1);
+    window->settings.Thickness = 1.5;
+    window->settings.PositionString = "inside";
+    ASSERT_EQ(window->BuildFitting(), Passed);
+    // No line tells which side of the material the sizes mean.
+    EXPECT_EQ(TextBlock(*window),
+              (std::vector<std::string>{"", "", "Radius = 70", "Offset Length = 180", "Length 1 = 200",
+                                        "Length 2 = 150", "Offset Distance = 280", "Thickness = 1.5",
+                                        "Murok Mitre  Full pattern  21 Nov 2026"}));
+}
+
+TEST(MurokMitreFiles, ReadBackToTheSameBytesAndSurfaces) {
+    TestShell shell;
+    const auto window = shell.OpenSample(MurokMitre, 1);
+    window->settings.Thickness = 2;
+    window->settings.KerfSpacing = 3;
+    ExpectFileKeepsEverything(shell, *window);
+}
+
+}  // namespace
+}  // namespace korvet
