@@ -227,7 +227,8 @@ TEST(SketchLayout, BoxesTouchTheirLines) {
                 }
             }
             const bool hasLine = laid.page->boxes[i].dimension.kind != DimensionKind::Note;
-            EXPECT_TRUE(nearest <= 8 || !hasLine) << laid.name << ": " << nearest;
+            EXPECT_TRUE(nearest <= 8 || !hasLine)
+                << laid.name << ", " << laid.page->boxes[i].label << ": " << nearest;
             EXPECT_LE(DistanceToLine(laid.layout.boxes[i], {.points = {CentreOf(laid.layout.labels[i]),
                                                                        CentreOf(laid.layout.labels[i])}}),
                       laid.layout.labels[i].height / 2 + 3)

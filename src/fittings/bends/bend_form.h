@@ -2,6 +2,7 @@
 // to.
 #pragma once
 
+#include <cstdint>
 #include <limits>
 #include <string>
 
@@ -29,24 +30,31 @@ inline Outcome CheckPieces(FittingForm& form, int piecesBox) {
 /// but pieces by the thousand with fold lines by the thousand would take more memory than a machine has.
 inline constexpr double MostStations = 2'000'000;
 
-/// Throws ArithmeticError for more pieces than a bend can count, or more than it can have at `segs` fold
-/// lines.
-inline void RequireCountable(double pieces, int segs) {
-    constexpr int MostPieces = std::numeric_limits<std::int16_t>::max() + 1;
-    if (pieces > MostPieces) {
-        throw ArithmeticError("a bend has " + std::to_string(MostPieces) + " segments at most");
+/// What limits the number of a bend's pieces.
+struct PieceLimits {
+    int mostPieces;           ///< that its class can count
+    double stationsOfAPiece;  ///< at the number of fold lines that is set
+};
+
+/// Throws ArithmeticError for more pieces than a bend can have at `segs` fold lines.
+inline void RequireCountable(double pieces, const PieceLimits& limits, int segs) {
+    if (pieces > limits.mostPieces) {
+        throw ArithmeticError("a bend has " + std::to_string(limits.mostPieces) + " segments at most");
     }
-    if (pieces * (2.0 * segs + 1) > MostStations) {
+    if (pieces * limits.stationsOfAPiece > MostStations) {
         throw ArithmeticError("so many segments with " + std::to_string(segs) +
                               " fold lines each are too much: make one of the two numbers smaller");
     }
 }
 
+/// The largest number that a class counts its pieces or its cuts by.
+inline constexpr int MostCounted = std::numeric_limits<std::int16_t>::max();
+
 /// Gives the sizes and the kerf to a bend such as CSegBendParallel. Throws ArithmeticError for pieces that
 /// are not RequireCountable.
 template <typename Bend>
 void SetBend(const CPatternSettings& settings, const Sizes& sizes, Bend& bend) {
-    RequireCountable(sizes.pieces, settings.segs);
+    RequireCountable(sizes.pieces, {MostCounted + 1, 2.0 * settings.segs + 1}, settings.segs);
     bend.BaseRad = sizes.baseRadius;
     bend.BendSegments = RoundToInt16(sizes.pieces - 1);
     bend.BendAngle = sizes.bendAngle;

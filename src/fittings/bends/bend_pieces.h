@@ -33,8 +33,13 @@ struct Pieces {
     PieceEnds last;
 };
 
-/// The pieces of a bend with `gores` cuts and straight lengths at its ends. Throws ArithmeticError when there
-/// is no cut, a mitre would have to turn the pipe by 180 degrees or more, or the numbers leave no length.
+/// How far each of so many equal mitres leans against square, when together they turn a bend by `bendAngle`
+/// (both radians). Throws ArithmeticError when there is no cut, or a mitre would have to turn the pipe by 180
+/// degrees or more.
+double MitreTilt(double bendAngle, int cuts);
+
+/// The pieces of a bend with `gores` cuts and straight lengths at its ends. Throws ArithmeticError as
+/// MitreTilt, or when the numbers leave no length.
 Pieces PiecesOf(double bendAngle, double bendRadius, int gores, double length1, double length2);
 
 /// The model of a bend, first piece to last, built by `piece`, whose JoinAngle is the seam of the first one

@@ -6,6 +6,7 @@
 #include "core/constants.h"
 #include "core/math_module.h"
 #include "fittings/bends/elbow.h"
+#include "fittings/bends/elbow_sketch.h"
 #include "fittings/mean_sizes.h"
 #include "fittings/windows.h"
 
@@ -32,21 +33,6 @@ void SetElbow(const CPatternSettings& settings, const Sizes& sizes, CElbow& elbo
 
 Outcome CheckAngle(FittingForm& form, int angleBox) {
     return RefusedIf(form.CheckPositive(angleBox) || form.CheckLessThan(angleBox, 180));
-}
-
-// The sketch shows the elbow level, in its own plane: the first leg upright on its square end.
-
-constexpr std::array<SketchView, 1> LevelView = {{{.turn = 0, .tilt = 0}}};
-
-/// The middles of the square ends, and the point where the centre lines meet.
-constexpr SketchPoint Start = MiddleOf(2);
-constexpr SketchPoint End = {.list = 1, .spot = Spot::Centre, .surface = 2};
-constexpr SketchPoint Corner(double length1) {
-    return OnAxis(length1);
-}
-
-constexpr std::array<SketchConstruction, 2> CentreLines(double length1) {
-    return {{CentreLine(Start, Corner(length1)), CentreLine(Corner(length1), End)}};
 }
 
 namespace legs {
@@ -78,11 +64,12 @@ Outcome Build(FittingForm& form, CElbow& elbow) {
 
 constexpr BoxEntry Boxes[] = {
     {PipeDiameter, "Pipe diameter", "200", DiameterSize(Side::Below, 2)},
-    {Length1, "Length 1", "320", LinearSize(Side::Left, Start, Corner(320))},
-    {Length2, "Length 2", "260", AlignedSize(Side::Above, Corner(320), End)},
-    {Angle, "Angle (degrees)", "120", AngleSize(Side::Right, Corner(320), Start, End, 0.5)}};
+    {Length1, "Length 1", "320", LinearSize(Side::Left, elbow::Start, elbow::Corner(320))},
+    {Length2, "Length 2", "260", AlignedSize(Side::Above, elbow::Corner(320), elbow::End)},
+    {Angle, "Angle (degrees)", "120",
+     AngleSize(Side::Right, elbow::Corner(320), elbow::Start, elbow::End, 0.5)}};
 constexpr LabelEntry Labels[] = {{PipeDiameter}, {Length1}, {Length2}, {Angle}};
-constexpr auto Lines = CentreLines(320);
+constexpr auto Lines = elbow::CentreLines(320);
 
 }  // namespace legs
 
@@ -100,11 +87,12 @@ Outcome Build(FittingForm& form, CElbow& elbow) {
     return Passed;
 }
 
-constexpr BoxEntry Boxes[] = {{PipeDiameter, "Pipe diameter", "150", DiameterSize(Side::Below, 2)},
-                              {Length1, "Length 1", "240", LinearSize(Side::Right, Start, Corner(240))},
-                              {Length2, "Length 2", "190", LinearSize(Side::Above, End, Corner(240))}};
+constexpr BoxEntry Boxes[] = {
+    {PipeDiameter, "Pipe diameter", "150", DiameterSize(Side::Below, 2)},
+    {Length1, "Length 1", "240", LinearSize(Side::Right, elbow::Start, elbow::Corner(240))},
+    {Length2, "Length 2", "190", LinearSize(Side::Above, elbow::End, elbow::Corner(240))}};
 constexpr LabelEntry Labels[] = {{PipeDiameter}, {Length1}, {Length2}, {NoBox, "Angle = ", "90"}};
-constexpr auto Lines = CentreLines(240);
+constexpr auto Lines = elbow::CentreLines(240);
 
 }  // namespace square
 
@@ -129,17 +117,18 @@ Outcome Build(FittingForm& form, CElbow& elbow) {
 constexpr SketchPoint Centre = AtXZ(300, 0);
 constexpr BoxEntry Boxes[] = {
     {PipeDiameter, "Pipe diameter", "180", DiameterSize(Side::Below, 2)},
-    {BendRadius, "Bend radius", "300", LinearSize(Side::Below, Start, Centre)},
-    {Angle, "Angle (degrees)", "60", AngleSize(Side::Right, Centre, Start, End, 0.5)}};
+    {BendRadius, "Bend radius", "300", LinearSize(Side::Below, elbow::Start, Centre)},
+    {Angle, "Angle (degrees)", "60", AngleSize(Side::Right, Centre, elbow::Start, elbow::End, 0.5)}};
 constexpr LabelEntry Labels[] = {{PipeDiameter}, {BendRadius}, {Angle}};
-constexpr std::array<SketchConstruction, 2> Lines = {{CentreLine(Centre, Start), CentreLine(Centre, End)}};
+constexpr std::array<SketchConstruction, 2> Lines = {
+    {CentreLine(Centre, elbow::Start), CentreLine(Centre, elbow::End)}};
 
 }  // namespace on_bend_radius
 
 constexpr PageEntry Pages[] = {
-    {legs::Boxes, legs::Labels, LevelView, legs::Lines},
-    {square::Boxes, square::Labels, LevelView, square::Lines},
-    {on_bend_radius::Boxes, on_bend_radius::Labels, LevelView, on_bend_radius::Lines}};
+    {legs::Boxes, legs::Labels, elbow::Views, legs::Lines},
+    {square::Boxes, square::Labels, elbow::Views, square::Lines},
+    {on_bend_radius::Boxes, on_bend_radius::Labels, elbow::Views, on_bend_radius::Lines}};
 
 }  // namespace
 
