@@ -27,7 +27,7 @@ const std::array<CatalogueRow, CatalogueSize> Catalogue = {{
     {"Prism", "frmPrism", "CPrism", 2310, AllLaps, nullptr},
     {"Elbow", "frmElbow", "CElbow", 2320, SeamLapOnly, &frmElbow},
     {"Rectangle to Round", "frmRectRound1", "CTransition", 2330, SeamLapOnly, &frmRectRound1},
-    {"Tapered Bend", "FrmSegBendTapered", "CSegBendTapered", 2340, SeamLapOnly, nullptr},
+    {"Tapered Bend", "FrmSegBendTapered", "CSegBendTapered", 2340, SeamLapOnly, &FrmSegBendTapered},
     {"Cone to Pipe Elbow", "frmElbowPipeCone1", "CElbowPipeToCone", 2350, SeamLapOnly, nullptr},
     {"Pipe to Cone Elbow", "frmElbowPipeCone2", "CElbowPipeToCone", 2360, SeamLapOnly, nullptr},
     {"Cyclone (Cylinder)", "frmCyclone1", "CBranch", 2370, SeamLapOnly, nullptr},
