@@ -20,7 +20,7 @@ const std::array<CatalogueRow, CatalogueSize> Catalogue = {{
     {"Reducing Breech", "frmBreechReducing", "CBreechReducing", 2240, SeamLapOnly, nullptr},
     {"Offset Cylinder", "frmOffsetCylinder", "CRoundToRound", 2250, AllLaps, nullptr},
     {"Pyramid", "frmPyramid", "CPyramid", 2260, AllLaps, nullptr},
-    {"Reducing Elbow", "frmElbowReducing", "CElbowReducing", 2270, SeamLapOnly, nullptr},
+    {"Reducing Elbow", "frmElbowReducing", "CElbowReducing", 2270, SeamLapOnly, &frmElbowReducing},
     {"Round to Round", "frmRoundToRound", "CRoundToRound", 2280, AllLaps, nullptr},
     {"Auger", "frmAuger", "CAuger", 2290, NoLaps, nullptr},
     {"Rectangle to Ellipse", "frmRectEllipse", "CTransition", 2300, SeamLapOnly, &frmRectEllipse},

@@ -1,0 +1,179 @@
+// The window of the reducing elbow: how it starts, every limit in its place, the sizes that it hands on, text
+// lines, saved files. The sample elbows go from a diameter of 220 to 130 and from 300 to 210.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <numbers>
+
+#include "core/constants.h"
+#include "fittings/bends/elbow_reducing.h"
+#include "tests/support/refusals.h"
+#include "tests/support/saved_fittings.h"
+#include "window/views.h"
+
+namespace korvet::reducing_elbow_window_test {
+namespace {
+
+constexpr const char* Category = "Reducing Elbow";
+
+const CElbowReducing& Built(CFittingWindow& window) {
+    EXPECT_EQ(window.BuildFitting(), Passed);
+    return window.fitting->As<CElbowReducing>();
+}
+
+TEST(ReducingElbowWindow, StartsAsAReducingElbowDoes) {
+    TestShell shell;
+    const auto window = shell.Open(Category);
+    EXPECT_EQ(window->Row().helpContextId, 2270);
+    EXPECT_EQ(window->dtype, 0);
+    EXPECT_TRUE(window->Table().multiple);
+    EXPECT_EQ(window->settings.LapEnable, SeamLapOnly);
+    EXPECT_TRUE(window->settings.JoinAngleDisable);
+    EXPECT_FALSE(window->settings.TemplateTypeEnabled);
+    EXPECT_TRUE(window->settings.KerfEnabled);
+    EXPECT_FALSE(window->settings.HalfPatternDisable);
+    EXPECT_TRUE(window->controls.options.optPatternSelect.captions.empty());
+    EXPECT_EQ(window->controls.txtParameter.size(), 9U);
+}
+
+class ReducingElbowRefusals : public testing::TestWithParam<Refusal> {};
+
+TEST_P(ReducingElbowRefusals, NameTheBox) {
+    TestShell shell;
+    const auto window = shell.OpenSample(Category, GetParam().type);
+    TypeBoxes(*window, GetParam().boxes);
+    EXPECT_EQ(window->BuildFitting(), Refused);
+    ExpectUserError(shell.ui, *window, GetParam().message, GetParam().box);
+}
+
+// The box that is refused later in the order is wrong too.
+INSTANTIATE_TEST_SUITE_P(Square, ReducingElbowRefusals,
+                         testing::Values(Refusal{1, {{0, "0"}, {1, "0"}}, AboveZero, 0},
+                                         Refusal{1, {{1, "-130"}, {2, "1"}}, AboveZero, 1},
+                                         Refusal{1, {{1, "220"}, {2, "1"}}, LessThan + "220", 1},
+                                         Refusal{1, {{2, "64.9"}, {3, "1"}}, AtLeast + "65", 2},
+                                         Refusal{1, {{3, "109.9"}}, AtLeast + "110", 3}));
+
+INSTANTIATE_TEST_SUITE_P(AnyAngle, ReducingElbowRefusals,
+                         testing::Values(Refusal{2, {{4, "-1"}, {5, "0"}}, AboveZero, 4},
+                                         Refusal{2, {{5, "0"}, {8, "1"}}, AboveZero, 5},
+                                         Refusal{2, {{5, "300"}, {8, "1"}}, LessThan + "300", 5},
+                                         Refusal{2, {{8, "89.9"}, {6, "1"}}, AtLeast + "90", 8},
+                                         Refusal{2, {{8, "180"}, {6, "1"}}, LessThan + "180", 8},
+                                         Refusal{2, {{6, "104.9"}, {7, "1"}}, AtLeast + "105", 6},
+                                         Refusal{2, {{7, "149.9"}}, AtLeast + "150", 7}));
+
+TEST(ReducingElbowLimits, TheLimitsThemselvesAreAllowed) {
+    const std::vector<std::pair<int, BoxTexts>> cases = {
+        {1, {{1, "219.999"}}},         {1, {{1, "0.001"}}}, {1, {{2, "65"}, {3, "110"}}},
+        {2, {{6, "105"}, {7, "150"}}}, {2, {{8, "90"}}},    {2, {{8, "179.999"}}}};
+    for (const auto& [type, boxes] : cases) {
+        TestShell shell;
+        const auto window = shell.OpenSample(Category, type);
+        TypeBoxes(*window, boxes);
+        window->ClickView(PatternButton);
+        EXPECT_TRUE(window->hasModel) << type << " " << boxes.begin()->first;
+        EXPECT_EQ(shell.ui.Texts(), std::vector<std::string>());
+    }
+}
+
+/// Type 2 puts the focus on the diameters of Type 1, and stays Type 2.
+TEST(ReducingElbowLimits, WallMustFitIntoTheNarrowEnd) {
+    for (const auto& [type, thickness] : {std::pair{1, 65.0}, {2, 105.0}}) {
+        TestShell shell;
+        const auto window = shell.OpenSample(Category, type);
+        window->settings.InOutMean = OutsideDimension;
+        window->settings.Thickness = thickness;
+        EXPECT_EQ(window->BuildFitting(), Passed);
+        // A length is wrong as well, but comes after.
+        TypeBoxes(*window, {{type == 1 ? 2 : 6, "1"}});
+        window->settings.Thickness = thickness + 0.1;
+        EXPECT_EQ(window->BuildFitting(), Refused);
+        ExpectUserError(shell.ui, *window, NoRoom, 1);
+        EXPECT_EQ(window->dtype, type - 1);
+    }
+}
+
+TEST(ReducingElbowLimits, WallMustFitIntoTheWideEndFirst) {
+    for (const int type : {1, 2}) {
+        TestShell shell;
+        const auto window = shell.OpenSample(Category, type);
+        window->settings.Thickness = 1000;
+        window->settings.InOutMean = OutsideDimension;
+        EXPECT_EQ(window->BuildFitting(), Refused);
+        ExpectUserError(shell.ui, *window, NoRoom, 0);
+    }
+}
+
+TEST(ReducingElbowLimits, LengthsAreHeldAgainstTheMeanRadii) {
+    TestShell shell;
+    const auto window = shell.OpenSample(Category, 2);
+    window->settings.Thickness = 10;
+    window->settings.InOutMean = InsideDimension;
+    TypeBoxes(*window, {{6, "109.9"}, {7, "154.9"}});
+    EXPECT_EQ(window->BuildFitting(), Refused);
+    ExpectUserError(shell.ui, *window, AtLeast + "110", 6);
+    TypeBoxes(*window, {{6, "110"}});
+    shell.ui.messages.clear();
+    EXPECT_EQ(window->BuildFitting(), Refused);
+    ExpectUserError(shell.ui, *window, AtLeast + "155", 7);
+}
+
+TEST(ReducingElbowSizes, AreTaken) {
+    TestShell shell;
+    const auto square = shell.OpenSample(Category, 1);
+    square->settings.KerfSpacing = 12.5;
+    const CElbowReducing& elbow = Built(*square);
+    EXPECT_EQ(elbow.BigRad, 110);
+    EXPECT_EQ(elbow.SmallRad, 65);
+    EXPECT_EQ(elbow.Length1, 310);
+    EXPECT_EQ(elbow.Length2, 250);
+    EXPECT_EQ(elbow.BendAngle, -QuarterTurn);
+    EXPECT_EQ(elbow.KerfSpacing, 12.5);
+    EXPECT_EQ(elbow.inputs.Dtype, 0);
+    const auto any = shell.OpenSample(Category, 2);
+    any->settings.Thickness = 4;
+    any->settings.InOutMean = OutsideDimension;
+    const CElbowReducing& other = Built(*any);
+    EXPECT_EQ(other.BigRad, 148);
+    EXPECT_EQ(other.SmallRad, 103);
+    EXPECT_EQ(other.Length1, 360);
+    EXPECT_EQ(other.Length2, 290);
+    EXPECT_DOUBLE_EQ(other.BendAngle, -2 * std::numbers::pi / 3);
+    EXPECT_EQ(other.KerfSpacing, 0);
+    EXPECT_EQ(other.inputs.Dtype, 1);
+}
+
+TEST(ReducingElbowTextBlock, TellsTheSizesAsTyped) {
+    const std::map<int, std::vector<std::string>> expected = {
+        {1,
+         {"Large diameter = 220", "Small diameter = 130", "Length 1 = 310", "Length 2 = 250", "Angle = 90"}},
+        {2,
+         {"Large diameter = 300", "Small diameter = 210", "Length 1 = 360", "Length 2 = 290",
+          "Angle = 120"}}};
+    for (const auto& [type, sizes] : expected) {
+        TestShell shell;
+        const auto window = shell.OpenSample(Category, type);
+        window->settings.Thickness = 1.5;
+        ASSERT_EQ(window->BuildFitting(), Passed);
+        std::vector<std::string> lines = {"", ""};
+        lines.insert(lines.end(), sizes.begin(), sizes.end());
+        // No line tells which side of the material the sizes mean.
+        lines.insert(lines.end(), {"Thickness = 1.5", "Reducing Elbow  Full pattern  21 Nov 2026"});
+        EXPECT_EQ(TextBlock(*window), lines);
+    }
+}
+
+TEST(ReducingElbowFiles, ReadBackToTheSameBytesAndSurfaces) {
+    for (const int type : {1, 2}) {
+        TestShell shell;
+        const auto window = shell.OpenSample(Category, type);
+        window->settings.Thickness = 2;
+        window->settings.KerfSpacing = 3;
+        window->settings.HalfPattern = type == 2;
+        ExpectFileKeepsEverything(shell, *window);
+    }
+}
+
+}  // namespace
+}  // namespace korvet::reducing_elbow_window_test
