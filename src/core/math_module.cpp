@@ -124,6 +124,9 @@ double UnfoldingAngle(double& a, double& b, double& c) {
     }
     const double cosine = TriangleCosine(a, b, c);
     const double rounded = RoundPlaces(cosine, 8);
+    if (rounded > 1 || rounded < -1) {
+        throw ArithmeticError("the triangles of the pattern do not close");
+    }
     if (rounded != 1 && rounded != -1) {
         return ArcCos(cosine);
     }

@@ -7,6 +7,27 @@
 
 namespace korvet {
 
+/// A ruling in the flat: where it starts and the plan angle in which it runs, radians.
+struct FlatRuling {
+    C3DPoint start = {};
+    double direction = 0;
+};
+
+/// The lengths from one ruling of a strip, a to b, to the next one, c to d, in the user's unit.
+struct RulingStep {
+    double ab = 0;
+    double ac = 0;  ///< along List1
+    double bd = 0;  ///< along List2
+    double ad = 0;
+    double bc = 0;
+};
+
+/// The next ruling in the flat. Both triangles are fanned from a: the one with c places the next start, the
+/// one with d the line on which the next ruling lies. Each turns clockwise from this ruling, by
+/// UnfoldingAngle; a side within its snap is 0 from there on, in the step too. Throws ArithmeticError when
+/// the sides of a triangle do not close.
+FlatRuling NextRuling(const FlatRuling& ruling, RulingStep& step);
+
 /// Lays the strip between List1 and List2 of ModelSurface flat, one station after the other, from true
 /// lengths in the user's unit. What holds in the flat: every ruling, every edge of List1, and the diagonal
 /// from each point of List2 to the next one of List1. Each List2 point is placed by its ruling alone, on the

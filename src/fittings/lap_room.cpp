@@ -16,4 +16,11 @@ bool SeamLapPassesStart(const C3DPoints& lappedEdge, const C3DPoint& apex) {
     return m > 1 && PlanAngle(apex, lappedEdge.Item(m - 1)) > PlanAngle(apex, lappedEdge.Item(m));
 }
 
+bool SeamGapIsBelow(const CRuleSurf& lapped, double lap) {
+    const auto gap = [](const C3DPoints& edge) {
+        return Distance3D(edge.Item(edge.Count() - 1), edge.Item(1));
+    };
+    return gap(*lapped.List1) < lap || gap(*lapped.List2) < lap;
+}
+
 }  // namespace korvet

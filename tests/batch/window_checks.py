@@ -7,7 +7,7 @@ import math
 import re
 from dataclasses import dataclass, field
 
-from fitting_maths import coordinates
+from fitting_maths import coordinates, snapped, unfolding_angle
 
 PRODUCT = "Korvet Development"
 USER_ERROR = "User Error"
@@ -49,6 +49,14 @@ def require_shape(is_one):
     """What sizes that pass every check may still lead to."""
     if not is_one:
         raise Refusal(PRODUCT, IMPOSSIBLE, None)
+
+
+def closing_angle(a, b, c):
+    """The angle opposite side a of a triangle of the flat pattern, which must close."""
+    try:
+        return unfolding_angle(*map(snapped, (a, b, c)))
+    except ValueError:
+        return require_shape(False)
 
 
 def as_list(surfaces):

@@ -274,6 +274,12 @@ TEST(UnfoldingAngle, SidesSnapAsInTheTriangleAngle) {
 TEST(UnfoldingAngle, SidesThatCannotCloseAreAnError) {
     EXPECT_THROW(UnfoldingAngleOf(10, 1, 2), ArithmeticError);
     EXPECT_THROW(UnfoldingAngleOf(1, 10, 2), ArithmeticError);
+    try {
+        UnfoldingAngleOf(1.01, 2, 3.02);
+        FAIL() << "it was closed";
+    } catch (const ArithmeticError& error) {
+        EXPECT_STREQ(error.what(), "the triangles of the pattern do not close");
+    }
 }
 
 TEST(RightTriangle, HypotenuseAndLeg) {

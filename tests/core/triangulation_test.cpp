@@ -162,6 +162,32 @@ TEST(Triangulation, AMissingOrShortEdgeIsAnError) {
     EXPECT_THROW(Unfolded(CRuleSurf()), ListError);
 }
 
+TEST(NextRuling, TurnsClockwiseByTheSidesThatItIsTold) {
+    // Two triangles of 3, 4 and 5 make a rectangle of the ruling and a step of 4.
+    RulingStep step = {.ab = 3, .ac = 4, .bd = 4, .ad = 5, .bc = 5};
+    const FlatRuling next = NextRuling({{2, 3, 0, 0}, std::numbers::pi / 2}, step);
+    ExpectAt(next.start, 6, 3);
+    EXPECT_NEAR(next.direction, std::numbers::pi / 2, Near);
+    // With the other diagonal shorter the next ruling leans back, towards the first one.
+    step.ad = std::sqrt(13);
+    step.bd = 2;
+    const FlatRuling leaning = NextRuling({{2, 3, 0, 0}, std::numbers::pi / 2}, step);
+    ExpectAt(leaning.start, 6, 3);
+    EXPECT_NEAR(leaning.direction, std::atan2(3, -2), Near);
+}
+
+TEST(NextRuling, ARulingWithoutLengthTurnsNothing) {
+    RulingStep step = {.ab = 5e-9, .ac = 4, .bd = 3, .ad = 3, .bc = 4};
+    const FlatRuling next = NextRuling({{1, 0, 0, 0}, 0}, step);
+    EXPECT_EQ(step.ab, 0);
+    ExpectAt(next.start, 5, 0);
+}
+
+TEST(NextRuling, SidesThatDoNotCloseAreAnError) {
+    RulingStep step = {.ab = 3, .ac = 9, .bd = 4, .ad = 5, .bc = 5};
+    EXPECT_THROW(NextRuling({}, step), ArithmeticError);
+}
+
 /// A cylinder of the radius and height, closed, of `segs` facets.
 CRuleSurf Cylinder(double radius, double height, int segs) {
     CRuleSurf surface;

@@ -7,6 +7,7 @@
 #include "core/constants.h"
 #include "core/math_module.h"
 #include "core/triangulation.h"
+#include "fittings/lap_room.h"
 #include "fittings/ring.h"
 #include "fittings/trim.h"
 
@@ -43,14 +44,6 @@ C3DPoint FindSectionStartPoint(const C3DPoint& centre, double lengthX, double of
         start.y = centre.y;
     }
     return start;
-}
-
-/// Whether the two ends of a lapped sheet lie nearer to each other than the seam lap is wide, at either edge.
-bool IsSeamGapBelow(const CRuleSurf& pattern, double lap) {
-    const auto gap = [](const C3DPoints& edge) {
-        return Distance3D(edge.Item(edge.Count() - 1), edge.Item(1));
-    };
-    return gap(*pattern.List1) < lap || gap(*pattern.List2) < lap;
 }
 
 }  // namespace
@@ -104,7 +97,7 @@ void CTransition::ConstructModel() {
 void CTransition::DevelopModel() {
     ConstructModel();
     CRuleSurf pattern = Unfolded(results.ModelSurface);
-    if (AddLaps(pattern, inputs) && IsSeamGapBelow(pattern, inputs.LapSize1)) {
+    if (AddLaps(pattern, inputs) && SeamGapIsBelow(pattern, inputs.LapSize1)) {
         results.warnings.push_back({SeamLapTooLarge, true});
     }
     results.PatternSurface = pattern;
