@@ -14,7 +14,7 @@ const std::array<CatalogueRow, CatalogueSize> Catalogue = {{
     {"Rectangle (Radius) to Round", "frmRectRound2", "CTransition", 2180, SeamLapOnly, &frmRectRound2},
     {"Pipe to Cone", "frmPipeToCone", "CPipeToCone", 2190, AllLaps, nullptr},
     {"Rectangle to Rectangle", "frmRectToRect", "CRectToRect", 2200, NoLaps, nullptr},
-    {"Offset Cone", "frmOffsetCone", "COffsetCone", 2220, AllLaps, nullptr},
+    {"Offset Cone", "frmOffsetCone", "COffsetCone", 2220, AllLaps, &frmOffsetCone},
     {"Truncated Right Cone", "frmRightCone2", "CRightCone", 2210, AllLaps, &frmRightCone2},
     {"Breech", "frmBreech", "CBreech", 2230, SeamLapOnly, nullptr},
     {"Reducing Breech", "frmBreechReducing", "CBreechReducing", 2240, SeamLapOnly, nullptr},
