@@ -1,14 +1,18 @@
-// Sizes that a fitting window refuses, and what it says about them.
+// Sizes that a fitting window takes or refuses, and what it says about them. Windows are told by their
+// category.
 #pragma once
 
 #include <gtest/gtest.h>
 
 #include <map>
+#include <optional>
 #include <ostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "tests/support/test_context.h"
+#include "window/views.h"
 
 namespace korvet {
 
@@ -63,6 +67,96 @@ inline void ExpectNotMade(RecordingUi& ui, const CFittingWindow& window, const s
     EXPECT_EQ(ui.messages[0].detail, reason);
     EXPECT_FALSE(ui.messages[0].box);
     ui.messages.clear();
+}
+
+/// The one message so far tells that a box holds no number, and the box has the focus. Takes the message
+/// away.
+inline void ExpectNotANumber(RecordingUi& ui, const CFittingWindow& window, int box) {
+    ASSERT_EQ(ui.Texts(), std::vector<std::string>{"Not a valid number"});
+    EXPECT_EQ(ui.messages[0].title, "Korvet Development");
+    EXPECT_EQ(ui.messages[0].style, QuestionBox);
+    EXPECT_EQ(ui.messages[0].box, box);
+    EXPECT_EQ(window.controls.focus, "txtParameter_" + std::to_string(box));
+    ui.messages.clear();
+}
+
+/// Of material of that thickness on the mean line.
+inline void ExpectRefused(const std::string& category, const Refusal& refusal, double thickness = 0) {
+    TestShell shell;
+    const auto window = shell.OpenSample(category, refusal.type);
+    window->settings.Thickness = thickness;
+    TypeBoxes(*window, refusal.boxes);
+    EXPECT_EQ(window->BuildFitting(), Refused);
+    ExpectUserError(shell.ui, *window, refusal.message, refusal.box);
+}
+
+/// Selects the first pattern where there are several.
+inline void SelectFirstPattern(CFittingWindow& window) {
+    if (!window.controls.options.optPatternSelect.captions.empty()) {
+        window.SelectPattern(0);
+    }
+}
+
+/// Types with their sample sizes, some of them typed over, whose patterns are made without a word.
+inline void ExpectMade(const std::string& category, const std::vector<std::pair<int, BoxTexts>>& cases) {
+    for (const auto& [type, boxes] : cases) {
+        SCOPED_TRACE("type " + std::to_string(type) + " box " + std::to_string(boxes.begin()->first));
+        TestShell shell;
+        const auto window = shell.OpenSample(category, type);
+        TypeBoxes(*window, boxes);
+        SelectFirstPattern(*window);
+        window->ClickView(PatternButton);
+        EXPECT_TRUE(window->hasModel);
+        EXPECT_EQ(shell.ui.Texts(), std::vector<std::string>());
+    }
+}
+
+/// By outside dimensions a wall as thick as `thickest` still fits into the sample sizes. A thicker one is
+/// refused at `box`, before the sizes `wrongLater`.
+inline void ExpectRoomUpTo(double thickest, const std::string& category, int type, int box,
+                           const BoxTexts& wrongLater) {
+    SCOPED_TRACE(category + ", type " + std::to_string(type));
+    TestShell shell;
+    const auto window = shell.OpenSample(category, type);
+    window->settings.InOutMean = OutsideDimension;
+    window->settings.Thickness = thickest;
+    EXPECT_EQ(window->BuildFitting(), Passed);
+    TypeBoxes(*window, wrongLater);
+    window->settings.Thickness = thickest + 0.1;
+    EXPECT_EQ(window->BuildFitting(), Refused);
+    ExpectUserError(shell.ui, *window, NoRoom, box);
+}
+
+/// A type with its sample sizes, some of them typed over, which pass every check and leave no shape.
+struct Shapeless {
+    int type;
+    BoxTexts boxes;
+    std::string reason;
+    int segs = 24;
+};
+
+inline void PrintTo(const Shapeless& example, std::ostream* out) {
+    *out << "type " << example.type << ": " << example.reason;
+}
+
+/// Neither the model nor the pattern is made.
+inline void ExpectShapeless(const std::string& category, const Shapeless& example) {
+    TestShell shell;
+    const auto window = shell.OpenSample(category, example.type);
+    TypeBoxes(*window, example.boxes);
+    window->settings.segs = example.segs;
+    SelectFirstPattern(*window);
+    for (const int view : {0, PatternButton}) {
+        window->ClickView(view);
+        ExpectNotMade(shell.ui, *window, example.reason);
+    }
+}
+
+/// The fitting of a window whose sizes are good.
+template <typename Fitting>
+const Fitting& Built(CFittingWindow& window) {
+    EXPECT_EQ(window.BuildFitting(), Passed);
+    return window.fitting->As<Fitting>();
 }
 
 /// The lines of the text block.

@@ -34,8 +34,8 @@ inline CRuleSurfs AllSurfaces(const FittingResults& results) {
     return all;
 }
 
-/// The window's pattern is drawn, and its file opens in a new window with the same surfaces and is saved from
-/// there with the same bytes.
+/// Of a window with all its choices made: its pattern is drawn, and its file opens in a new window with the
+/// same surfaces and is saved from there with the same bytes.
 inline void ExpectFileKeepsEverything(TestShell& shell, CFittingWindow& window) {
     window.ClickView(PatternButton);
     ASSERT_EQ(window.SaveFile("a.Kvt"), Passed);

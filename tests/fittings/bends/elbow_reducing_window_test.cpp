@@ -1,5 +1,5 @@
 // The window of the reducing elbow: how it starts, every limit in its place, the sizes that it hands on, text
-// lines, saved files. The sample elbows go from a diameter of 220 to 130 and from 300 to 210.
+// lines. The sample elbows go from a diameter of 220 to 130 and from 300 to 210.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -8,18 +8,12 @@
 #include "core/constants.h"
 #include "fittings/bends/elbow_reducing.h"
 #include "tests/support/refusals.h"
-#include "tests/support/saved_fittings.h"
-#include "window/views.h"
+#include "tests/support/text_blocks.h"
 
 namespace korvet::reducing_elbow_window_test {
 namespace {
 
 constexpr const char* Category = "Reducing Elbow";
-
-const CElbowReducing& Built(CFittingWindow& window) {
-    EXPECT_EQ(window.BuildFitting(), Passed);
-    return window.fitting->As<CElbowReducing>();
-}
 
 TEST(ReducingElbowWindow, StartsAsAReducingElbowDoes) {
     TestShell shell;
@@ -39,11 +33,7 @@ TEST(ReducingElbowWindow, StartsAsAReducingElbowDoes) {
 class ReducingElbowRefusals : public testing::TestWithParam<Refusal> {};
 
 TEST_P(ReducingElbowRefusals, NameTheBox) {
-    TestShell shell;
-    const auto window = shell.OpenSample(Category, GetParam().type);
-    TypeBoxes(*window, GetParam().boxes);
-    EXPECT_EQ(window->BuildFitting(), Refused);
-    ExpectUserError(shell.ui, *window, GetParam().message, GetParam().box);
+    ExpectRefused(Category, GetParam());
 }
 
 // The box that is refused later in the order is wrong too.
@@ -67,14 +57,7 @@ TEST(ReducingElbowLimits, TheLimitsThemselvesAreAllowed) {
     const std::vector<std::pair<int, BoxTexts>> cases = {
         {1, {{1, "219.999"}}},         {1, {{1, "0.001"}}}, {1, {{2, "65"}, {3, "110"}}},
         {2, {{6, "105"}, {7, "150"}}}, {2, {{8, "90"}}},    {2, {{8, "179.999"}}}};
-    for (const auto& [type, boxes] : cases) {
-        TestShell shell;
-        const auto window = shell.OpenSample(Category, type);
-        TypeBoxes(*window, boxes);
-        window->ClickView(PatternButton);
-        EXPECT_TRUE(window->hasModel) << type << " " << boxes.begin()->first;
-        EXPECT_EQ(shell.ui.Texts(), std::vector<std::string>());
-    }
+    ExpectMade(Category, cases);
 }
 
 /// Type 2 puts the focus on the diameters of Type 1, and stays Type 2.
@@ -123,7 +106,7 @@ TEST(ReducingElbowSizes, AreTaken) {
     TestShell shell;
     const auto square = shell.OpenSample(Category, 1);
     square->settings.KerfSpacing = 12.5;
-    const CElbowReducing& elbow = Built(*square);
+    const CElbowReducing& elbow = Built<CElbowReducing>(*square);
     EXPECT_EQ(elbow.BigRad, 110);
     EXPECT_EQ(elbow.SmallRad, 65);
     EXPECT_EQ(elbow.Length1, 310);
@@ -134,7 +117,7 @@ TEST(ReducingElbowSizes, AreTaken) {
     const auto any = shell.OpenSample(Category, 2);
     any->settings.Thickness = 4;
     any->settings.InOutMean = OutsideDimension;
-    const CElbowReducing& other = Built(*any);
+    const CElbowReducing& other = Built<CElbowReducing>(*any);
     EXPECT_EQ(other.BigRad, 148);
     EXPECT_EQ(other.SmallRad, 103);
     EXPECT_EQ(other.Length1, 360);
@@ -145,34 +128,13 @@ TEST(ReducingElbowSizes, AreTaken) {
 }
 
 TEST(ReducingElbowTextBlock, TellsTheSizesAsTyped) {
-    const std::map<int, std::vector<std::string>> expected = {
-        {1,
-         {"Large diameter = 220", "Small diameter = 130", "Length 1 = 310", "Length 2 = 250", "Angle = 90"}},
-        {2,
-         {"Large diameter = 300", "Small diameter = 210", "Length 1 = 360", "Length 2 = 290",
-          "Angle = 120"}}};
-    for (const auto& [type, sizes] : expected) {
-        TestShell shell;
-        const auto window = shell.OpenSample(Category, type);
-        window->settings.Thickness = 1.5;
-        ASSERT_EQ(window->BuildFitting(), Passed);
-        std::vector<std::string> lines = {"", ""};
-        lines.insert(lines.end(), sizes.begin(), sizes.end());
-        // No line tells which side of the material the sizes mean.
-        lines.insert(lines.end(), {"Thickness = 1.5", "Reducing Elbow  Full pattern  21 Nov 2026"});
-        EXPECT_EQ(TextBlock(*window), lines);
-    }
-}
-
-TEST(ReducingElbowFiles, ReadBackToTheSameBytesAndSurfaces) {
-    for (const int type : {1, 2}) {
-        TestShell shell;
-        const auto window = shell.OpenSample(Category, type);
-        window->settings.Thickness = 2;
-        window->settings.KerfSpacing = 3;
-        window->settings.HalfPattern = type == 2;
-        ExpectFileKeepsEverything(shell, *window);
-    }
+    ExpectTextBlocks(
+        Category,
+        {{1,
+          {"Large diameter = 220", "Small diameter = 130", "Length 1 = 310", "Length 2 = 250", "Angle = 90"}},
+         {2,
+          {"Large diameter = 300", "Small diameter = 210", "Length 1 = 360", "Length 2 = 290",
+           "Angle = 120"}}});
 }
 
 }  // namespace

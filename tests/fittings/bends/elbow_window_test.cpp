@@ -1,5 +1,5 @@
-// The window of the elbow: how it starts, every limit in its place, the sizes that it hands on, text lines,
-// saved files. The sample elbows have diameters of 200, 150 and 180.
+// The window of the elbow: how it starts, every limit in its place, the sizes that it hands on, text lines.
+// The sample elbows have diameters of 200, 150 and 180.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -9,18 +9,12 @@
 #include "core/math_module.h"
 #include "fittings/bends/elbow.h"
 #include "tests/support/refusals.h"
-#include "tests/support/saved_fittings.h"
-#include "window/views.h"
+#include "tests/support/text_blocks.h"
 
 namespace korvet {
 namespace {
 
 constexpr const char* ElbowCategory = "Elbow";
-
-const CElbow& BuiltElbow(CFittingWindow& window) {
-    EXPECT_EQ(window.BuildFitting(), Passed);
-    return window.fitting->As<CElbow>();
-}
 
 TEST(ElbowWindow, StartsAsAnElbowDoes) {
     TestShell shell;
@@ -44,11 +38,7 @@ TEST(ElbowWindow, StartsAsAnElbowDoes) {
 class ElbowRefusals : public testing::TestWithParam<Refusal> {};
 
 TEST_P(ElbowRefusals, NameTheBox) {
-    TestShell shell;
-    const auto window = shell.OpenSample(ElbowCategory, GetParam().type);
-    TypeBoxes(*window, GetParam().boxes);
-    EXPECT_EQ(window->BuildFitting(), Refused);
-    ExpectUserError(shell.ui, *window, GetParam().message, GetParam().box);
+    ExpectRefused(ElbowCategory, GetParam());
 }
 
 // The box that is refused later in the order is wrong too. The shortest leg at 120 degrees is
@@ -88,29 +78,14 @@ TEST(ElbowLimits, TheLimitsThemselvesAreAllowed) {
                                                          {3, {{8, "90"}}},
                                                          {3, {{9, "0.001"}}},
                                                          {3, {{9, "179.999"}}}};
-    for (const auto& [type, boxes] : cases) {
-        TestShell shell;
-        const auto window = shell.OpenSample(ElbowCategory, type);
-        TypeBoxes(*window, boxes);
-        window->ClickView(PatternButton);
-        EXPECT_TRUE(window->hasModel) << type << " " << boxes.begin()->first;
-        EXPECT_EQ(shell.ui.Texts(), std::vector<std::string>());
-    }
+    ExpectMade(ElbowCategory, cases);
 }
 
 TEST(ElbowLimits, WallMustFitIntoThePipe) {
     const std::map<int, std::pair<int, double>> boxes = {{1, {0, 100}}, {2, {4, 75}}, {3, {7, 90}}};
     for (const auto& [type, box] : boxes) {
-        TestShell shell;
-        const auto window = shell.OpenSample(ElbowCategory, type);
-        window->settings.InOutMean = OutsideDimension;
-        window->settings.Thickness = box.second;
-        EXPECT_EQ(window->BuildFitting(), Passed);
         // The size after it is wrong as well, but comes after.
-        TypeBoxes(*window, {{type == 1 ? 3 : box.first + 1, "0"}});
-        window->settings.Thickness = box.second + 0.1;
-        EXPECT_EQ(window->BuildFitting(), Refused);
-        ExpectUserError(shell.ui, *window, NoRoom, box.first);
+        ExpectRoomUpTo(box.second, ElbowCategory, type, box.first, {{type == 1 ? 3 : box.first + 1, "0"}});
     }
 }
 
@@ -128,42 +103,25 @@ TEST(ElbowLimits, LengthsAreHeldAgainstTheMeanRadius) {
     }
 }
 
-struct ShapelessElbow {
-    int type;
-    BoxTexts boxes;
-    std::string reason;
-};
-
-void PrintTo(const ShapelessElbow& example, std::ostream* out) {
-    *out << "type " << example.type << ": " << example.reason;
-}
-
-class ElbowsWithoutAShape : public testing::TestWithParam<ShapelessElbow> {};
+class ElbowsWithoutAShape : public testing::TestWithParam<Shapeless> {};
 
 TEST_P(ElbowsWithoutAShape, AreNotMade) {
-    TestShell shell;
-    const auto window = shell.OpenSample(ElbowCategory, GetParam().type);
-    TypeBoxes(*window, GetParam().boxes);
-    for (const int view : {0, PatternButton}) {
-        window->ClickView(view);
-        ExpectNotMade(shell.ui, *window, GetParam().reason);
-    }
+    ExpectShapeless(ElbowCategory, GetParam());
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Sizes, ElbowsWithoutAShape,
-    testing::Values(ShapelessElbow{2, {{4, "0"}}, "a pipe with a diameter of 0 has no wall"},
-                    ShapelessElbow{3, {{7, "0"}, {8, "0"}}, "a pipe with a diameter of 0 has no wall"},
-                    ShapelessElbow{1, {{1, "1.1e9"}}, "Length 1 is above a thousand million"},
-                    ShapelessElbow{2, {{6, "1e300"}}, "Length 2 is above a thousand million"},
-                    ShapelessElbow{3, {{8, "2e9"}, {9, "1e-6"}}, "Bend radius is above a thousand million"},
-                    ShapelessElbow{
-                        3, {{9, "179.99999999"}}, "the fitting is larger than a thousand million"}));
+    testing::Values(Shapeless{2, {{4, "0"}}, "a pipe with a diameter of 0 has no wall"},
+                    Shapeless{3, {{7, "0"}, {8, "0"}}, "a pipe with a diameter of 0 has no wall"},
+                    Shapeless{1, {{1, "1.1e9"}}, "Length 1 is above a thousand million"},
+                    Shapeless{2, {{6, "1e300"}}, "Length 2 is above a thousand million"},
+                    Shapeless{3, {{8, "2e9"}, {9, "1e-6"}}, "Bend radius is above a thousand million"},
+                    Shapeless{3, {{9, "179.99999999"}}, "the fitting is larger than a thousand million"}));
 
 TEST(ElbowSizes, OfTwoLegsAreTaken) {
     TestShell shell;
     const auto window = shell.OpenSample(ElbowCategory, 1);
-    const CElbow& elbow = BuiltElbow(*window);
+    const CElbow& elbow = Built<CElbow>(*window);
     EXPECT_EQ(elbow.BaseRad, 100);
     EXPECT_EQ(elbow.Length1, 320);
     EXPECT_EQ(elbow.Length2, 260);
@@ -174,7 +132,7 @@ TEST(ElbowSizes, OfTwoLegsAreTaken) {
 TEST(ElbowSizes, OfASquareElbowHaveTheRightAngle) {
     TestShell shell;
     const auto window = shell.OpenSample(ElbowCategory, 2);
-    const CElbow& elbow = BuiltElbow(*window);
+    const CElbow& elbow = Built<CElbow>(*window);
     EXPECT_EQ(elbow.BaseRad, 75);
     EXPECT_EQ(elbow.Length1, 240);
     EXPECT_EQ(elbow.Length2, 190);
@@ -187,7 +145,7 @@ TEST(ElbowSizes, OfASquareElbowHaveTheRightAngle) {
 TEST(ElbowSizes, OfAnElbowOnABendRadiusAreItsTangents) {
     TestShell shell;
     const auto window = shell.OpenSample(ElbowCategory, 3);
-    const CElbow& elbow = BuiltElbow(*window);
+    const CElbow& elbow = Built<CElbow>(*window);
     EXPECT_EQ(elbow.BaseRad, 90);
     EXPECT_EQ(elbow.BendRadius, 300);
     EXPECT_NEAR(elbow.Length1, 100 * std::numbers::sqrt3, 1e-10);
@@ -204,7 +162,7 @@ TEST(ElbowSizes, MaterialAndKerfComeFromTheSettings) {
         window->settings.InOutMean = OutsideDimension;
         window->settings.TemplateType = 1;
         window->settings.KerfSpacing = 12.5;
-        const CElbow& elbow = BuiltElbow(*window);
+        const CElbow& elbow = Built<CElbow>(*window);
         EXPECT_EQ(elbow.BaseRad, R);
         EXPECT_EQ(elbow.Thickness, 4);
         EXPECT_EQ(elbow.TemplateType, 1);
@@ -213,34 +171,10 @@ TEST(ElbowSizes, MaterialAndKerfComeFromTheSettings) {
 }
 
 TEST(ElbowTextBlock, TellsTheSizesAsTyped) {
-    const std::map<int, std::vector<std::string>> expected = {
-        {1, {"Pipe diameter = 200", "Length 1 = 320", "Length 2 = 260", "Angle = 120"}},
-        {2, {"Pipe diameter = 150", "Length 1 = 240", "Length 2 = 190", "Angle = 90"}},
-        {3, {"Pipe diameter = 180", "Bend radius = 300", "Angle = 60"}}};
-    for (const auto& [type, sizes] : expected) {
-        TestShell shell;
-        const auto window = shell.OpenSample(ElbowCategory, type);
-        window->settings.Thickness = 1.5;
-        window->settings.PositionString = "inside";
-        ASSERT_EQ(window->BuildFitting(), Passed);
-        std::vector<std::string> lines = {"", ""};
-        lines.insert(lines.end(), sizes.begin(), sizes.end());
-        // No line tells which side of the material the sizes mean.
-        lines.insert(lines.end(), {"Thickness = 1.5", "Elbow  Full pattern  21 Nov 2026"});
-        EXPECT_EQ(TextBlock(*window), lines);
-    }
-}
-
-TEST(ElbowFiles, ReadBackToTheSameBytesAndSurfaces) {
-    for (const int type : {1, 2, 3}) {
-        TestShell shell;
-        const auto window = shell.OpenSample(ElbowCategory, type);
-        window->settings.Thickness = 2;
-        window->settings.JoinAngle = 35;
-        window->settings.KerfSpacing = 3;
-        window->settings.HalfPattern = type == 2;
-        ExpectFileKeepsEverything(shell, *window);
-    }
+    ExpectTextBlocks(ElbowCategory,
+                     {{1, {"Pipe diameter = 200", "Length 1 = 320", "Length 2 = 260", "Angle = 120"}},
+                      {2, {"Pipe diameter = 150", "Length 1 = 240", "Length 2 = 190", "Angle = 90"}},
+                      {3, {"Pipe diameter = 180", "Bend radius = 300", "Angle = 60"}}});
 }
 
 }  // namespace

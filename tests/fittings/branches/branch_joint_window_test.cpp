@@ -16,6 +16,7 @@ namespace {
 const std::string TooLarge =
     "\r\n Either the branch pipe diameter or the offset distance is too large. \r\n This may also be due to "
     "the values for material thickness and Set-In/Set-On.";
+const std::string TooThick = "the material is too thick for the diameter of the branch pipe";
 const std::string NoHalf = "Half pattern not applicable to this item";
 
 /// The square sample without its offset: R = 100, and material of 4 and 10.
@@ -127,10 +128,7 @@ TEST_F(JoinWindowTest, MaterialThatFillsTheBranchIsRefused) {
     window->settings.ThicknessA = 130;
     window->settings.ThicknessB = 0;
     window->ClickView(0);
-    EXPECT_FALSE(window->hasModel);
-    ASSERT_EQ(shell.ui.messages.size(), 1U);
-    EXPECT_EQ(shell.ui.messages[0].text, "This fitting cannot be made with these sizes");
-    EXPECT_EQ(shell.ui.messages[0].detail, "the material is too thick for the diameter of the branch pipe");
+    ExpectNotMade(shell.ui, *window, TooThick);
 }
 
 TEST_F(JoinWindowTest, HalfPatternsNeedCrossingAxes) {
@@ -242,12 +240,8 @@ TEST_F(HeelTest, NeedsAnInsideOfTheBranch) {
     // On the mean a diameter of 8 is all wall, and one of 6 less than that.
     for (const char* diameter : {"8", "6"}) {
         TypeBoxes(*window, {{5, diameter}});
-        shell.ui.messages.clear();
         window->ClickView(0);
-        EXPECT_FALSE(window->hasModel);
-        ASSERT_EQ(shell.ui.messages.size(), 1U);
-        EXPECT_EQ(shell.ui.messages[0].detail,
-                  "the material is too thick for the diameter of the branch pipe");
+        ExpectNotMade(shell.ui, *window, TooThick);
     }
 }
 
@@ -256,10 +250,7 @@ TEST_F(HeelTest, ThatLeavesNoAngleIsRefused) {
     window->settings.ThicknessA = 95;
     TypeBoxes(*window, {{10, "2"}, {8, "9000"}, {9, "9000"}});
     window->ClickView(0);
-    EXPECT_FALSE(window->hasModel);
-    ASSERT_EQ(shell.ui.messages.size(), 1U);
-    EXPECT_EQ(shell.ui.messages[0].text, "This fitting cannot be made with these sizes");
-    EXPECT_EQ(shell.ui.messages[0].detail, "heel compensation leaves no angle between branch and trunk");
+    ExpectNotMade(shell.ui, *window, "heel compensation leaves no angle between branch and trunk");
 }
 
 }  // namespace

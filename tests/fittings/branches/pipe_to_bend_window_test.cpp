@@ -1,21 +1,15 @@
 // The window of the pipe on a bend: how it starts, every limit in its place, the sizes that it hands on, text
-// lines, saved files. The sample is a pipe of 120 on a bend of 200 with a centre line of 300, 180 up.
+// lines. The sample is a pipe of 120 on a bend of 200 with a centre line of 300, 180 up.
 #include <gtest/gtest.h>
 
 #include "fittings/branches/pipe_to_bend.h"
 #include "tests/support/refusals.h"
-#include "tests/support/saved_fittings.h"
-#include "window/views.h"
+#include "tests/support/text_blocks.h"
 
 namespace korvet {
 namespace {
 
 constexpr const char* PipeToBend = "Pipe to Bend";
-
-const CPipeToBend& BuiltPipeToBend(CFittingWindow& window) {
-    EXPECT_EQ(window.BuildFitting(), Passed);
-    return window.fitting->As<CPipeToBend>();
-}
 
 TEST(PipeToBendWindow, StartsAsAPipeOnABendDoes) {
     TestShell shell;
@@ -39,11 +33,7 @@ TEST(PipeToBendWindow, StartsAsAPipeOnABendDoes) {
 class PipeToBendRefusals : public testing::TestWithParam<Refusal> {};
 
 TEST_P(PipeToBendRefusals, NameTheBox) {
-    TestShell shell;
-    const auto window = shell.OpenSample(PipeToBend, GetParam().type);
-    TypeBoxes(*window, GetParam().boxes);
-    EXPECT_EQ(window->BuildFitting(), Refused);
-    ExpectUserError(shell.ui, *window, GetParam().message, GetParam().box);
+    ExpectRefused(PipeToBend, GetParam());
 }
 
 // The box that is refused later in the order is wrong too. A pipe 180 up comes 120 up with its lowest rule,
@@ -60,43 +50,23 @@ INSTANTIATE_TEST_SUITE_P(Sizes, PipeToBendRefusals,
                                          Refusal{1, {{4, "-520"}}, GreaterThan + "381.6", 4}));
 
 TEST(PipeToBendLimits, TheLimitsThemselvesAreAllowed) {
-    const std::vector<BoxTexts> cases = {{{1, "120"}},
-                                         {{0, "200"}},
-                                         {{0, "0.001"}},
-                                         {{3, "60"}},
-                                         {{2, "100"}, {3, "140"}},
-                                         {{3, "340"}},
-                                         {{3, "300"}, {4, "320.0001"}},  // a triangle of 240, 320 and 400
-                                         {{0, "200"}, {2, "100"}, {3, "100"}}};
-    for (const BoxTexts& boxes : cases) {
-        TestShell shell;
-        const auto window = shell.OpenSample(PipeToBend, 1);
-        TypeBoxes(*window, boxes);
-        window->ClickView(PatternButton);
-        EXPECT_TRUE(window->hasModel) << boxes.begin()->first;
-        EXPECT_EQ(shell.ui.Texts(), std::vector<std::string>());
-    }
+    ExpectMade(PipeToBend, {{1, {{1, "120"}}},
+                            {1, {{0, "200"}}},
+                            {1, {{0, "0.001"}}},
+                            {1, {{3, "60"}}},
+                            {1, {{2, "100"}, {3, "140"}}},
+                            {1, {{3, "340"}}},
+                            {1, {{3, "300"}, {4, "320.0001"}}},  // a triangle of 240, 320 and 400
+                            {1, {{0, "200"}, {2, "100"}, {3, "100"}}}});
 }
 
 TEST(PipeToBendLimits, LengthMustBeBeyondTheBend) {
-    TestShell shell;
-    const auto window = shell.OpenSample(PipeToBend, 1);
-    TypeBoxes(*window, {{3, "300"}, {4, "320"}});
-    EXPECT_EQ(window->BuildFitting(), Refused);
-    ExpectUserError(shell.ui, *window, GreaterThan + "320", 4);
+    ExpectRefused(PipeToBend, {1, {{3, "300"}, {4, "320"}}, GreaterThan + "320", 4});
 }
 
 TEST(PipeToBendLimits, WallMustFitIntoThePipe) {
-    TestShell shell;
-    const auto window = shell.OpenSample(PipeToBend, 1);
-    window->settings.InOutMean = OutsideDimension;
-    window->settings.Thickness = 60;
-    EXPECT_EQ(window->BuildFitting(), Passed);
     // The bend is too narrow as well, but comes after.
-    TypeBoxes(*window, {{1, "1"}});
-    window->settings.Thickness = 60.1;
-    EXPECT_EQ(window->BuildFitting(), Refused);
-    ExpectUserError(shell.ui, *window, NoRoom, 0);
+    ExpectRoomUpTo(60, PipeToBend, 1, 0, {{1, "1"}});
 }
 
 /// The sizes of the bend are taken as they are typed.
@@ -115,15 +85,9 @@ TEST(PipeToBendLimits, AreHeldAgainstTheMeanSizeOfThePipe) {
 }
 
 TEST(PipeToBendLimits, APipeOfNoDiameterIsNotMade) {
-    TestShell shell;
     for (const BoxTexts& boxes :
          {BoxTexts{{0, "0"}, {1, "0"}, {2, "0"}, {3, "0"}, {4, "5"}}, BoxTexts{{0, "0"}}}) {
-        const auto window = shell.OpenSample(PipeToBend, 1);
-        TypeBoxes(*window, boxes);
-        for (const int view : {0, PatternButton}) {
-            window->ClickView(view);
-            ExpectNotMade(shell.ui, *window, "a pipe with a diameter of 0 has no wall");
-        }
+        ExpectShapeless(PipeToBend, {1, boxes, "a pipe with a diameter of 0 has no wall"});
     }
 }
 
@@ -145,7 +109,7 @@ TEST(PipeToBendSizes, AreThoseOfTheBoxes) {
     window->settings.Thickness = 4;
     window->settings.InOutMean = OutsideDimension;
     window->settings.TemplateType = 1;
-    const CPipeToBend& fitting = BuiltPipeToBend(*window);
+    const CPipeToBend& fitting = Built<CPipeToBend>(*window);
     EXPECT_EQ(fitting.PipeRadius, 58);
     EXPECT_EQ(fitting.BendRadius, 100);
     EXPECT_EQ(fitting.BendCLRadius, 300);
@@ -159,25 +123,8 @@ TEST(PipeToBendSizes, AreThoseOfTheBoxes) {
 TEST(PipeToBendTextBlock, TellsTheSizesAsTyped) {
     TestShell shell;
     const auto window = shell.OpenSample(PipeToBend, 1);
-    window->settings.Thickness = 1.5;
-    window->settings.PositionString = "inside";
-    ASSERT_EQ(window->BuildFitting(), Passed);
-    // No line tells which side of the material the sizes mean.
-    EXPECT_EQ(TextBlock(*window),
-              (std::vector<std::string>{"", "", "Pipe diameter = 120", "Bend diameter = 200",
-                                        "Bend center line radius = 300", "Pipe center height = 180",
-                                        "Pipe length = 520", "Thickness = 1.5",
-                                        "Pipe to Bend  Full pattern  21 Nov 2026"}));
-}
-
-TEST(PipeToBendFiles, ReadBackToTheSameBytesAndSurfaces) {
-    TestShell shell;
-    const auto window = shell.OpenSample(PipeToBend, 1);
-    window->settings.Thickness = 2;
-    window->settings.TemplateType = 1;
-    window->settings.JoinType = 1;
-    window->settings.LapSize1 = 12;
-    ExpectFileKeepsEverything(shell, *window);
+    ExpectTextBlock(*window, {"Pipe diameter = 120", "Bend diameter = 200", "Bend center line radius = 300",
+                              "Pipe center height = 180", "Pipe length = 520"});
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "core/math_module.h"
 #include "fittings/ovals/elbow_oval.h"
 #include "tests/support/refusals.h"
+#include "tests/support/text_blocks.h"
 
 namespace korvet {
 namespace {
@@ -31,11 +32,7 @@ TEST(OvalElbowWindow, Starts) {
 class OvalElbowRefusals : public testing::TestWithParam<Refusal> {};
 
 TEST_P(OvalElbowRefusals, NameTheBox) {
-    TestShell shell;
-    const auto window = shell.OpenSample(OvalElbowCategory, GetParam().type);
-    TypeBoxes(*window, GetParam().boxes);
-    EXPECT_EQ(window->BuildFitting(), Refused);
-    ExpectUserError(shell.ui, *window, GetParam().message, GetParam().box);
+    ExpectRefused(OvalElbowCategory, GetParam());
 }
 
 // The box that is refused later in the order is wrong too. 75 / tan 60 degrees is 43.3.
@@ -61,26 +58,14 @@ TEST(OvalElbowLimits, TheLimitsThemselvesAreAllowed) {
         {1, {{10, "75"}}},  {1, {{1, "-43.3"}, {2, "-43.3"}}},
         {2, {{11, "140"}}}, {2, {{5, "70"}, {6, "70"}}},
         {3, {{12, "160"}}}, {3, {{8, "80"}}}};
-    for (const auto& [type, boxes] : cases) {
-        TestShell shell;
-        const auto window = shell.OpenSample(OvalElbowCategory, type);
-        TypeBoxes(*window, boxes);
-        EXPECT_EQ(window->BuildFitting(), Passed);
-        EXPECT_TRUE(shell.ui.messages.empty());
-        window->fitting->DevelopModel();
-    }
+    ExpectMade(OvalElbowCategory, cases);
 }
 
 TEST(OvalElbowLimits, WallMustFitIntoTheHalfCircles) {
-    for (const auto& [type, box, length] : {std::tuple{1, 0, 10}, {2, 4, 11}, {3, 7, 12}}) {
-        TestShell shell;
-        const auto window = shell.OpenSample(OvalElbowCategory, type);
-        window->settings.InOutMean = OutsideDimension;
-        window->settings.Thickness = 80.1;
-        TypeBoxes(*window, {{length, "-1"}});  // wrong as well, but comes after
-        EXPECT_EQ(window->BuildFitting(), Refused);
-        ExpectUserError(shell.ui, *window, NoRoom, box);
-    }
+    // The length is wrong as well, but comes after.
+    ExpectRoomUpTo(75, OvalElbowCategory, 1, 0, {{10, "-1"}});
+    ExpectRoomUpTo(70, OvalElbowCategory, 2, 4, {{11, "-1"}});
+    ExpectRoomUpTo(80, OvalElbowCategory, 3, 7, {{12, "-1"}});
 }
 
 TEST(OvalElbowSizes, OfEachType) {
@@ -89,8 +74,7 @@ TEST(OvalElbowSizes, OfEachType) {
     legs->settings.KerfSpacing = 7;
     legs->settings.Thickness = 4;
     legs->settings.InOutMean = InsideDimension;
-    EXPECT_EQ(legs->BuildFitting(), Passed);
-    const auto& elbow = legs->fitting->As<CElbowOval>();
+    const auto& elbow = Built<CElbowOval>(*legs);
     EXPECT_DOUBLE_EQ(elbow.BaseRad, 77);
     EXPECT_DOUBLE_EQ(elbow.OvalCenterDistance, 210);  // 360 - 150
     EXPECT_DOUBLE_EQ(elbow.BendAngle, DegToRad(120));
@@ -99,11 +83,9 @@ TEST(OvalElbowSizes, OfEachType) {
     EXPECT_EQ(elbow.KerfSpacing, 7);
     EXPECT_EQ(elbow.BendRadius, 0);
     const auto square = shell.OpenSample(OvalElbowCategory, 2);
-    EXPECT_EQ(square->BuildFitting(), Passed);
-    EXPECT_EQ(square->fitting->As<CElbowOval>().BendAngle, QuarterTurn);
+    EXPECT_EQ(Built<CElbowOval>(*square).BendAngle, QuarterTurn);
     const auto onRadius = shell.OpenSample(OvalElbowCategory, 3);
-    EXPECT_EQ(onRadius->BuildFitting(), Passed);
-    const auto& turned = onRadius->fitting->As<CElbowOval>();
+    const auto& turned = Built<CElbowOval>(*onRadius);
     EXPECT_NEAR(turned.BendAngle, DegToRad(120), 1e-12);      // a change of direction of 60
     EXPECT_NEAR(turned.Length1, 300 / std::sqrt(3.0), 1e-9);  // 300 tan 30 degrees
     EXPECT_EQ(turned.Length2, turned.Length1);
@@ -118,12 +100,8 @@ TEST(OvalElbowText, HasTheSizesAsTyped) {
         {"Base diameter = 160", "Base length = 400", "Bend radius = 300", "Angle = 60"}};
     for (std::size_t type = 1; type <= expected.size(); ++type) {
         const auto window = shell.OpenSample(OvalElbowCategory, static_cast<int>(type));
-        window->settings.HalfPattern = true;
-        EXPECT_EQ(window->BuildFitting(), Passed);
-        std::vector<std::string> lines = {"", ""};
-        lines.insert(lines.end(), expected[type - 1].begin(), expected[type - 1].end());
-        lines.insert(lines.end(), {"Thickness = 0", "Oval Elbow  Full pattern  21 Nov 2026"});
-        EXPECT_EQ(TextBlock(*window), lines);
+        window->settings.HalfPattern = true;  // there is none
+        ExpectTextBlock(*window, expected[type - 1]);
     }
 }
 

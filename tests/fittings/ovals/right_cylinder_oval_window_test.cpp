@@ -8,16 +8,12 @@
 #include "core/math_module.h"
 #include "fittings/ovals/right_cylinder_oval.h"
 #include "tests/support/refusals.h"
+#include "tests/support/text_blocks.h"
 
 namespace korvet {
 namespace {
 
 constexpr const char* OvalPipeCategory = "Oval Right Cylinder";
-
-const CRightCylinderOval& BuiltOvalPipe(CFittingWindow& window) {
-    EXPECT_EQ(window.BuildFitting(), Passed);
-    return window.fitting->As<CRightCylinderOval>();
-}
 
 TEST(OvalPipeWindow, Starts) {
     TestShell shell;
@@ -37,11 +33,7 @@ TEST(OvalPipeWindow, Starts) {
 class OvalPipeRefusals : public testing::TestWithParam<Refusal> {};
 
 TEST_P(OvalPipeRefusals, NameTheBox) {
-    TestShell shell;
-    const auto window = shell.OpenSample(OvalPipeCategory, GetParam().type);
-    TypeBoxes(*window, GetParam().boxes);
-    EXPECT_EQ(window->BuildFitting(), Refused);
-    ExpectUserError(shell.ui, *window, GetParam().message, GetParam().box);
+    ExpectRefused(OvalPipeCategory, GetParam());
 }
 
 // The box that is refused later in the order is wrong too. atan(300 / 90) is 73.3 degrees, atan(260 /
@@ -63,18 +55,11 @@ INSTANTIATE_TEST_SUITE_P(
         Refusal{4, {{10, "-90"}}, GreaterThan + "-90", 10}, Refusal{4, {{10, "69"}}, LessThan + "69", 10}));
 
 TEST(OvalPipeLimits, WallMustFitIntoTheHalfCircles) {
-    for (const auto& [type, box, length] : {std::tuple{1, 0, 2}, {2, 5, 15}, {3, 12, 14}, {4, 13, 11}}) {
-        TestShell shell;
-        const auto window = shell.OpenSample(OvalPipeCategory, type);
-        TypeBoxes(*window, {{box, "20"}, {length, "1"}});  // the length is wrong as well, but comes after
-        window->settings.InOutMean = OutsideDimension;
-        window->settings.Thickness = 10.1;
-        EXPECT_EQ(window->BuildFitting(), Refused);
-        ExpectUserError(shell.ui, *window, NoRoom, box);
-        TypeBoxes(*window, {{length, "20"}});
-        window->settings.Thickness = 10;
-        EXPECT_EQ(window->BuildFitting(), Passed);
-    }
+    // The length is wrong as well, but comes after.
+    ExpectRoomUpTo(80, OvalPipeCategory, 1, 0, {{2, "1"}});
+    ExpectRoomUpTo(90, OvalPipeCategory, 2, 5, {{15, "1"}});
+    ExpectRoomUpTo(75, OvalPipeCategory, 3, 12, {{14, "1"}});
+    ExpectRoomUpTo(100, OvalPipeCategory, 4, 13, {{11, "1"}});
 }
 
 TEST(OvalPipeSizes, OfTheMeanLine) {
@@ -82,7 +67,7 @@ TEST(OvalPipeSizes, OfTheMeanLine) {
     const auto window = shell.OpenSample(OvalPipeCategory, 1);
     window->settings.Thickness = 6;
     window->settings.InOutMean = OutsideDimension;
-    const CRightCylinderOval& pipe = BuiltOvalPipe(*window);
+    const CRightCylinderOval& pipe = Built<CRightCylinderOval>(*window);
     EXPECT_DOUBLE_EQ(pipe.BaseRad, 77);
     EXPECT_DOUBLE_EQ(pipe.OvalCenterDistance, 260);  // 420 - 160, whatever the material
     EXPECT_DOUBLE_EQ(pipe.CPHeight1, 280);
@@ -91,12 +76,12 @@ TEST(OvalPipeSizes, OfTheMeanLine) {
 
 TEST(OvalPipeSizes, OfTiltedCuts) {
     TestShell shell;
-    const CRightCylinderOval tilted = BuiltOvalPipe(*shell.OpenSample(OvalPipeCategory, 2));
+    const CRightCylinderOval tilted = Built<CRightCylinderOval>(*shell.OpenSample(OvalPipeCategory, 2));
     EXPECT_DOUBLE_EQ(tilted.CPAngle1, -DegToRad(25));
-    const CRightCylinderOval heights = BuiltOvalPipe(*shell.OpenSample(OvalPipeCategory, 3));
+    const CRightCylinderOval heights = Built<CRightCylinderOval>(*shell.OpenSample(OvalPipeCategory, 3));
     EXPECT_DOUBLE_EQ(heights.CPHeight1, 280);
     EXPECT_DOUBLE_EQ(heights.CPAngle1, -std::atan(120.0 / 150));
-    const CRightCylinderOval ends = BuiltOvalPipe(*shell.OpenSample(OvalPipeCategory, 4));
+    const CRightCylinderOval ends = Built<CRightCylinderOval>(*shell.OpenSample(OvalPipeCategory, 4));
     EXPECT_DOUBLE_EQ(ends.CPAngle1, -DegToRad(20));
     EXPECT_DOUBLE_EQ(ends.CPAngle2, -DegToRad(15));
 }
@@ -122,12 +107,8 @@ TEST(OvalPipeText, HasTheSizesAsTyped) {
          "Cutting plane angle 1 = 20", "Cutting plane angle 2 = 15"}};
     for (std::size_t type = 1; type <= expected.size(); ++type) {
         const auto window = shell.OpenSample(OvalPipeCategory, static_cast<int>(type));
-        window->settings.HalfPattern = true;
-        EXPECT_EQ(window->BuildFitting(), Passed);
-        std::vector<std::string> lines = {"", ""};
-        lines.insert(lines.end(), expected[type - 1].begin(), expected[type - 1].end());
-        lines.insert(lines.end(), {"Thickness = 0", "Oval Right Cylinder  Full pattern  21 Nov 2026"});
-        EXPECT_EQ(TextBlock(*window), lines);
+        window->settings.HalfPattern = true;  // there is none
+        ExpectTextBlock(*window, expected[type - 1]);
     }
 }
 

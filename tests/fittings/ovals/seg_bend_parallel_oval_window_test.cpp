@@ -6,6 +6,7 @@
 #include "core/math_module.h"
 #include "fittings/ovals/seg_bend_parallel_oval.h"
 #include "tests/support/refusals.h"
+#include "tests/support/text_blocks.h"
 #include "window/views.h"
 
 namespace korvet {
@@ -32,11 +33,7 @@ TEST(OvalBendWindow, Starts) {
 class OvalBendRefusals : public testing::TestWithParam<Refusal> {};
 
 TEST_P(OvalBendRefusals, NameTheBox) {
-    TestShell shell;
-    const auto window = shell.OpenSample(OvalBendCategory, GetParam().type);
-    TypeBoxes(*window, GetParam().boxes);
-    EXPECT_EQ(window->BuildFitting(), Refused);
-    ExpectUserError(shell.ui, *window, GetParam().message, GetParam().box);
+    ExpectRefused(OvalBendCategory, GetParam());
 }
 
 // The box that is refused later in the order is wrong too.
@@ -62,26 +59,13 @@ TEST(OvalBendLimits, TheLimitsThemselvesAreAllowed) {
     const std::vector<std::pair<int, BoxTexts>> cases = {
         {1, {{11, "160"}}},   {1, {{1, "80"}}}, {1, {{3, "0"}, {4, "0"}}},     {1, {{2, "2"}}},
         {2, {{12, "180.1"}}}, {2, {{6, "90"}}}, {2, {{7, "359.9"}, {10, "9"}}}};
-    for (const auto& [type, boxes] : cases) {
-        TestShell shell;
-        const auto window = shell.OpenSample(OvalBendCategory, type);
-        TypeBoxes(*window, boxes);
-        EXPECT_EQ(window->BuildFitting(), Passed);
-        EXPECT_TRUE(shell.ui.messages.empty());
-        window->fitting->DevelopModel();
-    }
+    ExpectMade(OvalBendCategory, cases);
 }
 
 TEST(OvalBendLimits, WallMustFitIntoTheHalfCircles) {
-    for (const auto& [type, box, length] : {std::tuple{1, 0, 11}, {2, 5, 12}}) {
-        TestShell shell;
-        const auto window = shell.OpenSample(OvalBendCategory, type);
-        window->settings.InOutMean = OutsideDimension;
-        window->settings.Thickness = 90.1;
-        TypeBoxes(*window, {{length, "1"}});  // wrong as well, but comes after
-        EXPECT_EQ(window->BuildFitting(), Refused);
-        ExpectUserError(shell.ui, *window, NoRoom, box);
-    }
+    // The length is wrong as well, but comes after.
+    ExpectRoomUpTo(80, OvalBendCategory, 1, 0, {{11, "-1"}});
+    ExpectRoomUpTo(90, OvalBendCategory, 2, 5, {{12, "-1"}});
 }
 
 TEST(OvalBendSizes, AreHandedOn) {
@@ -90,8 +74,7 @@ TEST(OvalBendSizes, AreHandedOn) {
     window->settings.Thickness = 4;
     window->settings.InOutMean = InsideDimension;
     window->settings.KerfSpacing = 7;
-    EXPECT_EQ(window->BuildFitting(), Passed);
-    const auto& bend = window->fitting->As<CSegBendParallelOval>();
+    const auto& bend = Built<CSegBendParallelOval>(*window);
     EXPECT_DOUBLE_EQ(bend.BaseRad, 92);
     EXPECT_DOUBLE_EQ(bend.OvalCenterDistance, 240);  // 420 - 180
     EXPECT_DOUBLE_EQ(bend.BendAngle, DegToRad(60));
@@ -101,8 +84,7 @@ TEST(OvalBendSizes, AreHandedOn) {
     EXPECT_EQ(bend.Length2, 130);
     EXPECT_EQ(bend.KerfSpacing, 7);
     const auto quarter = shell.OpenSample(OvalBendCategory, 1);
-    EXPECT_EQ(quarter->BuildFitting(), Passed);
-    EXPECT_EQ(quarter->fitting->As<CSegBendParallelOval>().BendAngle, QuarterTurn);
+    EXPECT_EQ(Built<CSegBendParallelOval>(*quarter).BendAngle, QuarterTurn);
 }
 
 TEST(OvalBendWindow, AsksForThePattern) {
@@ -118,20 +100,13 @@ TEST(OvalBendText, HasTheSizesAsTyped) {
     TestShell shell;
     const auto quarter = shell.OpenSample(OvalBendCategory, 1);
     TypeBoxes(*quarter, {{6, "17"}});
-    EXPECT_EQ(quarter->BuildFitting(), Passed);
-    EXPECT_EQ(TextBlock(*quarter),
-              (std::vector<std::string>{"", "", "Base diameter = 160", "Base length = 380",
-                                        "Bend radius = 320", "Bend angle = 90", "Length 1 = 90",
-                                        "Length 2 = 140", "Number of segments = 17", "Thickness = 0",
-                                        "Oval Segmented Bend  Full pattern  21 Nov 2026"}));
+    ExpectTextBlock(*quarter,
+                    {"Base diameter = 160", "Base length = 380", "Bend radius = 320", "Bend angle = 90",
+                     "Length 1 = 90", "Length 2 = 140", "Number of segments = 17"});
     const auto any = shell.OpenSample(OvalBendCategory, 2);
-    any->settings.HalfPattern = true;
-    EXPECT_EQ(any->BuildFitting(), Passed);
-    EXPECT_EQ(TextBlock(*any),
-              (std::vector<std::string>{"", "", "Base diameter = 180", "Base length = 420",
-                                        "Bend radius = 450", "Bend angle = 60", "Length 1 = 110",
-                                        "Length 2 = 130", "Number of segments = 4", "Thickness = 0",
-                                        "Oval Segmented Bend  Full pattern  21 Nov 2026"}));
+    any->settings.HalfPattern = true;  // there is none
+    ExpectTextBlock(*any, {"Base diameter = 180", "Base length = 420", "Bend radius = 450", "Bend angle = 60",
+                           "Length 1 = 110", "Length 2 = 130", "Number of segments = 4"});
 }
 
 }  // namespace

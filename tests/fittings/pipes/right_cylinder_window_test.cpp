@@ -7,16 +7,12 @@
 #include "core/math_module.h"
 #include "fittings/pipes/right_cylinder.h"
 #include "tests/support/refusals.h"
+#include "tests/support/text_blocks.h"
 
 namespace korvet {
 namespace {
 
 constexpr const char* Category = "Right Cylinder";
-
-const CRightCylinder& Built(CFittingWindow& window) {
-    EXPECT_EQ(window.BuildFitting(), Passed);
-    return window.fitting->As<CRightCylinder>();
-}
 
 TEST(RightCylinderWindow, StartsAsACylinderDoes) {
     TestShell shell;
@@ -38,11 +34,7 @@ TEST(RightCylinderWindow, StartsAsACylinderDoes) {
 class RightCylinderRefusals : public testing::TestWithParam<Refusal> {};
 
 TEST_P(RightCylinderRefusals, NameTheBox) {
-    TestShell shell;
-    const auto window = shell.OpenSample(Category, GetParam().type);
-    TypeBoxes(*window, GetParam().boxes);
-    EXPECT_EQ(window->BuildFitting(), Refused);
-    ExpectUserError(shell.ui, *window, GetParam().message, GetParam().box);
+    ExpectRefused(Category, GetParam());
 }
 
 INSTANTIATE_TEST_SUITE_P(Square, RightCylinderRefusals,
@@ -116,14 +108,7 @@ TEST(RightCylinderLimits, SizesWithinThemAreTaken) {
         {6, {{20, "99.9"}}},
         {6, {{20, "-99.9"}}},
     };
-    for (const auto& [type, boxes] : cases) {
-        TestShell shell;
-        const auto window = shell.OpenSample(Category, type);
-        TypeBoxes(*window, boxes);
-        EXPECT_EQ(window->BuildFitting(), Passed) << type;
-        EXPECT_TRUE(shell.ui.messages.empty()) << type;
-        window->fitting->DevelopModel();
-    }
+    ExpectMade(Category, cases);
 }
 
 /// The boxes of a type: diameter, height, and an angle that its other limits refuse.
@@ -170,42 +155,42 @@ TEST(RightCylinderSizes, ThicknessMovesTheRadiusByHalf) {
     TestShell shell;
     const auto window = shell.OpenSample(Category, 3);
     window->settings.Thickness = 6;
-    EXPECT_EQ(Built(*window).BaseRad, 100);
+    EXPECT_EQ(Built<CRightCylinder>(*window).BaseRad, 100);
     window->settings.InOutMean = InsideDimension;
-    EXPECT_EQ(Built(*window).BaseRad, 103);
+    EXPECT_EQ(Built<CRightCylinder>(*window).BaseRad, 103);
     // The two heights stand on the mean line.
-    EXPECT_DOUBLE_EQ(Built(*window).CPAngle1, -std::atan(100.0 / 206));
+    EXPECT_DOUBLE_EQ(Built<CRightCylinder>(*window).CPAngle1, -std::atan(100.0 / 206));
     window->settings.InOutMean = OutsideDimension;
-    EXPECT_EQ(Built(*window).BaseRad, 97);
+    EXPECT_EQ(Built<CRightCylinder>(*window).BaseRad, 97);
 }
 
 TEST(RightCylinderSizes, ComeFromTheBoxesOfTheType) {
     TestShell shell;
     const auto square = shell.OpenSample(Category, 1);
-    EXPECT_EQ(Built(*square).CPHeight1, 300);
+    EXPECT_EQ(Built<CRightCylinder>(*square).CPHeight1, 300);
     const auto tilted = shell.OpenSample(Category, 2);
-    EXPECT_DOUBLE_EQ(Built(*tilted).CPAngle1, -DegToRad(30));
+    EXPECT_DOUBLE_EQ(Built<CRightCylinder>(*tilted).CPAngle1, -DegToRad(30));
     const auto heights = shell.OpenSample(Category, 3);
-    EXPECT_EQ(Built(*heights).CPHeight1, 300);
-    EXPECT_DOUBLE_EQ(Built(*heights).CPAngle1, -std::atan(0.5));
+    EXPECT_EQ(Built<CRightCylinder>(*heights).CPHeight1, 300);
+    EXPECT_DOUBLE_EQ(Built<CRightCylinder>(*heights).CPAngle1, -std::atan(0.5));
     const auto roof = shell.OpenSample(Category, 4);
-    EXPECT_DOUBLE_EQ(Built(*roof).CPAngle1, DegToRad(30));
-    EXPECT_DOUBLE_EQ(Built(*roof).CPAngle3, DegToRad(40));
+    EXPECT_DOUBLE_EQ(Built<CRightCylinder>(*roof).CPAngle1, DegToRad(30));
+    EXPECT_DOUBLE_EQ(Built<CRightCylinder>(*roof).CPAngle3, DegToRad(40));
     const auto ends = shell.OpenSample(Category, 5);
-    EXPECT_DOUBLE_EQ(Built(*ends).CPAngle1, -DegToRad(20));
-    EXPECT_DOUBLE_EQ(Built(*ends).CPAngle2, -DegToRad(15));
-    EXPECT_DOUBLE_EQ(Built(*ends).Rotation, DegToRad(60));
+    EXPECT_DOUBLE_EQ(Built<CRightCylinder>(*ends).CPAngle1, -DegToRad(20));
+    EXPECT_DOUBLE_EQ(Built<CRightCylinder>(*ends).CPAngle2, -DegToRad(15));
+    EXPECT_DOUBLE_EQ(Built<CRightCylinder>(*ends).Rotation, DegToRad(60));
     const auto offset = shell.OpenSample(Category, 6);
-    EXPECT_DOUBLE_EQ(Built(*offset).CPAngle1, DegToRad(30));
-    EXPECT_DOUBLE_EQ(Built(*offset).CPAngle3, DegToRad(40));
-    EXPECT_EQ(Built(*offset).Offset, 30);
-    EXPECT_EQ(Built(*offset).inputs.Dtype, RoofTop);
+    EXPECT_DOUBLE_EQ(Built<CRightCylinder>(*offset).CPAngle1, DegToRad(30));
+    EXPECT_DOUBLE_EQ(Built<CRightCylinder>(*offset).CPAngle3, DegToRad(40));
+    EXPECT_EQ(Built<CRightCylinder>(*offset).Offset, 30);
+    EXPECT_EQ(Built<CRightCylinder>(*offset).inputs.Dtype, RoofTop);
 }
 
 TEST(RightCylinderSizes, HeightOneIsOnTheSideAwayFromTheSeam) {
     TestShell shell;
     const auto window = shell.OpenSample(Category, 3);
-    Built(*window);
+    Built<CRightCylinder>(*window);
     window->fitting->ConstructModel();
     const C3DPoints& top = *window->fitting->Results().ModelSurface.List1;
     EXPECT_NEAR(top.Item(1).z, 250, 1e-9);
@@ -215,15 +200,15 @@ TEST(RightCylinderSizes, HeightOneIsOnTheSideAwayFromTheSeam) {
 TEST(RightCylinderSizes, WhatATypeLacksIsZero) {
     TestShell shell;
     const auto window = shell.OpenSample(Category, 6);
-    Built(*window);
+    Built<CRightCylinder>(*window);
     auto& pipe = window->fitting->As<CRightCylinder>();
     pipe.CPAngle2 = pipe.Rotation = pipe.CPHeight2 = 7;
-    EXPECT_EQ(Built(*window).CPAngle2, 0);
+    EXPECT_EQ(Built<CRightCylinder>(*window).CPAngle2, 0);
     EXPECT_EQ(pipe.Rotation, 0);
     EXPECT_EQ(pipe.CPHeight2, 0);
     window->dtype = 0;
     TypeBoxes(*window, {{0, "200"}, {1, "300"}});
-    EXPECT_EQ(Built(*window).CPAngle1, 0);
+    EXPECT_EQ(Built<CRightCylinder>(*window).CPAngle1, 0);
     EXPECT_EQ(pipe.CPAngle3, 0);
     EXPECT_EQ(pipe.Offset, 0);
 }
@@ -233,7 +218,7 @@ TEST(RightCylinderSizes, TemplateComesFromTheSettings) {
     const auto window = shell.OpenSample(Category, 1);
     window->settings.Thickness = 5;
     window->settings.TemplateType = 1;
-    const CRightCylinder& pipe = Built(*window);
+    const CRightCylinder& pipe = Built<CRightCylinder>(*window);
     EXPECT_EQ(pipe.Thickness, 5);
     EXPECT_EQ(pipe.TemplateType, 1);
 }
@@ -273,39 +258,23 @@ TEST(RightCylinderNumbers, BoxesOfAllTypesMustHoldOne) {
     const auto window = shell.OpenSample(Category, 1);
     window->controls.txtParameter[21].text = "";
     EXPECT_EQ(window->BuildFitting(), Refused);
-    ASSERT_EQ(shell.ui.messages.size(), 1U);
-    EXPECT_EQ(shell.ui.messages[0].text, "Not a valid number");
-    EXPECT_EQ(shell.ui.messages[0].box, 21);
+    ExpectNotANumber(shell.ui, *window, 21);
 }
 
 TEST(RightCylinderTextBlock, TellsTheSizesAsTyped) {
-    const std::map<int, std::vector<std::string>> expected = {
-        {1, {"Base diameter = 200", "Cutting plane height = 300"}},
-        {2, {"Base diameter = 200", "Cutting plane height = 300", "Cutting plane angle = 30"}},
-        {3, {"Base diameter = 200", "Height 1 = 350", "Height 2  = 250"}},
-        {4,
-         {"Base diameter = 200", "Cutting plane height = 300", "Cutting plane angle 1 = 30",
-          "Cutting plane angle 2 = 40"}},
-        {5,
-         {"Base diameter = 200", "Cutting plane height = 220", "Cutting plane angle 1 = 20",
-          "Cutting plane angle 2 = 15", "Rotation of base = 60"}},
-        {6,
-         {"Base diameter = 200", "Cutting plane height = 300", "Cutting plane angle 1 = 30",
-          "Cutting plane angle 2 = 40", "Offset = 30"}}};
-    for (const auto& [type, sizes] : expected) {
-        TestShell shell;
-        const auto window = shell.OpenSample(Category, type);
-        window->settings.Thickness = 1.5;
-        window->settings.InOutMean = InsideDimension;
-        window->settings.PositionString = "inside";
-        window->settings.HalfPattern = true;
-        ASSERT_EQ(window->BuildFitting(), Passed);
-        std::vector<std::string> lines = {"", ""};
-        lines.insert(lines.end(), sizes.begin(), sizes.end());
-        // No line tells which side of the material the sizes mean.
-        lines.insert(lines.end(), {"Thickness = 1.5", "Right Cylinder  Half pattern  21 Nov 2026"});
-        EXPECT_EQ(TextBlock(*window), lines);
-    }
+    ExpectTextBlocks(Category,
+                     {{1, {"Base diameter = 200", "Cutting plane height = 300"}},
+                      {2, {"Base diameter = 200", "Cutting plane height = 300", "Cutting plane angle = 30"}},
+                      {3, {"Base diameter = 200", "Height 1 = 350", "Height 2  = 250"}},
+                      {4,
+                       {"Base diameter = 200", "Cutting plane height = 300", "Cutting plane angle 1 = 30",
+                        "Cutting plane angle 2 = 40"}},
+                      {5,
+                       {"Base diameter = 200", "Cutting plane height = 220", "Cutting plane angle 1 = 20",
+                        "Cutting plane angle 2 = 15", "Rotation of base = 60"}},
+                      {6,
+                       {"Base diameter = 200", "Cutting plane height = 300", "Cutting plane angle 1 = 30",
+                        "Cutting plane angle 2 = 40", "Offset = 30"}}});
 }
 
 }  // namespace

@@ -16,8 +16,7 @@ inline const std::string Oval = "Oval to Oval";
 
 /// The transition of a window whose sizes are good.
 inline const CTransition& Built(CFittingWindow& window) {
-    EXPECT_EQ(window.BuildFitting(), Passed);
-    return window.fitting->As<CTransition>();
+    return Built<CTransition>(window);
 }
 
 inline void ExpectLevel(const CTransition& transition) {

@@ -1,6 +1,8 @@
 // What the five windows of transitions make of their boxes: properties of the fitting and text lines.
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "tests/fittings/transitions/transition_window_fixture.h"
 
 namespace korvet {
@@ -15,95 +17,65 @@ std::unique_ptr<CFittingWindow> OpenWithPlate(TestShell& shell, const std::strin
     return window;
 }
 
-void ExpectTop(const CTransition& transition, double x, double y, double rad1, double rad2) {
-    EXPECT_DOUBLE_EQ(transition.TopLengthX, x);
-    EXPECT_DOUBLE_EQ(transition.TopLengthY, y);
-    EXPECT_DOUBLE_EQ(transition.TopRad1, rad1);
-    EXPECT_DOUBLE_EQ(transition.TopRad2, rad2);
+/// What a page at its sample sizes comes to by the side of the plate that they are measured on.
+struct MeanSizes {
+    std::string category;
+    int type;
+    MaterialSide side;
+    std::array<double, 4> top;     ///< lengths along x and y, and the semi-axes of the corners
+    std::array<double, 3> base;    ///< lengths, and the corner radius
+    std::array<double, 3> placed;  ///< offsets and height
+};
+
+void PrintTo(const MeanSizes& sizes, std::ostream* out) {
+    *out << sizes.category << ", type " << sizes.type << ", side " << sizes.side;
 }
 
-void ExpectBase(const CTransition& transition, double x, double y, double radius) {
-    EXPECT_DOUBLE_EQ(transition.BaseLengthX, x);
-    EXPECT_DOUBLE_EQ(transition.BaseLengthY, y);
-    EXPECT_DOUBLE_EQ(transition.BaseRad1, radius);
-    EXPECT_DOUBLE_EQ(transition.BaseRad2, radius);
-}
+class TransitionMeanSizes : public testing::TestWithParam<MeanSizes> {};
 
-void ExpectPlaced(const CTransition& transition, double offsetX, double offsetY, double height) {
-    EXPECT_EQ(transition.TopOffsetX, offsetX);
-    EXPECT_EQ(transition.TopOffsetY, offsetY);
-    EXPECT_EQ(transition.Height, height);
-}
-
-// The sample base is 300 by 200 in all windows, with radii of 50 where it has any.
-
-TEST(TransitionSizes, OfRectangleToRoundLoseOneThicknessAtTheBase) {
+TEST_P(TransitionMeanSizes, AreThoseOfTheMiddleOfThePlate) {
+    const auto& [category, type, side, top, base, placed] = GetParam();
     TestShell shell;
-    const auto inside = OpenWithPlate(shell, RectRound1, 1, InsideDimension);
-    ExpectTop(Built(*inside), 154, 154, 77, 77);
-    ExpectBase(Built(*inside), 300, 200, 0);
-    ExpectPlaced(Built(*inside), 0, 0, 250);
-    ExpectLevel(Built(*inside));
-    const auto outside = OpenWithPlate(shell, RectRound1, 2, OutsideDimension);
-    ExpectTop(Built(*outside), 116, 116, 58, 58);
-    ExpectBase(Built(*outside), 292, 192, 0);
-    ExpectPlaced(Built(*outside), 50, -25, 250);
-    const auto mean = OpenWithPlate(shell, RectRound1, 2, MeanDimension);
-    ExpectTop(Built(*mean), 120, 120, 60, 60);
-    ExpectBase(Built(*mean), 296, 196, 0);
+    const auto window = OpenWithPlate(shell, category, type, side);
+    const auto& transition = Built(*window);
+    EXPECT_DOUBLE_EQ(transition.TopLengthX, top[0]);
+    EXPECT_DOUBLE_EQ(transition.TopLengthY, top[1]);
+    EXPECT_DOUBLE_EQ(transition.TopRad1, top[2]);
+    EXPECT_DOUBLE_EQ(transition.TopRad2, top[3]);
+    EXPECT_DOUBLE_EQ(transition.BaseLengthX, base[0]);
+    EXPECT_DOUBLE_EQ(transition.BaseLengthY, base[1]);
+    EXPECT_DOUBLE_EQ(transition.BaseRad1, base[2]);
+    EXPECT_DOUBLE_EQ(transition.BaseRad2, base[2]);
+    EXPECT_EQ(transition.TopOffsetX, placed[0]);
+    EXPECT_EQ(transition.TopOffsetY, placed[1]);
+    EXPECT_EQ(transition.Height, placed[2]);
+    if (!window->Table().pages[static_cast<std::size_t>(type - 1)].angleOptions) {
+        ExpectLevel(transition);
+    }
 }
 
-TEST(TransitionSizes, OfRectangleWithRadiusToRound) {
-    TestShell shell;
-    const auto inside = OpenWithPlate(shell, RectRound2, 1, InsideDimension);
-    ExpectTop(Built(*inside), 154, 154, 77, 77);
-    ExpectBase(Built(*inside), 304, 204, 52);
-    ExpectPlaced(Built(*inside), 0, 0, 250);
-    ExpectLevel(Built(*inside));
-    const auto outside = OpenWithPlate(shell, RectRound2, 2, OutsideDimension);
-    ExpectTop(Built(*outside), 116, 116, 58, 58);
-    ExpectBase(Built(*outside), 296, 196, 48);
-    ExpectPlaced(Built(*outside), 50, -25, 250);
-}
-
-TEST(TransitionSizes, OfRectangleToEllipse) {
-    TestShell shell;
-    const auto inside = OpenWithPlate(shell, RectEllipse, 1, InsideDimension);
-    ExpectTop(Built(*inside), 184, 104, 92, 52);
-    ExpectBase(Built(*inside), 304, 204, 52);
-    ExpectPlaced(Built(*inside), 0, 0, 250);
-    ExpectLevel(Built(*inside));
-    const auto outside = OpenWithPlate(shell, RectEllipse, 2, OutsideDimension);
-    ExpectTop(Built(*outside), 196, 106, 98, 53);
-    ExpectBase(Built(*outside), 296, 196, 48);
-    ExpectPlaced(Built(*outside), 40, -25, 250);
-}
-
-TEST(TransitionSizes, OfFoldedRectangles) {
-    TestShell shell;
-    const auto inside = OpenWithPlate(shell, Folded, 1, InsideDimension);
-    ExpectTop(Built(*inside), 184, 124, 32, 32);
-    ExpectBase(Built(*inside), 304, 204, 52);
-    ExpectPlaced(Built(*inside), 0, 0, 250);
-    const auto outside = OpenWithPlate(shell, Folded, 2, OutsideDimension);
-    ExpectTop(Built(*outside), 176, 116, 28, 28);
-    ExpectBase(Built(*outside), 296, 196, 48);
-    ExpectPlaced(Built(*outside), 40, -20, 250);
-    ExpectLevel(Built(*outside));
-}
-
-TEST(TransitionSizes, OfOvalsWhoseYOffsetKeepsItsSign) {
-    TestShell shell;
-    const auto inside = OpenWithPlate(shell, Oval, 1, InsideDimension);
-    ExpectTop(Built(*inside), 204, 104, 52, 52);
-    ExpectBase(Built(*inside), 304, 204, 102);
-    ExpectPlaced(Built(*inside), 0, 0, 250);
-    const auto outside = OpenWithPlate(shell, Oval, 2, OutsideDimension);
-    ExpectTop(Built(*outside), 196, 96, 48, 48);
-    ExpectBase(Built(*outside), 296, 196, 98);
-    ExpectPlaced(Built(*outside), 30, 20, 250);
-    ExpectLevel(Built(*outside));
-}
+// The sample base is 300 by 200 in all windows, with radii of 50 where it has any. A sharp rectangle loses
+// one thickness more where it is bent.
+INSTANTIATE_TEST_SUITE_P(
+    Sharp, TransitionMeanSizes,
+    testing::Values(
+        MeanSizes{RectRound1, 1, InsideDimension, {154, 154, 77, 77}, {300, 200, 0}, {0, 0, 250}},
+        MeanSizes{RectRound1, 2, OutsideDimension, {116, 116, 58, 58}, {292, 192, 0}, {50, -25, 250}},
+        MeanSizes{RectRound1, 2, MeanDimension, {120, 120, 60, 60}, {296, 196, 0}, {50, -25, 250}}));
+INSTANTIATE_TEST_SUITE_P(
+    Rounded, TransitionMeanSizes,
+    testing::Values(
+        MeanSizes{RectRound2, 1, InsideDimension, {154, 154, 77, 77}, {304, 204, 52}, {0, 0, 250}},
+        MeanSizes{RectRound2, 2, OutsideDimension, {116, 116, 58, 58}, {296, 196, 48}, {50, -25, 250}},
+        MeanSizes{RectEllipse, 1, InsideDimension, {184, 104, 92, 52}, {304, 204, 52}, {0, 0, 250}},
+        MeanSizes{RectEllipse, 2, OutsideDimension, {196, 106, 98, 53}, {296, 196, 48}, {40, -25, 250}},
+        MeanSizes{Folded, 1, InsideDimension, {184, 124, 32, 32}, {304, 204, 52}, {0, 0, 250}},
+        MeanSizes{Folded, 2, OutsideDimension, {176, 116, 28, 28}, {296, 196, 48}, {40, -20, 250}}));
+// The Y offset of ovals keeps its sign.
+INSTANTIATE_TEST_SUITE_P(
+    Oval, TransitionMeanSizes,
+    testing::Values(MeanSizes{Oval, 1, InsideDimension, {204, 104, 52, 52}, {304, 204, 102}, {0, 0, 250}},
+                    MeanSizes{Oval, 2, OutsideDimension, {196, 96, 48, 48}, {296, 196, 98}, {30, 20, 250}}));
 
 TEST(TransitionSizes, CompensatedLimitsFollowTheSideOfThePlate) {
     // A folded base of 200 outside is 196 on the mean line: its radius may be 98.
@@ -113,7 +85,7 @@ TEST(TransitionSizes, CompensatedLimitsFollowTheSideOfThePlate) {
     EXPECT_EQ(folded->BuildFitting(), Passed);
     TypeBoxes(*folded, {{10, "98.1"}});
     EXPECT_EQ(folded->BuildFitting(), Refused);
-    ExpectUserError(shell.ui, *folded, "This dimension must be equal to or less than 98", 10);
+    ExpectUserError(shell.ui, *folded, AtMost + "98", 10);
 }
 
 TEST(TransitionSizes, AnOvalIsHeldAgainstTheThicknessOnTheMeanLine) {
@@ -123,8 +95,7 @@ TEST(TransitionSizes, AnOvalIsHeldAgainstTheThicknessOnTheMeanLine) {
         const auto oval = OpenWithPlate(shell, Oval, type, OutsideDimension);
         TypeBoxes(*oval, {{box, "7.9"}});
         EXPECT_EQ(oval->BuildFitting(), Refused);
-        ExpectUserError(shell.ui, *oval, "This dimension must be increased to allow for material thickness",
-                        box);
+        ExpectUserError(shell.ui, *oval, NoRoom, box);
         TypeBoxes(*oval, {{box, "8"}});
         EXPECT_EQ(oval->BuildFitting(), Passed);
     }
@@ -136,9 +107,12 @@ TEST(TransitionSizes, ALevelBuildForgetsTheLastTilts) {
     EXPECT_NE(Built(*window).TopTiltY, 0);
     window->ClickPoint(1);
     TypeBoxes(*window, {{0, "100"}, {1, "200"}, {2, "200"}, {3, "90"}});
-    ExpectLevel(Built(*window));
-    ExpectPlaced(Built(*window), 0, 0, 90);
-    EXPECT_EQ(Built(*window).inputs.Dtype, 0);
+    const auto& transition = Built(*window);
+    ExpectLevel(transition);
+    EXPECT_EQ(transition.TopOffsetX, 0);
+    EXPECT_EQ(transition.TopOffsetY, 0);
+    EXPECT_EQ(transition.Height, 90);
+    EXPECT_EQ(transition.inputs.Dtype, 0);
 }
 
 /// The lines of a page at its sample sizes, between the comments and the thickness.

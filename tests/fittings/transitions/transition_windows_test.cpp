@@ -11,13 +11,7 @@ namespace korvet {
 namespace {
 
 const std::string NotZero = "This dimension cannot be equal to 0";
-
-std::string AtMost(const std::string& limit) {
-    return "This dimension must be equal to or less than " + limit;
-}
-std::string AtLeast(const std::string& limit) {
-    return "This dimension must be equal to or greater than " + limit;
-}
+constexpr double PlateThickness = 6;
 
 /// Sizes that pass every check, of which a plate of 6 leaves nothing, or less.
 struct TooThick {
@@ -36,7 +30,7 @@ class TransitionThickness : public testing::TestWithParam<TooThick> {};
 
 std::unique_ptr<CFittingWindow> OpenWithPlate(TestShell& shell, const TooThick& example) {
     auto window = shell.OpenSample(example.category, example.type);
-    window->settings.Thickness = 6;
+    window->settings.Thickness = PlateThickness;
     window->settings.InOutMean = example.side;
     TypeBoxes(*window, example.boxes);
     return window;
@@ -46,11 +40,7 @@ TEST_P(TransitionThickness, ThatTakesMoreThanThereIsEndsTheBuild) {
     TestShell shell;
     const auto window = OpenWithPlate(shell, GetParam());
     window->ClickView(0);
-    EXPECT_FALSE(window->hasModel);
-    ASSERT_EQ(shell.ui.messages.size(), 1U);
-    EXPECT_EQ(shell.ui.messages[0].text, "This fitting cannot be made with these sizes");
-    EXPECT_EQ(shell.ui.messages[0].detail, "the material is too thick for the " + GetParam().size);
-    EXPECT_FALSE(shell.ui.messages[0].box);
+    ExpectNotMade(shell.ui, *window, "the material is too thick for the " + GetParam().size);
 }
 
 // Outside sizes: a radius or half length loses 3, a length 6, and that of a sharp rectangle 12. The top
@@ -104,7 +94,7 @@ TEST(TransitionThickSizes, IsMetAfterEveryCheck) {
     window->settings.HalfPattern = true;
     TypeBoxes(*window, {{4, "5.99"}, {11, "91"}});
     EXPECT_EQ(window->BuildFitting(), Refused);
-    ExpectUserError(shell.ui, *window, AtMost("90"), 11);
+    ExpectUserError(shell.ui, *window, AtMost + "90", 11);
     shell.ui.messages.clear();
     TypeBoxes(*window, {{11, "0"}});
     EXPECT_THROW((void)window->BuildFitting(), ArithmeticError);
@@ -141,17 +131,9 @@ TEST(TransitionThickSizes, MustLeaveSomethingOfAnEnd) {
     }
 }
 
-/// The boxes that would stop the build too come later in the order of the checks; the plate is 6 thick.
-void ExpectRefused(const std::string& category, const Refusal& refusal) {
-    TestShell shell;
-    const auto window = shell.OpenSample(category, refusal.type);
-    window->settings.Thickness = 6;
-    TypeBoxes(*window, refusal.boxes);
-    EXPECT_EQ(window->BuildFitting(), Refused);
-    ExpectUserError(shell.ui, *window, refusal.message, refusal.box);
-}
+// The boxes that would stop the build too come later in the order of the checks.
 
-/// Sizes on their limits, which pass; plate 6 thick.
+/// Sizes on their limits, which pass.
 struct Pass {
     std::string category;
     int type;
@@ -166,7 +148,7 @@ class TransitionLimits : public testing::TestWithParam<Pass> {};
 TEST_P(TransitionLimits, AreAllowed) {
     TestShell shell;
     const auto window = shell.OpenSample(GetParam().category, GetParam().type);
-    window->settings.Thickness = 6;
+    window->settings.Thickness = PlateThickness;
     TypeBoxes(*window, GetParam().boxes);
     EXPECT_EQ(window->BuildFitting(), Passed);
     EXPECT_TRUE(shell.ui.messages.empty());
@@ -174,7 +156,7 @@ TEST_P(TransitionLimits, AreAllowed) {
 
 class RectRound1Refusals : public testing::TestWithParam<Refusal> {};
 TEST_P(RectRound1Refusals, NamesTheBox) {
-    ExpectRefused(RectRound1, GetParam());
+    ExpectRefused(RectRound1, GetParam(), PlateThickness);
 }
 
 INSTANTIATE_TEST_SUITE_P(Short, RectRound1Refusals,
@@ -189,10 +171,10 @@ INSTANTIATE_TEST_SUITE_P(Long, RectRound1Refusals,
                                          Refusal{2, {{5, "0"}, {6, "0"}, {9, "0"}}, AboveZero, 5},
                                          Refusal{2, {{6, "-3"}, {9, "0"}, {10, "91"}}, AboveZero, 6},
                                          Refusal{2, {{9, "0"}, {10, "91"}, {11, "91"}}, NotZero, 9},
-                                         Refusal{2, {{10, "90.01"}, {11, "91"}}, AtMost("90"), 10},
-                                         Refusal{2, {{10, "-90.01"}, {11, "91"}}, AtLeast("-90"), 10},
-                                         Refusal{2, {{11, "90.01"}}, AtMost("90"), 11},
-                                         Refusal{2, {{11, "-90.01"}}, AtLeast("-90"), 11}));
+                                         Refusal{2, {{10, "90.01"}, {11, "91"}}, AtMost + "90", 10},
+                                         Refusal{2, {{10, "-90.01"}, {11, "91"}}, AtLeast + "-90", 10},
+                                         Refusal{2, {{11, "90.01"}}, AtMost + "90", 11},
+                                         Refusal{2, {{11, "-90.01"}}, AtLeast + "-90", 11}));
 INSTANTIATE_TEST_SUITE_P(RectRound1, TransitionLimits,
                          testing::Values(Pass{RectRound1, 1, {{1, "6.01"}, {2, "6.01"}, {3, "-250"}}},
                                          Pass{RectRound1, 2, {{9, "-250"}, {10, "90"}, {11, "-90"}}},
@@ -200,7 +182,7 @@ INSTANTIATE_TEST_SUITE_P(RectRound1, TransitionLimits,
 
 class RectRound2Refusals : public testing::TestWithParam<Refusal> {};
 TEST_P(RectRound2Refusals, NamesTheBox) {
-    ExpectRefused(RectRound2, GetParam());
+    ExpectRefused(RectRound2, GetParam(), PlateThickness);
 }
 
 INSTANTIATE_TEST_SUITE_P(Short, RectRound2Refusals,
@@ -208,25 +190,25 @@ INSTANTIATE_TEST_SUITE_P(Short, RectRound2Refusals,
                                          Refusal{1, {{1, "0"}, {2, "0"}, {10, "0"}}, AboveZero, 1},
                                          Refusal{1, {{2, "0"}, {10, "0"}}, AboveZero, 2},
                                          Refusal{1, {{10, "2.99"}, {1, "5"}, {3, "0"}}, NoRoom, 10},
-                                         Refusal{1, {{10, "150.1"}}, AtMost("150"), 10},
+                                         Refusal{1, {{10, "150.1"}}, AtMost + "150", 10},
                                          // The X length is compared before the Y length.
-                                         Refusal{1, {{10, "100.1"}, {3, "0"}}, AtMost("100"), 10},
-                                         Refusal{1, {{10, "100.1"}, {1, "80"}}, AtMost("40"), 10},
+                                         Refusal{1, {{10, "100.1"}, {3, "0"}}, AtMost + "100", 10},
+                                         Refusal{1, {{10, "100.1"}, {1, "80"}}, AtMost + "40", 10},
                                          // A radius of half the thickness needs a length of the thickness.
-                                         Refusal{1, {{10, "3"}, {1, "5.99"}}, AtMost("3"), 10},
+                                         Refusal{1, {{10, "3"}, {1, "5.99"}}, AtMost + "3", 10},
                                          Refusal{1, {{3, "0"}}, NotZero, 3}));
 INSTANTIATE_TEST_SUITE_P(
     Long, RectRound2Refusals,
     testing::Values(Refusal{2, {{4, "0"}, {5, "0"}, {6, "0"}, {12, "91"}}, AboveZero, 4},
                     Refusal{2, {{5, "0"}, {6, "0"}, {12, "91"}}, AboveZero, 5},
                     Refusal{2, {{6, "0"}, {12, "91"}}, AboveZero, 6},
-                    Refusal{2, {{12, "90.01"}, {13, "91"}, {9, "0"}}, AtMost("90"), 12},
-                    Refusal{2, {{12, "-90.01"}, {13, "91"}, {9, "0"}}, AtLeast("-90"), 12},
-                    Refusal{2, {{13, "90.01"}, {9, "0"}}, AtMost("90"), 13},
-                    Refusal{2, {{13, "-90.01"}, {9, "0"}}, AtLeast("-90"), 13},
+                    Refusal{2, {{12, "90.01"}, {13, "91"}, {9, "0"}}, AtMost + "90", 12},
+                    Refusal{2, {{12, "-90.01"}, {13, "91"}, {9, "0"}}, AtLeast + "-90", 12},
+                    Refusal{2, {{13, "90.01"}, {9, "0"}}, AtMost + "90", 13},
+                    Refusal{2, {{13, "-90.01"}, {9, "0"}}, AtLeast + "-90", 13},
                     Refusal{2, {{9, "0"}, {11, "0"}}, NotZero, 9}, Refusal{2, {{11, "2.99"}}, NoRoom, 11},
-                    Refusal{2, {{11, "100.1"}}, AtMost("100"), 11},
-                    Refusal{2, {{11, "100.1"}, {5, "90"}}, AtMost("45"), 11}));
+                    Refusal{2, {{11, "100.1"}}, AtMost + "100", 11},
+                    Refusal{2, {{11, "100.1"}, {5, "90"}}, AtMost + "45", 11}));
 INSTANTIATE_TEST_SUITE_P(
     RectRound2, TransitionLimits,
     testing::Values(Pass{RectRound2, 1, {{10, "3"}, {1, "6"}, {2, "6"}, {3, "-1"}}},
@@ -235,7 +217,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 class RectEllipseRefusals : public testing::TestWithParam<Refusal> {};
 TEST_P(RectEllipseRefusals, NamesTheBox) {
-    ExpectRefused(RectEllipse, GetParam());
+    ExpectRefused(RectEllipse, GetParam(), PlateThickness);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -246,8 +228,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Refusal{1, {{2, "0"}, {3, "0"}, {10, "0"}}, AboveZero, 2},
                     Refusal{1, {{3, "-250"}, {10, "0"}}, AboveZero, 3},
                     Refusal{1, {{10, "2.99"}, {1, "5"}}, NoRoom, 10},
-                    Refusal{1, {{10, "100.1"}, {1, "80"}}, AtMost("40"), 10},
-                    Refusal{1, {{10, "100.1"}}, AtMost("100"), 10}));
+                    Refusal{1, {{10, "100.1"}, {1, "80"}}, AtMost + "40", 10},
+                    Refusal{1, {{10, "100.1"}}, AtMost + "100", 10}));
 INSTANTIATE_TEST_SUITE_P(
     Long, RectEllipseRefusals,
     testing::Values(Refusal{2, {{4, "0"}, {13, "0"}, {5, "0"}, {6, "0"}, {9, "0"}}, AboveZero, 4},
@@ -256,12 +238,12 @@ INSTANTIATE_TEST_SUITE_P(
                     Refusal{2, {{6, "0"}, {9, "0"}}, AboveZero, 6},
                     Refusal{2, {{9, "-250"}, {11, "0"}}, AboveZero, 9},
                     Refusal{2, {{11, "2.99"}, {14, "91"}}, NoRoom, 11},
-                    Refusal{2, {{14, "90.01"}, {15, "91"}, {11, "120"}}, AtMost("90"), 14},
-                    Refusal{2, {{14, "-90.01"}, {15, "91"}}, AtLeast("-90"), 14},
-                    Refusal{2, {{15, "90.01"}, {11, "120"}}, AtMost("90"), 15},
-                    Refusal{2, {{15, "-90.01"}, {11, "120"}}, AtLeast("-90"), 15},
-                    Refusal{2, {{11, "100.1"}, {5, "80"}}, AtMost("40"), 11},
-                    Refusal{2, {{11, "100.1"}}, AtMost("100"), 11}));
+                    Refusal{2, {{14, "90.01"}, {15, "91"}, {11, "120"}}, AtMost + "90", 14},
+                    Refusal{2, {{14, "-90.01"}, {15, "91"}}, AtLeast + "-90", 14},
+                    Refusal{2, {{15, "90.01"}, {11, "120"}}, AtMost + "90", 15},
+                    Refusal{2, {{15, "-90.01"}, {11, "120"}}, AtLeast + "-90", 15},
+                    Refusal{2, {{11, "100.1"}, {5, "80"}}, AtMost + "40", 11},
+                    Refusal{2, {{11, "100.1"}}, AtMost + "100", 11}));
 INSTANTIATE_TEST_SUITE_P(RectEllipse, TransitionLimits,
                          testing::Values(Pass{RectEllipse, 1, {{10, "3"}, {1, "6"}}},
                                          Pass{RectEllipse, 1, {{10, "100"}}},
@@ -269,7 +251,7 @@ INSTANTIATE_TEST_SUITE_P(RectEllipse, TransitionLimits,
 
 class FoldedRefusals : public testing::TestWithParam<Refusal> {};
 TEST_P(FoldedRefusals, NamesTheBox) {
-    ExpectRefused(Folded, GetParam());
+    ExpectRefused(Folded, GetParam(), PlateThickness);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -283,12 +265,12 @@ INSTANTIATE_TEST_SUITE_P(
                     Refusal{1, {{1, "5.99"}, {4, "5"}, {2, "5"}, {10, "0"}}, NoRoom, 1},
                     Refusal{1, {{4, "5.99"}, {2, "5"}, {10, "0"}}, NoRoom, 4},
                     Refusal{1, {{2, "5.99"}, {10, "0"}}, NoRoom, 2},
-                    Refusal{1, {{10, "2.99"}, {13, "0"}}, AtLeast("3"), 10},
-                    Refusal{1, {{10, "150.1"}, {2, "900"}, {13, "0"}}, AtMost("150"), 10},
-                    Refusal{1, {{10, "100.1"}, {13, "0"}}, AtMost("100"), 10},
-                    Refusal{1, {{13, "2.99"}}, AtLeast("3"), 13},
-                    Refusal{1, {{13, "90.1"}, {1, "900"}}, AtMost("90"), 13},
-                    Refusal{1, {{13, "60.1"}}, AtMost("60"), 13}));
+                    Refusal{1, {{10, "2.99"}, {13, "0"}}, AtLeast + "3", 10},
+                    Refusal{1, {{10, "150.1"}, {2, "900"}, {13, "0"}}, AtMost + "150", 10},
+                    Refusal{1, {{10, "100.1"}, {13, "0"}}, AtMost + "100", 10},
+                    Refusal{1, {{13, "2.99"}}, AtLeast + "3", 13},
+                    Refusal{1, {{13, "90.1"}, {1, "900"}}, AtMost + "90", 13},
+                    Refusal{1, {{13, "60.1"}}, AtMost + "60", 13}));
 INSTANTIATE_TEST_SUITE_P(
     Long, FoldedRefusals,
     testing::Values(Refusal{2, {{6, "0"}, {5, "0"}, {7, "0"}, {8, "0"}, {9, "0"}}, AboveZero, 6},
@@ -301,12 +283,12 @@ INSTANTIATE_TEST_SUITE_P(
                     Refusal{2, {{6, "5.99"}, {7, "5"}, {8, "5"}, {11, "0"}}, NoRoom, 6},
                     Refusal{2, {{7, "5.99"}, {8, "5"}, {11, "0"}}, NoRoom, 7},
                     Refusal{2, {{8, "5.99"}, {11, "0"}}, NoRoom, 8},
-                    Refusal{2, {{11, "2.99"}, {15, "0"}}, AtLeast("3"), 11},
-                    Refusal{2, {{11, "150.1"}, {8, "900"}, {15, "0"}}, AtMost("150"), 11},
-                    Refusal{2, {{11, "100.1"}, {15, "0"}}, AtMost("100"), 11},
-                    Refusal{2, {{15, "2.99"}}, AtLeast("3"), 15},
-                    Refusal{2, {{15, "90.1"}, {5, "900"}}, AtMost("90"), 15},
-                    Refusal{2, {{15, "60.1"}}, AtMost("60"), 15}));
+                    Refusal{2, {{11, "2.99"}, {15, "0"}}, AtLeast + "3", 11},
+                    Refusal{2, {{11, "150.1"}, {8, "900"}, {15, "0"}}, AtMost + "150", 11},
+                    Refusal{2, {{11, "100.1"}, {15, "0"}}, AtMost + "100", 11},
+                    Refusal{2, {{15, "2.99"}}, AtLeast + "3", 15},
+                    Refusal{2, {{15, "90.1"}, {5, "900"}}, AtMost + "90", 15},
+                    Refusal{2, {{15, "60.1"}}, AtMost + "60", 15}));
 INSTANTIATE_TEST_SUITE_P(
     Folded, TransitionLimits,
     testing::Values(
@@ -316,7 +298,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 class OvalRefusals : public testing::TestWithParam<Refusal> {};
 TEST_P(OvalRefusals, NamesTheBox) {
-    ExpectRefused(Oval, GetParam());
+    ExpectRefused(Oval, GetParam(), PlateThickness);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -328,8 +310,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Refusal{1, {{10, "0"}, {1, "5"}}, NotZero, 10},
                     Refusal{1, {{1, "5.99"}, {3, "5"}, {0, "5"}}, NoRoom, 1},
                     Refusal{1, {{3, "5.99"}, {0, "5"}}, NoRoom, 3},
-                    Refusal{1, {{0, "199.9"}, {2, "50"}}, AtLeast("200"), 0},
-                    Refusal{1, {{2, "99.9"}}, AtLeast("100"), 2}));
+                    Refusal{1, {{0, "199.9"}, {2, "50"}}, AtLeast + "200", 0},
+                    Refusal{1, {{2, "99.9"}}, AtLeast + "100", 2}));
 INSTANTIATE_TEST_SUITE_P(
     Long, OvalRefusals,
     testing::Values(Refusal{2, {{4, "0"}, {5, "0"}, {6, "0"}, {7, "0"}, {11, "0"}}, AboveZero, 4},
@@ -339,8 +321,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Refusal{2, {{11, "0"}, {5, "5"}}, NotZero, 11},
                     Refusal{2, {{5, "5.99"}, {7, "5"}, {4, "5"}}, NoRoom, 5},
                     Refusal{2, {{7, "5.99"}, {4, "5"}}, NoRoom, 7},
-                    Refusal{2, {{4, "199.9"}, {6, "50"}}, AtLeast("200"), 4},
-                    Refusal{2, {{6, "99.9"}}, AtLeast("100"), 6}));
+                    Refusal{2, {{4, "199.9"}, {6, "50"}}, AtLeast + "200", 4},
+                    Refusal{2, {{6, "99.9"}}, AtLeast + "100", 6}));
 INSTANTIATE_TEST_SUITE_P(Oval, TransitionLimits,
                          testing::Values(Pass{Oval, 1, {{0, "6"}, {1, "6"}, {2, "6"}, {3, "6"}, {10, "-1"}}},
                                          Pass{
