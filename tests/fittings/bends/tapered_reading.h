@@ -9,6 +9,7 @@
 
 #include "core/math_module.h"
 #include "core/rule_surf.h"
+#include "tests/support/flat_area.h"
 #include "tests/support/point_lists.h"
 
 namespace korvet {
@@ -67,34 +68,6 @@ inline double SagittaOfEllipse(const C3DPoints& edge) {
     const double a = std::max(along, across);
     const double b = std::min(along, across);
     return chord * chord / 8 * a / (b * b);
-}
-
-/// The area of a flat strip, by the shoelace formula round its outline; where its edges cross, what lies
-/// beyond the crossing counts against it.
-inline double FlatArea(const CRuleSurf& pattern) {
-    double twice = 0;
-    C3DPoint before = pattern.List2->Item(1);
-    const auto goTo = [&](const C3DPoint& p) {
-        twice += before.x * p.y - p.x * before.y;
-        before = p;
-    };
-    for (const C3DPoint& p : *pattern.List2) {
-        goTo(p);
-    }
-    for (std::size_t i = pattern.List1->Count(); i >= 1; --i) {
-        goTo(pattern.List1->Item(i));
-    }
-    goTo(pattern.List2->Item(1));
-    return twice / 2;
-}
-
-/// The area of all patterns.
-inline double FlatArea(const CRuleSurfs& patterns) {
-    double area = 0;
-    for (const CRuleSurf& pattern : patterns) {
-        area += FlatArea(pattern);
-    }
-    return area;
 }
 
 /// The lateral area of a cone between two circles, `length` apart on its axis.

@@ -8,6 +8,7 @@
 
 #include "core/constants.h"
 #include "core/math_module.h"
+#include "tests/support/flat_area.h"
 #include "tests/support/near.h"
 
 namespace korvet {
@@ -200,19 +201,8 @@ TEST(RightConePattern, AreaIsThatOfTheConesSurface) {
     CRightCone cone = Frustum();
     cone.inputs.segs = 20000;
     cone.DevelopModel();
-    // Shoelace formula round the outline against pi (R + r) s.
-    const C3DPoints& top = *cone.results.PatternSurface.List1;
-    const C3DPoints& base = *cone.results.PatternSurface.List2;
-    double doubled = 0;
-    const auto add = [&](const C3DPoint& a, const C3DPoint& b) { doubled += a.x * b.y - b.x * a.y; };
-    for (std::size_t i = 1; i < base.Count(); ++i) {
-        add(base.Item(i), base.Item(i + 1));
-        add(top.Item(i + 1), top.Item(i));
-    }
-    add(base.Item(base.Count()), top.Item(base.Count()));
-    add(top.Item(1), base.Item(1));
     const double slant = std::hypot(150 - 56.25, 250);
-    EXPECT_NEAR(doubled / 2, PI * (150 + 56.25) * slant, 0.01);
+    EXPECT_NEAR(FlatArea(cone.results.PatternSurface), PI * (150 + 56.25) * slant, 0.01);
 }
 
 TEST(RightConePattern, SeamAngleTurnsThePatternWithoutAStep) {

@@ -8,6 +8,7 @@
 
 #include "core/constants.h"
 #include "tests/fittings/transitions/transition_samples.h"
+#include "tests/support/flat_area.h"
 #include "tests/support/point_lists.h"
 
 namespace korvet {
@@ -128,7 +129,6 @@ TEST_P(TransitionPatternOf, StartsAlongXAndEndsOnTheSameRuling) {
 
 INSTANTIATE_TEST_SUITE_P(Shapes, TransitionPatternOf, testing::ValuesIn(Samples()));
 
-/// Area of a flat pattern, by the shoelace formula round its outline.
 double Length(const C3DPoints& edge) {
     double length = 0;
     for (std::size_t i = 2; i <= edge.Count(); ++i) {
@@ -138,17 +138,7 @@ double Length(const C3DPoints& edge) {
 }
 
 double PatternArea(const CTransition& transition) {
-    const C3DPoints& top = *transition.results.PatternSurface.List1;
-    const C3DPoints& base = *transition.results.PatternSurface.List2;
-    double doubled = 0;
-    const auto add = [&](const C3DPoint& a, const C3DPoint& b) { doubled += a.x * b.y - b.x * a.y; };
-    for (std::size_t i = 1; i < base.Count(); ++i) {
-        add(base.Item(i), base.Item(i + 1));
-        add(top.Item(i + 1), top.Item(i));
-    }
-    add(base.Item(base.Count()), top.Item(base.Count()));
-    add(top.Item(1), base.Item(1));
-    return std::fabs(doubled) / 2;
+    return std::fabs(FlatArea(transition.results.PatternSurface));
 }
 
 double TriangleArea(const C3DPoint& p, const C3DPoint& q, const C3DPoint& r) {
