@@ -388,31 +388,5 @@ TEST(SketchLayout, ViewsStandOneAboveTheOtherAtOneScale) {
     EXPECT_LT(layout.boxes[2].x + layout.boxes[2].width, layout.solids[1].originX);
 }
 
-TEST(SketchPlane, ALineIsCutAroundTextsAndKeepsItsArrowHeads) {
-    const SketchLine line = {
-        .points = {{0, 0}, {100, 0}, {100, 50}}, .arrowAtStart = true, .arrowAtEnd = true};
-    const auto pieces = CutAround(line, {{40, -5, 20, 10}, {95, 20, 10, 10}});
-    ASSERT_EQ(pieces.size(), 3U);
-    EXPECT_EQ(pieces[0].points, (std::vector<SketchXY>{{0, 0}, {40, 0}}));
-    EXPECT_TRUE(pieces[0].arrowAtStart);
-    EXPECT_FALSE(pieces[0].arrowAtEnd);
-    EXPECT_EQ(pieces[1].points, (std::vector<SketchXY>{{60, 0}, {100, 0}, {100, 20}}));
-    EXPECT_FALSE(pieces[1].arrowAtStart || pieces[1].arrowAtEnd);
-    EXPECT_EQ(pieces[2].points, (std::vector<SketchXY>{{100, 30}, {100, 50}}));
-    EXPECT_TRUE(pieces[2].arrowAtEnd);
-    EXPECT_TRUE(CutAround(line, {{-10, -10, 200, 200}}).empty());
-}
-
-TEST(SketchOutline, AnExtensionLineStartsWhereItLeavesTheShape) {
-    SolidPicture picture;
-    picture.faces.push_back({.corners = {{0, 0}, {100, 0}, {50, 100}}});
-    picture.bounds = {0, 0, 100, 100};
-    EXPECT_NEAR(LeavesShape(picture, {50, 50}, Side::Right).x, 75, 1e-9);
-    EXPECT_NEAR(LeavesShape(picture, {50, 50}, Side::Left).x, 25, 1e-9);
-    EXPECT_NEAR(LeavesShape(picture, {25, 20}, Side::Above).y, 50, 1e-9);
-    EXPECT_NEAR(LeavesShape(picture, {25, 20}, Side::Below).y, 0, 1e-9);
-    EXPECT_EQ(LeavesShape(picture, {200, 50}, Side::Right), (SketchXY{200, 50}));
-}
-
 }  // namespace
 }  // namespace korvet

@@ -1,12 +1,14 @@
-// The pieces of a bend from its sizes: tilts, heights, and what leaves none.
+// The pieces of a bend from its sizes: tilts, heights, and what leaves none; what they hand to the bend.
 #include "fittings/bends/bend_pieces.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <vector>
 
 #include "core/constants.h"
 #include "core/math_module.h"
+#include "tests/support/point_lists.h"
 
 namespace korvet {
 namespace {
@@ -34,6 +36,36 @@ TEST(BendPieces, NoCutOrAMitreOfHalfATurnIsAnError) {
     EXPECT_THROW(bend::PiecesOf(1, 300, 0, 0, 0), ArithmeticError);
     EXPECT_THROW(bend::PiecesOf(PI, 300, 1, 0, 0), ArithmeticError);
     EXPECT_NO_THROW(bend::PiecesOf(3.1, 300, 1, 0, 0));
+}
+
+/// A piece of a bend that warns each time it is developed, by the number of the time.
+struct WarningPiece {
+    FittingInputs inputs;
+    FittingResults results;
+    double CPHeight1 = 0;
+    double CPHeight2 = 0;
+    double CPAngle1 = 0;
+    double CPAngle2 = 0;
+    int developed = 0;
+
+    void ConstructModel() {}
+    void DevelopModel() {
+        results.PatternSurface = Strip({{}}, {{}});
+        results.warnings.push_back({++developed});
+    }
+};
+
+TEST(BendPieces, HandTheirWarningsToTheBend) {
+    WarningPiece piece;
+    FittingResults bend;
+    bend.warnings = {{90}};
+    bend::LayOut(piece, bend::PiecesOf(QuarterTurn, 120, 4, 70, 90), 2, 6, PI, bend);
+    EXPECT_EQ(bend.PatternSurfaceList.Count(), 4U);
+    std::vector<int> messages;
+    for (const FittingWarning& warning : bend.warnings) {
+        messages.push_back(warning.messageId);
+    }
+    EXPECT_EQ(messages, (std::vector<int>{90, 1, 2, 3, 4}));
 }
 
 }  // namespace

@@ -13,7 +13,6 @@
 #include "core/constants.h"
 #include "core/math_module.h"
 #include "tests/support/near.h"
-#include "tests/support/point_lists.h"
 
 namespace korvet {
 namespace {
@@ -342,36 +341,6 @@ TEST(SegBendLayout, EveryPieceTakesTheLaps) {
         EXPECT_NEAR(pattern.List1->Last().x, 2 * PI * 50 + 15, Near);
     }
     EXPECT_EQ(Piece(bend, 2).List1->Count(), 25U);
-}
-
-/// A piece of a bend that warns each time it is developed, by the number of the time.
-struct WarningPiece {
-    FittingInputs inputs;
-    FittingResults results;
-    double CPHeight1 = 0;
-    double CPHeight2 = 0;
-    double CPAngle1 = 0;
-    double CPAngle2 = 0;
-    int developed = 0;
-
-    void ConstructModel() {}
-    void DevelopModel() {
-        results.PatternSurface = Strip({{}}, {{}});
-        results.warnings.push_back({++developed});
-    }
-};
-
-TEST(SegBendLayout, TakesOverTheWarningsOfItsPieces) {
-    WarningPiece piece;
-    FittingResults bend;
-    bend.warnings = {{90}};
-    bend::LayOut(piece, bend::PiecesOf(QuarterTurn, BendRadius, 4, 70, 90), 2, 6, PI, bend);
-    EXPECT_EQ(bend.PatternSurfaceList.Count(), 4U);
-    std::vector<int> messages;
-    for (const FittingWarning& warning : bend.warnings) {
-        messages.push_back(warning.messageId);
-    }
-    EXPECT_EQ(messages, (std::vector<int>{90, 1, 2, 3, 4}));
 }
 
 TEST(SegBendModel, ABendWithoutAWallIsAnError) {
