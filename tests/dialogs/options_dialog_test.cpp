@@ -5,6 +5,7 @@
 #include <functional>
 #include <vector>
 
+#include "tests/dialogs/other_options.h"
 #include "tests/support/memory_file_store.h"
 #include "tests/support/recording_ui.h"
 
@@ -32,39 +33,23 @@ class GlobalOptions : public ::testing::Test {
 };
 
 TEST_F(GlobalOptions, AreShownAsTheyAre) {
-    options.DefaultSegs = 60;
-    options.Decimals = 3;
-    options.Language = "German";
-    options.DisplayTextSize = 2.5;
-    options.DXFTextSize = 0.75;
-    options.Colors = {1, 2, 3, 4, 5, 6};
-    options.DXFCutLayer = "cut";
-    options.DXFFoldLayer = "fold";
-    options.DXFTextLayer = "text";
-    options.DXFBorderLayer = "border";
-    options.DXFDimensionLayer = "dimension";
-    options.PolyMode = 1;
-    options.PrintUnits = 5;
-    options.PrintScale = 0.5;
-    options.PrintOrientation = 2;
-    options.PrintXCalibration = 1.01;
-    options.PrintYCalibration = 0.99;
+    options = OtherOptions();
     const OptionsDialog dialog = Dialog(',');
     EXPECT_EQ(dialog.CmbDefaultSegs.edit.text, "60");
     EXPECT_EQ(dialog.cmbDecimals.selected, 3U);
     EXPECT_EQ(dialog.cmbLanguage.edit.text, "German");
     EXPECT_EQ(dialog.txtDisplayTextSize.text, "2,5");
     EXPECT_EQ(dialog.txtDXFTextSize.text, "0,75");
-    EXPECT_EQ(dialog.pboxDisplayDimensionColor.backColor, 1);
-    EXPECT_EQ(dialog.pboxDisplayFoldColor.backColor, 3);
-    EXPECT_EQ(dialog.pboxDisplayCutColor.backColor, 4);
-    EXPECT_EQ(dialog.pboxDisplayTextColor.backColor, 5);
-    EXPECT_EQ(dialog.pboxDisplayBackColor.backColor, 6);
-    EXPECT_EQ(dialog.txtDXFCutLayer.text, "cut");
-    EXPECT_EQ(dialog.txtDXFFoldLayer.text, "fold");
-    EXPECT_EQ(dialog.txtDXFTextLayer.text, "text");
-    EXPECT_EQ(dialog.txtDXFBorderLayer.text, "border");
-    EXPECT_EQ(dialog.txtDXFDimensionLayer.text, "dimension");
+    EXPECT_EQ(dialog.pboxDisplayDimensionColor.backColor, 101);
+    EXPECT_EQ(dialog.pboxDisplayFoldColor.backColor, 103);
+    EXPECT_EQ(dialog.pboxDisplayCutColor.backColor, 104);
+    EXPECT_EQ(dialog.pboxDisplayTextColor.backColor, 105);
+    EXPECT_EQ(dialog.pboxDisplayBackColor.backColor, 106);
+    EXPECT_EQ(dialog.txtDXFCutLayer.text, "Schnittlinien \xC3\xBC");
+    EXPECT_EQ(dialog.txtDXFFoldLayer.text, "Fold");
+    EXPECT_EQ(dialog.txtDXFTextLayer.text, "Text");
+    EXPECT_EQ(dialog.txtDXFBorderLayer.text, "Border");
+    EXPECT_EQ(dialog.txtDXFDimensionLayer.text, "Dimension");
     EXPECT_TRUE(dialog.optPolyMode.IsOn(1));
     EXPECT_TRUE(dialog.optUnits.IsOn(1));
     EXPECT_TRUE(dialog.optScale.IsOn(2));
@@ -282,44 +267,43 @@ struct BadOption {
     int tab;
 };
 
+const std::string NotANumber = "Not a valid number";
+const std::vector<BadOption> BadOptions = {
+    {"scale", [](auto& d) { d.txtUserScale.text = "x"; }, NotANumber, "txtUserScale", 3},
+    {"text size", [](auto& d) { d.txtDisplayTextSize.text = "x"; }, NotANumber, "txtDisplayTextSize", 2},
+    {"dxf size", [](auto& d) { d.txtDXFTextSize.text = ""; }, NotANumber, "txtDXFTextSize", 4},
+    {"x", [](auto& d) { d.txtCalibrate[0].text = "-"; }, NotANumber, "txtCalibrate_0", 3},
+    {"y", [](auto& d) { d.txtCalibrate[1].text = "x"; }, NotANumber, "txtCalibrate_1", 3},
+    {"x 0", [](auto& d) { d.txtCalibrate[0].text = "0"; }, "This dimension must be greater than 0",
+     "txtCalibrate_0", 3},
+    {"y -1", [](auto& d) { d.txtCalibrate[1].text = "-1"; }, "This dimension must be greater than 0",
+     "txtCalibrate_1", 3},
+    {"segs 0", [](auto& d) { d.CmbDefaultSegs.edit.text = "0"; }, "This dimension must be greater than 0",
+     "CmbDefaultSegs", 1},
+    {"segs 1.5", [](auto& d) { d.CmbDefaultSegs.edit.text = "1.5"; },
+     "This dimension must be an integer (whole number)", "CmbDefaultSegs", 1},
+    {"segs many", [](auto& d) { d.CmbDefaultSegs.edit.text = "100001"; },
+     "This dimension must be equal to or less than 100000", "CmbDefaultSegs", 1},
+    {"segs x", [](auto& d) { d.CmbDefaultSegs.edit.text = "x"; }, NotANumber, "CmbDefaultSegs", 1},
+    {"cut", [](auto& d) { d.txtDXFCutLayer.text = " "; }, "No layer name for Cut Lines", "txtDXFCutLayer", 4},
+    {"fold", [](auto& d) { d.txtDXFFoldLayer.text = ""; }, "No layer name for Fold Lines", "txtDXFFoldLayer",
+     4},
+    {"text", [](auto& d) { d.txtDXFTextLayer.text = "\t"; }, "No layer name for Text", "txtDXFTextLayer", 4},
+    {"border", [](auto& d) { d.txtDXFBorderLayer.text = ""; }, "No layer name for Border",
+     "txtDXFBorderLayer", 4},
+    {"dimension", [](auto& d) { d.txtDXFDimensionLayer.text = ""; }, "No layer name for Border",
+     "txtDXFDimensionLayer", 4},
+    {"dxf size 0", [](auto& d) { d.txtDXFTextSize.text = "0"; }, "DXF Text size not valid", "txtDXFTextSize",
+     4},
+    {"text size -1", [](auto& d) { d.txtDisplayTextSize.text = "-1"; }, "Display Text size not valid",
+     "txtDisplayTextSize", 2},
+    {"dxf size huge", [](auto& d) { d.txtDXFTextSize.text = "1e39"; }, "DXF Text size not valid",
+     "txtDXFTextSize", 4},
+    {"text size huge", [](auto& d) { d.txtDisplayTextSize.text = "1e39"; }, "Display Text size not valid",
+     "txtDisplayTextSize", 2}};
+
 TEST_F(GlobalOptions, EveryBadBoxKeepsTheDialogOpenWithTheFocusOnIt) {
-    const std::string notANumber = "Not a valid number";
-    const std::vector<BadOption> cases = {
-        {"scale", [](auto& d) { d.txtUserScale.text = "x"; }, notANumber, "txtUserScale", 3},
-        {"text size", [](auto& d) { d.txtDisplayTextSize.text = "x"; }, notANumber, "txtDisplayTextSize", 2},
-        {"dxf size", [](auto& d) { d.txtDXFTextSize.text = ""; }, notANumber, "txtDXFTextSize", 4},
-        {"x", [](auto& d) { d.txtCalibrate[0].text = "-"; }, notANumber, "txtCalibrate_0", 3},
-        {"y", [](auto& d) { d.txtCalibrate[1].text = "x"; }, notANumber, "txtCalibrate_1", 3},
-        {"x 0", [](auto& d) { d.txtCalibrate[0].text = "0"; }, "This dimension must be greater than 0",
-         "txtCalibrate_0", 3},
-        {"y -1", [](auto& d) { d.txtCalibrate[1].text = "-1"; }, "This dimension must be greater than 0",
-         "txtCalibrate_1", 3},
-        {"segs 0", [](auto& d) { d.CmbDefaultSegs.edit.text = "0"; }, "This dimension must be greater than 0",
-         "CmbDefaultSegs", 1},
-        {"segs 1.5", [](auto& d) { d.CmbDefaultSegs.edit.text = "1.5"; },
-         "This dimension must be an integer (whole number)", "CmbDefaultSegs", 1},
-        {"segs many", [](auto& d) { d.CmbDefaultSegs.edit.text = "100001"; },
-         "This dimension must be equal to or less than 100000", "CmbDefaultSegs", 1},
-        {"segs x", [](auto& d) { d.CmbDefaultSegs.edit.text = "x"; }, notANumber, "CmbDefaultSegs", 1},
-        {"cut", [](auto& d) { d.txtDXFCutLayer.text = " "; }, "No layer name for Cut Lines", "txtDXFCutLayer",
-         4},
-        {"fold", [](auto& d) { d.txtDXFFoldLayer.text = ""; }, "No layer name for Fold Lines",
-         "txtDXFFoldLayer", 4},
-        {"text", [](auto& d) { d.txtDXFTextLayer.text = "\t"; }, "No layer name for Text", "txtDXFTextLayer",
-         4},
-        {"border", [](auto& d) { d.txtDXFBorderLayer.text = ""; }, "No layer name for Border",
-         "txtDXFBorderLayer", 4},
-        {"dimension", [](auto& d) { d.txtDXFDimensionLayer.text = ""; }, "No layer name for Border",
-         "txtDXFDimensionLayer", 4},
-        {"dxf size 0", [](auto& d) { d.txtDXFTextSize.text = "0"; }, "DXF Text size not valid",
-         "txtDXFTextSize", 4},
-        {"text size -1", [](auto& d) { d.txtDisplayTextSize.text = "-1"; }, "Display Text size not valid",
-         "txtDisplayTextSize", 2},
-        {"dxf size huge", [](auto& d) { d.txtDXFTextSize.text = "1e39"; }, "DXF Text size not valid",
-         "txtDXFTextSize", 4},
-        {"text size huge", [](auto& d) { d.txtDisplayTextSize.text = "1e39"; }, "Display Text size not valid",
-         "txtDisplayTextSize", 2}};
-    for (const BadOption& bad : cases) {
+    for (const BadOption& bad : BadOptions) {
         SCOPED_TRACE(bad.name);
         options = COptions();
         ui.messages.clear();
@@ -331,7 +315,7 @@ TEST_F(GlobalOptions, EveryBadBoxKeepsTheDialogOpenWithTheFocusOnIt) {
         ui.onShow = nullptr;
         EXPECT_EQ(tabUnderMessage, bad.tab);
         EXPECT_EQ(ui.Texts(), std::vector<std::string>{bad.message});
-        EXPECT_EQ(ui.messages.at(0).title, bad.message == notANumber ? "Korvet Development" : "User Error");
+        EXPECT_EQ(ui.messages.at(0).title, bad.message == NotANumber ? "Korvet Development" : "User Error");
         EXPECT_EQ(dialog.focus, bad.focus);
         EXPECT_EQ(dialog.tab, bad.tab);
         EXPECT_TRUE(dialog.visible);

@@ -38,6 +38,18 @@ class ObjectDisplay : public testing::Test {
                                     .PointNo1 = point1});
     }
 
+    /// Every annotation, and a label block of one line at the origin.
+    void RequestAll() {
+        display.CoordGridRequested = true;
+        display.TrueLengthsRequested = true;
+        display.DiagonalsRequested = true;
+        display.CoordTableRequested = true;
+        display.FrameRequested = true;
+        display.LabelPoint = C3DPoint{};
+        display.LabelList = std::make_shared<CLabels>();
+        display.LabelList->Add({"note"});
+    }
+
     std::shared_ptr<CannedFitting> fitting = std::make_shared<CannedFitting>();
     RecordingDevice screen{400, 200};
     RecordingDevice paper{400, 200};

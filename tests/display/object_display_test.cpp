@@ -39,13 +39,7 @@ TEST_F(ObjectDisplay, ModelIsDrawnAsTheViewShowsIt) {
 TEST_F(ObjectDisplay, WholeOrderOfAPattern) {
     AddView(true);
     AddDimension(FirstEdgeList, 1, SecondEdgeList, 2);
-    display.CoordGridRequested = true;
-    display.TrueLengthsRequested = true;
-    display.DiagonalsRequested = true;
-    display.CoordTableRequested = true;
-    display.FrameRequested = true;
-    display.LabelPoint = C3DPoint{};
-    display.LabelList->Add({"note"});
+    RequestAll();
     display.DisplayObject();
 
     Log expected = {"clear"};
@@ -92,13 +86,7 @@ TEST_F(ObjectDisplay, WholeOrderOfAPattern) {
 TEST_F(ObjectDisplay, AModelHasNoAnnotationButItsLabel) {
     AddView(false);
     AddDimension(FirstEdgeList, 1, SecondEdgeList, 2);
-    display.CoordGridRequested = true;
-    display.TrueLengthsRequested = true;
-    display.DiagonalsRequested = true;
-    display.CoordTableRequested = true;
-    display.FrameRequested = true;
-    display.LabelPoint = C3DPoint{};
-    display.LabelList->Add({"note"});
+    RequestAll();
     display.DisplayObject();
     EXPECT_EQ(screen.calls.size(), 6U);
     EXPECT_THAT(screen.Strings(), ElementsAre("note"));
@@ -307,14 +295,7 @@ TEST_F(ObjectDisplay, AFittingWithoutSurfacesIsClearedAndLabelled) {
             fitting->canned = {};
             screen.calls.clear();
             display.Multiple = multiple;
-            display.CoordGridRequested = true;
-            display.TrueLengthsRequested = true;
-            display.DiagonalsRequested = true;
-            display.CoordTableRequested = true;
-            display.FrameRequested = true;
-            display.LabelPoint = C3DPoint{};
-            display.LabelList = std::make_shared<CLabels>();
-            display.LabelList->Add({"note"});
+            RequestAll();
             display.DisplayObject();
             EXPECT_EQ(LogOf(screen), (Log{"clear", "text note"}));
             EXPECT_EQ(display.Surfaces.Count(), 0U);

@@ -120,7 +120,7 @@ TEST_F(Fields, LimitsAreShownAtTheDecimalsOfTheOptions) {
 
 using LimitCheck = std::function<Outcome(const FieldContext&, TextBox&)>;
 
-/// A check with a limit of 12.96, the last text that it lets through, the first that it does not, and what it
+/// A check with a limit of Limit, the last text that it lets through, the first that it does not, and what it
 /// says.
 struct LimitCase {
     const char* name;
@@ -130,50 +130,52 @@ struct LimitCase {
     std::string message;
 };
 
+constexpr double Limit = 12.96;
+
+const std::vector<LimitCase> LimitCases = {
+    {"positive",
+     [](const auto& c, TextBox& b) { return CheckPositive(c, b); },
+     {"1e-300", "5"},
+     {"0", "-0", "-1e-300"},
+     "This dimension must be greater than 0"},
+    {"less",
+     [](const auto& c, TextBox& b) { return CheckLessThan(c, b, Limit); },
+     {"12.959999999999", "-5"},
+     {"12.96", "12.960000000001"},
+     "This dimension must be less than 13"},
+    {"greater",
+     [](const auto& c, TextBox& b) { return CheckGreaterThan(c, b, Limit); },
+     {"12.960000000001"},
+     {"12.96", "12.959999999999", "0"},
+     "This dimension must be greater than 13"},
+    {"at most",
+     [](const auto& c, TextBox& b) { return CheckAtMost(c, b, Limit); },
+     {"12.96", "12.9"},
+     {"12.960000000001"},
+     "This dimension must be equal to or less than 13"},
+    {"at least",
+     [](const auto& c, TextBox& b) { return CheckAtLeast(c, b, Limit); },
+     {"12.96", "13"},
+     {"12.959999999999"},
+     "This dimension must be equal to or greater than 13"},
+    {"not equal",
+     [](const auto& c, TextBox& b) { return CheckNotEqual(c, b, Limit); },
+     {"12.960000000001", "12.959999999999"},
+     {"12.96", "1296e-2"},
+     "This dimension cannot be equal to 13"},
+    {"integer",
+     [](const auto& c, TextBox& b) { return CheckInteger(c, b); },
+     {"0", "-7", "12", "1e3", "12.0"},
+     {"12.000000001", "-0.5"},
+     "This dimension must be an integer (whole number)"},
+    {"room for thickness",
+     [](const auto& c, TextBox& b) { return CheckBoxRoomForThickness(c, b, Limit); },
+     {"12.96", "13"},
+     {"12.959999999999", "-20"},
+     "This dimension must be increased to allow for material thickness"}};
+
 TEST_F(Fields, EachCheckTurnsExactlyAtItsLimit) {
-    constexpr double Limit = 12.96;
-    const std::vector<LimitCase> cases = {
-        {"positive",
-         [](const auto& c, TextBox& b) { return CheckPositive(c, b); },
-         {"1e-300", "5"},
-         {"0", "-0", "-1e-300"},
-         "This dimension must be greater than 0"},
-        {"less",
-         [](const auto& c, TextBox& b) { return CheckLessThan(c, b, Limit); },
-         {"12.959999999999", "-5"},
-         {"12.96", "12.960000000001"},
-         "This dimension must be less than 13"},
-        {"greater",
-         [](const auto& c, TextBox& b) { return CheckGreaterThan(c, b, Limit); },
-         {"12.960000000001"},
-         {"12.96", "12.959999999999", "0"},
-         "This dimension must be greater than 13"},
-        {"at most",
-         [](const auto& c, TextBox& b) { return CheckAtMost(c, b, Limit); },
-         {"12.96", "12.9"},
-         {"12.960000000001"},
-         "This dimension must be equal to or less than 13"},
-        {"at least",
-         [](const auto& c, TextBox& b) { return CheckAtLeast(c, b, Limit); },
-         {"12.96", "13"},
-         {"12.959999999999"},
-         "This dimension must be equal to or greater than 13"},
-        {"not equal",
-         [](const auto& c, TextBox& b) { return CheckNotEqual(c, b, Limit); },
-         {"12.960000000001", "12.959999999999"},
-         {"12.96", "1296e-2"},
-         "This dimension cannot be equal to 13"},
-        {"integer",
-         [](const auto& c, TextBox& b) { return CheckInteger(c, b); },
-         {"0", "-7", "12", "1e3", "12.0"},
-         {"12.000000001", "-0.5"},
-         "This dimension must be an integer (whole number)"},
-        {"room for thickness",
-         [](const auto& c, TextBox& b) { return CheckBoxRoomForThickness(c, b, Limit); },
-         {"12.96", "13"},
-         {"12.959999999999", "-20"},
-         "This dimension must be increased to allow for material thickness"}};
-    for (const LimitCase& limit : cases) {
+    for (const LimitCase& limit : LimitCases) {
         SCOPED_TRACE(limit.name);
         for (const char* text : limit.good) {
             TextBox box = Box(text);

@@ -27,8 +27,7 @@ std::string MenuText() {
     return text.str();
 }
 
-TEST(FrameMenuTest, EveryEntryStandsInItsOrder) {
-    EXPECT_EQ(MenuText(), R"(mnuFile|&File||
+constexpr const char* WholeMenu = R"(mnuFile|&File||
   mnuFileNew|&New||Ctrl+N
   mnuFileOpen|&Open...||Ctrl+O
   mnuFileClose|&Close||Ctrl+W
@@ -89,7 +88,10 @@ mnuHelp|&Help||
   -
   mnuDisclaimer|Disclaimer...||
   mnuHelpAbout|&About ||
-)");
+)";
+
+TEST(FrameMenuTest, EveryEntryStandsInItsOrder) {
+    EXPECT_EQ(MenuText(), WholeMenu);
 }
 
 TEST(FrameMenuTest, EntriesStandBehindTheirOwnMenuUnderNamesOfTheirOwn) {

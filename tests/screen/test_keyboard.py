@@ -30,6 +30,24 @@ class Keyboard(ScreenTest):
         screen.wait_active("Main window")
         screen.wait_focus("Base diameter")
 
+    def set_thickness_and_seam_lap(self, thickness, lap):
+        screen = self.screen
+        screen.key("ctrl+e")
+        screen.wait_active("Settings")
+        screen.key("alt+t")
+        screen.wait_focus("Thickness")
+        screen.key("ctrl+a")
+        screen.type(thickness)
+        screen.key("alt+l")
+        screen.wait(lambda: has(screen.search("Lap size, seam"), pyatspi.STATE_ENABLED), "lap sizes to type in")
+        screen.key("alt+2")
+        screen.wait_focus("Lap size, seam")
+        screen.key("ctrl+a")
+        screen.type(lap)
+        screen.key("Return")
+        screen.wait_active("Main window")
+        screen.wait(lambda: f"| Thickness = {thickness} |" in screen.status(), "thickness in the status bar")
+
     def test_fast_typing(self):
         screen = self.run_to_frame()
         self.new_cone()
@@ -71,21 +89,7 @@ class Keyboard(ScreenTest):
         screen.wait(lambda: screen.drawing_pixels() != before, "pattern at its extents")
         extents = screen.drawing_pixels()
 
-        screen.key("ctrl+e")
-        screen.wait_active("Settings")
-        screen.key("alt+t")
-        screen.wait_focus("Thickness")
-        screen.key("ctrl+a")
-        screen.type("2")
-        screen.key("alt+l")
-        screen.wait(lambda: has(screen.search("Lap size, seam"), pyatspi.STATE_ENABLED), "lap sizes to type in")
-        screen.key("alt+2")
-        screen.wait_focus("Lap size, seam")
-        screen.key("ctrl+a")
-        screen.type("15")
-        screen.key("Return")
-        screen.wait_active("Main window")
-        screen.wait(lambda: "| Thickness = 2 |" in screen.status(), "thickness in the status bar")
+        self.set_thickness_and_seam_lap("2", "15")
         self.assertNotEqual(screen.drawing_pixels(), extents, "no lap is drawn")
 
         screen.key("F1")
