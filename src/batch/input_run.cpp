@@ -12,10 +12,11 @@ InputRun::InputRun(const Arguments& arguments, WindowContext& context, BatchUi& 
 
 void InputRun::Run() {
     try {
-        if (OpenWindow() && SetValues()) {
-            outputs_.emplace(arguments_, ui_, *window_, InputName(arguments_, input_));
-            succeeded_ = outputs_->Write();
+        if (OpenWindow() || SetValues()) {
+            return;
         }
+        outputs_.emplace(arguments_, ui_, *window_, InputName(arguments_, input_));
+        succeeded_ = outputs_->Write() == Passed;
     } catch (const UsageError&) {
         throw;
     } catch (const std::exception& error) {
@@ -36,29 +37,29 @@ InputReport InputRun::Report() const {
 }
 
 /// The window of a parameter file, filled from it, or a new one.
-bool InputRun::OpenWindow() {
+Outcome InputRun::OpenWindow() {
     const bool isFile = !input_.empty();
     if (!isFile) {
         category_ = arguments_.newCategory;
         if (FindCategory(category_) == nullptr) {
             throw UsageError("there is no fitting \"" + category_ + "\"; --list prints the catalogue");
         }
-    } else if (!ReadCategory()) {
-        return false;
+    } else if (ReadCategory()) {
+        return Refused;
     }
     window_ = NewFitting(context_, category_, nullptr);
     if (!window_) {
-        return false;
+        return Refused;
     }
     if (isFile) {
-        return window_->FillFromFile(input_) == Passed;
+        return window_->FillFromFile(input_);
     }
     PrepareNewWindow();
-    return true;
+    return Passed;
 }
 
-/// Takes the category from the header of the file. False, with a message, when there is no such fitting.
-bool InputRun::ReadCategory() {
+/// Takes the category from the header of the file. Refuses, with a message, when there is no such fitting.
+Outcome InputRun::ReadCategory() {
     CKvtFile file;
     file.FileName = input_;
     try {
@@ -66,13 +67,13 @@ bool InputRun::ReadCategory() {
     } catch (const ForeignProductError& error) {
         // No window is opened for it, so nothing fails to load.
         ShowForeignProduct(context_, input_, error);
-        return false;
+        return Refused;
     } catch (const std::exception& error) {
         ShowLoadError(context_, input_, error);
-        return false;
+        return Refused;
     }
     category_ = file.Category;
-    return RequireFitting(context_, input_, category_) == Passed;
+    return RequireFitting(context_, input_, category_);
 }
 
 /// Steps to the type asked for, types its sample sizes and selects its first pattern.
@@ -95,7 +96,7 @@ void InputRun::PrepareNewWindow() {
     }
 }
 
-bool InputRun::SetValues() {
+Outcome InputRun::SetValues() {
     if (arguments_.select != 0) {
         const auto index = static_cast<std::size_t>(arguments_.select - 1);
         if (index >= window_->controls.options.optPatternSelect.captions.size()) {
@@ -106,11 +107,11 @@ bool InputRun::SetValues() {
     for (const CDimension& dimension : arguments_.dimensionLines) {
         window_->dimensions->Add(dimension);
     }
-    bool good = true;
+    bool refused = false;
     for (const auto& [name, value] : arguments_.sets) {
-        good = SetValue(*window_, name, value) == Passed && good;
+        refused = SetValue(*window_, name, value) || refused;
     }
-    return good;
+    return RefusedIf(refused);
 }
 
 }  // namespace korvet::batch

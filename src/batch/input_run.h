@@ -30,10 +30,10 @@ class InputRun {
     [[nodiscard]] bool Succeeded() const { return succeeded_; }
 
   private:
-    bool OpenWindow();
-    bool ReadCategory();
+    Outcome OpenWindow();
+    Outcome ReadCategory();
     void PrepareNewWindow();
-    bool SetValues();
+    Outcome SetValues();
 
     const Arguments& arguments_;
     WindowContext& context_;

@@ -8,9 +8,9 @@
 
 namespace korvet::batch {
 
-bool Outputs::Write() {
-    if (!arguments_.json.empty() && !MakeJson()) {
-        return false;
+Outcome Outputs::Write() {
+    if (!arguments_.json.empty() && MakeJson()) {
+        return Refused;
     }
     ui_.BeginOutputs();
     ChooseView();
@@ -20,7 +20,7 @@ bool Outputs::Write() {
     } else {
         taken_ = window_.BuildFitting() == Passed;  // a pattern view may refuse what was made without one
     }
-    return taken_ && WriteFiles();
+    return taken_ ? WriteFiles() : Refused;
 }
 
 /// Whether an output shows the view, be it of the model or of the pattern.
@@ -46,8 +46,8 @@ void Outputs::Show() {
     shown_ = window_.hasModel;
 }
 
-/// Model and pattern of a fresh fitting. False when the build refuses.
-bool Outputs::MakeJson() {
+/// Model and pattern of a fresh fitting.
+Outcome Outputs::MakeJson() {
     const std::optional<ModelAndPattern> made = window_.MakeModelAndPattern();
     labels_ = window_.labels;
     if (made) {
@@ -55,54 +55,55 @@ bool Outputs::MakeJson() {
         pattern_ = SurfacesJson(made->pattern);
     }
     taken_ = made.has_value();
-    return taken_;
+    return RefusedIf(!taken_);
 }
 
-bool Outputs::WriteFiles() {
-    bool written = true;
+/// All of them, though one may fail.
+Outcome Outputs::WriteFiles() {
+    bool refused = false;
     if (!arguments_.save.empty()) {
-        written = SaveFitting(window_, OutputPath(arguments_.save, name_)) == Passed && written;
+        refused = SaveFitting(window_, OutputPath(arguments_.save, name_)) || refused;
     }
     if (!arguments_.dxf.empty()) {
-        written = WriteDxf(OutputPath(arguments_.dxf, name_)) && written;
+        refused = WriteDxf(OutputPath(arguments_.dxf, name_)) || refused;
     }
     if (!arguments_.png.empty()) {
-        written = WritePicture(OutputPath(arguments_.png, name_), PictureFormat::Png) && written;
+        refused = WritePicture(OutputPath(arguments_.png, name_), PictureFormat::Png) || refused;
     }
     if (!arguments_.svg.empty()) {
-        written = WritePicture(OutputPath(arguments_.svg, name_), PictureFormat::Svg) && written;
+        refused = WritePicture(OutputPath(arguments_.svg, name_), PictureFormat::Svg) || refused;
     }
     // The last, since it may turn to the pattern.
     if (!arguments_.table.empty()) {
-        written = WriteTable(OutputPath(arguments_.table, name_)) && written;
+        refused = WriteTable(OutputPath(arguments_.table, name_)) || refused;
     }
-    return written;
+    return RefusedIf(refused);
 }
 
 /// Exports the view. Diagonals that the command line asks for are shown for as long as this takes, so that
 /// the export has them to offer; those that it forbids are not, since dimensions take the shown ones along.
-bool Outputs::WriteDxf(const std::string& path) {
+Outcome Outputs::WriteDxf(const std::string& path) {
     bool& requested = window_.display.DiagonalsRequested;
     const bool shown = std::exchange(requested, arguments_.diagonals.value_or(requested));
-    const bool written = window_.Export(path, ExportMode::Dxf) == Passed;
+    const Outcome outcome = window_.Export(path, ExportMode::Dxf);
     requested = shown;
-    return written;
+    return outcome;
 }
 
-bool Outputs::WritePicture(const std::string& path, PictureFormat format) {
+Outcome Outputs::WritePicture(const std::string& path, PictureFormat format) {
     try {
         PictureDevice picture(format, arguments_.size.width, arguments_.size.height);
         window_.display.DrawPicture(picture);
         picture.Save(path, window_.Context().files);
-        return true;
+        return Passed;
     } catch (const std::exception& error) {
         ShowPlain(ui_, error.what());
-        return false;
+        return Refused;
     }
 }
 
 /// A table is of the pattern, whatever the view.
-bool Outputs::WriteTable(const std::string& path) {
+Outcome Outputs::WriteTable(const std::string& path) {
     if (!InPatternView(*window_.views)) {
         AddPresetView(PatternButton, *window_.views);
         shown_ = false;
@@ -110,7 +111,7 @@ bool Outputs::WriteTable(const std::string& path) {
     if (!shown_) {
         Show();
     }
-    return shown_ && window_.WriteTable(path) == Passed;
+    return shown_ ? window_.WriteTable(path) : Refused;
 }
 
 }  // namespace korvet::batch

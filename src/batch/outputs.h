@@ -18,10 +18,10 @@ class Outputs {
         : arguments_(arguments), ui_(ui), window_(window), name_(std::move(name)) {}
 
     /// Makes the fitting and writes what the command line asks for; with nothing asked for it is made all the
-    /// same, to see whether it is refused. True when all is written. No output has the fitting made more than
+    /// same, to see whether it is. Refused unless all is written. No output has the fitting made more than
     /// once: it is made for the JSON, for all that is of the view, and for the table when the view is of the
     /// model.
-    bool Write();
+    Outcome Write();
 
     // What Write leaves to tell.
 
@@ -36,14 +36,14 @@ class Outputs {
     [[nodiscard]] std::string Pattern() const { return taken_ ? pattern_ : "[]"; }
 
   private:
-    bool MakeJson();
+    Outcome MakeJson();
     [[nodiscard]] bool IsOfView() const;
     void ChooseView();
     void Show();
-    bool WriteFiles();
-    bool WriteDxf(const std::string& path);
-    bool WritePicture(const std::string& path, PictureFormat format);
-    bool WriteTable(const std::string& path);
+    Outcome WriteFiles();
+    Outcome WriteDxf(const std::string& path);
+    Outcome WritePicture(const std::string& path, PictureFormat format);
+    Outcome WriteTable(const std::string& path);
 
     const Arguments& arguments_;
     BatchUi& ui_;

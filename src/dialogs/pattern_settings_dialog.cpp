@@ -218,8 +218,8 @@ void PatternSettingsDialog::ClickOptions(FileStore& files) {
     ui->RunModal(dialog);
 }
 
-bool LoadDialog(PatternSettingsDialog& dialog, CPatternSettings& settings, UserInterface& ui,
-                COptions& options, char decimalMark) {
+Outcome LoadDialog(PatternSettingsDialog& dialog, CPatternSettings& settings, UserInterface& ui,
+                   COptions& options, char decimalMark) {
     dialog.ui = &ui;
     dialog.options = &options;
     dialog.decimalMark = decimalMark;
@@ -243,7 +243,7 @@ bool LoadDialog(PatternSettingsDialog& dialog, CPatternSettings& settings, UserI
     }
     dialog.ui = nullptr;
     dialog.options = nullptr;
-    return accepted;
+    return RefusedIf(!accepted);
 }
 
 }  // namespace korvet

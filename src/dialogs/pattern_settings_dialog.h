@@ -80,10 +80,10 @@ struct PatternSettingsDialog {
     [[nodiscard]] FieldContext Fields();
 };
 
-/// Fills the dialog from the settings, shows it modally, and after "OK" reads it back into the settings. True
-/// after "OK". Angles are degrees on both sides. A window that closes puts a new PatternSettingsDialog() in
-/// the place of `dialog`.
-bool LoadDialog(PatternSettingsDialog& dialog, CPatternSettings& settings, UserInterface& ui,
-                COptions& options, char decimalMark);
+/// Fills the dialog from the settings, shows it modally, and after "OK" reads it back into the settings.
+/// Refused after anything else. Angles are degrees on both sides. A window that closes puts a new
+/// PatternSettingsDialog() in the place of `dialog`.
+Outcome LoadDialog(PatternSettingsDialog& dialog, CPatternSettings& settings, UserInterface& ui,
+                   COptions& options, char decimalMark);
 
 }  // namespace korvet

@@ -124,15 +124,15 @@ Outcome CMainFrame::ReadCategory(const std::string& path) {
     return Passed;
 }
 
-bool CMainFrame::CloseChild(CFittingWindow& window) {
-    bool closed = false;
+Outcome CMainFrame::CloseChild(CFittingWindow& window) {
+    Outcome outcome = Refused;
     Guarded([&] {
-        closed = window.CloseForm() == Passed;
-        if (closed) {
+        outcome = window.CloseForm();
+        if (outcome == Passed) {
             Remove(window);
         }
     });
-    return closed;
+    return outcome;
 }
 
 /// The desktop tells which window is active next, if there is another.
@@ -147,9 +147,9 @@ void CMainFrame::Remove(CFittingWindow& window) {
     }
 }
 
-bool CMainFrame::AskAllToClose() {
-    return std::all_of(children_.begin(), children_.end(),
-                       [](const auto& child) { return ConfirmSave(*child) == Passed; });
+Outcome CMainFrame::AskAllToClose() {
+    return RefusedIf(std::any_of(children_.begin(), children_.end(),
+                                 [](const auto& child) { return ConfirmSave(*child); }));
 }
 
 /// When the user logs off, the desktop closes a dialog together with the frame, and the command that showed
@@ -166,20 +166,20 @@ void CMainFrame::RemoveAll() {
     context_.frame.statusText.clear();
 }
 
-bool CMainFrame::QueryUnload(const Place& last, bool minimised) {
-    bool unloads = false;
+Outcome CMainFrame::QueryUnload(const Place& last, bool minimised) {
+    Outcome outcome = Refused;
     Guarded([&] {
-        if (!AskAllToClose()) {
+        if (AskAllToClose()) {
             return;
         }
-        unloads = true;
+        outcome = Passed;
         context_.patternSettingsDialog = PatternSettingsDialog();
         RemoveAll();
         if (!minimised) {
             SavePlace(last);
         }
     });
-    return unloads;
+    return outcome;
 }
 
 }  // namespace korvet

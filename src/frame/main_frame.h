@@ -39,13 +39,13 @@ class CMainFrame {
     /// A child window became the active one; null: none is.
     void ActivateChild(CFittingWindow* window);
 
-    /// The close box or button of a child window: asks about saving and then takes it away. False when it
+    /// The close box or button of a child window: asks about saving and then takes it away. Refused when it
     /// stays.
-    bool CloseChild(CFittingWindow& window);
+    Outcome CloseChild(CFittingWindow& window);
 
-    /// The frame is about to close: all windows are asked first, and they close when none was kept. False
+    /// The frame is about to close: all windows are asked first, and they close when none was kept. Refused
     /// when the frame stays. `place` in twips and `minimised` are the frame's, to be remembered.
-    bool QueryUnload(const Place& place, bool minimised);
+    Outcome QueryUnload(const Place& place, bool minimised);
 
     [[nodiscard]] CFittingWindow* ActiveChild() const { return active_; }
     [[nodiscard]] const std::vector<std::unique_ptr<CFittingWindow>>& Children() const { return children_; }
@@ -64,7 +64,7 @@ class CMainFrame {
     // Windows.
     CFittingWindow* NewFitting(bool fromFile);
     Outcome ReadCategory(const std::string& path);
-    bool AskAllToClose();
+    Outcome AskAllToClose();
     void Remove(CFittingWindow& window);
     void RemoveAll();
     void SavePlace(const Place& last);

@@ -135,7 +135,7 @@ void CMainFrame::FileOpen() {
 }
 
 void CMainFrame::FileClose(CFittingWindow& child) {
-    CloseChild(child);
+    (void)CloseChild(child);
 }
 
 void CMainFrame::FileSave(CFittingWindow& child) {

@@ -17,18 +17,18 @@ std::string IniFileOfCurrentFolder() {
 
 }  // namespace
 
-bool SetupStartup(WindowContext& context, const std::string& currentPrinterName) {
+Outcome SetupStartup(WindowContext& context, const std::string& currentPrinterName) {
     context.options.IniFileName = IniFileOfCurrentFolder();
     try {
         ReadIniFile(context.options, context.files, context.ui, context.decimalMark);
     } catch (const std::exception& error) {
         ShowPlain(context.ui, error.what());
-        return false;
+        return Refused;
     }
     if (currentPrinterName.empty()) {
         ShowPlain(context.ui, context.Message(NoPrinterAvailable));
     }
-    return true;
+    return Passed;
 }
 
 }  // namespace korvet

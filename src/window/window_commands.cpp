@@ -31,7 +31,8 @@ void CFittingWindow::Redraw() {
 
 void CFittingWindow::Settings() {
     settings.NoOfSides = noOfSides;
-    LoadDialog(context_.patternSettingsDialog, settings, context_.ui, context_.options, context_.decimalMark);
+    (void)LoadDialog(context_.patternSettingsDialog, settings, context_.ui, context_.options,
+                     context_.decimalMark);  // drawn anew all the same
     UpdateFitting();
 }
 

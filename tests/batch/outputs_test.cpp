@@ -30,7 +30,7 @@ class OutputsTest : public testing::Test {
     }
 
     /// Writes all that is asked for from a new window, as one run of the program does.
-    bool Write() {
+    Outcome Write() {
         outputs.emplace(arguments, ui, window.emplace(context, row, nullptr), "n");
         return outputs->Write();
     }
@@ -67,7 +67,7 @@ TEST_F(OutputsTest, NoOutputCostsMoreThanOneBuild) {
                 }
             }
             shell.files.files.clear();
-            EXPECT_TRUE(Write()) << asked;
+            EXPECT_EQ(Write(), Passed) << asked;
             EXPECT_TRUE(outputs->Taken() || arguments.json.empty()) << asked;
             const int count = std::popcount(asked);
             EXPECT_GE(Builds(), 1) << asked;
@@ -83,13 +83,13 @@ TEST_F(OutputsTest, SixOutputsOfAPatternBuildTwice) {
     for (const auto& kind : kinds) {
         arguments.*kind = "out" + std::to_string(&kind - kinds.data());
     }
-    EXPECT_TRUE(Write());
+    EXPECT_EQ(Write(), Passed);
     EXPECT_EQ(Builds(), 2) << "one for the JSON, one for all that is of the view";
 }
 
 TEST_F(OutputsTest, TheJsonIsOfOneConstructModelAndThenOneDevelopModel) {
     arguments.json = "-";
-    EXPECT_TRUE(Write());
+    EXPECT_EQ(Write(), Passed);
     EXPECT_EQ(Fitting().constructed, 1);
     EXPECT_EQ(Fitting().developed, 1);
     EXPECT_NE(outputs->Model().find("[5,3,9,1]"), std::string::npos) << outputs->Model();
@@ -100,7 +100,7 @@ TEST_F(OutputsTest, TheJsonIsOfOneConstructModelAndThenOneDevelopModel) {
 TEST_F(OutputsTest, ARefusedWindowHasNoSurfaces) {
     table.buildFitting = [](FittingForm& form, const FittingHandle&) { return form.Refuse(NotAtThisTime); };
     arguments.json = "-";
-    EXPECT_FALSE(Write());
+    EXPECT_EQ(Write(), Refused);
     EXPECT_FALSE(outputs->Taken());
     EXPECT_EQ(outputs->Model(), "[]");
     EXPECT_EQ(ui.Messages().size(), 1U);
@@ -110,11 +110,11 @@ TEST_F(OutputsTest, AViewMayRefuseWhatTheJsonIsOf) {
     constexpr static std::array<std::string_view, 2> choices = {"one", "two"};
     table.patternSelect = choices;
     arguments.json = "-";
-    EXPECT_FALSE(Write());
+    EXPECT_EQ(Write(), Refused);
     EXPECT_FALSE(outputs->Taken());
     EXPECT_EQ(ui.Messages().size(), 1U);
     arguments.view = ViewChoice::Model;
-    EXPECT_TRUE(Write());
+    EXPECT_EQ(Write(), Passed);
 }
 
 }  // namespace

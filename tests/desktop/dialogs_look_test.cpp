@@ -49,17 +49,17 @@ std::map<QString, std::function<void(DialogDesk&)>> AllDialogs() {
     std::map<QString, std::function<void(DialogDesk&)>> all;
     all["settings"] = [](DialogDesk& desk) {
         CPatternSettings settings = AllOffered();
-        LoadDialog(desk.settings, settings, desk.ui, desk.options, '.');
+        (void)LoadDialog(desk.settings, settings, desk.ui, desk.options, '.');
     };
     all["settings-grey"] = [](DialogDesk& desk) {
         CPatternSettings settings;
         settings.HalfPatternDisable = settings.JoinAngleDisable = settings.MaterialDisable = true;
-        LoadDialog(desk.settings, settings, desk.ui, desk.options, '.');
+        (void)LoadDialog(desk.settings, settings, desk.ui, desk.options, '.');
     };
     all["settings-branch"] = [](DialogDesk& desk) {
         CPatternSettings settings = AllOffered();
         settings.BranchMaterialEnable = true;
-        LoadDialog(desk.settings, settings, desk.ui, desk.options, '.');
+        (void)LoadDialog(desk.settings, settings, desk.ui, desk.options, '.');
     };
     for (int tab = OptionsDialog::GeneralTab; tab <= OptionsDialog::DxfTab; ++tab) {
         all[QStringLiteral("options-%1").arg(tab)] = [tab](DialogDesk& desk) {
@@ -277,7 +277,7 @@ class DialogLook : public QObject {
             QVERIFY(text.red() > text.green() && text.red() > text.blue());
             QVERIFY(text.lightness() > box.palette().color(QPalette::Base).lightness() + 100);
         });
-        LoadDialog(desk.settings, settings, desk.ui, desk.options, '.');
+        (void)LoadDialog(desk.settings, settings, desk.ui, desk.options, '.');
         QApplication::setPalette(usual);
     }
 

@@ -309,7 +309,7 @@ class SettingsWindow : public QObject {
   private:
     bool Run(CPatternSettings& settings, std::function<void(QDialog&)> user) {
         WhenShown(std::move(user));
-        return LoadDialog(desk_.settings, settings, desk_.ui, desk_.options, '.');
+        return LoadDialog(desk_.settings, settings, desk_.ui, desk_.options, '.') == Passed;
     }
 
     DialogDesk desk_;

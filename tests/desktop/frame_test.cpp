@@ -135,7 +135,7 @@ class TwoFrames {
         inLogic(frame_);
         for (const std::string& call : desktop_.calls) {
             if (call == "close") {
-                frame_.QueryUnload({}, false);
+                (void)frame_.QueryUnload({}, false);
             } else if (call == "category menu" || call == "about" || call == "disclaimer") {
                 logic_.dialogs.push_back(call);
             }

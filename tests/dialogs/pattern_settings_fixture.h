@@ -17,7 +17,7 @@ class PatternSettings : public ::testing::Test {
     bool Run(CPatternSettings& settings, std::function<void(PatternSettingsDialog&)> user = {},
              char decimalMark = '.') {
         ui.onPatternSettings = std::move(user);
-        return LoadDialog(dialog, settings, ui, options, decimalMark);
+        return LoadDialog(dialog, settings, ui, options, decimalMark) == Passed;
     }
 
     /// The dialog as it is shown for `settings`.

@@ -10,7 +10,7 @@ using Captions = std::vector<std::string>;
 
 class MainFrameClosingTest : public testing::Test {
   protected:
-    bool Quit(bool minimised = false) { return rig.frame.QueryUnload({10, -20, 8000, 7000}, minimised); }
+    Outcome Quit(bool minimised = false) { return rig.frame.QueryUnload({10, -20, 8000, 7000}, minimised); }
 
     FrameRig rig;
 };
@@ -18,7 +18,7 @@ class MainFrameClosingTest : public testing::Test {
 TEST_F(MainFrameClosingTest, CancelKeepsAWindowNoClosesIt) {
     CFittingWindow& cone = rig.OpenDrawnCone();
     rig.shell.ui.answers = {Answer::Cancel, Answer::No};
-    EXPECT_FALSE(rig.frame.CloseChild(cone));
+    EXPECT_EQ(rig.frame.CloseChild(cone), Refused);
     EXPECT_EQ(rig.frame.ActiveChild(), &cone);
     rig.frame.RunMenu("mnuFileClose");
     EXPECT_TRUE(rig.frame.Children().empty());
@@ -33,7 +33,7 @@ TEST_F(MainFrameClosingTest, YesSavesAWindowAndClosesIt) {
     CFittingWindow& cone = rig.OpenDrawnCone();
     rig.shell.ui.answers = {Answer::Yes};
     rig.shell.ui.files = {"a.Kvt"};
-    EXPECT_TRUE(rig.frame.CloseChild(cone));
+    EXPECT_EQ(rig.frame.CloseChild(cone), Passed);
     EXPECT_TRUE(rig.shell.files.files.contains("a.Kvt"));
     EXPECT_TRUE(rig.frame.Children().empty());
 }
@@ -43,8 +43,8 @@ TEST_F(MainFrameClosingTest, YesThatSavesNothingKeepsTheWindow) {
     rig.shell.ui.answers = {Answer::Yes, Answer::Yes};
     rig.shell.ui.files = {std::nullopt, "full.Kvt"};
     rig.shell.files.unwritable = {"full.Kvt"};
-    EXPECT_FALSE(rig.frame.CloseChild(cone));
-    EXPECT_FALSE(rig.frame.CloseChild(cone));
+    EXPECT_EQ(rig.frame.CloseChild(cone), Refused);
+    EXPECT_EQ(rig.frame.CloseChild(cone), Refused);
     EXPECT_EQ(rig.Open(), (Captions{"Development 1"}));
 }
 
@@ -52,10 +52,10 @@ TEST_F(MainFrameClosingTest, TheDesktopTellsWhichWindowComesNext) {
     CFittingWindow& first = rig.OpenCone();
     CFittingWindow& second = rig.OpenCone();
     first.statusString = "of the first";
-    EXPECT_TRUE(rig.frame.CloseChild(second));
+    EXPECT_EQ(rig.frame.CloseChild(second), Passed);
     EXPECT_EQ(rig.frame.ActiveChild(), &first);
     EXPECT_EQ(rig.shell.frame.statusText, "of the first");
-    EXPECT_TRUE(rig.frame.CloseChild(first));
+    EXPECT_EQ(rig.frame.CloseChild(first), Passed);
     EXPECT_EQ(rig.shell.frame.statusText, "");
 }
 
@@ -63,7 +63,7 @@ TEST_F(MainFrameClosingTest, NoWindowIsActiveWhileTheDesktopHasNamedNone) {
     rig.desktop.activate = nullptr;
     rig.OpenCone();
     CFittingWindow& second = rig.OpenCone();
-    EXPECT_TRUE(rig.frame.CloseChild(second));
+    EXPECT_EQ(rig.frame.CloseChild(second), Passed);
     EXPECT_EQ(rig.frame.ActiveChild(), nullptr);
     EXPECT_EQ(rig.Open(), (Captions{"Development 1"}));
 }
@@ -71,12 +71,12 @@ TEST_F(MainFrameClosingTest, NoWindowIsActiveWhileTheDesktopHasNamedNone) {
 TEST_F(MainFrameClosingTest, AnInactiveWindowClosesWithoutDisturbingTheActiveOne) {
     CFittingWindow& first = rig.OpenCone();
     CFittingWindow& second = rig.OpenCone();
-    EXPECT_TRUE(rig.frame.CloseChild(first));
+    EXPECT_EQ(rig.frame.CloseChild(first), Passed);
     EXPECT_EQ(rig.frame.ActiveChild(), &second);
 }
 
 TEST_F(MainFrameClosingTest, CommandsStayUsableUntilOneFindsNoWindow) {
-    rig.frame.CloseChild(rig.OpenCone());
+    (void)rig.frame.CloseChild(rig.OpenCone());
     EXPECT_TRUE(rig.shell.frame.menuEnabled.at("mnuFileSave"));
     rig.frame.RunMenu("mnuFileSave");
     EXPECT_TRUE(rig.shell.frame.menuEnabled.at("mnuFileSave"));
@@ -93,7 +93,7 @@ TEST_F(MainFrameClosingTest, TheFrameAsksForEveryDrawnWindowAndThenClosesAll) {
     rig.shell.ui.files = {"a.Kvt"};
     rig.shell.patternSettingsDialog.lblNoOfSides = 6;
     rig.Forget();
-    EXPECT_TRUE(Quit());
+    EXPECT_EQ(Quit(), Passed);
     EXPECT_NE(rig.shell.patternSettingsDialog.lblNoOfSides, 6);  // it closes with its windows
     EXPECT_EQ(rig.Said(),
               "35 Save parameter file for Development 1 / 35 Save parameter file for Development 3");
@@ -110,7 +110,7 @@ TEST_F(MainFrameClosingTest, CancelInTheMiddleKeepsAllWindowsAndWhatWasSavedBefo
     rig.shell.ui.answers = {Answer::Yes, Answer::Cancel, Answer::No};
     rig.shell.ui.files = {"a.Kvt"};
     rig.Forget();
-    EXPECT_FALSE(Quit());
+    EXPECT_EQ(Quit(), Refused);
     EXPECT_EQ(rig.shell.ui.messages.size(), 2U);  // the third was not asked for
     EXPECT_EQ(rig.Open(), (Captions{"a.Kvt", "Development 2", "Development 3"}));
     EXPECT_TRUE(rig.shell.files.files.contains("a.Kvt"));
@@ -126,15 +126,15 @@ TEST_F(MainFrameClosingTest, ASaveThatFailsKeepsTheFrameOpen) {
     rig.shell.ui.answers = {Answer::Yes};
     rig.shell.ui.files = {"full.Kvt"};
     rig.shell.files.unwritable = {"full.Kvt"};
-    EXPECT_FALSE(Quit());
+    EXPECT_EQ(Quit(), Refused);
     EXPECT_EQ(rig.Open(), (Captions{"Development 1"}));
     EXPECT_TRUE(rig.store.values.empty());
 }
 
 TEST_F(MainFrameClosingTest, ItsPlaceIsRememberedUnlessItWasMinimised) {
-    EXPECT_TRUE(Quit(true));
+    EXPECT_EQ(Quit(true), Passed);
     EXPECT_TRUE(rig.store.values.empty());
-    EXPECT_TRUE(Quit());
+    EXPECT_EQ(Quit(), Passed);
     EXPECT_EQ(rig.store.values,
               (std::map<std::string, std::string>{
                   {"MainLeft", "10"}, {"MainTop", "-20"}, {"MainWidth", "8000"}, {"MainHeight", "7000"}}));

@@ -35,7 +35,7 @@ class MainFrameStartTest : public testing::Test {
 
 TEST_F(MainFrameStartTest, ReadsTheOptionsOfTheCurrentFolder) {
     PutSettings();
-    EXPECT_TRUE(SetupStartup(shell.context, "Plotter"));
+    EXPECT_EQ(SetupStartup(shell.context, "Plotter"), Passed);
     EXPECT_EQ(shell.options.Decimals, 3);
     EXPECT_EQ(shell.options.IniFileName, ini);
     EXPECT_TRUE(shell.ui.messages.empty());
@@ -43,14 +43,14 @@ TEST_F(MainFrameStartTest, ReadsTheOptionsOfTheCurrentFolder) {
 }
 
 TEST_F(MainFrameStartTest, MakesAMissingFile) {
-    EXPECT_TRUE(SetupStartup(shell.context, "Plotter"));
+    EXPECT_EQ(SetupStartup(shell.context, "Plotter"), Passed);
     EXPECT_TRUE(shell.files.files.contains(ini));
     EXPECT_TRUE(shell.ui.messages.empty());
 }
 
 TEST_F(MainFrameStartTest, WithoutAPrinterItSaysSoAndGoesOn) {
     PutSettings();
-    EXPECT_TRUE(SetupStartup(shell.context, ""));
+    EXPECT_EQ(SetupStartup(shell.context, ""), Passed);
     ASSERT_EQ(shell.ui.Texts(), (std::vector<std::string>{"No Printer available"}));
     EXPECT_EQ(shell.ui.messages[0].style, PlainBox);
     EXPECT_EQ(shell.ui.messages[0].title, "Korvet Development");
@@ -59,7 +59,7 @@ TEST_F(MainFrameStartTest, WithoutAPrinterItSaysSoAndGoesOn) {
 TEST_F(MainFrameStartTest, ALineThatCannotBeUsedEndsTheRunWithOneBox) {
     PutSettings(5, "tall");
     const std::string before = shell.files.files[ini];
-    EXPECT_FALSE(SetupStartup(shell.context, ""));
+    EXPECT_EQ(SetupStartup(shell.context, ""), Refused);
     EXPECT_EQ(shell.ui.Texts(), (std::vector<std::string>{ini + ", line 5: \"tall\" is not a number"}));
     EXPECT_EQ(shell.files.files[ini], before);
     EXPECT_TRUE(shell.files.writes.empty());
@@ -68,13 +68,13 @@ TEST_F(MainFrameStartTest, ALineThatCannotBeUsedEndsTheRunWithOneBox) {
 TEST_F(MainFrameStartTest, AFileThatCannotBeReadEndsTheRun) {
     PutSettings();
     shell.files.unreadable = {ini};
-    EXPECT_FALSE(SetupStartup(shell.context, "Plotter"));
+    EXPECT_EQ(SetupStartup(shell.context, "Plotter"), Refused);
     EXPECT_EQ(shell.ui.Texts(), (std::vector<std::string>{ini + ": cannot be read"}));
 }
 
 TEST_F(MainFrameStartTest, AFolderThatCannotBeWrittenToIsToldOnceAndTheDefaultsHold) {
     shell.files.unwritable = {ini};
-    EXPECT_TRUE(SetupStartup(shell.context, "Plotter"));
+    EXPECT_EQ(SetupStartup(shell.context, "Plotter"), Passed);
     EXPECT_EQ(shell.ui.Texts(), (std::vector<std::string>{ini + ": cannot be written"}));
     EXPECT_EQ(shell.options.DefaultSegs, 24);
 }

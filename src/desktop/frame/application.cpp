@@ -59,7 +59,7 @@ int RunApplication(const QStringList& files) {
     QApplication::setWindowIcon(ApplicationIcon());
     Application application;
     application.ui.context = &application.context;
-    if (!SetupStartup(application.context, QPrinterInfo::defaultPrinterName().toStdString())) {
+    if (SetupStartup(application.context, QPrinterInfo::defaultPrinterName().toStdString())) {
         return 1;
     }
     MainWindow window(application.context, application.help, application.settings);

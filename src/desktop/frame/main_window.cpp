@@ -203,7 +203,7 @@ ChildWindow* MainWindow::ChildOf(const CFittingWindow& window) const {
 void MainWindow::ShowWindow(CFittingWindow& window) {
     auto* child = new ChildWindow(window, area_);
     child->mayClose = [this](CFittingWindow& closing) {
-        const bool closed = frame_.CloseChild(closing);
+        const bool closed = frame_.CloseChild(closing) == Passed;
         Project();
         return closed;
     };
@@ -308,9 +308,8 @@ void MainWindow::closeEvent(QCloseEvent* event) {
         event->ignore();
         return;
     }
-    const bool may = frame_.QueryUnload(OuterPlace(), isMinimized());
-    closing_ = may;
-    event->setAccepted(may);
+    closing_ = frame_.QueryUnload(OuterPlace(), isMinimized()) == Passed;
+    event->setAccepted(closing_);
     Project();
 }
 
