@@ -41,8 +41,7 @@ constexpr SketchDimension FirstLengthSize(double length1) {
     return LinearSize(Side::Right, Start(), Start(length1));
 }
 
-/// The number of pieces, which no line measures.
-inline constexpr SketchDimension PieceCount = {.kind = DimensionKind::Note, .side = Side::Above};
+inline constexpr SketchDimension PieceCount = CountNote(Side::Above);
 
 /// Both ends of the centre line's arc, seen from the bend's centre.
 constexpr std::array<SketchConstruction, 2> Lines(double bendRadius, const SketchPoint& arcEnd) {

@@ -1,4 +1,5 @@
 // Oval Right Cylinder: an oval pipe cut square, by a tilted plane at one end or both.
+#include <array>
 #include <cmath>
 
 #include "core/math_module.h"
@@ -11,11 +12,20 @@
 namespace korvet {
 namespace {
 
-/// Sets the section, which is read before the thickness test, and makes the tests on it.
+/// Sets the section and makes the tests on it.
 Outcome SetSection(FittingForm& form, CRightCylinderOval& pipe, oval::SectionBoxes boxes) {
     const oval::Section section = oval::SectionOf(form, boxes);
     oval::SetSection(pipe, section);
     return oval::CheckSection(form, boxes, section);
+}
+
+/// Section and height of a pipe that has one height: diameter and height above 0, then the section.
+Outcome SetPipe(FittingForm& form, CRightCylinderOval& pipe, oval::SectionBoxes boxes, int heightBox) {
+    if (form.CheckAllPositive(boxes.diameter, heightBox)) {
+        return Refused;
+    }
+    pipe.CPHeight1 = form.Value(heightBox);
+    return SetSection(form, pipe, boxes);
 }
 
 // The sketches: the top is List1, the base List2, about the axis at x = 0.
@@ -24,24 +34,23 @@ constexpr SketchDimension HeightSize(Side side) {
     return LinearSize(side, MiddleOf(2), MiddleOf(1));
 }
 
+constexpr std::array<SketchConstruction, 2> AxisInBothViews(double height) {
+    return {{CentreLine(OnAxis(0), OnAxis(height)), CentreLine(OnAxis(0), OnAxis(height), 1)}};
+}
+
 namespace square {
 
 enum Box : int { BaseDiameter = 0, CuttingPlaneHeight = 1, BaseLength = 2 };
 
 Outcome Build(FittingForm& form, CRightCylinderOval& pipe) {
-    if (form.CheckAllPositive(BaseDiameter, CuttingPlaneHeight)) {
-        return Refused;
-    }
-    pipe.CPHeight1 = form.Value(CuttingPlaneHeight);
-    return SetSection(form, pipe, {BaseDiameter, BaseLength});
+    return SetPipe(form, pipe, {BaseDiameter, BaseLength}, CuttingPlaneHeight);
 }
 
 constexpr BoxEntry Boxes[] = {{BaseDiameter, "Base diameter", "160", oval::DiameterOfSection},
                               {BaseLength, "Base length", "420", oval::LengthOfSection},
                               {CuttingPlaneHeight, "Cutting plane height", "280", HeightSize(Side::Right)}};
 constexpr LabelEntry Labels[] = {{BaseDiameter}, {BaseLength}, {CuttingPlaneHeight}};
-constexpr SketchConstruction Lines[] = {CentreLine(OnAxis(0), OnAxis(280)),
-                                        CentreLine(OnAxis(0), OnAxis(280), 1)};
+constexpr auto Lines = AxisInBothViews(280);
 
 }  // namespace square
 
@@ -50,13 +59,11 @@ namespace tilted_top {
 enum Box : int { CuttingPlaneHeight = 3, CuttingPlaneAngle = 4, BaseDiameter = 5, BaseLength = 15 };
 
 Outcome Build(FittingForm& form, CRightCylinderOval& pipe) {
-    if (form.CheckAllPositive(BaseDiameter, CuttingPlaneHeight)) {
+    if (SetPipe(form, pipe, {BaseDiameter, BaseLength}, CuttingPlaneHeight)) {
         return Refused;
     }
-    pipe.CPHeight1 = form.Value(CuttingPlaneHeight);
     pipe.CPAngle1 = -DegToRad(form.Value(CuttingPlaneAngle));
-    return RefusedIf(SetSection(form, pipe, {BaseDiameter, BaseLength}) ||
-                     CheckPlaneTilt(form, CuttingPlaneAngle, pipe.CPHeight1, pipe.BaseRad));
+    return CheckPlaneTilt(form, CuttingPlaneAngle, pipe.CPHeight1, pipe.BaseRad);
 }
 
 constexpr BoxEntry Boxes[] = {{BaseDiameter, "Base diameter", "180", oval::DiameterOfSection},
@@ -64,8 +71,7 @@ constexpr BoxEntry Boxes[] = {{BaseDiameter, "Base diameter", "180", oval::Diame
                               {CuttingPlaneHeight, "Cutting plane height", "300", HeightSize(Side::Left)},
                               {CuttingPlaneAngle, "Cutting plane angle (degrees)", "25", TiltSize(1)}};
 constexpr LabelEntry Labels[] = {{BaseDiameter}, {BaseLength}, {CuttingPlaneHeight}, {CuttingPlaneAngle}};
-constexpr SketchConstruction Lines[] = {CentreLine(OnAxis(0), OnAxis(300)),
-                                        CentreLine(OnAxis(0), OnAxis(300), 1)};
+constexpr auto Lines = AxisInBothViews(300);
 
 }  // namespace tilted_top
 
@@ -91,8 +97,7 @@ constexpr BoxEntry Boxes[] = {
 // Two blanks before the last sign, as in the block of the round pipe; and its own spelling of the length.
 constexpr LabelEntry Labels[] = {
     {BaseDiameter}, {BaseLength, "Base Length = "}, {Height1}, {Height2, "Height 2  = "}};
-constexpr SketchConstruction Lines[] = {CentreLine(OnAxis(0), OnAxis(280)),
-                                        CentreLine(OnAxis(0), OnAxis(280), 1)};
+constexpr auto Lines = AxisInBothViews(280);
 
 }  // namespace two_heights
 
@@ -107,15 +112,11 @@ enum Box : int {
 };
 
 Outcome Build(FittingForm& form, CRightCylinderOval& pipe) {
-    if (form.CheckAllPositive(BaseDiameter, CuttingPlaneHeight)) {
+    if (SetPipe(form, pipe, {BaseDiameter, BaseLength}, CuttingPlaneHeight)) {
         return Refused;
     }
-    pipe.CPHeight1 = form.Value(CuttingPlaneHeight);
     pipe.CPAngle1 = -DegToRad(form.Value(CuttingPlaneAngle1));
     pipe.CPAngle2 = -DegToRad(form.Value(CuttingPlaneAngle2));
-    if (SetSection(form, pipe, {BaseDiameter, BaseLength})) {
-        return Refused;
-    }
     form.settings.JoinAngle = 0;
     const double m = TiltLimit(pipe.CPHeight1, pipe.BaseRad);
     return RefusedIf(CheckTiltWithin(form, CuttingPlaneAngle1, -90, m) ||
@@ -136,8 +137,7 @@ constexpr LabelEntry Labels[] = {{BaseDiameter},
                                  {CuttingPlaneHeight},
                                  {CuttingPlaneAngle1},
                                  {CuttingPlaneAngle2}};
-constexpr SketchConstruction Lines[] = {CentreLine(OnAxis(0), OnAxis(260)),
-                                        CentreLine(OnAxis(0), OnAxis(260), 1)};
+constexpr auto Lines = AxisInBothViews(260);
 
 }  // namespace tilted_ends
 

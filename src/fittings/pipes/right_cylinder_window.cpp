@@ -21,6 +21,15 @@ Outcome SetRadius(FittingForm& form, CRightCylinder& pipe, int diameterBox) {
     return CheckRoundWall(form, diameterBox, pipe.BaseRad);
 }
 
+/// Diameter and height of a pipe that has one: both above 0, and room for the material.
+Outcome SetPipe(FittingForm& form, CRightCylinder& pipe, int diameterBox, int heightBox) {
+    if (form.CheckAllPositive(diameterBox, heightBox)) {
+        return Refused;
+    }
+    pipe.CPHeight1 = form.Value(heightBox);
+    return SetRadius(form, pipe, diameterBox);
+}
+
 // The sketches: the top is List1, the base List2, about the axis at x = 0.
 
 constexpr SketchConstruction Axis[] = {CentreLine(OnAxis(0), OnAxis(300))};
@@ -30,11 +39,7 @@ namespace square {
 enum Box : int { BaseDiameter = 0, CuttingPlaneHeight = 1 };
 
 Outcome Build(FittingForm& form, CRightCylinder& pipe) {
-    if (form.CheckAllPositive(BaseDiameter, CuttingPlaneHeight) || SetRadius(form, pipe, BaseDiameter)) {
-        return Refused;
-    }
-    pipe.CPHeight1 = form.Value(CuttingPlaneHeight);
-    return Passed;
+    return SetPipe(form, pipe, BaseDiameter, CuttingPlaneHeight);
 }
 
 constexpr BoxEntry Boxes[] = {
@@ -49,10 +54,9 @@ namespace tilted_top {
 enum Box : int { BaseDiameter = 2, CuttingPlaneHeight = 3, CuttingPlaneAngle = 4 };
 
 Outcome Build(FittingForm& form, CRightCylinder& pipe) {
-    if (form.CheckAllPositive(BaseDiameter, CuttingPlaneHeight) || SetRadius(form, pipe, BaseDiameter)) {
+    if (SetPipe(form, pipe, BaseDiameter, CuttingPlaneHeight)) {
         return Refused;
     }
-    pipe.CPHeight1 = form.Value(CuttingPlaneHeight);
     pipe.CPAngle1 = -DegToRad(form.Value(CuttingPlaneAngle));
     return CheckPlaneTilt(form, CuttingPlaneAngle, pipe.CPHeight1, pipe.BaseRad);
 }
@@ -92,10 +96,9 @@ namespace roof {
 enum Box : int { BaseDiameter = 8, CuttingPlaneHeight = 9, CuttingPlaneAngle1 = 10, CuttingPlaneAngle2 = 11 };
 
 Outcome Build(FittingForm& form, CRightCylinder& pipe) {
-    if (form.CheckAllPositive(BaseDiameter, CuttingPlaneHeight) || SetRadius(form, pipe, BaseDiameter)) {
+    if (SetPipe(form, pipe, BaseDiameter, CuttingPlaneHeight)) {
         return Refused;
     }
-    pipe.CPHeight1 = form.Value(CuttingPlaneHeight);
     pipe.CPAngle1 = DegToRad(form.Value(CuttingPlaneAngle1));
     pipe.CPAngle3 = DegToRad(form.Value(CuttingPlaneAngle2));
     return RefusedIf(CheckRoofSide(form, CuttingPlaneAngle1, pipe.CPHeight1, pipe.BaseRad) ||
@@ -124,10 +127,9 @@ enum Box : int {
 };
 
 Outcome Build(FittingForm& form, CRightCylinder& pipe) {
-    if (form.CheckAllPositive(BaseDiameter, CuttingPlaneHeight) || SetRadius(form, pipe, BaseDiameter)) {
+    if (SetPipe(form, pipe, BaseDiameter, CuttingPlaneHeight)) {
         return Refused;
     }
-    pipe.CPHeight1 = form.Value(CuttingPlaneHeight);
     pipe.CPAngle1 = -DegToRad(form.Value(CuttingPlaneAngle1));
     pipe.CPAngle2 = -DegToRad(form.Value(CuttingPlaneAngle2));
     pipe.Rotation = DegToRad(form.Value(RotationOfBase));
@@ -172,10 +174,9 @@ enum Box : int {
 };
 
 Outcome Build(FittingForm& form, CRightCylinder& pipe) {
-    if (form.CheckAllPositive(BaseDiameter, CuttingPlaneHeight) || SetRadius(form, pipe, BaseDiameter)) {
+    if (SetPipe(form, pipe, BaseDiameter, CuttingPlaneHeight)) {
         return Refused;
     }
-    pipe.CPHeight1 = form.Value(CuttingPlaneHeight);
     pipe.CPAngle1 = DegToRad(form.Value(CuttingPlaneAngle1));
     pipe.CPAngle3 = DegToRad(form.Value(CuttingPlaneAngle2));
     pipe.Offset = form.Value(Offset);

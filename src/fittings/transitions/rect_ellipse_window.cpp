@@ -1,5 +1,4 @@
 // Rectangle to Ellipse: a rectangle with round corners below an ellipse.
-#include "fittings/mean_sizes.h"
 #include "fittings/transitions/rectangle_base_form.h"
 
 namespace korvet {
@@ -20,7 +19,7 @@ Outcome Build(FittingForm& form, CTransition& fitting) {
         return Refused;
     }
     transition::SetSections(fitting, transition::EllipseOf(form, {EllipseLengthX, EllipseLengthY}),
-                            transition::RectangleOf(form, Rectangle, MeanRadius(form, CornerRadius)),
+                            transition::RoundedRectangleOf(form, Rectangle, CornerRadius),
                             form.Value(Height));
     return Passed;
 }
@@ -40,17 +39,14 @@ using namespace transition::placed;
 
 constexpr transition::TiltBoxes Tilts = {TopAngle, BaseAngle};
 
-/// The radius is held against the thickness twice; the first one always speaks.
 Outcome Build(FittingForm& form, CTransition& fitting) {
-    const double halfThickness = form.settings.Thickness / 2;
     if (form.CheckAllPositive(EllipseLengthX, EllipseLengthY, RectangleLengthX, RectangleLengthY, Height) ||
-        form.CheckBoxRoomForThickness(CornerRadius, halfThickness) || transition::CheckTilts(form, Tilts) ||
-        form.CheckBoxRoomForThickness(CornerRadius, halfThickness) ||
-        transition::CheckRadiusFits(form, CornerRadius, Rectangle)) {
+        form.CheckBoxRoomForThickness(CornerRadius, form.settings.Thickness / 2) ||
+        transition::CheckTilts(form, Tilts) || transition::CheckRadiusFits(form, CornerRadius, Rectangle)) {
         return Refused;
     }
     transition::SetSections(fitting, transition::EllipseOf(form, {EllipseLengthX, EllipseLengthY}),
-                            transition::RectangleOf(form, Rectangle, MeanRadius(form, CornerRadius)),
+                            transition::RoundedRectangleOf(form, Rectangle, CornerRadius),
                             form.Value(Height));
     transition::PlaceTop(form, fitting, Offsets, Tilts);
     return Passed;

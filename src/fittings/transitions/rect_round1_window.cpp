@@ -24,8 +24,8 @@ Outcome Build(FittingForm& form, CTransition& fitting) {
         form.CheckBoxRoomForThickness(RectangleLengthY, t) || form.CheckNotEqual(Height, 0)) {
         return Refused;
     }
-    transition::SetSections(fitting, transition::EllipseOf(form, {Diameter, Diameter}),
-                            BaseOf(form, Rectangle), form.Value(Height));
+    transition::SetSections(fitting, transition::CircleOf(form, Diameter), BaseOf(form, Rectangle),
+                            form.Value(Height));
     return Passed;
 }
 
@@ -41,16 +41,13 @@ using namespace transition::placed;
 
 constexpr transition::TiltBoxes Tilts = {TopAngle, BaseAngle};
 
-/// The sizes are asked for twice, the second time with another message; the first one always speaks.
 Outcome Build(FittingForm& form, CTransition& fitting) {
     if (form.CheckAllPositive(Diameter, RectangleLengthX, RectangleLengthY) ||
-        form.CheckNotEqual(Height, 0) || transition::CheckTilts(form, Tilts) ||
-        form.CheckGreaterThan(Diameter, 0) || form.CheckGreaterThan(RectangleLengthX, 0) ||
-        form.CheckGreaterThan(RectangleLengthY, 0) || form.CheckNotEqual(Height, 0)) {
+        form.CheckNotEqual(Height, 0) || transition::CheckTilts(form, Tilts)) {
         return Refused;
     }
-    transition::SetSections(fitting, transition::EllipseOf(form, {Diameter, Diameter}),
-                            BaseOf(form, Rectangle), form.Value(Height));
+    transition::SetSections(fitting, transition::CircleOf(form, Diameter), BaseOf(form, Rectangle),
+                            form.Value(Height));
     transition::PlaceTop(form, fitting, Offsets, Tilts);
     return Passed;
 }

@@ -1,5 +1,4 @@
 // Rectangle (Radius) to Round: a rectangle with round corners below a circle.
-#include "fittings/mean_sizes.h"
 #include "fittings/transitions/rectangle_base_form.h"
 
 namespace korvet {
@@ -19,8 +18,8 @@ Outcome Build(FittingForm& form, CTransition& fitting) {
         form.CheckBoxRoomForThickness(RectangleLengthY, t) || form.CheckNotEqual(Height, 0)) {
         return Refused;
     }
-    transition::SetSections(fitting, transition::EllipseOf(form, {Diameter, Diameter}),
-                            transition::RectangleOf(form, Rectangle, MeanRadius(form, CornerRadius)),
+    transition::SetSections(fitting, transition::CircleOf(form, Diameter),
+                            transition::RoundedRectangleOf(form, Rectangle, CornerRadius),
                             form.Value(Height));
     return Passed;
 }
@@ -44,8 +43,8 @@ Outcome Build(FittingForm& form, CTransition& fitting) {
         transition::CheckRadiusFits(form, CornerRadius, Rectangle)) {
         return Refused;
     }
-    transition::SetSections(fitting, transition::EllipseOf(form, {Diameter, Diameter}),
-                            transition::RectangleOf(form, Rectangle, MeanRadius(form, CornerRadius)),
+    transition::SetSections(fitting, transition::CircleOf(form, Diameter),
+                            transition::RoundedRectangleOf(form, Rectangle, CornerRadius),
                             form.Value(Height));
     transition::PlaceTop(form, fitting, Offsets, Tilts);
     return Passed;

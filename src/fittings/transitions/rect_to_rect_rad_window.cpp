@@ -36,7 +36,7 @@ Outcome CheckCorner(FittingForm& form, const RectangleBoxes& boxes) {
 }
 
 transition::Section SectionOf(const FittingForm& form, const RectangleBoxes& boxes) {
-    return transition::RectangleOf(form, boxes.lengths, MeanRadius(form, boxes.radius));
+    return transition::RoundedRectangleOf(form, boxes.lengths, boxes.radius);
 }
 
 Outcome BuildEnds(FittingForm& form, const EndBoxes& boxes, CTransition& fitting) {

@@ -53,6 +53,10 @@ Section RectangleOf(const FittingForm& form, LengthBoxes lengths, double radius)
     return {MeanLength(form, lengths.x), MeanLength(form, lengths.y), radius, radius, false};
 }
 
+Section RoundedRectangleOf(const FittingForm& form, LengthBoxes lengths, int radiusBox) {
+    return RectangleOf(form, lengths, MeanRadius(form, radiusBox));
+}
+
 Outcome CheckRadiusFits(FittingForm& form, int radiusBox, double lengthX, double lengthY) {
     return RefusedIf(form.CheckAtMost(radiusBox, lengthX / 2) || form.CheckAtMost(radiusBox, lengthY / 2));
 }

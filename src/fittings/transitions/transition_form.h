@@ -39,8 +39,16 @@ struct TiltBoxes {
 /// The ellipse of the overall lengths in two boxes; a circle when both are the same box.
 [[nodiscard]] Section EllipseOf(const FittingForm& form, LengthBoxes lengths);
 
+/// The circle of the diameter in a box.
+[[nodiscard]] inline Section CircleOf(const FittingForm& form, int diameterBox) {
+    return EllipseOf(form, {diameterBox, diameterBox});
+}
+
 /// The rectangle of the overall lengths in two boxes with the mean corner radius given.
 [[nodiscard]] Section RectangleOf(const FittingForm& form, LengthBoxes lengths, double radius);
+
+/// The same with the corner radius in a third box.
+[[nodiscard]] Section RoundedRectangleOf(const FittingForm& form, LengthBoxes lengths, int radiusBox);
 
 // Checks, with the focus on the box after a refusal.
 
