@@ -89,7 +89,7 @@ class FittingHandle {
     [[nodiscard]] FittingResults& Results() const { return operations_->results(object_.get()); }
 
     // Both start with no warnings. Throw ArithmeticError or ListError, the results then being unusable, when
-    // the inputs and properties leave no shape or a coordinate that is not finite.
+    // the inputs and properties leave no shape or a coordinate out of reach (RequireWithinReach).
 
     /// Builds the model in space.
     void ConstructModel() const { Run(operations_->constructModel); }

@@ -27,16 +27,14 @@ struct CPatternSettings {
     std::int16_t LapEnable = NoLaps;      ///< a LapMask: the laps that the dialog offers
     std::int16_t JoinType = 0;            ///< 0 butt, 1 lap: laps are added
     bool JoinAngleDisable = false;        ///< the seam angle is greyed
-    std::int16_t InOutMean =
-        0;  ///< a MaterialSide, the line that sizes are measured on: 0 mean, 1 inside, 2 outside
-    bool HalfPattern = false;  ///< a half pattern is made, where the fitting has one
-    std::int16_t NoOfSides =
-        0;                  ///< sides of a polygonal section, 0 for round ones; the dialog's list goes by it
-    double JoinAngle = 0;   ///< plan angle of the seam, as the user sees it
-    int segs = 24;          ///< fold lines of a full pattern: straight segments of a full circle
-    double Thickness = 0;   ///< of the material
-    double ThicknessA = 0;  ///< of the first of two sections (the branch pipe)
-    double ThicknessB = 0;  ///< of the second (the trunk pipe)
+    std::int16_t InOutMean = 0;           ///< the line that sizes are measured on, a MaterialSide
+    bool HalfPattern = false;             ///< a half pattern is made, where the fitting has one
+    std::int16_t NoOfSides = 0;  ///< of a polygonal section, 0 for a round one; the list of seams goes by it
+    double JoinAngle = 0;        ///< plan angle of the seam, as the user sees it
+    int segs = 24;               ///< fold lines of a full pattern: straight segments of a full circle
+    double Thickness = 0;        ///< of the material
+    double ThicknessA = 0;       ///< of the first of two sections (the branch pipe)
+    double ThicknessB = 0;       ///< of the second (the trunk pipe)
 };
 
 /// The thicknesses that the user gives: of branch and trunk where the fitting has both, of its one material

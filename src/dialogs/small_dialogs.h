@@ -87,8 +87,7 @@ struct RotateDialog {
     Place place = {0, 0, 5340, 1935};
     static constexpr int HelpContextID = 2936;
     std::string lblAngle = "Current Angle:";
-    std::array<TextBox, 2>
-        txtAngle;  ///< degrees: 0 the angle of the picked line, which is not edited; 1 the wanted one
+    std::array<TextBox, 2> txtAngle;  ///< degrees: 0 that of the picked line, not edited; 1 the wanted one
     OptionGroup optMove{.captions = {"Rotate to this angle", "Rotate by this amount"}, .selected = ToAngle};
     std::string lblStatus;
     std::string focus;    ///< name of the control that has the focus

@@ -31,8 +31,7 @@ struct PixelSize {
 
 /// The font of drawn text: always Arial, upright, not bold.
 struct TextFont {
-    int lfHeight =
-        0;  ///< character height in pixels, negative: the height of the characters without their leading
+    int lfHeight = 0;      ///< of the characters in pixels; negative: without their leading
     int lfEscapement = 0;  ///< turn counter-clockwise, tenths of a degree
     bool operator==(const TextFont&) const = default;
 };

@@ -60,8 +60,8 @@ void SetEnds(Piece& piece, const PieceEnds& ends) {
 
 /// Builds the model of a piece whose seam follows one build behind: with the seam that the piece had before,
 /// and only then is it given `joinAngle` (radians), with which it is developed and which its next model has.
-/// Such a piece is a member of the fitting that drives it, and its inputs are set from
-/// PieceInputs with the JoinAngle that it has.
+/// Such a piece is a member of the fitting that drives it, and its inputs are set from PieceInputs with the
+/// JoinAngle that it has.
 template <FittingClass Piece>
 void ConstructWithSeamBefore(Piece& piece, double joinAngle) {
     piece.ConstructModel();

@@ -15,11 +15,10 @@ struct Ridge {
 
 /// A station of the walk round a roof.
 struct RoofStation {
-    double angle = 0;       ///< plan angle, radians
-    bool far = false;       ///< cut by the plane beyond the ridge; else by the one on its +x side
-    bool ridgeEnd = false;  ///< where an end of the ridge meets the wall: both planes cut here
-    std::int16_t flag =
-        RuleStation;  ///< for the edge that the roof leaves whole: a rule station at ridge ends
+    double angle = 0;                 ///< plan angle, radians
+    bool far = false;                 ///< cut by the plane beyond the ridge; else by the one on its +x side
+    bool ridgeEnd = false;            ///< where an end of the ridge meets the wall: both planes cut here
+    std::int16_t flag = RuleStation;  ///< for the edge that stays whole: a rule station at ridge ends
     std::int16_t brokenFlag = RuleStation;  ///< for the edge that breaks: a rule corner at ridge ends
 };
 

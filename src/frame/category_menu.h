@@ -20,8 +20,7 @@ struct CategoryMenuDialog {
 
     std::string caption = "New";
     Place place = {0, 0, 8000, 6000};
-    std::array<Control, CatalogueSize>
-        Picture1;  ///< tile of each catalogue row; its tool tip is the category
+    std::array<Control, CatalogueSize> Picture1;   ///< tile of each row; its tool tip is the category
     std::array<bool, CatalogueSize> pressed = {};  ///< border style 1 while the mouse is down on a tile
     struct Scroll {
         Place place;

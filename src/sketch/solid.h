@@ -28,9 +28,8 @@ struct SolidFace {
 /// A line that nothing hides.
 struct SolidEdge {
     std::vector<SketchXY> points;
-    bool outline =
-        true;           ///< an end, a crease or a contour; otherwise a thin bend line between flat triangles
-    bool pale = false;  ///< no part of the surface that is shown off
+    bool outline = true;  ///< an end, a crease or a contour; else a thin bend line between flat triangles
+    bool pale = false;    ///< no part of the surface that is shown off
 };
 
 struct SolidBounds {

@@ -37,9 +37,8 @@ struct DrawingArea {
 };
 
 struct WindowModel {
-    std::string
-        caption;        ///< "Development " and a number until a save or load, then the path: the file's name
-    std::string focus;  ///< name of the control that has the focus
+    std::string caption;      ///< "Development " and a number until a save or load, then the file's path
+    std::string focus;        ///< name of the control that has the focus
     std::string boxToReveal;  ///< name of a box that a message is about: to be scrolled into sight, once
     Cursor mousePointer = Cursor::Default;
     std::function<void()> showPointer;  ///< shows the pointers at once, for no event does while work runs

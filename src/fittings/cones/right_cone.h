@@ -15,8 +15,8 @@ enum ConeCut : std::int16_t {
 };
 
 /// Lengths are mean dimensions in the user's unit, angles radians; the axis is z, the base circle lies at
-/// height 0 about the origin. A roof needs JoinAngle 0 and Offset from minus the
-/// cone's radius at the ridge height to below it.
+/// height 0 about the origin. A roof needs JoinAngle 0 and Offset from minus the cone's radius at the ridge
+/// height to below it.
 struct CRightCone {
     FittingInputs inputs;
     FittingResults results;  ///< ModelSurface and PatternSurface

@@ -15,9 +15,8 @@ struct CRightCylinderOval {
     FittingInputs inputs;
     FittingResults results;  ///< ModelSurface and PatternSurface
 
-    double OvalCenterDistance =
-        0;                ///< between the centres of the half circles: the length of a straight side
-    double Rotation = 0;  ///< held for the caller, like Offset and CPAngle3; not read
+    double OvalCenterDistance = 0;  ///< of the half circles: the length of a straight side
+    double Rotation = 0;            ///< held for the caller, like Offset and CPAngle3; not read
     double Offset = 0;
     double CPAngle1 = 0;  ///< tilt of the top plane: above 0 it rises towards +x
     double CPAngle2 = 0;  ///< tilt of the bottom plane: above 0 it falls towards +x
