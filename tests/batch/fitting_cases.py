@@ -35,6 +35,13 @@ class Case:
     def with_box(self, index, text):
         return replace(self, boxes=tuple((i, text if i == index else old) for i, old in self.boxes))
 
+    def with_boxes(self, **texts):
+        """With other texts for box0, box7 and so on."""
+        case = self
+        for name, text in texts.items():
+            case = case.with_box(int(name.removeprefix("box")), text)
+        return case
+
     def value(self, index):
         return float(dict(self.boxes)[index])
 
@@ -80,6 +87,14 @@ def pipe_settings(rng, size):
     settings.TemplateType = rng.randrange(2)
     settings.KerfSpacing = rng.choice([0, size * rng.uniform(0, 0.2)])
     return settings
+
+
+def piece_settings():
+    """Settings for fittings of several pieces with seam laps: odd, even and few fold lines, whole and half."""
+    rows = ((12, 0, False, 0, 0), (24, 1, True, 0, 0), (13, 2, False, 1, 90), (24, 0, True, 1, -30),
+            (13, 1, True, 1, 15), (3, 0, True, 0, 0), (2, 0, False, 1, 400), (1, 0, True, 1, 0), (1, 0, False, 0, 0))
+    return [Settings(segs=segs, Thickness=3, InOutMean=place, HalfPattern=half, JoinType=join, LapSize1=10,
+                     KerfSpacing=25, JoinAngle=seam) for segs, place, half, join, seam in rows]
 
 
 def thick_settings(_, size):

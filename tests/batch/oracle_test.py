@@ -6,7 +6,7 @@ import os
 import fitting_cases
 from batch_program import DONE, REFUSED, FolderTest, run_all
 from fitting_maths import LISTS, Settings
-from window_checks import as_list
+from window_checks import IMPOSSIBLE, PRODUCT, as_list
 
 TOLERANCE = 1e-9
 
@@ -85,6 +85,20 @@ class OracleTest(FolderTest):
     def tell(self, faults, cases):
         if faults:
             self.fail(f"{len(faults)} of {len(cases)} differ\n" + "\n".join(faults[:8]))
+
+    def check_variety(self, cases, *wanted):
+        """Random cases, among which every kind of settings must be: the common ones and what else is wanted."""
+        common = (lambda s: s.HalfPattern, lambda s: s.JoinType and s.LapSize1 > 0, lambda s: s.segs % 2,
+                  lambda s: s.JoinAngle != 0, lambda s: s.InOutMean == 1, lambda s: s.InOutMean == 2)
+        for number, is_wanted in enumerate(common + wanted):
+            self.assertGreater(sum(1 for case in cases if is_wanted(case.settings)), 5, f"kind {number}")
+        self.check(cases)
+
+    def check_impossible(self, cases):
+        """They pass every check, and then there is no shape or none that could be made."""
+        for case in cases:
+            self.assertEqual(case.answer().messages, [(PRODUCT, IMPOSSIBLE, None)], shown(case))
+        self.check(cases)
 
     def check_limits(self, cases, never=()):
         """The boxes of sound cases at every limit and beside it. Every check must be seen to refuse something,

@@ -107,6 +107,13 @@ def room(box, diameter, section):
     box.room(diameter, section.radius, box.settings.Thickness / 2)
 
 
+def checked_section(box, diameter, length):
+    section = section_of(box, diameter, length)
+    room(box, diameter, section)
+    box.at_least(length, box[diameter])
+    return section
+
+
 # ------------------------------------------------------------------------------------------------ the pipe
 
 
@@ -116,17 +123,13 @@ def tilt_limit(pipe):
 
 def square_pipe(box):
     box.positive(0, 1)
-    section = section_of(box, 0, 2)
-    room(box, 0, section)
-    box.at_least(2, box[0])
+    section = checked_section(box, 0, 2)
     return Pipe(section, box[1])
 
 
 def tilted_pipe(box):
     box.positive(5, 3)
-    section = section_of(box, 5, 15)
-    room(box, 5, section)
-    box.at_least(15, box[5])
+    section = checked_section(box, 5, 15)
     pipe = Pipe(section, box[3], angle1=-deg_to_rad(box[4]))
     box.between(4, tilt_limit(pipe))
     return pipe
@@ -134,18 +137,14 @@ def tilted_pipe(box):
 
 def two_height_pipe(box):
     box.positive(12, 6, 7)
-    section = section_of(box, 12, 14)
-    room(box, 12, section)
-    box.at_least(14, box[12])
+    section = checked_section(box, 12, 14)
     return Pipe(section, (box[6] + box[7]) / 2,
                 angle1=-math.atan((box[6] - box[7]) / (section.radius + section.radius)))
 
 
 def twice_tilted_pipe(box):
     box.positive(13, 9)
-    section = section_of(box, 13, 11)
-    room(box, 13, section)
-    box.at_least(11, box[13])
+    section = checked_section(box, 13, 11)
     pipe = Pipe(section, box[9], angle1=-deg_to_rad(box[8]), angle2=-deg_to_rad(box[10]))
     for angle in (8, 10):
         box.above(angle, -90)
@@ -198,39 +197,30 @@ class Bend:
         return patterns
 
 
-def number_of_pieces(box, index):
-    box.at_least(index, 2)
-    box.integer(index)
+# Diameter, length, bend radius, both straight lengths, number of pieces, angle.
+BEND_BOXES = ((0, 11, 1, 3, 4, 2, None), (5, 12, 6, 8, 9, 10, 7))
 
 
-def quarter_bend(box):
-    box.positive(0)
-    section = section_of(box, 0, 11)
-    room(box, 0, section)
-    box.at_least(11, box[0])
-    box.at_least(1, section.radius)
-    box.at_least(3, 0)
-    box.at_least(4, 0)
-    number_of_pieces(box, 2)
-    return Bend(section, box[1], QUARTER_TURN, int(box[2]) - 1, box[3], box[4])
-
-
-def any_bend(box):
-    box.positive(5)
-    section = section_of(box, 5, 12)
-    room(box, 5, section)
-    box.above(12, box[5])
-    box.at_least(6, section.radius)
-    box.at_least(8, 0)
-    box.at_least(9, 0)
-    number_of_pieces(box, 10)
-    box.positive(7)
-    box.below(7, 360)
-    return Bend(section, box[6], deg_to_rad(box[7]), int(box[10]) - 1, box[8], box[9])
+def bend_of(box, dtype):
+    diameter, length, radius, length1, length2, number, angle = BEND_BOXES[dtype]
+    box.positive(diameter)
+    section = section_of(box, diameter, length)
+    room(box, diameter, section)
+    (box.at_least, box.above)[dtype](length, box[diameter])
+    box.at_least(radius, section.radius)
+    box.at_least(length1, 0)
+    box.at_least(length2, 0)
+    box.at_least(number, 2)
+    box.integer(number)
+    if angle is not None:
+        box.positive(angle)
+        box.below(angle, 360)
+    turn = QUARTER_TURN if angle is None else deg_to_rad(box[angle])
+    return Bend(section, box[radius], turn, int(box[number]) - 1, box[length1], box[length2])
 
 
 def build_bend(case, box, answer):
-    bend = (quarter_bend, any_bend)[case.dtype](box)
+    bend = bend_of(box, case.dtype)
     require_shape((90 if case.dtype == 0 else box[7]) / bend.gores < 180)
     answer.model = bend.model(case.settings.segs)
     answer.pattern = bend.pattern(case.settings, case.select == FULL_LAYOUT)
@@ -280,9 +270,7 @@ def elbow_of_legs(box):
 
 def square_elbow(box):
     box.positive(4)
-    section = section_of(box, 4, 11)
-    room(box, 4, section)
-    box.at_least(11, box[4])
+    section = checked_section(box, 4, 11)
     box.at_least(5, section.radius)
     box.at_least(6, section.radius)
     return Elbow(section, QUARTER_TURN, box[5], box[6])
@@ -290,9 +278,7 @@ def square_elbow(box):
 
 def elbow_on_radius(box):
     box.positive(7)
-    section = section_of(box, 7, 12)
-    room(box, 7, section)
-    box.at_least(12, box[7])
+    section = checked_section(box, 7, 12)
     box.at_least(8, section.radius)
     angle = change_of_direction(box, 9)
     length = math.tan(angle / 2) * box[8]

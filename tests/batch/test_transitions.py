@@ -71,12 +71,9 @@ def plain_case(kind, settings=Settings(), options=(), **others):
 class TransitionTest(OracleTest):
     def test_sound_transitions(self):
         cases = [sound_case(kind, rng_of(f"transition {kind} {k}")) for kind in TYPES for k in range(15)]
-        for wanted in (lambda s: s.HalfPattern, lambda s: s.JoinType and s.LapSize1 > 0, lambda s: s.segs % 2,
-                       lambda s: s.InOutMean == 1, lambda s: s.InOutMean == 2):
-            self.assertGreater(sum(1 for case in cases if wanted(case.settings)), 5)
         texts = [text for case in cases for _, text, _ in case.answer().messages]
         self.assertGreater(min(texts.count(SEAM_LAP), texts.count(NO_HALF)), 3)
-        self.check(cases)
+        self.check_variety(cases)
 
     def test_numbers_of_fold_lines(self):
         """Odd numbers leave the corners short of the quarter turn or take them past it."""
