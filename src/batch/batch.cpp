@@ -150,7 +150,7 @@ int RunCommandLine(int argc, const char* const* argv) {
         return WrongUsage;
     } catch (const std::exception& error) {
         std::cerr << "korvet-batch: " << error.what() << '\n';
-        return Refused;
+        return Failed;
     }
 }
 

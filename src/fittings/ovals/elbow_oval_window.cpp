@@ -51,6 +51,8 @@ Outcome Build(FittingForm& form, CElbowOval& elbow) {
         return Refused;
     }
     const double b = DegToRad(form.Value(Angle));
+    // In this type the limit has a minus: pieces that run past the mitre pass, negative ones even, and files
+    // made so far may hold them.
     const double m = -(section.radius / std::tan(b / 2));
     if (form.CheckAtLeast(Length1, m) || form.CheckAtLeast(Length2, m)) {
         return Refused;

@@ -50,14 +50,15 @@ constexpr BoxEntry Boxes[] = {
     {Segments, "Number of segments", "5", bend::PieceCount},
     {Length1, "Length 1", "90", bend::FirstLengthSize(90)},
     {Length2, "Length 2", "140", LinearSize(Side::Above, bend::EndOf(5), bend::EndOf(5, 140))}};
-// The last line has the first length of the other type: text blocks made so far have it so.
+// The last line has the bend radius of the other type: text blocks made so far have it so.
+constexpr int OtherBendRadius = 6;
 constexpr LabelEntry Labels[] = {{BaseDiameter},
                                  {BaseLength},
                                  {BendRadius},
                                  {NoBox, "Bend angle = ", "90"},
                                  {Length1},
                                  {Length2},
-                                 {6, "Number of segments = "}};
+                                 {OtherBendRadius, "Number of segments = "}};
 constexpr auto Lines = bend::Lines(320, AtXZ(-320, 320));
 
 }  // namespace quarter
@@ -73,6 +74,7 @@ enum Box : int {
     Segments = 10,
     BaseLength = 12
 };
+static_assert(BendRadius == quarter::OtherBendRadius);
 
 Outcome Build(FittingForm& form, CSegBendParallelOval& bend) {
     if (form.CheckPositive(BaseDiameter)) {
