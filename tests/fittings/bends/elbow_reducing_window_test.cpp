@@ -9,6 +9,7 @@
 #include "fittings/bends/elbow_reducing.h"
 #include "tests/support/refusals.h"
 #include "tests/support/text_blocks.h"
+#include "tests/support/window_start.h"
 
 namespace korvet::reducing_elbow_window_test {
 namespace {
@@ -16,18 +17,8 @@ namespace {
 constexpr const char* Category = "Reducing Elbow";
 
 TEST(ReducingElbowWindow, StartsAsAReducingElbowDoes) {
-    TestShell shell;
-    const auto window = shell.Open(Category);
-    EXPECT_EQ(window->Row().helpContextId, 2270);
-    EXPECT_EQ(window->dtype, 0);
-    EXPECT_TRUE(window->Table().multiple);
-    EXPECT_EQ(window->settings.LapEnable, SeamLapOnly);
-    EXPECT_TRUE(window->settings.JoinAngleDisable);
-    EXPECT_FALSE(window->settings.TemplateTypeEnabled);
-    EXPECT_TRUE(window->settings.KerfEnabled);
-    EXPECT_FALSE(window->settings.HalfPatternDisable);
-    EXPECT_TRUE(window->controls.options.optPatternSelect.captions.empty());
-    EXPECT_EQ(window->controls.txtParameter.size(), 9U);
+    ExpectStart(Category,
+                {.helpContextId = 2270, .boxes = 9, .pieces = true, .halfPattern = true, .kerf = true});
 }
 
 class ReducingElbowRefusals : public testing::TestWithParam<Refusal> {};

@@ -10,6 +10,7 @@
 #include "fittings/bends/elbow.h"
 #include "tests/support/refusals.h"
 #include "tests/support/text_blocks.h"
+#include "tests/support/window_start.h"
 
 namespace korvet {
 namespace {
@@ -17,22 +18,13 @@ namespace {
 constexpr const char* ElbowCategory = "Elbow";
 
 TEST(ElbowWindow, StartsAsAnElbowDoes) {
-    TestShell shell;
-    const auto window = shell.Open(ElbowCategory);
-    EXPECT_EQ(window->Row().helpContextId, 2320);
-    EXPECT_EQ(window->dtype, 0);
-    EXPECT_EQ(window->miscellaneous, 0);
-    EXPECT_TRUE(window->Table().multiple);
-    EXPECT_EQ(window->settings.LapEnable, SeamLapOnly);
-    EXPECT_FALSE(window->settings.JoinAngleDisable);
-    EXPECT_TRUE(window->settings.TemplateTypeEnabled);
-    EXPECT_TRUE(window->settings.KerfEnabled);
-    EXPECT_FALSE(window->settings.HalfPatternDisable);
-    EXPECT_TRUE(window->controls.options.optPatternSelect.captions.empty());
-    ASSERT_EQ(window->controls.txtParameter.size(), 10U);
-    for (const TextBox& box : window->controls.txtParameter) {
-        EXPECT_EQ(box.text, "0");
-    }
+    ExpectStart(ElbowCategory, {.helpContextId = 2320,
+                                .boxes = 10,
+                                .pieces = true,
+                                .seamAngle = true,
+                                .halfPattern = true,
+                                .templateType = true,
+                                .kerf = true});
 }
 
 class ElbowRefusals : public testing::TestWithParam<Refusal> {};

@@ -5,6 +5,7 @@
 #include "fittings/bends/murok_mitre.h"
 #include "tests/support/refusals.h"
 #include "tests/support/text_blocks.h"
+#include "tests/support/window_start.h"
 
 namespace korvet {
 namespace {
@@ -12,22 +13,13 @@ namespace {
 constexpr const char* MurokMitre = "Murok Mitre";
 
 TEST(MurokMitreWindow, StartsAsAMurokMitreDoes) {
-    TestShell shell;
-    const auto window = shell.Open(MurokMitre);
-    EXPECT_EQ(window->Row().helpContextId, 0);
-    EXPECT_EQ(window->dtype, 0);
-    EXPECT_EQ(window->miscellaneous, 0);
-    EXPECT_TRUE(window->Table().multiple);
-    EXPECT_EQ(window->settings.LapEnable, NoLaps);
-    EXPECT_FALSE(window->settings.JoinAngleDisable);
-    EXPECT_FALSE(window->settings.TemplateTypeEnabled);
-    EXPECT_TRUE(window->settings.KerfEnabled);
-    EXPECT_FALSE(window->settings.HalfPatternDisable);
-    EXPECT_TRUE(window->controls.options.optPatternSelect.captions.empty());
-    ASSERT_EQ(window->controls.txtParameter.size(), 5U);
-    for (const TextBox& box : window->controls.txtParameter) {
-        EXPECT_EQ(box.text, "0");
-    }
+    ExpectStart(MurokMitre, {.helpContextId = 0,
+                             .boxes = 5,
+                             .laps = NoLaps,
+                             .pieces = true,
+                             .seamAngle = true,
+                             .halfPattern = true,
+                             .kerf = true});
 }
 
 class MurokMitreRefusals : public testing::TestWithParam<Refusal> {};

@@ -7,6 +7,7 @@
 #include "fittings/bends/seg_bend_parallel.h"
 #include "tests/support/refusals.h"
 #include "tests/support/text_blocks.h"
+#include "tests/support/window_start.h"
 #include "window/views.h"
 
 namespace korvet {
@@ -15,24 +16,14 @@ namespace {
 constexpr const char* Category = "Segmented Bend";
 
 TEST(SegBendWindow, StartsAsABendDoes) {
-    TestShell shell;
-    const auto window = shell.Open(Category);
-    EXPECT_EQ(window->Row().helpContextId, 2160);
-    EXPECT_EQ(window->dtype, 0);
-    EXPECT_EQ(window->miscellaneous, 0);
-    EXPECT_TRUE(window->Table().multiple);
-    EXPECT_EQ(window->settings.LapEnable, SeamLapOnly);
-    EXPECT_FALSE(window->settings.JoinAngleDisable);
-    EXPECT_TRUE(window->settings.TemplateTypeEnabled);
-    EXPECT_TRUE(window->settings.KerfEnabled);
-    EXPECT_FALSE(window->settings.HalfPatternDisable);
-    const OptionGroup& patterns = window->controls.options.optPatternSelect;
-    EXPECT_EQ(patterns.captions, (std::vector<std::string>{"Full Pattern", "First, Last, one intermediate"}));
-    EXPECT_FALSE(patterns.selected);
-    ASSERT_EQ(window->controls.txtParameter.size(), 11U);
-    for (const TextBox& box : window->controls.txtParameter) {
-        EXPECT_EQ(box.text, "0");
-    }
+    ExpectStart(Category, {.helpContextId = 2160,
+                           .boxes = 11,
+                           .pieces = true,
+                           .seamAngle = true,
+                           .halfPattern = true,
+                           .templateType = true,
+                           .kerf = true,
+                           .patterns = {"Full Pattern", "First, Last, one intermediate"}});
 }
 
 class SegBendRefusals : public testing::TestWithParam<Refusal> {};

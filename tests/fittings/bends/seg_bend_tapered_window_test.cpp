@@ -9,6 +9,7 @@
 #include "fittings/bends/seg_bend_tapered.h"
 #include "tests/support/refusals.h"
 #include "tests/support/text_blocks.h"
+#include "tests/support/window_start.h"
 
 namespace korvet::tapered_bend_window_test {
 namespace {
@@ -16,19 +17,8 @@ namespace {
 constexpr const char* Category = "Tapered Bend";
 
 TEST(TaperedBendWindow, StartsAsATaperedBendDoes) {
-    TestShell shell;
-    const auto window = shell.Open(Category);
-    EXPECT_EQ(window->Row().helpContextId, 2340);
-    EXPECT_EQ(window->dtype, 0);
-    EXPECT_EQ(window->miscellaneous, 0);
-    EXPECT_TRUE(window->Table().multiple);
-    EXPECT_EQ(window->settings.LapEnable, SeamLapOnly);
-    EXPECT_TRUE(window->settings.JoinAngleDisable);
-    EXPECT_FALSE(window->settings.TemplateTypeEnabled);
-    EXPECT_TRUE(window->settings.KerfEnabled);
-    EXPECT_FALSE(window->settings.HalfPatternDisable);
-    EXPECT_TRUE(window->controls.options.optPatternSelect.captions.empty());
-    EXPECT_EQ(window->controls.txtParameter.size(), 9U);
+    ExpectStart(Category,
+                {.helpContextId = 2340, .boxes = 9, .pieces = true, .halfPattern = true, .kerf = true});
 }
 
 class TaperedBendRefusals : public testing::TestWithParam<Refusal> {};

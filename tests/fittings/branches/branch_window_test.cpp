@@ -5,6 +5,7 @@
 #include "core/math_module.h"
 #include "fittings/branches/branch.h"
 #include "tests/support/refusals.h"
+#include "tests/support/window_start.h"
 
 namespace korvet {
 namespace {
@@ -23,27 +24,20 @@ void SetMaterial(CFittingWindow& window, const Material& material) {
 }
 
 TEST(BranchWindow, StartsAsABranchDoes) {
+    ExpectStart("Branch", {.helpContextId = 2170,
+                           .boxes = 13,
+                           .laps = AllLaps,
+                           .pieces = true,
+                           .halfPattern = true,
+                           .templateType = true,
+                           .patterns = {"Trunk", "Branch"},
+                           .miscellaneous = 1});
     TestShell shell;
     const auto window = shell.Open("Branch");
-    EXPECT_EQ(window->Row().helpContextId, 2170);
-    EXPECT_EQ(window->dtype, 0);
-    EXPECT_EQ(window->miscellaneous, 1);
-    EXPECT_TRUE(window->Table().multiple);
-    EXPECT_EQ(window->settings.LapEnable, AllLaps);
-    EXPECT_TRUE(window->settings.JoinAngleDisable);
-    EXPECT_TRUE(window->settings.TemplateTypeEnabled);
     EXPECT_TRUE(window->settings.MaterialDisable);
     EXPECT_TRUE(window->settings.BranchMaterialEnable);
-    EXPECT_FALSE(window->settings.HalfPatternDisable);
     EXPECT_EQ(window->branch.join, MeanToMeanJoin);
     EXPECT_FALSE(window->branch.heelCompensation);
-    const OptionGroup& patterns = window->controls.options.optPatternSelect;
-    EXPECT_EQ(patterns.captions, (std::vector<std::string>{"Trunk", "Branch"}));
-    EXPECT_FALSE(patterns.selected);
-    ASSERT_EQ(window->controls.txtParameter.size(), 13U);
-    for (const TextBox& box : window->controls.txtParameter) {
-        EXPECT_EQ(box.text, "0");
-    }
 }
 
 class BranchRefusals : public testing::TestWithParam<Refusal> {};

@@ -5,6 +5,7 @@
 #include "fittings/branches/pipe_to_bend.h"
 #include "tests/support/refusals.h"
 #include "tests/support/text_blocks.h"
+#include "tests/support/window_start.h"
 
 namespace korvet {
 namespace {
@@ -12,22 +13,12 @@ namespace {
 constexpr const char* PipeToBend = "Pipe to Bend";
 
 TEST(PipeToBendWindow, StartsAsAPipeOnABendDoes) {
-    TestShell shell;
-    const auto window = shell.Open(PipeToBend);
-    EXPECT_EQ(window->Row().helpContextId, 2470);
-    EXPECT_EQ(window->dtype, 0);
-    EXPECT_EQ(window->miscellaneous, 0);
-    EXPECT_TRUE(window->Table().multiple);
-    EXPECT_EQ(window->settings.LapEnable, AllLaps);
-    EXPECT_TRUE(window->settings.JoinAngleDisable);
-    EXPECT_TRUE(window->settings.TemplateTypeEnabled);
-    EXPECT_FALSE(window->settings.KerfEnabled);
-    EXPECT_FALSE(window->settings.HalfPatternDisable);
-    EXPECT_TRUE(window->controls.options.optPatternSelect.captions.empty());
-    ASSERT_EQ(window->controls.txtParameter.size(), 5U);
-    for (const TextBox& box : window->controls.txtParameter) {
-        EXPECT_EQ(box.text, "0");
-    }
+    ExpectStart(PipeToBend, {.helpContextId = 2470,
+                             .boxes = 5,
+                             .laps = AllLaps,
+                             .pieces = true,
+                             .halfPattern = true,
+                             .templateType = true});
 }
 
 class PipeToBendRefusals : public testing::TestWithParam<Refusal> {};

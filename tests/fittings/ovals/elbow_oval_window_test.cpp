@@ -9,6 +9,7 @@
 #include "fittings/ovals/elbow_oval.h"
 #include "tests/support/refusals.h"
 #include "tests/support/text_blocks.h"
+#include "tests/support/window_start.h"
 
 namespace korvet {
 namespace {
@@ -16,17 +17,7 @@ namespace {
 constexpr const char* OvalElbowCategory = "Oval Elbow";
 
 TEST(OvalElbowWindow, Starts) {
-    TestShell shell;
-    const auto window = shell.Open(OvalElbowCategory);
-    EXPECT_EQ(window->Row().helpContextId, 2430);
-    EXPECT_TRUE(window->Table().multiple);
-    EXPECT_EQ(window->settings.LapEnable, SeamLapOnly);
-    EXPECT_TRUE(window->settings.JoinAngleDisable);
-    EXPECT_TRUE(window->settings.HalfPatternDisable);
-    EXPECT_TRUE(window->settings.KerfEnabled);
-    EXPECT_FALSE(window->settings.TemplateTypeEnabled);
-    EXPECT_TRUE(window->controls.options.optPatternSelect.captions.empty());
-    EXPECT_EQ(window->controls.txtParameter.size(), 13U);
+    ExpectStart(OvalElbowCategory, {.helpContextId = 2430, .boxes = 13, .pieces = true, .kerf = true});
 }
 
 class OvalElbowRefusals : public testing::TestWithParam<Refusal> {};

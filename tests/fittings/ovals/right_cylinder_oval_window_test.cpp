@@ -9,6 +9,7 @@
 #include "fittings/ovals/right_cylinder_oval.h"
 #include "tests/support/refusals.h"
 #include "tests/support/text_blocks.h"
+#include "tests/support/window_start.h"
 
 namespace korvet {
 namespace {
@@ -16,18 +17,7 @@ namespace {
 constexpr const char* OvalPipeCategory = "Oval Right Cylinder";
 
 TEST(OvalPipeWindow, Starts) {
-    TestShell shell;
-    const auto window = shell.Open(OvalPipeCategory);
-    EXPECT_EQ(window->Row().helpContextId, 2420);
-    EXPECT_EQ(window->dtype, 0);
-    EXPECT_FALSE(window->Table().multiple);
-    EXPECT_EQ(window->settings.LapEnable, AllLaps);
-    EXPECT_TRUE(window->settings.JoinAngleDisable);
-    EXPECT_TRUE(window->settings.HalfPatternDisable);
-    EXPECT_FALSE(window->settings.KerfEnabled);
-    EXPECT_FALSE(window->settings.TemplateTypeEnabled);
-    EXPECT_EQ(window->controls.Picture1.size(), 4U);
-    EXPECT_EQ(window->controls.txtParameter.size(), 16U);
+    ExpectStart(OvalPipeCategory, {.helpContextId = 2420, .boxes = 16, .laps = AllLaps});
 }
 
 class OvalPipeRefusals : public testing::TestWithParam<Refusal> {};

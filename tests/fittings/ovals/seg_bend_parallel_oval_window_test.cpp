@@ -7,6 +7,7 @@
 #include "fittings/ovals/seg_bend_parallel_oval.h"
 #include "tests/support/refusals.h"
 #include "tests/support/text_blocks.h"
+#include "tests/support/window_start.h"
 #include "window/views.h"
 
 namespace korvet {
@@ -15,19 +16,11 @@ namespace {
 constexpr const char* OvalBendCategory = "Oval Segmented Bend";
 
 TEST(OvalBendWindow, Starts) {
-    TestShell shell;
-    const auto window = shell.Open(OvalBendCategory);
-    EXPECT_EQ(window->Row().helpContextId, 2410);
-    EXPECT_EQ(window->miscellaneous, 0);
-    EXPECT_TRUE(window->Table().multiple);
-    EXPECT_EQ(window->settings.LapEnable, SeamLapOnly);
-    EXPECT_TRUE(window->settings.JoinAngleDisable);
-    EXPECT_TRUE(window->settings.HalfPatternDisable);
-    EXPECT_TRUE(window->settings.KerfEnabled);
-    EXPECT_FALSE(window->settings.TemplateTypeEnabled);
-    const OptionGroup& patterns = window->controls.options.optPatternSelect;
-    EXPECT_EQ(patterns.captions, (std::vector<std::string>{"Full Pattern", "First, Last, one intermediate"}));
-    EXPECT_EQ(window->controls.txtParameter.size(), 13U);
+    ExpectStart(OvalBendCategory, {.helpContextId = 2410,
+                                   .boxes = 13,
+                                   .pieces = true,
+                                   .kerf = true,
+                                   .patterns = {"Full Pattern", "First, Last, one intermediate"}});
 }
 
 class OvalBendRefusals : public testing::TestWithParam<Refusal> {};

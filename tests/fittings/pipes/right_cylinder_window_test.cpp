@@ -8,6 +8,7 @@
 #include "fittings/pipes/right_cylinder.h"
 #include "tests/support/refusals.h"
 #include "tests/support/text_blocks.h"
+#include "tests/support/window_start.h"
 
 namespace korvet {
 namespace {
@@ -15,20 +16,12 @@ namespace {
 constexpr const char* Category = "Right Cylinder";
 
 TEST(RightCylinderWindow, StartsAsACylinderDoes) {
-    TestShell shell;
-    const auto window = shell.Open(Category);
-    EXPECT_EQ(window->Row().helpContextId, 2150);
-    EXPECT_EQ(window->dtype, 0);
-    EXPECT_FALSE(window->Table().multiple);
-    EXPECT_EQ(window->settings.LapEnable, AllLaps);
-    EXPECT_FALSE(window->settings.JoinAngleDisable);
-    EXPECT_TRUE(window->settings.TemplateTypeEnabled);
-    EXPECT_FALSE(window->settings.KerfEnabled);
-    EXPECT_FALSE(window->settings.HalfPatternDisable);
-    ASSERT_EQ(window->controls.txtParameter.size(), 22U);
-    for (const TextBox& box : window->controls.txtParameter) {
-        EXPECT_EQ(box.text, "0");
-    }
+    ExpectStart(Category, {.helpContextId = 2150,
+                           .boxes = 22,
+                           .laps = AllLaps,
+                           .seamAngle = true,
+                           .halfPattern = true,
+                           .templateType = true});
 }
 
 class RightCylinderRefusals : public testing::TestWithParam<Refusal> {};
