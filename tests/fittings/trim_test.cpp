@@ -54,6 +54,20 @@ TEST(Trim, TheTabOfALapCountsAsAStation) {
     EXPECT_EQ(half.List1->Last().Flag, PlainStation) << "and the tab itself is gone";
 }
 
+TEST(Trim, AHalfIsRefusedOnce) {
+    FittingInputs inputs;
+    FittingResults results;
+    RefuseHalf(inputs, results);
+    EXPECT_TRUE(results.warnings.empty()) << "none was asked for";
+    inputs.HalfPattern = true;
+    RefuseHalf(inputs, results);
+    RefuseHalf(inputs, results);
+    ASSERT_EQ(results.warnings.size(), 1U);
+    EXPECT_EQ(results.warnings[0].messageId, HalfPatternNotApplicable);
+    EXPECT_TRUE(results.warnings[0].userError);
+    EXPECT_FALSE(inputs.HalfPattern);
+}
+
 TEST(Trim, TheSecondHalfStartsInTheMiddle) {
     const C3DPoints points = PointsOf({{1, 0, 0, 1}, {2, 0, 0, 0}, {3, 0, 0, 5}, {4, 0, 0, 0}, {5, 0, 0, 1}});
     EXPECT_TRUE(SamePoints(*SecondHalf(points), PointsOf({{3, 0, 0, 5}, {4, 0, 0, 0}, {5, 0, 0, 1}})));

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "core/checked.h"
+#include "fittings/makeable.h"
 #include "form/fitting_form.h"
 
 namespace korvet::bend {
@@ -25,10 +26,6 @@ struct Sizes {
 inline Outcome CheckPieces(FittingForm& form, int piecesBox) {
     return RefusedIf(form.CheckInteger(piecesBox) || form.CheckAtLeast(piecesBox, 2));
 }
-
-/// The stations that all pieces of a bend may have together. Each of the two numbers has a limit of its own,
-/// but pieces by the thousand with fold lines by the thousand would take more memory than a machine has.
-inline constexpr double MostStations = 2'000'000;
 
 /// What limits the number of a bend's pieces.
 struct PieceLimits {

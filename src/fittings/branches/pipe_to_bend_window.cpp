@@ -3,9 +3,9 @@
 
 #include "core/checked.h"
 #include "core/math_module.h"
-#include "fittings/bends/bend_form.h"
 #include "fittings/bends/bend_sketch.h"
 #include "fittings/branches/pipe_to_bend.h"
+#include "fittings/makeable.h"
 #include "fittings/mean_sizes.h"
 #include "fittings/windows.h"
 
@@ -23,7 +23,7 @@ enum Box : int {
 /// Throws ArithmeticError when the bend that is shown and the pipe would have more stations than a bend may.
 void RequireCountable(int segs) {
     const double pipe = segs + 1.0;
-    if (ShownBendPieces * (2.0 * segs + 1) + pipe > bend::MostStations) {
+    if (ShownBendPieces * (2.0 * segs + 1) + pipe > MostStations) {
         throw ArithmeticError("a bend with " + std::to_string(segs) +
                               " fold lines on each piece is too much: make them fewer");
     }
