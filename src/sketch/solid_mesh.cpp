@@ -17,8 +17,11 @@ constexpr double FlatWithin = 1e-6;
 /// The share of a face that its picture keeps when it counts as standing on edge.
 constexpr double EdgeOnShare = 1e-6;
 
-/// A surface that encloses less than this share of its area times the size is a flat sheet: it has no inside.
-constexpr double SheetShare = 1e-3;
+/// A surface that encloses less than this share of its area times the size is a sheet: it has no inside.
+constexpr double SheetShare = 2e-3;
+
+/// The cosine between the normals of a flat surface, but for rounding.
+constexpr double SameDirection = 1 - 1e-6;
 
 EyePoint Minus(const EyePoint& a, const EyePoint& b) {
     return {a.x - b.x, a.y - b.y, a.depth - b.depth};
@@ -288,7 +291,14 @@ int SideOfNormals(const SolidMesh& mesh, const FaceRange& faces, const EyePoint&
     return volume > 0 ? 1 : -1;
 }
 
-/// A surface encloses its own middle; a flat one is taken for a wall about the middle of the whole model.
+bool IsFlat(const FaceRange& faces) {
+    return std::all_of(faces.begin(), faces.end(), [&](const MeshFace* face) {
+        return std::fabs(Dot(face->normal, faces.front()->normal)) >= SameDirection;
+    });
+}
+
+/// A surface encloses its own middle; a flat one is taken for a wall about the middle of the whole model. A
+/// sheet that winds, such as the flight of a screw, has two sides of which neither is the inner one.
 void FindInnerSides(SolidMesh& mesh) {
     FaceRange all;
     std::map<std::size_t, FaceRange> bySurface;
@@ -300,7 +310,7 @@ void FindInnerSides(SolidMesh& mesh) {
     std::map<std::size_t, int> side;
     for (const auto& [surface, faces] : bySurface) {
         side[surface] = SideOfNormals(mesh, faces, CentreOf(mesh, faces));
-        if (side[surface] == 0) {
+        if (side[surface] == 0 && IsFlat(faces)) {
             side[surface] = SideOfNormals(mesh, faces, middle);
         }
     }

@@ -90,6 +90,29 @@ TEST(DrawSolid, AnOpenBoxShowsThePartOfItsFarCornerAboveTheNearRim) {
     EXPECT_TRUE(SeenAt(picture, {0.2, h})->inside);
 }
 
+/// Two turns of a stair: either side may be seen, and neither is the inside.
+TEST(DrawSolid, AWindingSheetHasNoInside) {
+    std::vector<C3DPoint> axis;
+    std::vector<C3DPoint> rim;
+    CRuleSurfs turns;
+    for (int turn = 0; turn < 2; ++turn) {
+        axis.clear();
+        rim.clear();
+        for (int i = 0; i <= 96; ++i) {
+            const double t = std::numbers::pi * i / 48;
+            const double z = turn * 2 + i / 48.0;
+            axis.push_back({0.5 * std::cos(t), 0.5 * std::sin(t), z});
+            rim.push_back({2 * std::cos(t), 2 * std::sin(t), z});
+        }
+        turns.Add(Strip(axis, rim));
+    }
+    const SolidPicture picture = DrawSolid(turns, {.turn = 0, .tilt = 12});
+    ASSERT_FALSE(picture.faces.empty());
+    for (const SolidFace& face : picture.faces) {
+        EXPECT_FALSE(face.inside);
+    }
+}
+
 TEST(DrawSolid, AStraightFrontIsOneLine) {
     const SolidPicture picture =
         DrawSolid(Model({Strip({{0, 0, 2}, {1, 0, 2}, {4, 0, 2}}, {{0, 0, 0}, {1, 0, 0}, {4, 0, 0}})}),
