@@ -22,7 +22,7 @@ const std::array<CatalogueRow, CatalogueSize> Catalogue = {{
     {"Pyramid", "frmPyramid", "CPyramid", 2260, AllLaps, nullptr},
     {"Reducing Elbow", "frmElbowReducing", "CElbowReducing", 2270, SeamLapOnly, &frmElbowReducing},
     {"Round to Round", "frmRoundToRound", "CRoundToRound", 2280, AllLaps, &frmRoundToRound},
-    {"Auger", "frmAuger", "CAuger", 2290, NoLaps, nullptr},
+    {"Auger", "frmAuger", "CAuger", 2290, NoLaps, &frmAuger},
     {"Rectangle to Ellipse", "frmRectEllipse", "CTransition", 2300, SeamLapOnly, &frmRectEllipse},
     {"Prism", "frmPrism", "CPrism", 2310, AllLaps, nullptr},
     {"Elbow", "frmElbow", "CElbow", 2320, SeamLapOnly, &frmElbow},
