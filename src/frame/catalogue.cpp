@@ -43,7 +43,7 @@ const std::array<CatalogueRow, CatalogueSize> Catalogue = {{
     {"Reducing Breech - Two Piece - Parallel Top", "frmBreechTwoPieceParallelTop", "CBreechReducing2Prt",
      2450, SeamLapOnly, nullptr},
     {"Imported Mesh", "frmImportMesh", "CImportMesh", 2460, NoLaps, nullptr},
-    {"Elliptical Hole", "frmEllipticalHole", "CBaffle", 2480, AllLaps, nullptr},
+    {"Elliptical Hole", "frmEllipticalHole", "CBaffle", 2480, AllLaps, &frmEllipticalHole},
     {"Pipe to Bend", "frmPipeToBend", "CPipeToBend", 2470, AllLaps, &frmPipeToBend},
     {"Mitre Elbow", "frmMitreElbow", "CMitreElbow", 0, AllLaps, nullptr, true},
     {"Rectangular Tee", "frmRectTee", "CRectTee", 0, AllLaps, nullptr, true},
