@@ -6,8 +6,9 @@
 
 namespace korvet {
 
+/// A run of "-0", which can be typed, is one of 0 too: the sum of both is.
 double TiltLimit(double height, double run) {
-    return RadToDeg(std::atan(height / run));
+    return RadToDeg(std::atan(height / (run + 0.0)));
 }
 
 Outcome CheckTiltWithin(FittingForm& form, int angleBox, double low, double high) {

@@ -17,6 +17,7 @@ TEST(TiltLimit, IsTheSlopeFromTheLowerEnd) {
     EXPECT_NEAR(TiltLimit(5 * std::sqrt(3.0), 5), 60, Near);
     EXPECT_NEAR(TiltLimit(0, 5), 0, Near);
     EXPECT_NEAR(TiltLimit(5, 0), 90, Near);
+    EXPECT_NEAR(TiltLimit(5, -0.0), 90, Near) << "as it may be typed";
     EXPECT_NEAR(TiltLimit(5, -5), -45, Near);
 }
 

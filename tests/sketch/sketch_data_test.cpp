@@ -49,7 +49,12 @@ double Sample(const BoxEntry& box) {
     return value;
 }
 
-double AngleInDegrees(const C3DPoint& vertex, const C3DPoint& a, const C3DPoint& b) {
+/// In degrees, or in radians where the label of the box says so.
+double AngleAsTyped(const BoxEntry& box, double radians) {
+    return box.label.find("(radians)") != std::string_view::npos ? radians : radians * 180 / std::numbers::pi;
+}
+
+double AngleAt(const C3DPoint& vertex, const C3DPoint& a, const C3DPoint& b) {
     const double ax = a.x - vertex.x;
     const double ay = a.y - vertex.y;
     const double az = a.z - vertex.z;
@@ -57,7 +62,7 @@ double AngleInDegrees(const C3DPoint& vertex, const C3DPoint& a, const C3DPoint&
     const double by = b.y - vertex.y;
     const double bz = b.z - vertex.z;
     const double across = std::hypot(ay * bz - az * by, az * bx - ax * bz, ax * by - ay * bx);
-    return std::atan2(across, ax * bx + ay * by + az * bz) * 180 / std::numbers::pi;
+    return std::atan2(across, ax * bx + ay * by + az * bz);
 }
 
 TEST(SketchData, ThereAreTheEightPagesOfTheCones) {
@@ -78,8 +83,9 @@ TEST(SketchData, EveryLineIsAsLongAsItsBoxSays) {
                 EXPECT_NEAR(Distance3D(a, b), sample, 1e-6 * sample) << checked.name;
                 break;
             case DimensionKind::Angle:
-                EXPECT_NEAR(AngleInDegrees(SketchPointInSpace(checked.model, d.vertex), a, b), sample,
-                            1e-6 * sample)
+                EXPECT_NEAR(
+                    AngleAsTyped(*checked.box, AngleAt(SketchPointInSpace(checked.model, d.vertex), a, b)),
+                    sample, 1e-6 * sample)
                     << checked.name;
                 break;
             case DimensionKind::Note:  // a count has no length
