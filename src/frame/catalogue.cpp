@@ -13,7 +13,7 @@ const std::array<CatalogueRow, CatalogueSize> Catalogue = {{
     {"Branch", "frmBranch", "CBranch", 2170, AllLaps, &frmBranch},
     {"Rectangle (Radius) to Round", "frmRectRound2", "CTransition", 2180, SeamLapOnly, &frmRectRound2},
     {"Pipe to Cone", "frmPipeToCone", "CPipeToCone", 2190, AllLaps, nullptr},
-    {"Rectangle to Rectangle", "frmRectToRect", "CRectToRect", 2200, NoLaps, nullptr},
+    {"Rectangle to Rectangle", "frmRectToRect", "CRectToRect", 2200, NoLaps, &frmRectToRect},
     {"Offset Cone", "frmOffsetCone", "COffsetCone", 2220, AllLaps, &frmOffsetCone},
     {"Truncated Right Cone", "frmRightCone2", "CRightCone", 2210, AllLaps, &frmRightCone2},
     {"Breech", "frmBreech", "CBreech", 2230, SeamLapOnly, nullptr},
