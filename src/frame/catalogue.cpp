@@ -19,7 +19,7 @@ const std::array<CatalogueRow, CatalogueSize> Catalogue = {{
     {"Breech", "frmBreech", "CBreech", 2230, SeamLapOnly, nullptr},
     {"Reducing Breech", "frmBreechReducing", "CBreechReducing", 2240, SeamLapOnly, nullptr},
     {"Offset Cylinder", "frmOffsetCylinder", "CRoundToRound", 2250, AllLaps, &frmOffsetCylinder},
-    {"Pyramid", "frmPyramid", "CPyramid", 2260, AllLaps, nullptr},
+    {"Pyramid", "frmPyramid", "CPyramid", 2260, AllLaps, &frmPyramid},
     {"Reducing Elbow", "frmElbowReducing", "CElbowReducing", 2270, SeamLapOnly, &frmElbowReducing},
     {"Round to Round", "frmRoundToRound", "CRoundToRound", 2280, AllLaps, &frmRoundToRound},
     {"Auger", "frmAuger", "CAuger", 2290, NoLaps, &frmAuger},
