@@ -24,7 +24,7 @@ const std::array<CatalogueRow, CatalogueSize> Catalogue = {{
     {"Round to Round", "frmRoundToRound", "CRoundToRound", 2280, AllLaps, &frmRoundToRound},
     {"Auger", "frmAuger", "CAuger", 2290, NoLaps, &frmAuger},
     {"Rectangle to Ellipse", "frmRectEllipse", "CTransition", 2300, SeamLapOnly, &frmRectEllipse},
-    {"Prism", "frmPrism", "CPrism", 2310, AllLaps, nullptr},
+    {"Prism", "frmPrism", "CPrism", 2310, AllLaps, &frmPrism},
     {"Elbow", "frmElbow", "CElbow", 2320, SeamLapOnly, &frmElbow},
     {"Rectangle to Round", "frmRectRound1", "CTransition", 2330, SeamLapOnly, &frmRectRound1},
     {"Tapered Bend", "FrmSegBendTapered", "CSegBendTapered", 2340, SeamLapOnly, &FrmSegBendTapered},
