@@ -6,22 +6,11 @@
 #include "core/constants.h"
 #include "core/number_text.h"
 #include "dialogs/options_file.h"
+#include "dialogs/paper.h"
 #include "form/messages.h"
 
 namespace korvet {
 namespace {
-
-constexpr std::int16_t Millimetres = 6;
-constexpr std::int16_t Inches = 5;
-constexpr std::int16_t Portrait = 1;
-constexpr std::int16_t Landscape = 2;
-
-/// The sketch of the paper in the orientation frame, in twips.
-constexpr Place OrientationFrame = {0, 0, 1700, 1700};
-constexpr int ShortSide = 1000;
-constexpr int LongSide = 1300;
-constexpr int SketchCentreX = 850;
-constexpr int SketchBelowCentre = 50;
 
 /// The tab on which a box stands.
 int TabOf(const std::string& name) {
@@ -38,17 +27,6 @@ int TabOf(const std::string& name) {
 /// other height would not be read again.
 bool IsTextSize(double height) {
     return height > 0 && height <= static_cast<double>(std::numeric_limits<float>::max());
-}
-
-/// Draws the sheet as portrait (1) or landscape (any other), centred below the middle of its frame, with the
-/// drawing in the middle of the sheet.
-void SetOrientationPicture(OptionsDialog& dialog, std::int16_t orientation) {
-    const bool portrait = orientation == Portrait;
-    const int width = portrait ? ShortSide : LongSide;
-    const int height = portrait ? LongSide : ShortSide;
-    const int centreY = dialog.fraOrientation.place.height / 2 + SketchBelowCentre;
-    dialog.pboxOrient.place = {SketchCentreX - width / 2, centreY - height / 2, width, height};
-    dialog.pboxOrientInner.place = {(width - ShortSide) / 2, (height - ShortSide) / 2, ShortSide, ShortSide};
 }
 
 }  // namespace
@@ -80,7 +58,6 @@ void OptionsDialog::Fill() {
     txtUserScale.text = number(options_.PrintScale);
     ClickScale(options_.PrintScale == 0 ? FitPage : options_.PrintScale == 1 ? FullSize : UserScale);
     optUnits.selected = options_.PrintUnits == Millimetres ? 0 : 1;
-    fraOrientation.place = OrientationFrame;
     ClickOrientation(options_.PrintOrientation == Portrait ? 0 : 1);
     txtCalibrate[0].text = number(options_.PrintXCalibration);
     txtCalibrate[1].text = number(options_.PrintYCalibration);
@@ -110,7 +87,10 @@ void OptionsDialog::ClickScale(std::size_t index) {
 
 void OptionsDialog::ClickOrientation(std::size_t index) {
     optOrientation.selected = index;
-    SetOrientationPicture(*this, index == 0 ? Portrait : Landscape);
+    const SheetPicture picture = PictureOfSheet(index == 0 ? Portrait : Landscape);
+    fraOrientation.place = picture.frame;
+    pboxOrient.place = picture.sheet;
+    pboxOrientInner.place = picture.print;
 }
 
 void OptionsDialog::ClickCalibAssist() {

@@ -3,7 +3,9 @@
 #include <cmath>
 
 #include "core/checked.h"
+#include "core/math_module.h"
 #include "display/extent_frame.h"
+#include "display/page_clip.h"
 
 namespace korvet {
 namespace {
@@ -42,8 +44,17 @@ bool Drawing::CanDraw() const {
     return Device != nullptr && HasArea(Device->OuterSize()) && HasArea(Device->ScaleSize());
 }
 
+/// Whether a text that stands on the point is drawn.
+bool Drawing::Shows(const C3DPoint& point) const {
+    return CanDraw() && (!PrinterPage || IsWithinPage(point, *PrinterPage));
+}
+
 void Drawing::DrawPath(const C3DPoints& points, LineType lineType) const {
     if (!CanDraw()) {
+        return;
+    }
+    if (PrinterPage) {
+        DrawClipped(points, lineType);
         return;
     }
     CPolyline line(*Device, Window);
@@ -53,6 +64,43 @@ void Drawing::DrawPath(const C3DPoints& points, LineType lineType) const {
         line.Point(static_cast<float>(point.x), static_cast<float>(point.y));
     }
     line.Draw(Colors);
+}
+
+/// A call for each stretch of the path that runs on the page without a break. Single precision holds best
+/// what lies near the origin, so that a sheet counts from its own corner: a line is as true on the last sheet
+/// as on the first.
+void Drawing::DrawClipped(const C3DPoints& points, LineType lineType) const {
+    WorldWindow fromCorner = Window;
+    fromCorner.ScaleLeft -= PrinterPage->minX;
+    fromCorner.ScaleTop -= PrinterPage->minY;
+    CPolyline line(*Device, fromCorner);
+    line.Type = lineType;
+    line.PrintRequested = PrintRequested;
+    const auto add = [&](const C3DPoint& point) {
+        line.Point(static_cast<float>(point.x - PrinterPage->minX),
+                   static_cast<float>(point.y - PrinterPage->minY));
+    };
+    bool goesOn = false;  // the line so far ends where the next part begins
+    for (std::size_t i = 1; i < points.Count(); ++i) {
+        const C3DPoint& a = points.Item(i);
+        const C3DPoint& b = points.Item(i + 1);
+        const std::optional<LinePart> part = ClipLineToPage(a, b, *PrinterPage);
+        if (part) {
+            if (!goesOn) {
+                add(part->start);
+            }
+            add(part->end);
+            goesOn = IsWithinPage(b, *PrinterPage);
+        } else if (Distance3D(a, b) > ShortestPaperLine) {
+            goesOn = false;
+        }
+        if (!goesOn && line.Count() > 0) {
+            line.Draw(Colors);
+        }
+    }
+    if (line.Count() > 0) {
+        line.Draw(Colors);
+    }
 }
 
 void Drawing::DrawLine(const C3DPoint& a, const C3DPoint& b, LineType lineType) const {
@@ -112,20 +160,29 @@ CText Drawing::NewText(const std::string& text) const {
 
 void Drawing::DrawHorizontalText(const C3DPoint& point, const std::string& text,
                                  Justification justification) const {
-    if (CanDraw()) {
+    if (Shows(point)) {
         NewText(text).HorizontalText(point, justification);
     }
 }
 
 void Drawing::DrawVerticalText(const C3DPoint& point, const std::string& text,
                                Justification justification) const {
-    if (CanDraw()) {
+    if (Shows(point)) {
         NewText(text).VerticalText(point, justification);
     }
 }
 
+void Drawing::DrawTextOfSize(const C3DPoint& point, float points, const std::string& text,
+                             Justification justification) const {
+    if (Shows(point)) {
+        CText drawn = NewText(text);
+        drawn.TextSize = points;
+        drawn.HorizontalText(point, justification);
+    }
+}
+
 void Drawing::DrawLength(const C3DPoint& a, const C3DPoint& b, Justification justification) const {
-    if (CanDraw()) {
+    if (Shows(MidPoint(a, b))) {
         NewText({}).AlignedText(a, b, justification);
     }
 }

@@ -2,11 +2,13 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "core/display_colors.h"
 #include "core/points.h"
 #include "core/rule_surf.h"
+#include "display/bounds.h"
 #include "display/polyline.h"
 #include "display/text.h"
 #include "display/world_window.h"
@@ -38,6 +40,10 @@ struct Drawing {
     char DecimalMark = '.';
     double CrossArm = 0;  ///< of a reference cross, in the user's unit, of either sign
 
+    /// The part of the world that a sheet of paper shows, if it does not show all: of a line only what lies
+    /// in it is drawn (ClipLineToPage), a text is drawn whole when the point that it stands on lies in it.
+    std::optional<Bounds> PrinterPage = {};
+
     /// Whether there is a surface to draw on.
     [[nodiscard]] bool CanDraw() const;
 
@@ -55,6 +61,10 @@ struct Drawing {
                             Justification justification) const;
     void DrawVerticalText(const C3DPoint& point, const std::string& text, Justification justification) const;
 
+    /// A horizontal text of that many points, whatever the scale.
+    void DrawTextOfSize(const C3DPoint& point, float points, const std::string& text,
+                        Justification justification) const;
+
     /// The distance of two points, along the line between them.
     void DrawLength(const C3DPoint& a, const C3DPoint& b, Justification justification) const;
 
@@ -66,6 +76,8 @@ struct Drawing {
     [[nodiscard]] double LineSpacing() const;
 
   private:
+    void DrawClipped(const C3DPoints& points, LineType lineType) const;
+    [[nodiscard]] bool Shows(const C3DPoint& point) const;
     [[nodiscard]] CText NewText(const std::string& text) const;
 };
 

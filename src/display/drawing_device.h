@@ -29,10 +29,14 @@ struct PixelSize {
     double height = 0;
 };
 
-/// The font of drawn text: always Arial, upright, not bold.
+enum class FontFace : std::uint8_t { Arial, CourierNew };
+
+/// The font of a text: upright, and in a drawing always Arial and not bold.
 struct TextFont {
     int lfHeight = 0;      ///< of the characters in pixels; negative: without their leading
     int lfEscapement = 0;  ///< turn counter-clockwise, tenths of a degree
+    FontFace face = FontFace::Arial;
+    bool bold = false;
     bool operator==(const TextFont&) const = default;
 };
 
@@ -46,14 +50,11 @@ class DrawingDevice {
     /// Clears the whole device to its back colour.
     virtual void Cls(Color backColor) = 0;
 
-    /// Begins a page, so that it exists before the first line; nothing on a screen.
-    virtual void StartPage() = 0;
-
     /// Drawable size in pixels, what world windows are laid over.
     [[nodiscard]] virtual PixelSize ScaleSize() const = 0;
 
-    /// What ScaleSize will be of the picture that the next Cls or StartPage begins: a window may have been
-    /// resized meanwhile.
+    /// What ScaleSize will be of the picture that the next Cls begins: a window may have been resized
+    /// meanwhile.
     [[nodiscard]] virtual PixelSize NextSize() const { return ScaleSize(); }
 
     /// Outer size of that next picture, used only for its ratio of height to width.

@@ -27,7 +27,6 @@ class DrawingRecord final : public DrawingDevice {
     void Clear();
 
     void Cls(Color /*backColor*/) override { Clear(); }
-    void StartPage() override {}
     [[nodiscard]] PixelSize ScaleSize() const override { return device_->NextSize(); }
     [[nodiscard]] PixelSize OuterSize() const override { return device_->OuterSize(); }
     [[nodiscard]] double LogicalDpiY() const override { return device_->LogicalDpiY(); }

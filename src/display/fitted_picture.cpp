@@ -10,6 +10,19 @@ constexpr double FilledPart = 0.9;
 /// smallest or the largest size of a device they keep that size, and it takes some more.
 constexpr int MostDrawings = 20;
 
+bool Holds(PixelSize size, const Bounds& pixels) {
+    return pixels.minX >= 0 && pixels.minY >= 0 && pixels.maxX <= size.width && pixels.maxY <= size.height;
+}
+
+Bounds InWorld(const Bounds& pixels, const WorldWindow& window, PixelSize size) {
+    const double right = window.ScaleWidth / size.width;
+    const double down = window.ScaleHeight / size.height;
+    return {window.ScaleLeft + pixels.minX * right, window.ScaleTop + pixels.maxY * down,
+            window.ScaleLeft + pixels.maxX * right, window.ScaleTop + pixels.minY * down};
+}
+
+}  // namespace
+
 WorldWindow WindowAbout(const Bounds& content, PixelSize size) {
     const double width = content.maxX - content.minX;
     const double height = content.maxY - content.minY;
@@ -25,20 +38,8 @@ WorldWindow WindowAbout(const Bounds& content, PixelSize size) {
     return window;
 }
 
-bool Holds(PixelSize size, const Bounds& pixels) {
-    return pixels.minX >= 0 && pixels.minY >= 0 && pixels.maxX <= size.width && pixels.maxY <= size.height;
-}
-
-Bounds InWorld(const Bounds& pixels, const WorldWindow& window, PixelSize size) {
-    const double right = window.ScaleWidth / size.width;
-    const double down = window.ScaleHeight / size.height;
-    return {window.ScaleLeft + pixels.minX * right, window.ScaleTop + pixels.maxY * down,
-            window.ScaleLeft + pixels.maxX * right, window.ScaleTop + pixels.minY * down};
-}
-
-}  // namespace
-
-void DrawFitted(DrawingRecord& record, const std::optional<Bounds>& points, const DrawAtScale& draw) {
+void DrawFitted(DrawingRecord& record, const std::optional<Bounds>& points, const DrawAtScale& draw,
+                const ScaleFor& scaleFor) {
     record.Clear();
     const PixelSize size = record.ScaleSize();
     if (!points || !(size.width > 0 && size.height > 0)) {
@@ -46,7 +47,7 @@ void DrawFitted(DrawingRecord& record, const std::optional<Bounds>& points, cons
     }
     Bounds content = *points;
     for (int i = 0; i < MostDrawings; ++i) {
-        const WorldWindow window = WindowAbout(content, size);
+        const WorldWindow window = scaleFor(content, size);
         record.Clear();
         draw(record, window);
         const std::optional<Bounds> drawn = record.Extent();

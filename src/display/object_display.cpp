@@ -8,7 +8,6 @@
 #include "display/coordinate_table.h"
 #include "display/drawing_record.h"
 #include "display/extent_frame.h"
-#include "display/fitted_picture.h"
 #include "display/projection.h"
 
 namespace korvet {
@@ -33,6 +32,20 @@ double FittingZoom(double worldExtents, double windowRatio, double dx, double dy
     return Quotient(worldExtents, dy * windowRatio) * ZoomMargin;
 }
 
+double RatioOf(const WorldWindow& window) {
+    return std::fabs(Quotient(window.ScaleWidth, window.ScaleHeight));
+}
+
+/// `view` turned to an area with `room` about it, in a window of the given width to height.
+CViewPoint ViewOf(const Bounds& area, double room, CViewPoint view, double worldExtents, double windowRatio) {
+    const double dx = area.maxX - area.minX;
+    const double dy = area.maxY - area.minY;
+    view.PanX = dx / 2 + area.minX;
+    view.PanY = dy / 2 + area.minY;
+    view.ZoomFactor = FittingZoom(worldExtents, windowRatio, dx + 2 * room, dy + 2 * room);
+    return view;
+}
+
 void DrawSurfaces(const Drawing& drawing, const CRuleSurfs& surfaces) {
     for (const CRuleSurf& surface : surfaces) {
         drawing.DrawSurface(surface);
@@ -49,29 +62,37 @@ void CObjectDisplay::DisplayObject() {
     Warnings.clear();
     Pass pass = NewPass();
     BuildWithWarnings(pass);
+    Show(std::move(pass), SecondBuild::Yes);
+}
+
+void CObjectDisplay::ShowAgain() {
+    Pass pass = KeptPass();
+    TakeFrame(pass);
+    Show(std::move(pass), SecondBuild::No);
+}
+
+void CObjectDisplay::Show(Pass pass, SecondBuild secondBuild) {
     std::optional<DrawingRecord> picture;
-    if (Device() != nullptr) {
-        picture.emplace(*Device());
+    if (DisplayDevice != nullptr) {
+        picture.emplace(*DisplayDevice);
     }
     DrawingRecord* const device = picture ? &*picture : nullptr;
     if (NewDrawing(device, {}).CanDraw()) {
-        pass.window = FitScaleWindow(pass.view, pass.worldExtents);
+        pass.window = FitScaleWindow(pass.view, pass.worldExtents, DisplayDevice->OuterSize());
+    }
+    if (Overlay && pass.view.Patternview) {
+        Overlay->lay(pass.extentFrame);
     }
     const Drawing drawing = NewDrawing(device, pass.window);
     DrawBelow(drawing, pass);
-    if (IsDrawnAgain(pass)) {
+    if (IsDrawnAgain(pass) && secondBuild == SecondBuild::Yes) {
         Build(pass);
     }
     DrawAbove(drawing, pass);
     Keep(std::move(pass));
-    if (DisplayDevice != nullptr) {
-        DisplayDevice->Cls(Colors.DisplayBackColor);
-    }
-    if (PrintRequested && PrintDevice != nullptr) {
-        PrintDevice->StartPage();
-    }
     if (picture) {
-        picture->PlayOn(*Device());
+        DisplayDevice->Cls(Colors.DisplayBackColor);
+        picture->PlayOn(*DisplayDevice);
     }
 }
 
@@ -79,9 +100,14 @@ CObjectDisplay::Pass CObjectDisplay::NewPass() const {
     Pass pass;
     pass.view = ViewList->Last();
     pass.worldExtents = ViewList->Count() == 1 ? std::max(FirstWidth, FirstHeight) : WorldExtents;
-    pass.window = DeviceWindow();
+    pass.window = displayWindow_;
     pass.extentFrame = extentFrame_;
     return pass;
+}
+
+/// What the last pass showed.
+CObjectDisplay::Pass CObjectDisplay::KeptPass() const {
+    return {ViewPoint, WorldExtents, displayWindow_, Surfaces, screenSurfaces_, extentFrame_};
 }
 
 /// Makes the surfaces of a pass and, where its annotations are drawn from it, the frame about them.
@@ -95,8 +121,13 @@ void CObjectDisplay::Build(Pass& pass) const {
         }
         pass.screenSurfaces.Add(pattern ? surface : ProjectSurface(surface, pass.view));
     }
-    if (pattern && NeedsFrame()) {
-        pass.extentFrame = korvet::BuildExtentFrame(pass.surfaces, pass.screenSurfaces);
+    TakeFrame(pass);
+}
+
+/// The frame about the pattern, where something is drawn from it.
+void CObjectDisplay::TakeFrame(Pass& pass) const {
+    if (pass.view.Patternview && NeedsFrame()) {
+        pass.extentFrame = BuildExtentFrame(pass.surfaces, pass.screenSurfaces);
     }
 }
 
@@ -124,7 +155,7 @@ void CObjectDisplay::PlacePattern(CRuleSurf& surface) const {
 }
 
 bool CObjectDisplay::NeedsFrame() const {
-    return CoordGridRequested || FrameRequested ||
+    return CoordGridRequested || FrameRequested || Overlay ||
            std::any_of(DimensionList->begin(), DimensionList->end(), NamesFrame);
 }
 
@@ -144,6 +175,9 @@ void CObjectDisplay::DrawAbove(const Drawing& drawing, const Pass& pass) const {
     if (IsDrawnAgain(pass)) {
         DrawSurfaces(drawing, pass.screenSurfaces);
     }
+    if (Overlay && pass.view.Patternview) {
+        Overlay->draw(drawing);
+    }
     if (LabelPoint) {
         DrawLabel(drawing);
     }
@@ -155,23 +189,28 @@ void CObjectDisplay::Keep(Pass pass) {
     Surfaces = std::move(pass.surfaces);
     screenSurfaces_ = std::move(pass.screenSurfaces);
     extentFrame_ = std::move(pass.extentFrame);
-    (Device() == DisplayDevice ? displayWindow_ : printWindow_) = pass.window;
+    displayWindow_ = pass.window;
 }
 
-const WorldWindow& CObjectDisplay::DeviceWindow() const {
-    return Device() == DisplayDevice ? displayWindow_ : printWindow_;
+C3DPoints CObjectDisplay::ShownExtents() const {
+    return BuildExtentFrame(Surfaces, screenSurfaces_);
 }
 
-WorldWindow CObjectDisplay::FitScaleWindow(const CViewPoint& view, double worldExtents) const {
-    return FittedWindow({worldExtents, view.ZoomFactor, view.PanX, view.PanY, TextSize},
-                        Device()->OuterSize());
+WorldWindow CObjectDisplay::FitScaleWindow(const CViewPoint& view, double worldExtents,
+                                           PixelSize outerSize) const {
+    return FittedWindow({worldExtents, view.ZoomFactor, view.PanX, view.PanY, TextSize}, outerSize);
 }
 
 Drawing CObjectDisplay::NewDrawing(DrawingDevice* device, const WorldWindow& window) const {
-    // The cross of a reference point keeps on paper the arm that it has on the screen.
-    const WorldWindow& crossWindow = Device() == DisplayDevice ? window : displayWindow_;
-    return {device,   window,   Colors,      PrintRequested,
-            TextSize, Decimals, DecimalMark, crossWindow.ScaleHeight / 100};
+    Drawing drawing;
+    drawing.Device = device;
+    drawing.Window = window;
+    drawing.Colors = Colors;
+    drawing.TextSize = TextSize;
+    drawing.Decimals = Decimals;
+    drawing.DecimalMark = DecimalMark;
+    drawing.CrossArm = window.ScaleHeight / 100;
+    return drawing;
 }
 
 void CObjectDisplay::DisplayAnnotations(const Drawing& drawing, const Pass& pass) const {
@@ -195,10 +234,18 @@ void CObjectDisplay::DisplayAnnotations(const Drawing& drawing, const Pass& pass
 }
 
 void CObjectDisplay::DrawPicture(DrawingDevice& picture) const {
-    const Pass pass = {ViewPoint, WorldExtents, {}, Surfaces, screenSurfaces_, extentFrame_};
+    DrawingRecord record(picture);
+    DrawWhole(record, false, WindowAbout);
+    picture.Cls(Colors.DisplayBackColor);
+    record.PlayOn(picture);
+}
+
+/// Leaves in the record all that the last pass showed.
+void CObjectDisplay::DrawWhole(DrawingRecord& record, bool onPaper, const ScaleFor& scaleFor) const {
+    const Pass pass = KeptPass();
     const auto draw = [&](DrawingRecord& device, const WorldWindow& window) {
         Drawing drawing = NewDrawing(&device, window);
-        drawing.CrossArm = window.ScaleHeight / 100;
+        drawing.PrintRequested = onPaper;
         DrawBelow(drawing, pass);
         DrawAbove(drawing, pass);
     };
@@ -206,15 +253,32 @@ void CObjectDisplay::DrawPicture(DrawingDevice& picture) const {
     if (LabelPoint) {
         TakeIn(points, LabelPoint->x, LabelPoint->y);
     }
-    DrawingRecord record(picture);
-    DrawFitted(record, points, draw);
-    picture.Cls(Colors.DisplayBackColor);
-    record.PlayOn(picture);
+    DrawFitted(record, points, draw, scaleFor);
+}
+
+void CObjectDisplay::DrawPage(DrawingDevice& sheet, const WorldWindow& window, const Bounds& page) const {
+    const Pass pass = KeptPass();
+    Drawing drawing = NewDrawing(&sheet, window);
+    drawing.PrintRequested = true;
+    drawing.PrinterPage = page;
+    DrawBelow(drawing, pass);
+    DrawAbove(drawing, pass);
+}
+
+void CObjectDisplay::DrawToFit(DrawingDevice& sheet) const {
+    const auto zoomed = [this](const Bounds& content, PixelSize size) {
+        const double ratio = RatioOf(FitScaleWindow(ViewPoint, WorldExtents, size));
+        const CViewPoint view = ViewOf(content, std::fabs(TextSize), ViewPoint, WorldExtents, ratio);
+        return FitScaleWindow(view, WorldExtents, size);
+    };
+    DrawingRecord record(sheet);
+    DrawWhole(record, true, zoomed);
+    record.PlayOn(sheet);
 }
 
 void CObjectDisplay::AddLabel() const {
     if (LabelPoint) {
-        DrawLabel(NewDrawing(Device(), DeviceWindow()));
+        DrawLabel(NewDrawing(DisplayDevice, displayWindow_));
     }
 }
 
@@ -241,16 +305,12 @@ std::optional<CNearestPoint> CObjectDisplay::FindClosestPoint(const C3DPoint& cl
 }
 
 void CObjectDisplay::PrintCoordinateTable(FileStore& files, const std::string& path) {
-    BuildExtentFrame();
+    extentFrame_ = ShownExtents();
     files.Write(path, CoordinateTable({screenSurfaces_, extentFrame_}, Decimals), Flush::No);
 }
 
-void CObjectDisplay::BuildExtentFrame() {
-    extentFrame_ = korvet::BuildExtentFrame(Surfaces, screenSurfaces_);
-}
-
 void CObjectDisplay::ZoomExtents() {
-    BuildExtentFrame();
+    extentFrame_ = ShownExtents();
     if (extentFrame_.Count() > 0) {
         ZoomToCorners(extentFrame_.Item(1), extentFrame_.Item(3), std::fabs(TextSize));
     }
@@ -263,18 +323,13 @@ void CObjectDisplay::ZoomWindow(double x1, double y1, double x2, double y2) {
 
 /// Fits the area with `room` about it.
 void CObjectDisplay::ZoomToCorners(const C3DPoint& a, const C3DPoint& b, double room) {
-    CViewPoint view = CurrentOrDefaultView(*ViewList);
-    const double dx = b.x - a.x;
-    const double dy = b.y - a.y;
-    if (dx == 0 || dy == 0 || !NewDrawing(Device(), {}).CanDraw()) {
+    const Bounds area = {a.x, a.y, b.x, b.y};
+    if (area.maxX == area.minX || area.maxY == area.minY || !NewDrawing(DisplayDevice, {}).CanDraw()) {
         return;
     }
-    const WorldWindow window = FitScaleWindow(view, WorldExtents);
-    const double windowRatio = std::fabs(Quotient(window.ScaleWidth, window.ScaleHeight));
-    view.PanX = dx / 2 + a.x;
-    view.PanY = dy / 2 + a.y;
-    view.ZoomFactor = FittingZoom(WorldExtents, windowRatio, dx + 2 * room, dy + 2 * room);
-    ViewList->Add(view);
+    const CViewPoint view = CurrentOrDefaultView(*ViewList);
+    const double ratio = RatioOf(FitScaleWindow(view, WorldExtents, DisplayDevice->OuterSize()));
+    ViewList->Add(ViewOf(area, room, view, WorldExtents, ratio));
 }
 
 }  // namespace korvet

@@ -1,6 +1,7 @@
 // Turns the current fitting into a picture, on the screen or on paper.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -12,11 +13,20 @@
 #include "core/points.h"
 #include "core/rule_surf.h"
 #include "display/drawing.h"
-#include "display/drawing_device.h"
+#include "display/fitted_picture.h"
 #include "display/picking.h"
 #include "display/view_point.h"
 
 namespace korvet {
+
+/// What is drawn over a pattern and its annotations, below the label block.
+struct PatternOverlay {
+    /// Takes the frame about the pattern that is about to be shown on the screen (BuildExtentFrame).
+    std::function<void(const C3DPoints& extentFrame)> lay = {};
+
+    /// Draws what was laid last.
+    std::function<void(const Drawing& drawing)> draw = {};
+};
 
 /// The display of one fitting window. The window sets the members and calls DisplayObject after every change.
 /// Lengths are in the user's unit, angles radians. Without a device, or with one of no size, the surfaces are
@@ -28,7 +38,6 @@ class CObjectDisplay {
     int Decimals = 1;                        ///< places of every number drawn
     char DecimalMark = '.';                  ///< of every number drawn
     DrawingDevice* DisplayDevice = nullptr;  ///< the window's drawing area, not owned
-    DrawingDevice* PrintDevice = nullptr;    ///< the printer, not owned
     DisplayColors Colors;
     std::shared_ptr<CViewList> ViewList = std::make_shared<CViewList>();  ///< the last view is current
     double RotationAngle = 0;                                             ///< of the pattern
@@ -44,8 +53,8 @@ class CObjectDisplay {
     bool CoordGridRequested = false;
     bool FrameRequested = false;
     bool TrueLengthsRequested = false;
-    bool Multiple = false;        ///< the fitting has a list of surfaces, not one surface
-    bool PrintRequested = false;  ///< this pass draws on the printer
+    bool Multiple = false;                  ///< the fitting has a list of surfaces, not one surface
+    std::optional<PatternOverlay> Overlay;  ///< print frames, while they are shown
 
     // What a pass leaves behind.
     CRuleSurfs Surfaces;                   ///< true surfaces; empty when the build made none
@@ -53,18 +62,26 @@ class CObjectDisplay {
     double WorldExtents = 200;             ///< world size that fills the shorter side of the device at zoom 1
     std::vector<FittingWarning> Warnings;  ///< of the build of the last DisplayObject, in their order
 
-    /// Where a pass draws: PrintDevice while PrintRequested, else DisplayDevice.
-    [[nodiscard]] DrawingDevice* Device() const { return PrintRequested ? PrintDevice : DisplayDevice; }
-
     /// A whole pass: makes the pattern with its annotations or the model, whichever the current view shows,
     /// and the label block, then clears the screen and shows them. A grid or frame has the pattern made and
     /// drawn once more, so that its own lines lie on top. A pass that throws leaves the picture, and what the
     /// pass before left behind, as they were, but for the warnings.
     void DisplayObject();
 
+    /// Clears the screen and shows what the last DisplayObject showed once more, with the overlay that there
+    /// is now. Nothing is built.
+    void ShowAgain();
+
     /// Draws what the last DisplayObject showed onto a picture of its own: all of it, with laps, annotations
     /// and label block, as large as the picture has room for it. Nothing is built.
     void DrawPicture(DrawingDevice& picture) const;
+
+    /// Draws of what the last DisplayObject showed, with the overlay that there is now, the part that lies on
+    /// `page` on a sheet of paper under the scale of `window`. Nothing is built.
+    void DrawPage(DrawingDevice& sheet, const WorldWindow& window, const Bounds& page) const;
+
+    /// Draws all of it on one sheet, at the zoom of ZoomExtents on the sheet with the annotations counted.
+    void DrawToFit(DrawingDevice& sheet) const;
 
     /// Draws the label block at LabelPoint, which must be set, line below line.
     void AddLabel() const;
@@ -94,6 +111,9 @@ class CObjectDisplay {
     /// The world scale that DisplayDevice had in its last pass; of width 0 before.
     [[nodiscard]] const WorldWindow& DisplayWindow() const { return displayWindow_; }
 
+    /// The frame about the pattern that was shown last (BuildExtentFrame).
+    [[nodiscard]] C3DPoints ShownExtents() const;
+
   private:
     /// What one pass shows, and where.
     struct Pass {
@@ -106,27 +126,30 @@ class CObjectDisplay {
     };
 
     [[nodiscard]] Pass NewPass() const;
+    [[nodiscard]] Pass KeptPass() const;
     void Build(Pass& pass) const;
     void BuildWithWarnings(Pass& pass);
+    void TakeFrame(Pass& pass) const;
     void PlacePattern(CRuleSurf& surface) const;
     [[nodiscard]] bool NeedsFrame() const;
     [[nodiscard]] bool IsDrawnAgain(const Pass& pass) const;
+    enum class SecondBuild : bool { No, Yes };
+    void Show(Pass pass, SecondBuild secondBuild);
     void DrawBelow(const Drawing& drawing, const Pass& pass) const;
     void DrawAbove(const Drawing& drawing, const Pass& pass) const;
+    void DrawWhole(DrawingRecord& record, bool onPaper, const ScaleFor& scaleFor) const;
     void DisplayAnnotations(const Drawing& drawing, const Pass& pass) const;
     void DrawLabel(const Drawing& drawing) const;
     void Keep(Pass pass);
-    void BuildExtentFrame();
     void ZoomToCorners(const C3DPoint& a, const C3DPoint& b, double room);
-    [[nodiscard]] WorldWindow FitScaleWindow(const CViewPoint& view, double worldExtents) const;
+    [[nodiscard]] WorldWindow FitScaleWindow(const CViewPoint& view, double worldExtents,
+                                             PixelSize outerSize) const;
     [[nodiscard]] const FittingHandle& Fitting() const;
-    [[nodiscard]] const WorldWindow& DeviceWindow() const;
     [[nodiscard]] Drawing NewDrawing(DrawingDevice* device, const WorldWindow& window) const;
 
     CRuleSurfs screenSurfaces_;
     C3DPoints extentFrame_;      ///< of the latest pass that needed it
     WorldWindow displayWindow_;  ///< of DisplayDevice
-    WorldWindow printWindow_;    ///< of PrintDevice
 };
 
 }  // namespace korvet

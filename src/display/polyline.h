@@ -1,6 +1,7 @@
 // Lines on a device: one call for a whole list, in the pen of its meaning.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -36,6 +37,9 @@ class CPolyline {
 
     /// Appends a point. Throws ArithmeticError when its pixel does not fit into 32 bits.
     void Point(float x, float y);
+
+    /// How many points the line has so far.
+    [[nodiscard]] std::size_t Count() const { return pixels_.size(); }
 
     /// One call of the device, made for an empty line too; afterwards the line is empty.
     void Draw(const DisplayColors& colors);

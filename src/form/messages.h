@@ -57,8 +57,10 @@ enum MessageId : int {
     ErrorLoading = 109,
     NotAValidFile = 110,
     DxfProblem = 111,
+    NoPrinterSettings = 113,
     NothingToPrint = 114,
     IniFileUpdated = 116,
+    PrinterProblem = 117,
     NoPrinterAvailable = 118,
     NoCadDrawing = 140
 };

@@ -39,9 +39,10 @@ bool IsCrisp(const QPolygonF& line, double penWidth) {
     return penWidth == 1 && line.size() == 2 && (line[0].x() == line[1].x() || line[0].y() == line[1].y());
 }
 
-QFont MakeFont(int pixels) {
-    QFont font(QStringLiteral("Arial"));
+QFont MakeFont(int pixels, FontFace face, bool bold) {
+    QFont font(face == FontFace::Arial ? QStringLiteral("Arial") : QStringLiteral("Courier New"));
     font.setPixelSize(pixels);
+    font.setBold(bold);
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }
@@ -56,19 +57,21 @@ void PrepareDrawing(QPainter& painter) {
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
 }
 
-PainterDevice::MeasuredFont::MeasuredFont(int size) : pixels(size), font(MakeFont(size)), metrics(font) {}
+PainterDevice::MeasuredFont::MeasuredFont(int size, FontFace itsFace, bool isBold)
+    : pixels(size), face(itsFace), bold(isBold), font(MakeFont(size, itsFace, isBold)), metrics(font) {}
 
-PainterDevice::MeasuredFont& PainterDevice::FontOf(int pixels) const {
+PainterDevice::MeasuredFont& PainterDevice::FontOf(int pixels, FontFace face, bool bold) const {
     const int size = std::clamp(pixels, 1, LargestFont);
-    const auto found = std::find_if(fonts_.begin(), fonts_.end(),
-                                    [size](const MeasuredFont& font) { return font.pixels == size; });
+    const auto found = std::find_if(fonts_.begin(), fonts_.end(), [&](const MeasuredFont& font) {
+        return font.pixels == size && font.face == face && font.bold == bold;
+    });
     if (found != fonts_.end()) {
         return *found;
     }
     if (fonts_.size() == FontsKept) {
         fonts_.erase(fonts_.begin());
     }
-    return fonts_.emplace_back(size);
+    return fonts_.emplace_back(size, face, bold);
 }
 
 double PainterDevice::LogicalDpiY() const {
@@ -110,7 +113,7 @@ void PainterDevice::TextOut(const std::string& text, PixelPoint corner, const Te
         return;
     }
     const MeasuredFont& drawn =
-        FontOf(static_cast<int>(std::min(std::labs(font.lfHeight), long{LargestFont})));
+        FontOf(static_cast<int>(std::min(std::labs(font.lfHeight), long{LargestFont})), font.face, font.bold);
     painter->save();
     painter->setFont(drawn.font);
     painter->setPen(ColorOf(color));

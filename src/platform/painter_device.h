@@ -28,7 +28,6 @@ void PrepareDrawing(QPainter& painter);
 /// that many more dots to the inch, and lines are as much wider.
 class PainterDevice : public DrawingDevice {
   public:
-    void StartPage() override {}
     [[nodiscard]] PixelSize OuterSize() const override { return NextSize(); }
     [[nodiscard]] double LogicalDpiY() const override;
     [[nodiscard]] PixelSize TextExtent(const std::string& text, double points) const override;
@@ -46,15 +45,17 @@ class PainterDevice : public DrawingDevice {
     /// A font with its metrics and the widths of texts measured in it: to measure takes as long as to draw,
     /// every text is measured several times, and most numbers of a pattern come again.
     struct MeasuredFont {
-        explicit MeasuredFont(int pixels);
+        MeasuredFont(int pixels, FontFace face, bool bold);
 
         int pixels;
+        FontFace face;
+        bool bold;
         QFont font;
         QFontMetricsF metrics;
         std::unordered_map<std::string, double> widths;
     };
 
-    [[nodiscard]] MeasuredFont& FontOf(int pixels) const;
+    [[nodiscard]] MeasuredFont& FontOf(int pixels, FontFace face = FontFace::Arial, bool bold = false) const;
 
     mutable std::vector<MeasuredFont> fonts_;  ///< those used last
 };

@@ -19,7 +19,6 @@ class ObjectDisplay : public testing::Test {
         fitting->canned.ModelSurface = Sheet();
         display.NewObject = FittingHandle(fitting);
         display.DisplayDevice = &screen;
-        display.PrintDevice = &paper;
         display.TextSize = 0;
     }
 

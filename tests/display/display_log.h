@@ -33,8 +33,8 @@ inline CRuleSurf Sheet(double x = 0, double y = 0) {
     return sheet;
 }
 
-/// The calls as text, one each: "cut 10,20 30,20", "fold ...", "mark ...", "dotted ...", "text A1", "clear",
-/// "page". Meant for the screen, where the colour says what a line means.
+/// The calls as text, one each: "cut 10,20 30,20", "fold ...", "mark ...", "dotted ...", "text A1", "clear".
+/// Meant for the screen, where the colour says what a line means.
 inline std::vector<std::string> LogOf(const RecordingDevice& device) {
     std::vector<std::string> log;
     for (const RecordingDevice::Call& call : device.calls) {
@@ -42,9 +42,6 @@ inline std::vector<std::string> LogOf(const RecordingDevice& device) {
         switch (call.kind) {
             case RecordingDevice::Kind::Cls:
                 entry = "clear";
-                break;
-            case RecordingDevice::Kind::StartPage:
-                entry = "page";
                 break;
             case RecordingDevice::Kind::TextOut:
                 entry = "text " + call.text;

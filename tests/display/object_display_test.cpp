@@ -153,15 +153,6 @@ TEST_F(ObjectDisplay, APassThatFailsLeavesThePictureAndWhatIsKnownOfIt) {
     EXPECT_NE(display.DisplayWindow(), window);
 }
 
-TEST_F(ObjectDisplay, AFailedPassStartsNoPage) {
-    AddView(true);
-    display.PrintRequested = true;
-    fitting->fails = true;
-    EXPECT_THROW(display.DisplayObject(), ArithmeticError);
-    EXPECT_TRUE(paper.calls.empty());
-    EXPECT_TRUE(screen.calls.empty());
-}
-
 TEST_F(ObjectDisplay, ThePictureHasTheSizeThatTheScreenHasNow) {
     AddView(true);
     screen.nextSize = PixelSize{200, 400};
@@ -232,36 +223,6 @@ TEST_F(ObjectDisplay, AModelIsNotTurned) {
     EXPECT_EQ(display.Surfaces.Item(1).List1->Item(1).x, 0);
 }
 
-TEST_F(ObjectDisplay, PrintingGoesToAPageInBlackWithWidths) {
-    AddView(true);
-    display.PrintRequested = true;
-    display.FrameRequested = true;
-    display.DisplayObject();
-    EXPECT_EQ(LogOf(screen), (Log{"clear"}));
-    EXPECT_EQ(paper.calls[0].kind, Kind::StartPage);
-    EXPECT_EQ(paper.Count(Kind::StartPage), 1U);
-    EXPECT_EQ(paper.Count(Kind::Cls), 0U);
-    EXPECT_EQ(paper.Lines()[0].pen, (Pen{Black, DrawStyle::Solid, 3}));
-    EXPECT_EQ(paper.Texts()[0].color, Black);
-    EXPECT_EQ(display.Device(), &paper);
-}
-
-TEST_F(ObjectDisplay, ScreenAndPaperKeepTheirOwnScales) {
-    AddView(true);
-    fitting->canned.PatternSurface.RefPoint = C3DPoint{};
-    fitting->canned.PatternSurface.RefPointDisplay = true;
-    display.DisplayObject();
-    paper.outerSize = paper.scaleSize = {400, 800};  // 200 by 400 units, two pixels each
-    display.PrintRequested = true;
-    display.DisplayObject();
-    EXPECT_EQ(display.DisplayWindow(), (WorldWindow{-200, 100, 400, -200}));
-    // The cross keeps the arm of the screen, 2 units; the first one goes left since that scale runs upward.
-    const std::vector<RecordingDevice::Call> lines = paper.Lines();
-    ASSERT_EQ(lines.size(), 8U);
-    EXPECT_EQ(lines[4].points, (std::vector<PixelPoint>{{200, 400}, {196, 400}}));
-    EXPECT_EQ(lines[7].points, (std::vector<PixelPoint>{{200, 400}, {200, 396}}));
-}
-
 TEST_F(ObjectDisplay, LabelLinesStandOneAndAHalfHeightsBelowEachOther) {
     AddView(false);
     display.TextSize = 10;
@@ -330,7 +291,6 @@ TEST_F(ObjectDisplay, ADeviceWithoutSizeMakesTheSurfacesAndDrawsNothing) {
 
 TEST_F(ObjectDisplay, MakesItsSurfacesWithoutADevice) {
     display.DisplayDevice = nullptr;
-    display.PrintDevice = nullptr;
     display.MovePoint2 = {7, 0, 0, 0};
     AddView(true);
     display.DisplayObject();

@@ -13,7 +13,7 @@ namespace korvet {
 
 class RecordingDevice final : public DrawingDevice {
   public:
-    enum class Kind { Cls, StartPage, Polyline, TextOut };
+    enum class Kind { Cls, Polyline, TextOut };
 
     /// One call; the members that its kind does not have stay empty.
     struct Call {
@@ -36,7 +36,6 @@ class RecordingDevice final : public DrawingDevice {
     std::vector<Call> calls;
 
     void Cls(Color backColor) override { calls.push_back({.kind = Kind::Cls, .color = backColor}); }
-    void StartPage() override { calls.push_back({.kind = Kind::StartPage}); }
     [[nodiscard]] PixelSize ScaleSize() const override { return scaleSize; }
     [[nodiscard]] PixelSize NextSize() const override { return nextSize.value_or(scaleSize); }
     [[nodiscard]] PixelSize OuterSize() const override { return outerSize; }
