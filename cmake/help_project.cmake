@@ -1,4 +1,4 @@
-# Puts the help project together: the pages of PAGES, copied to OUTPUT, and korvet.qhp with the contents and index
+# Puts the help project together: the pages and pictures of PAGES, copied to OUTPUT, and korvet.qhp with the contents and index
 # entries of the fittings. A fitting's page is one that tells its shape: a line for the catalogue's page, which also
 # lists fittings without a tile. It may tell a context number too, where its window has one of its own, and further
 # words for the index.
@@ -14,7 +14,7 @@ function(read_meta text name result)
 endfunction()
 
 file(REMOVE_RECURSE ${OUTPUT})
-file(GLOB pages ${PAGES}/*.html ${PAGES}/*.css)
+file(GLOB pages ${PAGES}/*.html ${PAGES}/*.css ${PAGES}/*.png)
 file(COPY ${pages} DESTINATION ${OUTPUT})
 file(GLOB pages RELATIVE ${PAGES} ${PAGES}/*.html)
 foreach(page IN LISTS pages)

@@ -8,6 +8,7 @@
 #include <system_error>
 
 #include "core/number_text.h"
+#include "printing/printers.h"
 
 namespace korvet::batch {
 namespace {
@@ -72,6 +73,28 @@ ViewChoice ParseView(const std::string& text) {
     return text == "model" ? ViewChoice::Model : ViewChoice::Pattern;
 }
 
+/// The number of a paper by its name.
+int ParsePaper(const std::string& name) {
+    std::string names;
+    for (const Paper& paper : PdfPapers()) {
+        if (EqualIgnoringCase(paper.name, name)) {
+            return paper.number;
+        }
+        names += (names.empty() ? "" : ", ") + paper.name;
+    }
+    throw UsageError("--paper knows no \"" + name + "\"; it takes " + names);
+}
+
+std::vector<std::string> ParseSheets(const std::string& text) {
+    std::vector<std::string> names;
+    std::istringstream list(text);
+    std::string name;
+    while (std::getline(list, name, ',')) {
+        names.emplace_back(Trimmed(name));
+    }
+    return names;
+}
+
 /// Who reads or writes a file, so that no two do.
 class Claims {
   public:
@@ -123,6 +146,7 @@ void CheckOutputs(const Arguments& arguments) {
         claim(arguments.png, "the PNG" + of, number);
         claim(arguments.svg, "the SVG" + of, number);
         claim(arguments.table, "the table" + of, number);
+        claim(arguments.pdf, "the PDF" + of, number);
         const bool oneJson = arguments.json.find("{name}") == std::string::npos;
         claim(arguments.json == "-" ? "" : arguments.json, oneJson ? "the JSON" : "the JSON" + of,
               oneJson ? Claims::Whole : number);
@@ -146,13 +170,10 @@ void CheckTogether(const Arguments& arguments) {
 /// Outputs of later versions: named, so that they are refused in plain words.
 struct LaterOutputs {
     std::string hpgl;
-    std::string pdf;
 
     void Refuse() const {
-        for (const auto& [value, name] : {std::pair{&hpgl, "--hpgl"}, {&pdf, "--pdf"}}) {
-            if (!value->empty()) {
-                throw UsageError(std::string(name) + " is not built yet");
-            }
+        if (!hpgl.empty()) {
+            throw UsageError("--hpgl is not built yet");
         }
     }
 };
@@ -163,6 +184,9 @@ struct RawTexts {
     std::vector<std::string> dimensions;
     std::string size;
     std::string view;
+    std::string paper = "A4";
+    std::string units;
+    std::string sheets;
 };
 
 /// --NAME ticks a box of the export dialog and --no-NAME clears it; both together are refused.
@@ -171,6 +195,23 @@ void AddTick(CLI::App& app, const std::string& name, std::optional<bool>& tick, 
     CLI::Option* on = app.add_flag_function("--" + name, set(true), "DXF: " + what);
     CLI::Option* off = app.add_flag_function("--no-" + name, set(false), "DXF: without " + what);
     on->excludes(off);
+}
+
+/// The PDF, and what goes with it only.
+void AddPaperOptions(CLI::App& app, Arguments& arguments, RawTexts& raw, const CLI::Validator& notEmpty) {
+    CLI::Option* const pdf =
+        app.add_option("--pdf", arguments.pdf, "the pattern in full size on its sheets")->check(notEmpty);
+    app.add_option("--paper", raw.paper, "PDF: A4 by default; a wrong name lists all")->needs(pdf);
+    app.add_flag("--landscape", arguments.landscape, "PDF: sheets that lie, not stand")->needs(pdf);
+    CLI::Option* const fit =
+        app.add_flag("--fit", arguments.fit, "PDF: the view on one sheet instead")->needs(pdf);
+    app.add_option("--sheets", raw.sheets, "PDF: A1,B2 ...; all by default")
+        ->needs(pdf)
+        ->excludes(fit)
+        ->check(notEmpty);
+    app.add_option("--units", raw.units, "PDF: mm or inch; the default is what the settings say")
+        ->needs(pdf)
+        ->check(CLI::IsMember({"mm", "inch"}));
 }
 
 void AddOptions(CLI::App& app, Arguments& arguments, RawTexts& raw, LaterOutputs& later) {
@@ -207,8 +248,8 @@ void AddOptions(CLI::App& app, Arguments& arguments, RawTexts& raw, LaterOutputs
     app.add_option("--table", arguments.table, "coordinate table of the pattern")->check(notEmpty);
     app.add_option("--size", raw.size, "WIDTHxHEIGHT of a picture in pixels, 800x600 by default")
         ->check(notEmpty);
+    AddPaperOptions(app, arguments, raw, notEmpty);
     app.add_option("--hpgl", later.hpgl, "plot file (not built yet)");
-    app.add_option("--pdf", later.pdf, "full-size sheets (not built yet)");
     app.footer(
         "{name} in the name of an output stands for the name of the input.\n"
         "Exit status: 0 done, 1 an input was refused or failed, 2 wrong usage.");
@@ -242,6 +283,10 @@ std::optional<Arguments> ParseArguments(int argc, const char* const* argv) {
         arguments.size = ParseSize(raw.size);
     }
     arguments.view = ParseView(raw.view);
+    arguments.paper = ParsePaper(raw.paper);
+    arguments.sheets = ParseSheets(raw.sheets);
+    arguments.inches = raw.units == "inch";
+    arguments.millimetres = raw.units == "mm";
     CheckTogether(arguments);
     return arguments;
 }

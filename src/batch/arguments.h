@@ -42,7 +42,15 @@ struct Arguments {
     std::string png;
     std::string svg;
     std::string table;
+    std::string pdf;
     PictureSize size;
+
+    int paper = 0;  ///< of the PDF, its number
+    bool landscape = false;
+    bool inches = false;              ///< a unit of the fitting is an inch, whatever the settings say
+    bool millimetres = false;         ///< the same of a millimetre
+    bool fit = false;                 ///< the view on one sheet, else the pattern in full size
+    std::vector<std::string> sheets;  ///< all when there are none
 
     std::vector<CDimension> dimensionLines;  ///< to add to the pattern, in their order
 

@@ -10,6 +10,7 @@
 #include "dialogs/options_file.h"
 #include "platform/disk_files.h"
 #include "platform/system_clock.h"
+#include "platform/system_printers.h"
 
 namespace korvet::batch {
 namespace {
@@ -28,6 +29,7 @@ class BatchRun {
         if (!ReadOptions()) {
             return Failed;
         }
+        SetUpPrinter();
         const std::vector<std::string> inputs = InputsOf(arguments_);
         for (std::size_t i = 0; i < inputs.size(); ++i) {
             ui_.ShowProgress(i + 1, inputs.size(), inputs[i]);
@@ -56,6 +58,17 @@ class BatchRun {
         } catch (const std::exception& error) {
             Say(error.what());
             return false;
+        }
+    }
+
+    /// The paper of the command line, with the calibration of the settings.
+    void SetUpPrinter() {
+        printDialog_.TakeOptions(options_);
+        printDialog_.CurrentPrinterName = PdfPrinter;
+        printDialog_.CurrentPaperSize = arguments_.paper;
+        printDialog_.CurrentOrientation = arguments_.landscape ? Landscape : Portrait;
+        if (arguments_.inches || arguments_.millimetres) {
+            printDialog_.PrintUnits = arguments_.inches ? Inches : Millimetres;
         }
     }
 
@@ -120,8 +133,10 @@ class BatchRun {
     SystemClock clock_;
     FrameModel frame_;
     PatternSettingsDialog patternSettingsDialog_;
-    WindowContext context_ = {options_,           ui_, files_, clock_, frame_, patternSettingsDialog_,
-                              SystemDecimalMark()};
+    SystemPrinters printers_;
+    CPrintDialog printDialog_{printers_};
+    WindowContext context_ = {
+        options_, ui_, files_, clock_, frame_, patternSettingsDialog_, printDialog_, SystemDecimalMark()};
     std::string reports_;
     int status_ = Done;
 };

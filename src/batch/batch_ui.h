@@ -45,6 +45,9 @@ class BatchUi : public UserInterface {
     void RunModal(LabelDialog&) override {}
     void RunModal(RotateDialog&) override {}
     void RunModal(BranchAdditionalDialog&) override {}
+    void RunModal(PrintersDialog&) override {}
+
+    bool GoesOn(const WorkProgress&) override { return true; }
 
   private:
     [[nodiscard]] std::string FurtherDetail(const MessageBox& message) const;

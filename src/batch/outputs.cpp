@@ -26,16 +26,17 @@ Outcome Outputs::Write() {
 /// Whether an output shows the view, be it of the model or of the pattern.
 bool Outputs::IsOfView() const {
     return !arguments_.save.empty() || !arguments_.dxf.empty() || !arguments_.png.empty() ||
-           !arguments_.svg.empty();
+           !arguments_.svg.empty() || (!arguments_.pdf.empty() && arguments_.fit);
 }
 
 /// The view of the file, or the one that the command line asks for; a new window shows its pattern, and so
-/// does a table that nothing else is to be shown beside.
+/// do table and full-size sheets that nothing else is to be shown beside.
 void Outputs::ChooseView() {
     const bool hasView = window_.views->Count() > 0;
-    const bool tableAlone = !arguments_.table.empty() && arguments_.json.empty() && !IsOfView();
-    const bool asSaved = arguments_.view == ViewChoice::AsSaved && !tableAlone;
-    const bool wantsPattern = arguments_.view == ViewChoice::Pattern || (asSaved && !hasView) || tableAlone;
+    const bool ofPattern = !arguments_.table.empty() || !arguments_.pdf.empty();
+    const bool patternAlone = ofPattern && arguments_.json.empty() && !IsOfView();
+    const bool asSaved = arguments_.view == ViewChoice::AsSaved && !patternAlone;
+    const bool wantsPattern = arguments_.view == ViewChoice::Pattern || (asSaved && !hasView) || patternAlone;
     if (!hasView || (!asSaved && InPatternView(*window_.views) != wantsPattern)) {
         AddPresetView(wantsPattern ? PatternButton : 0, *window_.views);
     }
@@ -73,9 +74,15 @@ Outcome Outputs::WriteFiles() {
     if (!arguments_.svg.empty()) {
         refused = WritePicture(OutputPath(arguments_.svg, name_), PictureFormat::Svg) || refused;
     }
-    // The last, since it may turn to the pattern.
+    if (!arguments_.pdf.empty() && arguments_.fit) {
+        refused = WritePdf(OutputPath(arguments_.pdf, name_)) || refused;
+    }
+    // The last, since they may turn to the pattern.
     if (!arguments_.table.empty()) {
         refused = WriteTable(OutputPath(arguments_.table, name_)) || refused;
+    }
+    if (!arguments_.pdf.empty() && !arguments_.fit) {
+        refused = ShowPattern() || WritePdf(OutputPath(arguments_.pdf, name_)) || refused;
     }
     return RefusedIf(refused);
 }
@@ -102,8 +109,8 @@ Outcome Outputs::WritePicture(const std::string& path, PictureFormat format) {
     }
 }
 
-/// A table is of the pattern, whatever the view.
-Outcome Outputs::WriteTable(const std::string& path) {
+/// Table and full-size sheets are of the pattern, whatever the view.
+Outcome Outputs::ShowPattern() {
     if (!InPatternView(*window_.views)) {
         AddPresetView(PatternButton, *window_.views);
         shown_ = false;
@@ -111,7 +118,15 @@ Outcome Outputs::WriteTable(const std::string& path) {
     if (!shown_) {
         Show();
     }
-    return shown_ ? window_.WriteTable(path) : Refused;
+    return RefusedIf(!shown_);
+}
+
+Outcome Outputs::WriteTable(const std::string& path) {
+    return RefusedIf(ShowPattern() || window_.WriteTable(path));
+}
+
+Outcome Outputs::WritePdf(const std::string& path) {
+    return window_.PrintToPdf(path, {arguments_.fit, arguments_.sheets});
 }
 
 }  // namespace korvet::batch

@@ -19,8 +19,8 @@ class Outputs {
 
     /// Makes the fitting and writes what the command line asks for; with nothing asked for it is made all the
     /// same, to see whether it is. Refused unless all is written. No output has the fitting made more than
-    /// once: it is made for the JSON, for all that is of the view, and for the table when the view is of the
-    /// model.
+    /// once: it is made for the JSON, for all that is of the view, and for table and full-size sheets when
+    /// the view is of the model.
     Outcome Write();
 
     // What Write leaves to tell.
@@ -44,6 +44,8 @@ class Outputs {
     Outcome WriteDxf(const std::string& path);
     Outcome WritePicture(const std::string& path, PictureFormat format);
     Outcome WriteTable(const std::string& path);
+    Outcome WritePdf(const std::string& path);
+    Outcome ShowPattern();
 
     const Arguments& arguments_;
     BatchUi& ui_;

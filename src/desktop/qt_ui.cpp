@@ -1,6 +1,7 @@
 #include "desktop/qt_ui.h"
 
 #include <QApplication>
+#include <QProgressDialog>
 
 #include "desktop/dialogs/branch_dialog.h"
 #include "desktop/dialogs/file_dialog.h"
@@ -8,11 +9,14 @@
 #include "desktop/dialogs/model_dialog.h"
 #include "desktop/dialogs/options_widgets.h"
 #include "desktop/dialogs/pattern_settings_widgets.h"
+#include "desktop/dialogs/printers_widgets.h"
 #include "desktop/dialogs/small_dialogs.h"
 
 namespace korvet::desktop {
 
 QtUi::QtUi(QWidget* parent) : parent_(parent) {}
+
+QtUi::~QtUi() = default;
 
 /// The dialog on top if there is one, else the frame once it is on the screen.
 QWidget* QtUi::Parent() const {
@@ -72,6 +76,25 @@ void QtUi::RunModal(RotateDialog& dialog) {
 
 void QtUi::RunModal(BranchAdditionalDialog& dialog) {
     RunDialog(Host(), dialog);
+}
+
+void QtUi::RunModal(PrintersDialog& dialog) {
+    RunDialog(Host(), dialog);
+}
+
+/// Short work is over before its box would come up.
+bool QtUi::GoesOn(const WorkProgress& progress) {
+    const int total = static_cast<int>(progress.total);
+    if (progress.done >= progress.total) {
+        progress_.reset();
+        return true;
+    }
+    if (!progress_) {
+        progress_ = MakeProgressBox(Parent(), total);
+    }
+    progress_->setLabelText(QString::fromStdString(progress.what));
+    progress_->setValue(static_cast<int>(progress.done));  // lets the user's click come through
+    return !progress_->wasCanceled();
 }
 
 }  // namespace korvet::desktop

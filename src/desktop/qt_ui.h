@@ -5,9 +5,12 @@
 #include <QString>
 #include <QWidget>
 #include <functional>
+#include <memory>
 
 #include "desktop/dialogs/dialog_host.h"
 #include "dialogs/user_interface.h"
+
+class QProgressDialog;
 
 namespace korvet::desktop {
 
@@ -15,6 +18,7 @@ class QtUi final : public UserInterface {
   public:
     /// Boxes and dialogs stand over `parent`, or in the middle of the screen while there is none.
     explicit QtUi(QWidget* parent);
+    ~QtUi() override;
     void SetParent(QWidget* parent) { parent_ = parent; }
 
     /// What dialogs that open the global options work with; null until it is made.
@@ -35,6 +39,8 @@ class QtUi final : public UserInterface {
     void RunModal(DxfOptionsDialog& dialog) override;
     void RunModal(RotateDialog& dialog) override;
     void RunModal(BranchAdditionalDialog& dialog) override;
+    void RunModal(PrintersDialog& dialog) override;
+    bool GoesOn(const WorkProgress& progress) override;
 
     /// What a dialog that is not one of a model above needs to be shown now.
     [[nodiscard]] DialogHost Host();
@@ -45,6 +51,7 @@ class QtUi final : public UserInterface {
 
     QPointer<QWidget> parent_;
     QString folder_;  ///< of the last file chosen
+    std::unique_ptr<QProgressDialog> progress_;
 };
 
 }  // namespace korvet::desktop

@@ -15,6 +15,7 @@ struct DxfOptionsDialog;
 struct LabelDialog;
 struct OptionsDialog;
 struct PatternSettingsDialog;
+struct PrintersDialog;
 struct RotateDialog;
 
 /// A file dialog.
@@ -24,10 +25,21 @@ struct FileChoice {
     bool save = false;   ///< asks for a name to write to, and before it replaces a file
 };
 
+/// How far work is that takes its time.
+struct WorkProgress {
+    std::string what;  ///< "Sheet A1"
+    std::size_t done = 0;
+    std::size_t total = 0;
+};
+
 class UserInterface : public MessageBoxes {
   public:
     /// The path chosen, or nothing after Cancel.
     virtual std::optional<std::string> ChooseFile(const FileChoice& choice) = 0;
+
+    /// Shows how far the work is, with a way to cancel it: false once the user has. With all done it is taken
+    /// away again.
+    virtual bool GoesOn(const WorkProgress& progress) = 0;
 
     // Each shows its dialog modally. The dialog's lblStatus tells how it was left: "OK", or anything else for
     // Cancel, Esc and the close box.
@@ -38,6 +50,7 @@ class UserInterface : public MessageBoxes {
     virtual void RunModal(DxfOptionsDialog& dialog) = 0;
     virtual void RunModal(RotateDialog& dialog) = 0;
     virtual void RunModal(BranchAdditionalDialog& dialog) = 0;
+    virtual void RunModal(PrintersDialog& dialog) = 0;
 };
 
 }  // namespace korvet

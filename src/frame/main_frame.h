@@ -94,7 +94,9 @@ class CMainFrame {
     void ExportDxf(CFittingWindow& child);
     void ExportHpgl(CFittingWindow& child);
     void SendToAcad(CFittingWindow& child);
+    void PageSetup(CFittingWindow& child);
     void PrintFrames(CFittingWindow& child);
+    void FilePrint(CFittingWindow& child);
     void ZoomIn(CFittingWindow& child);
     void ZoomOut(CFittingWindow& child);
     void AlignedDimension(CFittingWindow& child);

@@ -9,6 +9,7 @@
 #include "frame/frame_menu.h"
 #include "frame/main_frame.h"
 #include "frame/new_fitting.h"
+#include "frame/start_up.h"
 #include "window/saving.h"
 
 namespace korvet {
@@ -46,11 +47,11 @@ std::span<const CMainFrame::Command> CMainFrame::Commands() {
         Command{"mnuExportDXF", &Frame::ExportDxf, NotAtThisTime},
         Command{"mnuExportHPGL", &Frame::ExportHpgl, NotAtThisTime},
         Command{"mnuSendToAcad", &Frame::SendToAcad, NotAtThisTime},
-        Command{"mnuFilePageSetup", &Child::PrinterSetup},
+        Command{"mnuFilePageSetup", &Frame::PageSetup},
         Command{"mnuPrintFrames", &Frame::PrintFrames},
         Command{"mnuSelectFrames", &Child::SelectPrintFrames},
         Command{"mnuFilePrintPreview", &Frame::FilePrintPreview},
-        Command{"mnuFilePrint", &Child::PrintDrawing, NothingToPrint},
+        Command{"mnuFilePrint", &Frame::FilePrint, NothingToPrint},
         Command{"mnuFileExit", &Frame::FileExit},
         Command{"mnuViewToolbar", &Frame::ViewToolbar},
         Command{"mnuViewStatusBar", &Frame::ViewStatusBar},
@@ -177,6 +178,16 @@ void CMainFrame::ExportHpgl(CFittingWindow& child) {
 /// The link needs a CAD program that it can reach, and this one reaches none.
 void CMainFrame::SendToAcad(CFittingWindow& /*child*/) {
     ShowPlain(context_.ui, context_.Message(NoCadDrawing));
+}
+
+void CMainFrame::PageSetup(CFittingWindow& child) {
+    child.PrinterSetup();
+    RememberPdf(context_.printDialog, settings_);
+}
+
+void CMainFrame::FilePrint(CFittingWindow& child) {
+    child.PrintDrawing();
+    RememberPdf(context_.printDialog, settings_);
 }
 
 void CMainFrame::PrintFrames(CFittingWindow& child) {

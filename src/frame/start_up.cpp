@@ -8,6 +8,9 @@
 namespace korvet {
 namespace {
 
+/// Where it is kept that the PDF file has been the printer.
+constexpr const char* PdfKey = "PdfChosen";
+
 /// By its whole name, so that the file stays the same one if the current folder changes later on.
 std::string IniFileOfCurrentFolder() {
     std::error_code error;
@@ -17,7 +20,7 @@ std::string IniFileOfCurrentFolder() {
 
 }  // namespace
 
-Outcome SetupStartup(WindowContext& context, const std::string& currentPrinterName) {
+Outcome SetupStartup(WindowContext& context, const SettingsStore& settings) {
     context.options.IniFileName = IniFileOfCurrentFolder();
     try {
         ReadIniFile(context.options, context.files, context.ui, context.decimalMark);
@@ -25,10 +28,21 @@ Outcome SetupStartup(WindowContext& context, const std::string& currentPrinterNa
         ShowPlain(context.ui, error.what());
         return Refused;
     }
-    if (currentPrinterName.empty()) {
+    CPrintDialog& printer = context.printDialog;
+    printer.SetDefaultPapersize(context.options, context.ui);
+    if (printer.CurrentPrinterName.empty() && settings.Get(PdfKey)) {
+        printer.TakePdf();
+    }
+    if (printer.CurrentPrinterName.empty()) {
         ShowPlain(context.ui, context.Message(NoPrinterAvailable));
     }
     return Passed;
+}
+
+void RememberPdf(const CPrintDialog& printer, SettingsStore& settings) {
+    if (printer.CurrentPrinterName == PdfPrinter) {
+        settings.Set(PdfKey, "1");
+    }
 }
 
 }  // namespace korvet

@@ -2,43 +2,14 @@
 
 #include <QBuffer>
 #include <QColor>
-#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <QSvgGenerator>
-#include <stdexcept>
 
 #include "core/constants.h"
-#include "platform/system_clock.h"
+#include "platform/graphics_application.h"
 
 namespace korvet {
-namespace {
-
-/// Fonts live in a graphics application. A program without one gets one that needs no screen, and keeps it to
-/// its end.
-void EnsureGraphicsApplication() {
-    if (QCoreApplication::instance() != nullptr) {
-        if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()) == nullptr) {
-            throw std::logic_error("a program that makes pictures needs a graphics application");
-        }
-        return;
-    }
-#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-#endif
-    static int argumentCount = 1;
-    static char programName[] = "korvet";
-    static char* arguments[] = {programName, nullptr};
-    // What it says of a missing desktop at its start is no concern of a program that only makes pictures.
-    const auto handler = qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-    static const QGuiApplication application(argumentCount, arguments);
-    qInstallMessageHandler(handler);
-    HoldNumericLocale();
-}
-
-}  // namespace
 
 /// What the painter draws on: an image, or the bytes of a vector file.
 class PictureDevice::Canvas {

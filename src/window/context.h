@@ -7,6 +7,7 @@
 #include "form/fields.h"
 #include "form/messages.h"
 #include "form/options.h"
+#include "printing/print_dialog.h"
 #include "window/clock.h"
 #include "window/frame_model.h"
 
@@ -19,6 +20,7 @@ struct WindowContext {
     const Clock& clock;
     FrameModel& frame;
     PatternSettingsDialog& patternSettingsDialog;  ///< one for the whole program
+    CPrintDialog& printDialog;                     ///< the printer, for the whole program too
     char decimalMark = '.';
 
     /// The text of a message in the language of the options.

@@ -21,6 +21,7 @@ CFittingWindow::CFittingWindow(WindowContext& context, const CatalogueRow& row, 
       row_(&row),
       goodTextSize_(context.options.DisplayTextSize) {
     display.DisplayDevice = drawingArea;
+    printFrames.PrintUnits = context.printDialog.PrintUnits;
     InitialiseFitting();
     SetupFittingWindow(*this);
     edited = true;

@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "core/branch_options.h"
 #include "core/fitting.h"
@@ -14,10 +15,13 @@
 #include "exchange/kvt_file.h"
 #include "form/catalogue_row.h"
 #include "form/outcome.h"
+#include "printing/print_frames.h"
 #include "window/context.h"
 #include "window/window_model.h"
 
 namespace korvet {
+
+struct PrintersDialog;
 
 /// Where an export goes.
 enum class ExportMode : int { Dxf = 1, Plotter = 2, CadLink = 3 };
@@ -47,6 +51,12 @@ struct ModelAndPattern {
     CRuleSurfs pattern;
 };
 
+/// Which sheets of a fitting are printed.
+struct SheetChoice {
+    bool fit = false;                ///< the view on one sheet; else the pattern in full size
+    std::vector<std::string> names;  ///< of the sheets in full size; all when there are none
+};
+
 class CFittingWindow {
   public:
     /// A window of a catalogue row whose table is built. `drawingArea` is where it draws; null: nowhere, its
@@ -74,6 +84,10 @@ class CFittingWindow {
     void PrintDrawing();
     void SelectPrintFrames();
     void SetupPrintFrames();
+
+    /// Writes what the last display showed as a PDF on the printer's paper, for which PdfPrinter has to be
+    /// the printer: a pattern in full size on its sheets, or the view on one.
+    Outcome PrintToPdf(const std::string& path, const SheetChoice& choice);
 
     /// Exports what the last display showed. Refused when no file was written, after Cancel too.
     Outcome Export(const std::string& path, ExportMode mode);
@@ -147,6 +161,7 @@ class CFittingWindow {
     // State of the window, by the names of the system.
     WindowModel controls;
     CObjectDisplay display;
+    PrintFrames printFrames;
     std::shared_ptr<CDimensions> dimensions;
     std::shared_ptr<CLabels> labels;  ///< the text block; null before the first build
     CPatternSettings settings;
@@ -188,6 +203,22 @@ class CFittingWindow {
     float DrawnTextSize();
     template <typename Step>
     bool RunMouseStep(Step step);
+    Outcome RequirePatternForPaper();
+    Outcome ComputeFrames();
+    void HandOverFrames();
+    Outcome CheckSheetCount();
+    void PrintChosen(const PrintersDialog& dialog);
+    void PrintSelectedFrames();
+    void PrintTable();
+    enum class Build : bool { AsShown, Anew };
+    Outcome PrintFullSize(const std::vector<std::string>& names, const std::string& path, Build build);
+    void ShowFramesAgain();
+    Outcome PrintPages(const std::vector<std::string>& names, const std::string& path);
+    [[nodiscard]] std::optional<CPrintPages> PagesOf(const std::vector<std::string>& names);
+    Outcome PrintToFit(const std::string& path);
+    template <typename Work>
+    Outcome RunPrintJob(const std::string& path, Work work);
+    void ClickFrames(float x, float y);
     void BeginMouseOperation(float x, float y);
     bool EndRubberBand();
     bool FinishMouseOperation(float x, float y);

@@ -132,6 +132,9 @@ void CFittingWindow::MouseUp(MouseButton button, float x, float y) {
 /// when the window is to be updated.
 bool CFittingWindow::FinishMouseOperation(float x, float y) {
     const bool dragged = EndRubberBand();
+    if (modes.selectFramesMode) {
+        ClickFrames(x, y);
+    }
     bool changed = RemoveDimensionAt(x, y);
     if (dragged && Drags(modes)) {
         FinishDrag();

@@ -201,6 +201,7 @@ void CFittingWindow::PrepareDisplay() {
     display.DimensionList = dimensions;
     display.LabelList = labels;
     display.ViewList = views;
+    HandOverFrames();
 }
 
 /// Hands the fitting over to the display, which builds and draws it. Only then are the boxes black again:
@@ -220,6 +221,7 @@ void CFittingWindow::DevelopAndDisplay() {
     UpdateSettings(*this);
     LockType(*this);
     ShowWarnings(display.Warnings);
+    (void)CheckSheetCount();
 }
 
 std::optional<ModelAndPattern> CFittingWindow::MakeModelAndPattern() {

@@ -185,44 +185,4 @@ void CFittingWindow::RemoveAllDimensions() {
     UpdateFitting();
 }
 
-/// Another paper has other frames, so they are computed anew, or switched off with their menu entry.
-void CFittingWindow::PrinterSetup() {
-    ShowPlain(context_.ui, context_.Message(NoPrinterAvailable));
-    if (hasModel) {
-        SetupPrintFrames();
-    }
-}
-
-void CFittingWindow::PrintDrawing() {
-    if (!hasModel) {
-        ShowUserError(context_.ui, context_.Message(NothingToPrint));
-        return;
-    }
-    ShowPlain(context_.ui, context_.Message(NoPrinterAvailable));
-}
-
-void CFittingWindow::SelectPrintFrames() {
-    ShowPlain(context_.ui,
-              "Select Frames for printing by left-clicking with the mouse. \r\n"
-              "De-Select by left-clicking again on a selected frame");
-    CancelMouseModes();
-    modes.selectFramesMode = true;
-}
-
-void CFittingWindow::SetupPrintFrames() {
-    if (RequireModel()) {
-        return;
-    }
-    if (!context_.frame.printFramesTicked) {
-        context_.frame.menuEnabled["mnuSelectFrames"] = false;
-        UpdateFitting();
-        return;
-    }
-    if (!InPatternView(*views)) {
-        ShowUserError(context_.ui, context_.Message(PatternViewOnly));
-        return;
-    }
-    ShowPlain(context_.ui, "No printer");
-}
-
 }  // namespace korvet

@@ -47,8 +47,9 @@ class OutputsTest : public testing::Test {
     Arguments arguments;
     BatchUi ui{arguments};
     TestShell shell;
-    WindowContext context{shell.options, ui,          shell.files,
-                          shell.clock,   shell.frame, shell.patternSettingsDialog};
+    WindowContext context{shell.options,    ui,          shell.files,
+                          shell.clock,      shell.frame, shell.patternSettingsDialog,
+                          shell.printDialog};
     CatalogueRow row = *FindCategory("Right Cone");
     WindowTable table = *row.table;
     std::optional<CFittingWindow> window;

@@ -14,6 +14,7 @@
 
 #include "desktop/qt_ui.h"
 #include "tests/support/memory_file_store.h"
+#include "tests/support/recording_printers.h"
 #include "window/context.h"
 
 namespace korvet::desktop {
@@ -31,7 +32,9 @@ struct DialogDesk {
     FrameModel frame;
     PatternSettingsDialog settings;
     QtUi ui{nullptr};
-    WindowContext context{options, ui, files, clock, frame, settings, '.'};
+    RecordingPrinters printers;
+    CPrintDialog printDialog{printers};
+    WindowContext context{options, ui, files, clock, frame, settings, printDialog, '.'};
 
     DialogDesk() { ui.context = &context; }
 };

@@ -33,7 +33,6 @@ const std::string NoSave = "T48 Nothing to save!";
 const std::string NoCommand = "T48 Operation cannot be carried out at this time";
 const std::string NotNow = "UE Operation cannot be carried out at this time";
 const std::string Bad = "UE This dimension must be less than 300";
-const std::string NoPrinterSaid = "P No Printer available";
 const std::string NoCad = "P Could not locate an active AutoCAD 2000 drawing.";
 const std::string Saved = "64 DXF successfully saved to: part";
 const std::string PatternOnly = " This option is only available in pattern view";
@@ -56,12 +55,10 @@ const std::map<std::string_view, Texts> Said = {
      {NoCommand, NotNow, NotNow, "P This version writes DXF files only",
       "P This version writes DXF files only"}},
     {"mnuSendToAcad", {NoCommand, NoCad, NoCad, NoCad, NoCad}},
-    {"mnuFilePageSetup", {"", NoPrinterSaid, NoPrinterSaid, NoPrinterSaid, NoPrinterSaid}},
     {"mnuPrintFrames", {"", NotNow, NotNow, "UE" + PatternOnly, NoFrames}},
     {"mnuSelectFrames", {"", Select, Select, Select, Select}},
     {"mnuFilePrintPreview", {Preview, Preview, Preview, Preview, Preview}},
-    {"mnuFilePrint",
-     {"T48 Nothing to print!", "UE Nothing to print!", "UE Nothing to print!", NoPrinterSaid, NoPrinterSaid}},
+    {"mnuFilePrint", {"T48 Nothing to print!", "UE Nothing to print!", "UE Nothing to print!", "", ""}},
     {"mnuRedraw", {"", "", Bad, "", ""}},
     {"mnuZoomExtents", {"", NoExtentsSaid, NoExtentsSaid, "", ""}},
     {"mnuZoomPrevious", {"", NoView, NoView + " / " + Bad, NoView, NoView}},
@@ -89,7 +86,9 @@ const std::map<std::string_view, Texts> Done = {
     {"mnuFileSaveAs", {"", SaveAs, SaveAs, Saves, Saves}},
     {"mnuExportDXF", {"", Export, Export, Exports, Exports}},
     {"mnuExportHPGL", {"", "", "", "Exporting Transfer.plt", "Exporting Transfer.plt"}},
-    {"mnuFilePageSetup", OnModel("drew")},
+    {"mnuFilePageSetup",
+     {"disabled", "Print Setup", "Print Setup", "Print Setup, drew", "Print Setup, drew"}},
+    {"mnuFilePrint", {"", "", "", "Print", "Print"}},
     {"mnuPrintFrames", OnWindow("frames ticked, tool 7")},
     {"mnuSelectFrames", OnWindow("select frames armed")},
     {"mnuFileExit", Everywhere("close")},

@@ -11,6 +11,7 @@
 #include "core/number_text.h"
 #include "dialogs/options_dialog.h"
 #include "frame/main_frame.h"
+#include "printing/printers_dialog.h"
 #include "tests/support/recording_desktop.h"
 #include "tests/support/recording_device.h"
 #include "tests/support/test_context.h"
@@ -183,6 +184,7 @@ class FrameRig {
             dialogs_ += "label";
             dialog.lblStatus = "OK";
         };
+        shell.ui.onPrinters = [this](PrintersDialog& dialog) { dialogs_ += dialog.caption; };
         shell.ui.onDxfOptions = [this](DxfOptionsDialog& dialog) {
             dialogs_ += dialog.caption;
             dialog.lblStatus = "OK";

@@ -118,7 +118,8 @@ TEST_F(DrawnFrames, AChosenFrameIsDrawnSo) {
     Draw(frames);
     EXPECT_EQ(device.Lines()[0].pen.ForeColor, Green);
     device.calls.clear();
-    frames.Lay(*frames.PrinterPages.Item(1).BoundaryList);  // laid anew none is chosen
+    const C3DPoints extents = *frames.PrinterPages.Item(1).BoundaryList;
+    frames.Lay(extents);  // laid anew none is chosen
     Draw(frames);
     EXPECT_EQ(device.Lines()[0].pen.ForeColor, Yellow);
 }

@@ -30,6 +30,10 @@ class RecordingUi final : public UserInterface {
     std::function<void(DxfOptionsDialog&)> onDxfOptions;
     std::function<void(RotateDialog&)> onRotate;
     std::function<void(BranchAdditionalDialog&)> onBranchAdditional;
+    std::function<void(PrintersDialog&)> onPrinters;
+
+    std::vector<WorkProgress> progress;               ///< every step of long work that was shown
+    std::function<bool(const WorkProgress&)> goesOn;  ///< false cancels; without it work goes on
 
     /// A box without a choice is always answered with Ok. One with a choice takes the next queued answer, or
     /// Cancel when none is left.
@@ -57,6 +61,12 @@ class RecordingUi final : public UserInterface {
     void RunModal(DxfOptionsDialog& dialog) override { Run(onDxfOptions, dialog); }
     void RunModal(RotateDialog& dialog) override { Run(onRotate, dialog); }
     void RunModal(BranchAdditionalDialog& dialog) override { Run(onBranchAdditional, dialog); }
+    void RunModal(PrintersDialog& dialog) override { Run(onPrinters, dialog); }
+
+    bool GoesOn(const WorkProgress& step) override {
+        progress.push_back(step);
+        return !goesOn || goesOn(step);
+    }
 
     /// The texts of the messages so far, for a comparison in one line.
     [[nodiscard]] std::vector<std::string> Texts() const {

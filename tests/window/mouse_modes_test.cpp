@@ -131,12 +131,15 @@ class WatchingUi final : public UserInterface {
     void RunModal(DxfOptionsDialog&) override {}
     void RunModal(RotateDialog&) override {}
     void RunModal(BranchAdditionalDialog&) override {}
+    void RunModal(PrintersDialog&) override {}
+    bool GoesOn(const WorkProgress&) override { return true; }
 };
 
 TEST_F(MouseModesTest, TheMeasuredLineStandsWhileTheBoxIsOpen) {
     WatchingUi ui;
-    WindowContext context{shell.options, ui,          shell.files,
-                          shell.clock,   shell.frame, shell.patternSettingsDialog};
+    WindowContext context{shell.options,    ui,          shell.files,
+                          shell.clock,      shell.frame, shell.patternSettingsDialog,
+                          shell.printDialog};
     const auto window = NewFitting(context, "Right Cone", &area);
     for (const auto& [box, text] : {std::pair{3, "300"}, {4, "120"}, {5, "250"}}) {
         window->ChangeBox(static_cast<std::size_t>(box), text);

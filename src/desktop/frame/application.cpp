@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QFileInfo>
-#include <QPrinterInfo>
 #include <QTimer>
 
 #include "core/constants.h"
@@ -16,6 +15,7 @@
 #include "platform/disk_files.h"
 #include "platform/registry_settings.h"
 #include "platform/system_clock.h"
+#include "platform/system_printers.h"
 
 namespace korvet::desktop {
 namespace {
@@ -40,7 +40,10 @@ struct Application {
     PatternSettingsDialog patternSettingsDialog;
     RegistrySettings settings;
     QtUi ui{nullptr};
-    WindowContext context{options, ui, files, clock, frame, patternSettingsDialog, SystemDecimalMark()};
+    SystemPrinters printers;
+    CPrintDialog printDialog{printers};
+    WindowContext context{
+        options, ui, files, clock, frame, patternSettingsDialog, printDialog, SystemDecimalMark()};
     HelpWindow help{HelpWindow::FileBesideProgram(), SketchOfPage};
 };
 
@@ -59,7 +62,7 @@ int RunApplication(const QStringList& files) {
     QApplication::setWindowIcon(ApplicationIcon());
     Application application;
     application.ui.context = &application.context;
-    if (SetupStartup(application.context, QPrinterInfo::defaultPrinterName().toStdString())) {
+    if (SetupStartup(application.context, application.settings)) {
         return 1;
     }
     MainWindow window(application.context, application.help, application.settings);
