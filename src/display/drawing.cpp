@@ -104,6 +104,9 @@ void Drawing::DrawClipped(const C3DPoints& points, LineType lineType) const {
 }
 
 void Drawing::DrawLine(const C3DPoint& a, const C3DPoint& b, LineType lineType) const {
+    if (PrinterPage && LineMissesPage(a, b, *PrinterPage)) {
+        return;  // most lines are on other sheets
+    }
     C3DPoints ends;
     ends.Add(a);
     ends.Add(b);

@@ -35,6 +35,12 @@ double CountFrames(double start, double end, double size) {
     return at <= end ? std::floor((end - start) / size) + 1 : count;
 }
 
+/// Whether all that lies in the box between two corners is on other sheets: with thousands of them this has
+/// to be told at once.
+bool IsElsewhere(const Drawing& drawing, const C3DPoint& corner, const C3DPoint& opposite) {
+    return drawing.PrinterPage && LineMissesPage(corner, opposite, *drawing.PrinterPage);
+}
+
 /// Goes from one multiple of the ruler's step above `start` to the next, up to `limit`.
 template <typename Tick>
 void ForEachTick(double start, double limit, double step, Tick tick) {
@@ -77,6 +83,9 @@ void PrintFrames::Lay(const C3DPoints& extentFrame) {
 
 void PrintFrames::Draw(const Drawing& drawing) const {
     for (const CPrintPage& page : PrinterPages) {
+        if (IsElsewhere(drawing, page.BoundaryList->Item(1), page.BoundaryList->Item(3))) {
+            continue;
+        }
         drawing.DrawPath(*page.BoundaryList, page.PrintMe ? LineType::FrameChosen : LineType::FrameNotChosen);
         DrawSheetMarks(drawing, page, PrintUnits);
     }
@@ -91,17 +100,22 @@ void PrintFrames::DrawTicks(const Drawing& drawing) const {
     const double step = RulerStep.In(PrintUnits);
     const double top = Grid.rows * PrintFrameWidth + corner.y;
     const double right = Grid.columns * PrintFrameLength + corner.x;
-    const auto text = [&](double distance) { return NumberText(distance, drawing.DecimalMark); };
+    const double length = TickLength.In(PrintUnits);
+    const auto draw = [&](const C3DPoint& point, TickSide side, double distance) {
+        if (!IsElsewhere(drawing, point, {point.x + length, point.y + length, 0, PlainStation})) {
+            DrawRulerTick(drawing, point, side, NumberText(distance, drawing.DecimalMark), PrintUnits);
+        }
+    };
     double x = corner.x;
     for (int column = 1; column <= Grid.columns; ++column, x += PrintFrameLength) {
         ForEachTick(corner.y, top, step, [&](double y, double distance) {
-            DrawRulerTick(drawing, {x, y, 0, PlainStation}, TickSide::Left, text(distance), PrintUnits);
+            draw({x, y, 0, PlainStation}, TickSide::Left, distance);
         });
     }
     double y = corner.y;
     for (int row = 1; row <= Grid.rows; ++row, y += PrintFrameWidth) {
         ForEachTick(corner.x, right, step, [&](double tickX, double distance) {
-            DrawRulerTick(drawing, {tickX, y, 0, PlainStation}, TickSide::Lower, text(distance), PrintUnits);
+            draw({tickX, y, 0, PlainStation}, TickSide::Lower, distance);
         });
     }
 }

@@ -5,7 +5,9 @@ The ruler is a pipe without wall: its pattern is a rectangle, PI times the diame
 
 import math
 import re
+import subprocess
 import unittest
+from pathlib import Path
 
 from batch_program import DONE, REFUSED, WRONG_USAGE, FolderTest, run
 from pdf_pages import pages_of, sheet_names, words_of
@@ -150,6 +152,16 @@ class SheetTest(FolderTest):
     def test_full_size_is_of_the_pattern_whatever_the_view(self):
         path = self.sheets(*CONE, "--view", "model", "--png", self.folder / "model.png")
         self.assertEqual(len(pages_of(path)), 8)
+
+    def test_a_sheet_looks_as_it_did(self):
+        """A sheet of a cone two metres wide beside a picture of it that somebody has looked at."""
+        path = self.sheets("--new", "Right Cone", "--type", "2", "--set", "box3=2000", "--set", "box4=800", "--set",
+                           "box5=1500", "--set", "textsize=10", "--sheets", "M4")
+        subprocess.run(["pdftoppm", "-r", "40", "-gray", "-singlefile", "-png", path, self.folder / "sheet"], check=True)
+        compared = subprocess.run(["compare", "-metric", "MAE", self.folder / "sheet.png",
+                                   Path(__file__).parent / "sheet_M4.png", "null:"], check=False, stderr=subprocess.PIPE)
+        share = float(re.search(r"\((.*)\)", compared.stderr.decode("ascii"))[1])
+        self.assertLess(share, 0.003, "the mean difference of a pixel")
 
     def test_the_same_command_draws_the_same(self):
         def contents(path):

@@ -20,6 +20,7 @@
 #include "dialogs/options_dialog.h"
 #include "dialogs/small_dialogs.h"
 #include "frame/about.h"
+#include "printing/printers_dialog.h"
 #include "tests/desktop/desktop_test.h"
 #include "tests/desktop/dialogs_fixture.h"
 #include "tests/desktop/palettes.h"
@@ -89,6 +90,15 @@ std::map<QString, std::function<void(DialogDesk&)>> AllDialogs() {
     for (std::size_t join = 0; join < 3; ++join) {
         all[QStringLiteral("branch-%1").arg(join)] = [join](DialogDesk& desk) {
             BranchAdditionalDialog dialog({static_cast<BranchJoin>(join), true});
+            desk.ui.RunModal(dialog);
+        };
+    }
+    for (const auto& [name, use] :
+         {std::pair{"print-setup", PrintersUse::Setup}, {"print", PrintersUse::Print}}) {
+        all[QString::fromLatin1(name)] = [use = use](DialogDesk& desk) {
+            desk.printDialog.TakePdf();
+            desk.printDialog.PrintScale = 1;
+            PrintersDialog dialog(use, desk.printDialog, desk.ui, desk.options, '.');
             desk.ui.RunModal(dialog);
         };
     }

@@ -1,6 +1,6 @@
 // Prints a fitting on a print queue as the desktop does, without its windows:
 //     queue_print QUEUE PAPER portrait|landscape full|fit|table CATEGORY BOX=VALUE...
-// Messages go to the standard error; the status is 1 when there was one.
+// A PDF comes into the current folder. Messages go to the standard error; the status is 1 when there was one.
 #include <QGuiApplication>
 #include <iostream>
 #include <string>
@@ -46,6 +46,7 @@ int Print(const std::vector<std::string>& arguments) {
     }
     window->display.CoordTableRequested = arguments[3] == "table";
     window->ClickView(PatternButton);
+    ui.files = {"printed.pdf"};  // in the current folder, where the PDF file asks for a name
     ui.onPrinters = [&](PrintersDialog& dialog) { Choose(dialog, arguments); };
     window->PrintDrawing();
     for (const MessageBox& message : ui.messages) {

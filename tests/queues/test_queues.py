@@ -14,6 +14,7 @@ from pdf_pages import pages_of, sheet_names, words_of  # noqa: E402
 from private_cups import EDGE, PPD, SPOOLER, PrivateCups  # noqa: E402
 
 PROGRAM = os.environ.get("KORVET_QUEUE_PRINT", "queue_print")
+BATCH = os.environ.get("KORVET_BATCH", "korvet-batch")
 CUT_PEN = 3 * 25.4 / 300  # millimetres
 ROLL = ("Roll", 2551, 4252)  # points: 900 by 1500 mm
 
@@ -86,6 +87,21 @@ class QueueTest(unittest.TestCase):
         path = self.expect_printed("A4", "portrait", "table", "Right Cone", "3=300", "4=120", "5=250")
         words = words_of(path, 1)
         self.assertEqual(words[:4], ["Korvet", "Development", "Suface", "No:"])
+
+    def test_the_pdf_of_the_desktop_is_that_of_the_batch_program(self):
+        self.assertEqual(self.print_on("PDF file", "A4", "portrait", "full", "Right Cone", "3=300", "4=120", "5=250"), "")
+        batch = Path(self.folder.name) / "batch.pdf"
+        subprocess.run([BATCH, "--new", "Right Cone", "--type", "2", "--set", "box3=300", "--set", "box4=120", "--set",
+                        "box5=250", "--pdf", batch], check=True)
+
+        def plain(path):
+            text = subprocess.run(["qpdf", "--qdf", "--object-streams=disable", path, "-"], check=True,
+                                  stdout=subprocess.PIPE).stdout.decode("latin-1")
+            return [line for line in text.splitlines() if "/CreationDate" not in line and "/ID" not in line]
+
+        printed = plain(Path(self.folder.name) / "printed.pdf")
+        self.assertGreater(len(printed), 1000)
+        self.assertEqual(printed, plain(batch))
 
     def test_a_queue_that_takes_nothing_says_why(self):
         fitting = ("Right Cone", "3=300", "4=120", "5=250")

@@ -20,7 +20,8 @@ constexpr QSize PrintersSize = {5600, 3600};  // twips
 constexpr int PatienceMilliseconds = 400;
 
 QGroupBox* MakePrinter(ModelDialog& window, PrintersDialog& dialog) {
-    QGroupBox* const frame = MakeFrame("fraPrinter", QStringLiteral("Printer"), QStringLiteral("Printer"));
+    QGroupBox* const frame =
+        MakeFrame("fraPrinter", QStringLiteral("Printer"), QStringLiteral("Printer and paper"));
     auto* form = new QFormLayout(frame);
     QComboBox* const printers = MakeCombo("cmbPrinters", QStringLiteral("Printer"), false);
     form->addRow(MakeLabel(QStringLiteral("&Name:"), printers), printers);

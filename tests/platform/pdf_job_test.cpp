@@ -1,0 +1,158 @@
+// Sheets as a PDF file: whole or not at all.
+#include "platform/pdf_job.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <system_error>
+
+#include "platform/paper_device.h"
+#include "platform/system_printers.h"
+
+namespace korvet {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::HasSubstr;
+
+class PdfJobTest : public testing::Test {
+  protected:
+    PdfJobTest() {
+        std::string name = (fs::temp_directory_path() / "pdf_job_XXXXXX").string();
+        folder = ::mkdtemp(name.data());
+        path = (folder / "sheets.pdf").string();
+    }
+    ~PdfJobTest() override {
+        std::error_code ignored;
+        fs::remove_all(folder, ignored);
+    }
+
+    [[nodiscard]] std::unique_ptr<PrintJob> Start() { return printers.StartDoc(setup, "Cone", path); }
+
+    static void Draw(DrawingDevice& sheet) {
+        const std::vector<PixelPoint> line = {{0, 0}, {7200, 7200}};
+        sheet.Polyline({}, line);
+    }
+
+    [[nodiscard]] std::string Contents() const {
+        std::ifstream file(path, std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+
+    /// How many pages the file tells of.
+    [[nodiscard]] int Pages() const {
+        const std::string contents = Contents();
+        const std::size_t at = contents.find("/Count ");
+        return at == std::string::npos ? 0 : std::atoi(contents.c_str() + at + 7);
+    }
+
+    [[nodiscard]] std::ptrdiff_t Entries() const {
+        return std::distance(fs::directory_iterator(folder), fs::directory_iterator());
+    }
+
+    /// What ending the document says; empty when it ends well.
+    static std::string EndOf(PrintJob& job) {
+        try {
+            job.EndDoc();
+            return "";
+        } catch (const PrintError& error) {
+            return error.what();
+        }
+    }
+
+    fs::path folder;
+    std::string path;
+    SystemPrinters printers;
+    SheetSetup setup = {PdfPrinter, PdfPapers().front(), Portrait};
+};
+
+TEST_F(PdfJobTest, EverySheetIsAPage) {
+    const auto job = Start();
+    for (int i = 0; i < 3; ++i) {
+        Draw(job->NewPage());
+    }
+    EXPECT_FALSE(fs::exists(path));  // not before it is whole
+    EXPECT_EQ(EndOf(*job), "");
+    EXPECT_EQ(Pages(), 3);
+    EXPECT_EQ(Entries(), 1);
+}
+
+TEST_F(PdfJobTest, ASheetIsThePaperInFineDots) {
+    const PrintableArea area = printers.AreaOf(setup);
+    EXPECT_NEAR(area.width, 210, 25.4 / 144);  // whole points
+    EXPECT_NEAR(area.height, 297, 25.4 / 144);
+    const auto job = Start();
+    const DrawingDevice& sheet = job->NewPage();
+    EXPECT_DOUBLE_EQ(sheet.ScaleSize().width / PaperDotsPerInch * 25.4, area.width);
+    EXPECT_DOUBLE_EQ(sheet.ScaleSize().height / PaperDotsPerInch * 25.4, area.height);
+    EXPECT_EQ(sheet.LogicalDpiY(), PaperDotsPerInch);
+    setup.orientation = Landscape;
+    EXPECT_DOUBLE_EQ(printers.AreaOf(setup).width, area.height);
+}
+
+TEST_F(PdfJobTest, GivenUpItLeavesTheOldFileAndNothingElse) {
+    std::ofstream(path, std::ios::binary) << "old";
+    {
+        const auto job = Start();
+        Draw(job->NewPage());
+        Draw(job->NewPage());
+    }
+    EXPECT_EQ(Contents(), "old");
+    EXPECT_EQ(Entries(), 1);
+    (void)Start();  // given up before its first sheet
+    EXPECT_EQ(Contents(), "old");
+}
+
+TEST_F(PdfJobTest, WithoutASheetThereIsNoDocument) {
+    const auto job = Start();
+    EXPECT_NE(EndOf(*job), "");
+    EXPECT_FALSE(fs::exists(path));
+}
+
+TEST_F(PdfJobTest, ItTakesThePlaceOfTheOldFile) {
+    std::ofstream(path, std::ios::binary) << "old";
+    const auto job = Start();
+    Draw(job->NewPage());
+    EXPECT_EQ(EndOf(*job), "");
+    EXPECT_EQ(Contents().substr(0, 5), "%PDF-");
+    EXPECT_EQ(Entries(), 1);
+}
+
+TEST_F(PdfJobTest, AFolderThatIsNotThereIsToldOf) {
+    path = (folder / "none" / "sheets.pdf").string();
+    try {
+        (void)Start();
+        FAIL();
+    } catch (const PrintError& error) {
+        EXPECT_THAT(error.what(), HasSubstr("none/sheets.pdf: "));
+    }
+}
+
+#ifdef __linux__
+TEST_F(PdfJobTest, AFullDiskIsToldOfAndADeviceStaysADevice) {
+    path = "/dev/full";
+    const auto job = Start();
+    for (int i = 0; i < 20; ++i) {
+        Draw(job->NewPage());
+    }
+    EXPECT_THAT(EndOf(*job), HasSubstr("/dev/full: No space left on device"));
+    EXPECT_TRUE(fs::is_character_file(path));
+}
+#endif
+
+TEST_F(PdfJobTest, TextIsMeasuredAsItIsDrawn) {
+    const auto job = Start();
+    const DrawingDevice& sheet = job->NewPage();
+    const PixelSize ten = sheet.TextExtent("1234", 10);
+    const PixelSize twenty = sheet.TextExtent("1234", 20);
+    EXPECT_NEAR(twenty.width / ten.width, 2, 0.01);
+    // Arial's digits are 0.556 of its size wide.
+    EXPECT_NEAR(ten.width / PaperDotsPerInch * 72, 4 * 0.556 * 10, 0.2);
+}
+
+}  // namespace
+}  // namespace korvet
