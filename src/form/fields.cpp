@@ -1,6 +1,7 @@
 #include "form/fields.h"
 
 #include <cmath>
+#include <utility>
 
 #include "core/checked.h"
 #include "core/constants.h"
@@ -17,26 +18,29 @@ void Reveal(const FieldContext& context, const TextBox& box) {
 }
 
 /// A message about one box.
-void ShowAbout(const FieldContext& context, const TextBox& box, BoxStyle style, std::string_view title,
-               const std::string& text) {
+void ShowAbout(const FieldContext& context, const TextBox& box, MessageBox message) {
     Reveal(context, box);
-    context.boxes.Show({.text = text,
-                        .style = style,
-                        .title = std::string(title),
-                        .box = box.parameterIndex,
-                        .control = box.name});
+    message.box = box.parameterIndex;
+    message.control = box.name;
+    context.boxes.Show(message);
 }
 
-void ShowNotANumber(const FieldContext& context, const TextBox& box) {
-    ShowAbout(context, box, QuestionBox, ProductTitle, GetMessage(NotAValidNumber, context.options.Language));
+MessageBox NotANumber(const FieldContext& context) {
+    return {.text = GetMessage(NotAValidNumber, context.options.Language),
+            .style = QuestionBox,
+            .title = std::string(ProductTitle)};
 }
 
 /// Shows why a box is refused and puts the focus on it, which selects its text.
-Outcome Refuse(const FieldContext& context, TextBox& box, const std::string& text) {
-    ShowAbout(context, box, ExclamationBox, "User Error", text);
+Outcome Refuse(const FieldContext& context, TextBox& box, MessageBox message) {
+    ShowAbout(context, box, std::move(message));
     context.focus = box.name;
     SelectFieldText(box);
     return Refused;
+}
+
+Outcome Refuse(const FieldContext& context, TextBox& box, const std::string& text) {
+    return Refuse(context, box, MessageBox{.text = text, .style = ExclamationBox, .title = "User Error"});
 }
 
 std::string LimitText(const FieldContext& context, int messageId, double limit) {
@@ -63,19 +67,13 @@ void SelectFieldText(TextBox& box) {
 void CheckFieldChange(const FieldContext& context, TextBox& box) {
     const bool underWay = box.text.empty() || box.text == "-" || box.text == "." || box.text == ",";
     if (!underWay && !ParseNumber(box.text, context.decimalMark)) {
-        ShowNotANumber(context, box);
+        ShowAbout(context, box, NotANumber(context));
         SelectFieldText(box);
     }
 }
 
 Outcome CheckNumber(const FieldContext& context, TextBox& box) {
-    if (ParseNumber(box.text, context.decimalMark)) {
-        return Passed;
-    }
-    ShowNotANumber(context, box);
-    context.focus = box.name;
-    SelectFieldText(box);
-    return Refused;
+    return ParseNumber(box.text, context.decimalMark) ? Passed : Refuse(context, box, NotANumber(context));
 }
 
 double FieldValue(const FieldContext& context, const TextBox& box) {
@@ -143,6 +141,10 @@ Outcome CheckBoxRoomForThickness(const FieldContext& context, TextBox& box, doub
         return Refused;
     }
     return CheckRoomForThickness(context, box, FieldValue(context, box), allowance);
+}
+
+Outcome RefuseAsNotMakeable(const FieldContext& context, TextBox& box, const std::string& reason) {
+    return Refuse(context, box, NotMakeable(reason));
 }
 
 Outcome CheckNotSmaller(const FieldContext& context, double a, double b, TextBox& box) {

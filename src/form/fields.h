@@ -54,6 +54,10 @@ Outcome CheckRoomForThickness(const FieldContext& context, TextBox& box, double 
 /// The same with the number in the box as the value.
 Outcome CheckBoxRoomForThickness(const FieldContext& context, TextBox& box, double allowance);
 
+/// Refuses a box whose size has no shape, though it passes every check: the message that the fitting cannot
+/// be made, with the reason below it.
+Outcome RefuseAsNotMakeable(const FieldContext& context, TextBox& box, const std::string& reason);
+
 /// Refuses without a word when a is below b: for use after a message of the caller.
 Outcome CheckNotSmaller(const FieldContext& context, double a, double b, TextBox& box);
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -77,6 +78,9 @@ class FittingForm {
     }
     Outcome CheckBoxRoomForThickness(int box, double allowance) {
         return korvet::CheckBoxRoomForThickness(context_, Box(box), allowance);
+    }
+    Outcome RefuseAsNotMakeable(int box, const std::string& reason) {
+        return korvet::RefuseAsNotMakeable(context_, Box(box), reason);
     }
 
     /// CheckPositive on several boxes in the order given, up to the first that refuses.

@@ -4,6 +4,13 @@
 
 namespace korvet {
 
+MessageBox NotMakeable(const std::string& reason) {
+    return {.text = "This fitting cannot be made with these sizes",
+            .style = PlainBox,
+            .title = std::string(ProductTitle),
+            .detail = reason};
+}
+
 void ShowPlain(MessageBoxes& boxes, const std::string& text, const std::string& detail) {
     boxes.Show({.text = text, .style = PlainBox, .title = std::string(ProductTitle), .detail = detail});
 }

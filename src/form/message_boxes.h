@@ -39,6 +39,9 @@ class MessageBoxes {
     virtual Answer Show(const MessageBox& message) = 0;
 };
 
+/// What is said of sizes that pass every check and yet have no shape, with the reason below it.
+MessageBox NotMakeable(const std::string& reason);
+
 /// The plain box with the product's name as its title.
 void ShowPlain(MessageBoxes& boxes, const std::string& text, const std::string& detail = {});
 

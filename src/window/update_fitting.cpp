@@ -56,7 +56,7 @@ void CFittingWindow::Rebuild() {
 /// A size so far out that the arithmetic ends: the window stays, with no model to save or print.
 void CFittingWindow::RefuseBuild(const std::exception& error) {
     hasModel = false;
-    ShowPlain(context_.ui, "This fitting cannot be made with these sizes", error.what());
+    context_.ui.Show(NotMakeable(error.what()));
 }
 
 Outcome CFittingWindow::BuildFitting() {

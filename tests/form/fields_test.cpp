@@ -207,6 +207,20 @@ TEST_F(Fields, RoomForThicknessComparesTheMeanSizeThatItIsGiven) {
     ExpectUserError("This dimension must be increased to allow for material thickness");
 }
 
+TEST_F(Fields, ASizeWithoutAShapeIsRefusedWithItsReason) {
+    TextBox box = Box("12");
+    EXPECT_EQ(RefuseAsNotMakeable(context, box, "there is nothing left"), Refused);
+    ASSERT_EQ(ui.messages.size(), 1U);
+    EXPECT_EQ(ui.messages[0].text, "This fitting cannot be made with these sizes");
+    EXPECT_EQ(ui.messages[0].detail, "there is nothing left");
+    EXPECT_EQ(ui.messages[0].title, "Korvet Development");
+    EXPECT_EQ(ui.messages[0].style, PlainBox);
+    EXPECT_EQ(ui.messages[0].box, 3);
+    EXPECT_EQ(ui.messages[0].control, "txtParameter_3");
+    EXPECT_EQ(focus, "txtParameter_3");
+    EXPECT_EQ(box.selectionLength, 2U);
+}
+
 TEST_F(Fields, NotSmallerMovesTheFocusWithoutAWord) {
     TextBox box = Box("100");
     EXPECT_EQ(CheckNotSmaller(context, 2, 2, box), Passed);
