@@ -10,44 +10,71 @@ namespace {
 
 constexpr int Strips = 48;
 
-/// The ends of the shape across a strip of the picture; nothing when it has no part there.
-std::optional<std::pair<double, double>> Across(const SolidPicture& picture, double low, double high) {
-    constexpr double Far = std::numeric_limits<double>::infinity();
-    std::pair<double, double> ends = {Far, -Far};
-    for (const SolidFace& face : picture.faces) {
-        for (std::size_t i = 0; i < face.corners.size(); ++i) {
-            const SketchXY a = face.corners[i];
-            const SketchXY b = face.corners[(i + 1) % face.corners.size()];
-            const SketchXY step = {b.x - a.x, b.y - a.y};
-            double from = 0;
-            double to = 1;
-            if (step.y != 0) {
-                const double t0 = (low - a.y) / step.y;
-                const double t1 = (high - a.y) / step.y;
-                from = std::max(from, std::min(t0, t1));
-                to = std::min(to, std::max(t0, t1));
-            } else if (a.y < low || a.y > high) {
-                continue;
-            }
-            if (from <= to) {
-                const double x0 = a.x + step.x * from;
-                const double x1 = a.x + step.x * to;
-                ends.first = std::min({ends.first, x0, x1});
-                ends.second = std::max({ends.second, x0, x1});
-            }
+constexpr double Far = std::numeric_limits<double>::infinity();
+
+/// How far a shape comes to the left and to the right within a level strip.
+struct Reach {
+    double low;  ///< the strip
+    double high;
+    double left = Far;
+    double right = -Far;
+
+    /// Takes in the part of a segment that lies in the strip.
+    void TakeIn(SketchXY a, SketchXY b) {
+        const SketchXY step = {b.x - a.x, b.y - a.y};
+        double from = 0;
+        double to = 1;
+        if (step.y != 0) {
+            const double t0 = (low - a.y) / step.y;
+            const double t1 = (high - a.y) / step.y;
+            from = std::max(from, std::min(t0, t1));
+            to = std::min(to, std::max(t0, t1));
+        } else if (a.y < low || a.y > high) {
+            return;
+        }
+        if (from <= to) {
+            const double x0 = a.x + step.x * from;
+            const double x1 = a.x + step.x * to;
+            left = std::min({left, x0, x1});
+            right = std::max({right, x0, x1});
         }
     }
-    return ends.first <= ends.second ? std::optional(ends) : std::nullopt;
+};
+
+/// The ends of the shape across a strip of the picture; nothing when it has no part there. A wall that is
+/// seen edge on has no face, but its edges.
+std::optional<std::pair<double, double>> Across(const SolidPicture& picture, double low, double high) {
+    Reach reach = {low, high};
+    for (const SolidFace& face : picture.faces) {
+        for (std::size_t i = 0; i < face.corners.size(); ++i) {
+            reach.TakeIn(face.corners[i], face.corners[(i + 1) % face.corners.size()]);
+        }
+    }
+    for (const SolidEdge& edge : picture.edges) {
+        for (std::size_t i = 1; i < edge.points.size(); ++i) {
+            reach.TakeIn(edge.points[i - 1], edge.points[i]);
+        }
+    }
+    return reach.left <= reach.right ? std::optional(std::pair(reach.left, reach.right)) : std::nullopt;
 }
 
-/// The same picture lying on its side: x and y exchanged.
+/// Points with x and y exchanged.
+std::vector<SketchXY> Exchanged(const std::vector<SketchXY>& points) {
+    std::vector<SketchXY> turned;
+    for (const SketchXY& point : points) {
+        turned.push_back({point.y, point.x});
+    }
+    return turned;
+}
+
+/// The same picture lying on its side.
 SolidPicture Exchanged(const SolidPicture& picture) {
     SolidPicture turned;
     for (const SolidFace& face : picture.faces) {
-        SolidFace& added = turned.faces.emplace_back();
-        for (const SketchXY& corner : face.corners) {
-            added.corners.push_back({corner.y, corner.x});
-        }
+        turned.faces.push_back({.corners = Exchanged(face.corners)});
+    }
+    for (const SolidEdge& edge : picture.edges) {
+        turned.edges.push_back({.points = Exchanged(edge.points)});
     }
     return turned;
 }

@@ -171,19 +171,25 @@ TEST(SketchLayout, NothingIsCutOff) {
     });
 }
 
+/// Neither over a face nor over a wall that is seen edge on, which is a line.
 TEST(SketchLayout, NoTextLiesOverTheShape) {
     ForEveryLayout([](const Laid& laid) {
         for (const PlacedSolid& solid : laid.layout.solids) {
-            for (const SolidFace& face : solid.picture.faces) {
-                SketchLine rim;
-                for (const SketchXY& corner : face.corners) {
-                    rim.points.push_back(
-                        {solid.originX + corner.x * solid.scale, solid.originY - corner.y * solid.scale});
+            const auto expectClear = [&](std::vector<SketchXY> points) {
+                for (SketchXY& point : points) {
+                    point = {solid.originX + point.x * solid.scale, solid.originY - point.y * solid.scale};
                 }
-                rim.points.push_back(rim.points.front());
                 for (const SketchRect& text : Texts(laid.layout)) {
-                    EXPECT_FALSE(RunsThrough(rim, text)) << laid.name;
+                    EXPECT_FALSE(RunsThrough({.points = points}, text)) << laid.name;
                 }
+            };
+            for (const SolidFace& face : solid.picture.faces) {
+                std::vector<SketchXY> rim = face.corners;
+                rim.push_back(rim.front());
+                expectClear(rim);
+            }
+            for (const SolidEdge& edge : solid.picture.edges) {
+                expectClear(edge.points);
             }
         }
     });

@@ -23,6 +23,18 @@ TEST(SketchPlane, ALineIsCutAroundTextsAndKeepsItsArrowHeads) {
     EXPECT_TRUE(CutAround(line, {{-10, -10, 200, 200}}).empty());
 }
 
+TEST(SketchOutline, AWallSeenEdgeOnIsPartOfTheShape) {
+    SolidPicture picture;
+    picture.edges.push_back({.points = {{0, 0}, {100, 0}, {100, 48}}});
+    picture.bounds = {0, 0, 100, 48};
+    const std::vector<SolidBounds> strips = StripsOf(picture);
+    ASSERT_EQ(strips.size(), 48U);
+    EXPECT_EQ(strips.front().left, 0);
+    EXPECT_EQ(strips[1].left, 100);
+    EXPECT_EQ(strips.back().right, 100);
+    EXPECT_EQ(LeavesShape(picture, {100, 20}, Side::Below), (SketchXY{100, 0}));
+}
+
 TEST(SketchOutline, AnExtensionLineStartsWhereItLeavesTheShape) {
     SolidPicture picture;
     picture.faces.push_back({.corners = {{0, 0}, {100, 0}, {50, 100}}});
