@@ -47,6 +47,9 @@ C3DPoints OffsetList(const C3DPoints& list, const C3DPoint& origin) {
 }
 
 std::string CoordinateTable(const AnnotatedPattern& pattern, int decimals) {
+    if (pattern.surfaces.Count() == 0) {
+        return std::string(ProductTitle) + "\r\n";  // a fitting without a pattern has no frame either
+    }
     const C3DPoint& corner = pattern.extentFrame.Item(1);
     std::string table = std::string(ProductTitle) + "\r\n";
     std::size_t surfaceNo = 0;

@@ -18,8 +18,8 @@ C3DPoints OffsetList(const C3DPoints& list, const C3DPoint& origin);
 
 /// The table as text with CR LF lines: the product's name, then for each surface a heading and a row per
 /// station with the points of List1, List2 and, where present, List3, told from the lower left corner of the
-/// frame. Columns are 14 characters apart. Throws ListError when there is no point at all, or when List2 or a
-/// present List3 has fewer stations than List1.
+/// frame. Columns are 14 characters apart. Without a surface it is the name alone. Throws ListError when the
+/// surfaces have no point at all, or when List2 or a present List3 has fewer stations than List1.
 std::string CoordinateTable(const AnnotatedPattern& pattern, int decimals);
 
 }  // namespace korvet
