@@ -45,7 +45,7 @@ const std::array<CatalogueRow, CatalogueSize> Catalogue = {{
     {"Imported Mesh", "frmImportMesh", "CImportMesh", 2460, NoLaps, nullptr},
     {"Elliptical Hole", "frmEllipticalHole", "CBaffle", 2480, AllLaps, &frmEllipticalHole},
     {"Pipe to Bend", "frmPipeToBend", "CPipeToBend", 2470, AllLaps, &frmPipeToBend},
-    {"Mitre Elbow", "frmMitreElbow", "CMitreElbow", 0, AllLaps, nullptr, true},
+    {"Mitre Elbow", "frmMitreElbow", "CMitreElbow", 0, AllLaps, &frmMitreElbow, true},
     {"Rectangular Tee", "frmRectTee", "CRectTee", 0, AllLaps, nullptr, true},
     {"Bends", "frmBends", "CBends", 2100, AllLaps, nullptr, true},
     {"Murok Mitre", "frmMurokMitre", "CMurokMitre", 0, NoLaps, &frmMurokMitre, true},
