@@ -47,7 +47,7 @@ const std::array<CatalogueRow, CatalogueSize> Catalogue = {{
     {"Pipe to Bend", "frmPipeToBend", "CPipeToBend", 2470, AllLaps, &frmPipeToBend},
     {"Mitre Elbow", "frmMitreElbow", "CMitreElbow", 0, AllLaps, &frmMitreElbow, true},
     {"Rectangular Tee", "frmRectTee", "CRectTee", 0, AllLaps, nullptr, true},
-    {"Bends", "frmBends", "CBends", 2100, AllLaps, nullptr, true},
+    {"Bends", "frmBends", "CBends", 2100, AllLaps, &frmBends, true},
     {"Murok Mitre", "frmMurokMitre", "CMurokMitre", 0, NoLaps, &frmMurokMitre, true},
 }};
 
