@@ -93,6 +93,19 @@ TEST(ReducingElbowLimits, LengthsAreHeldAgainstTheMeanRadii) {
     ExpectUserError(shell.ui, *window, AtLeast + "155", 7);
 }
 
+class ReducingElbowsWithoutAShape : public testing::TestWithParam<Shapeless> {};
+
+TEST_P(ReducingElbowsWithoutAShape, AreNotMade) {
+    ExpectShapeless(Category, GetParam());
+}
+
+INSTANTIATE_TEST_SUITE_P(Sizes, ReducingElbowsWithoutAShape,
+                         testing::Values(Shapeless{1, {{2, "1.1e9"}}, "Length 1 is above a thousand million"},
+                                         Shapeless{2, {{7, "1e12"}}, "Length 2 is above a thousand million"},
+                                         Shapeless{2,
+                                                   {{6, "6e8"}, {7, "6e8"}, {8, "179"}},
+                                                   "the fitting is larger than a thousand million"}));
+
 TEST(ReducingElbowSizes, AreTaken) {
     TestShell shell;
     const auto square = shell.OpenSample(Category, 1);

@@ -10,6 +10,7 @@
 
 #include "core/constants.h"
 #include "core/math_module.h"
+#include "tests/fittings/ovals/oval_reading.h"
 
 namespace korvet {
 namespace {
@@ -85,6 +86,18 @@ TEST_P(OvalElbow, PatternsShareOneCut) {
         EXPECT_NEAR(above.List1->Item(k).y, 336, 1e-9);
     }
     EXPECT_NEAR(below.List1->Last().x, 2 * PI * 50 + 2 * 90, 1e-7);
+}
+
+/// Cut open on the inside of the bend, the first piece is lowest at its seam.
+TEST_P(OvalElbow, CutsAreTheSineCurveOfTheMitre) {
+    elbow.DevelopModel();
+    const CRuleSurf& below = elbow.results.PatternSurfaceList.Item(1);
+    const CRuleSurf& above = elbow.results.PatternSurfaceList.Item(2);
+    const double rise = 50 * std::tan((PI - angle) / 2);
+    ExpectSineBetweenLevels(*below.List1, {50, 90, 0, -rise});
+    ExpectSineBetweenLevels(*below.List2, {50, 90, -400, 0});
+    ExpectSineBetweenLevels(*above.List2, {50, 90, 6, -rise});
+    ExpectSineBetweenLevels(*above.List1, {50, 90, 336, 0});
 }
 
 INSTANTIATE_TEST_SUITE_P(SegmentsAndAngles, OvalElbow,

@@ -59,6 +59,19 @@ TEST(OvalElbowLimits, WallMustFitIntoTheHalfCircles) {
     ExpectRoomUpTo(80, OvalElbowCategory, 3, 7, {{12, "-1"}});
 }
 
+class OvalElbowsWithoutAShape : public testing::TestWithParam<Shapeless> {};
+
+TEST_P(OvalElbowsWithoutAShape, AreNotMade) {
+    ExpectShapeless(OvalElbowCategory, GetParam());
+}
+
+INSTANTIATE_TEST_SUITE_P(Sizes, OvalElbowsWithoutAShape,
+                         testing::Values(Shapeless{1, {{1, "1.1e9"}}, "Length 1 is above a thousand million"},
+                                         Shapeless{2, {{6, "1.1e9"}}, "Length 2 is above a thousand million"},
+                                         Shapeless{3,
+                                                   {{8, "9e8"}, {9, "179.9"}},
+                                                   "the fitting is larger than a thousand million"}));
+
 TEST(OvalElbowSizes, OfEachType) {
     TestShell shell;
     const auto legs = shell.OpenSample(OvalElbowCategory, 1);
@@ -74,9 +87,16 @@ TEST(OvalElbowSizes, OfEachType) {
     EXPECT_EQ(elbow.KerfSpacing, 7);
     EXPECT_EQ(elbow.BendRadius, 0);
     const auto square = shell.OpenSample(OvalElbowCategory, 2);
-    EXPECT_EQ(Built<CElbowOval>(*square).BendAngle, QuarterTurn);
+    const auto& squared = Built<CElbowOval>(*square);
+    EXPECT_EQ(squared.BaseRad, 70);
+    EXPECT_EQ(squared.OvalCenterDistance, 190);  // 330 - 140
+    EXPECT_EQ(squared.BendAngle, QuarterTurn);
+    EXPECT_EQ(squared.Length1, 250);
+    EXPECT_EQ(squared.Length2, 200);
     const auto onRadius = shell.OpenSample(OvalElbowCategory, 3);
     const auto& turned = Built<CElbowOval>(*onRadius);
+    EXPECT_EQ(turned.BaseRad, 80);
+    EXPECT_EQ(turned.OvalCenterDistance, 240);                // 400 - 160
     EXPECT_NEAR(turned.BendAngle, DegToRad(120), 1e-12);      // a change of direction of 60
     EXPECT_NEAR(turned.Length1, 300 / std::sqrt(3.0), 1e-9);  // 300 tan 30 degrees
     EXPECT_EQ(turned.Length2, turned.Length1);

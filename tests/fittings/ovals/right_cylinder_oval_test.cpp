@@ -11,6 +11,7 @@
 #include "core/constants.h"
 #include "core/math_module.h"
 #include "fittings/pipes/right_cylinder.h"
+#include "tests/fittings/ovals/oval_reading.h"
 #include "tests/support/near.h"
 
 namespace korvet {
@@ -91,19 +92,9 @@ TEST_P(OvalPipe, IsCutByItsPlanes) {
 TEST_P(OvalPipe, StretchesOutToASineCurveBetweenLevels) {
     pipe.DevelopModel();
     const C3DPoints& cut = *pipe.results.PatternSurface.List1;
-    ASSERT_EQ(cut.Count(), 2 * segs + 3);
-    const double halfCircle = PI * OvalRadius;
-    EXPECT_NEAR(cut.Last().x, 2 * halfCircle + 2 * Straight, 1e-8);
-    for (std::size_t i = 1; i <= segs + 1; ++i) {
-        const double arc = static_cast<double>(i - 1) / static_cast<double>(segs) * halfCircle;
-        EXPECT_NEAR(cut.Item(i).x, arc, 1e-8);
-        EXPECT_NEAR(cut.Item(i).y, 150 + OvalRadius * std::tan(0.4) * std::cos(arc / OvalRadius), 1e-7);
-        EXPECT_NEAR(cut.Item(i + segs + 1).x, halfCircle + Straight + arc, 1e-8);
-        EXPECT_NEAR(cut.Item(i + segs + 1).y, 150 - OvalRadius * std::tan(0.4) * std::cos(arc / OvalRadius),
-                    1e-7);
-    }
-    EXPECT_NEAR(cut.Item(segs + 2).y, cut.Item(segs + 1).y, Near);
-    EXPECT_NEAR(cut.Last().y, cut.Item(2 * segs + 2).y, 1e-7);
+    ExpectSineBetweenLevels(cut, {OvalRadius, Straight, 150, OvalRadius * std::tan(0.4)});
+    ExpectSineBetweenLevels(*pipe.results.PatternSurface.List2,
+                            {OvalRadius, Straight, -20, OvalRadius * std::tan(0.2)});
     EXPECT_EQ(cut.Last().Flag, cut.Item(2 * segs + 2).Flag);
 }
 

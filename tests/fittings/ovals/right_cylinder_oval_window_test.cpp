@@ -44,6 +44,33 @@ INSTANTIATE_TEST_SUITE_P(
         Refusal{4, {{8, "69"}, {10, "90"}}, LessThan + "69", 8},
         Refusal{4, {{10, "-90"}}, GreaterThan + "-90", 10}, Refusal{4, {{10, "69"}}, LessThan + "69", 10}));
 
+/// Of the two ends of Type 4 each is held against the height alone: the cuts may cross.
+TEST(OvalPipeLimits, TheLimitsThemselvesAreAllowed) {
+    ExpectMade(OvalPipeCategory, {{1, {{0, "0.001"}, {1, "0.001"}}},
+                                  {1, {{2, "160"}}},
+                                  {2, {{15, "180"}}},
+                                  {2, {{4, "-73.2"}}},
+                                  {2, {{4, "73.2"}}},
+                                  {3, {{6, "0.001"}, {7, "0.001"}}},
+                                  {3, {{14, "150"}}},
+                                  {4, {{11, "200"}}},
+                                  {4, {{8, "-89.9"}, {10, "-89.9"}}},
+                                  {4, {{8, "68.9"}, {10, "68.9"}}}});
+}
+
+class OvalPipesWithoutAShape : public testing::TestWithParam<Shapeless> {};
+
+TEST_P(OvalPipesWithoutAShape, AreNotMade) {
+    ExpectShapeless(OvalPipeCategory, GetParam());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Sizes, OvalPipesWithoutAShape,
+    testing::Values(Shapeless{1, {{1, "1.1e9"}}, "Cutting plane height is above a thousand million"},
+                    Shapeless{2, {{15, "1.1e9"}}, "Base length is above a thousand million"},
+                    Shapeless{3, {{6, "1.1e9"}}, "Height 1 is above a thousand million"},
+                    Shapeless{4, {{8, "-89.9999999"}}, "the fitting is larger than a thousand million"}));
+
 TEST(OvalPipeLimits, WallMustFitIntoTheHalfCircles) {
     // The length is wrong as well, but comes after.
     ExpectRoomUpTo(80, OvalPipeCategory, 1, 0, {{2, "1"}});
@@ -67,11 +94,20 @@ TEST(OvalPipeSizes, OfTheMeanLine) {
 TEST(OvalPipeSizes, OfTiltedCuts) {
     TestShell shell;
     const CRightCylinderOval tilted = Built<CRightCylinderOval>(*shell.OpenSample(OvalPipeCategory, 2));
+    EXPECT_EQ(tilted.BaseRad, 90);
+    EXPECT_EQ(tilted.OvalCenterDistance, 220);  // 400 - 180
+    EXPECT_EQ(tilted.CPHeight1, 300);
     EXPECT_DOUBLE_EQ(tilted.CPAngle1, -DegToRad(25));
     const CRightCylinderOval heights = Built<CRightCylinderOval>(*shell.OpenSample(OvalPipeCategory, 3));
+    EXPECT_EQ(heights.BaseRad, 75);
+    EXPECT_EQ(heights.OvalCenterDistance, 230);  // 380 - 150
     EXPECT_DOUBLE_EQ(heights.CPHeight1, 280);
     EXPECT_DOUBLE_EQ(heights.CPAngle1, -std::atan(120.0 / 150));
     const CRightCylinderOval ends = Built<CRightCylinderOval>(*shell.OpenSample(OvalPipeCategory, 4));
+    EXPECT_EQ(ends.BaseRad, 100);
+    EXPECT_EQ(ends.OvalCenterDistance, 250);  // 450 - 200
+    EXPECT_EQ(ends.CPHeight1, 260);
+    EXPECT_EQ(ends.CPHeight2, 0);
     EXPECT_DOUBLE_EQ(ends.CPAngle1, -DegToRad(20));
     EXPECT_DOUBLE_EQ(ends.CPAngle2, -DegToRad(15));
 }

@@ -9,6 +9,7 @@
 #include "core/constants.h"
 #include "core/math_module.h"
 #include "fittings/bends/bend_pieces.h"
+#include "tests/fittings/ovals/oval_reading.h"
 
 namespace korvet {
 namespace {
@@ -78,15 +79,21 @@ TEST_P(OvalBend, NeighbouringCutsRunParallelAKerfApart) {
 }
 
 /// Of each pattern the seam's side alternates: the cut of the first is highest on the outside, at its seam.
-TEST_P(OvalBend, SeamsAlternate) {
+/// The cut above it is the same curve a kerf higher; the ends are level.
+TEST_P(OvalBend, CutsAreTheSineCurvesOfTheirMitres) {
     bend.DevelopModel();
+    const CRuleSurfs& patterns = bend.results.PatternSurfaceList;
     const double rise = 50 * std::tan(0.9 / gores);
     const double h = 120 * std::tan(0.9 / gores);
-    for (std::size_t i = 1; i <= static_cast<std::size_t>(gores); ++i) {
+    ExpectSineBetweenLevels(*patterns.Item(1).List2, {50, 90, -70, 0});
+    for (std::size_t i = 1; i < patterns.Count(); ++i) {
         const double middle = h + static_cast<double>(i - 1) * (2 * h + 6);
         const double side = i % 2 == 1 ? 1 : -1;
-        EXPECT_NEAR(bend.results.PatternSurfaceList.Item(i).List1->Item(1).y, middle + side * rise, 1e-7);
+        ExpectSineBetweenLevels(*patterns.Item(i).List1, {50, 90, middle, side * rise});
+        ExpectSineBetweenLevels(*patterns.Item(i + 1).List2, {50, 90, middle + 6, side * rise});
     }
+    const double top = gores * (2 * h + 6) + 90;
+    ExpectSineBetweenLevels(*patterns.Item(patterns.Count()).List1, {50, 90, top, 0});
 }
 
 TEST_P(OvalBend, ShortLayoutHasOneOfEachKind) {

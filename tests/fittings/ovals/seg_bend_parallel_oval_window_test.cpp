@@ -61,6 +61,35 @@ TEST(OvalBendLimits, WallMustFitIntoTheHalfCircles) {
     ExpectRoomUpTo(90, OvalBendCategory, 2, 5, {{12, "-1"}});
 }
 
+class OvalBendsWithoutAShape : public testing::TestWithParam<Shapeless> {};
+
+TEST_P(OvalBendsWithoutAShape, AreNotMade) {
+    ExpectShapeless(OvalBendCategory, GetParam());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Sizes, OvalBendsWithoutAShape,
+    testing::Values(
+        Shapeless{2, {{7, "180"}, {10, "2"}}, "no mitre turns a pipe by 180 degrees or more"},
+        Shapeless{2, {{7, "359"}, {10, "2"}}, "no mitre turns a pipe by 180 degrees or more"},
+        Shapeless{1, {{3, "1.1e9"}}, "Length 1 is above a thousand million"},
+        Shapeless{1, {{2, "32769"}}, "a bend has 32768 segments at most"},
+        // A piece has 200,003 stations, and all pieces together may have two million.
+        Shapeless{
+            1,
+            {{2, "10"}},
+            "so many segments with 100000 fold lines each are too much: make one of the two numbers smaller",
+            100000},
+        Shapeless{2, {{7, "179.9999999"}, {10, "2"}}, "the fitting is larger than a thousand million"}));
+
+TEST(OvalBendLimits, AsManyStationsAsAllPiecesMayHaveAreMade) {
+    TestShell shell;
+    const auto window = shell.OpenSample(OvalBendCategory, 1);
+    window->settings.segs = 100000;
+    TypeBoxes(*window, {{2, "9"}});
+    EXPECT_EQ(Built<CSegBendParallelOval>(*window).BendSegments, 8);
+}
+
 TEST(OvalBendSizes, AreHandedOn) {
     TestShell shell;
     const auto window = shell.OpenSample(OvalBendCategory, 2);
@@ -77,7 +106,14 @@ TEST(OvalBendSizes, AreHandedOn) {
     EXPECT_EQ(bend.Length2, 130);
     EXPECT_EQ(bend.KerfSpacing, 7);
     const auto quarter = shell.OpenSample(OvalBendCategory, 1);
-    EXPECT_EQ(Built<CSegBendParallelOval>(*quarter).BendAngle, QuarterTurn);
+    const auto& square = Built<CSegBendParallelOval>(*quarter);
+    EXPECT_EQ(square.BaseRad, 80);
+    EXPECT_EQ(square.OvalCenterDistance, 220);  // 380 - 160
+    EXPECT_EQ(square.BendRadius, 320);
+    EXPECT_EQ(square.BendAngle, QuarterTurn);
+    EXPECT_EQ(square.BendSegments, 4);
+    EXPECT_EQ(square.Length1, 90);
+    EXPECT_EQ(square.Length2, 140);
 }
 
 TEST(OvalBendWindow, AsksForThePattern) {
