@@ -7,7 +7,7 @@ import math
 import re
 from dataclasses import dataclass, field
 
-from fitting_maths import coordinates, snapped, unfolding_angle
+from fitting_maths import coordinates, distance, snapped, unfolding_angle
 
 PRODUCT = "Korvet Development"
 USER_ERROR = "User Error"
@@ -57,6 +57,15 @@ def closing_angle(a, b, c):
         return unfolding_angle(*map(snapped, (a, b, c)))
     except ValueError:
         return require_shape(False)
+
+
+def require_cut_within_end(cut, free_end, towards):
+    """No rule leads from its cut away from the free end, but for the rounding of one without a length. `towards` is the
+    direction of the free end along the axis."""
+    band = 1e-9 * max(distance(free_end[0], point) for point in (*cut, *free_end))
+    for p, q in zip(cut, free_end):
+        along = sum((b - a) * t for a, b, t in zip(p, q, towards))
+        require_shape(math.copysign(distance(p, q), along) >= -band)
 
 
 def as_list(surfaces):
