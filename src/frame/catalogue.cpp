@@ -17,7 +17,7 @@ const std::array<CatalogueRow, CatalogueSize> Catalogue = {{
     {"Offset Cone", "frmOffsetCone", "COffsetCone", 2220, AllLaps, &frmOffsetCone},
     {"Truncated Right Cone", "frmRightCone2", "CRightCone", 2210, AllLaps, &frmRightCone2},
     {"Breech", "frmBreech", "CBreech", 2230, SeamLapOnly, &frmBreech},
-    {"Reducing Breech", "frmBreechReducing", "CBreechReducing", 2240, SeamLapOnly, nullptr},
+    {"Reducing Breech", "frmBreechReducing", "CBreechReducing", 2240, SeamLapOnly, &frmBreechReducing},
     {"Offset Cylinder", "frmOffsetCylinder", "CRoundToRound", 2250, AllLaps, &frmOffsetCylinder},
     {"Pyramid", "frmPyramid", "CPyramid", 2260, AllLaps, &frmPyramid},
     {"Reducing Elbow", "frmElbowReducing", "CElbowReducing", 2270, SeamLapOnly, &frmElbowReducing},
