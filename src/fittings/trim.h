@@ -20,6 +20,9 @@ CRuleSurf Trimmed(const CRuleSurf& surface, Trim trim);
 /// Of a fitting that has no half: when HalfPattern is set, warns that it is not applicable and clears it.
 void RefuseHalf(FittingInputs& inputs, FittingResults& results);
 
+/// A new list of the points up to the middle station, those that TrimSurface keeps.
+PointList FirstHalf(const C3DPoints& list);
+
 /// A new list of the points from the middle station on, those that TrimSurface leaves away and the one in the
 /// middle.
 PointList SecondHalf(const C3DPoints& list);

@@ -10,8 +10,8 @@ from dataclasses import dataclass
 from cylinder_oracle import Cylinder
 from fitting_maths import (FULL_TURN, ORIGIN, PI, QUARTER_TURN, Surface, arc_cos, arc_sin, deg_to_rad, distance,
                            first_half, joined, moved_surface, plan_angle)
-from window_checks import (IMPOSSIBLE, NO_HALF, PRODUCT, USER_ERROR, Refusal, answer_to, ask_for_pattern, category_line,
-                           number_text)
+from window_checks import (NO_HALF, USER_ERROR, Refusal, answer_to, ask_for_pattern, category_line, number_text,
+                           require_cut_within_end, require_shape)
 
 CATEGORY = "Branch"
 BOX_COUNT = 13
@@ -39,6 +39,7 @@ class Branch:
     branch_b: float
     trunk_a: float  # the radii that the hole is cut by
     trunk_b: float
+    short_refused: bool = False  # a branch whose cut runs past its free end
 
     def intersection(self, rad_a, rad_b, segs):
         """The line in which the two pipes meet, round the branch's axis."""
@@ -71,6 +72,8 @@ class Branch:
     def branch_surface(self, segs, half):
         meeting = self.intersection(self.branch_a, self.branch_b, segs)
         surface = Surface(self.free_end(meeting, segs), meeting)
+        if self.short_refused:
+            require_cut_within_end(meeting, surface.List1, (math.sin(self.angle), 0.0, -math.cos(self.angle)))
         return first_half(surface) if half else surface
 
     def trunk_surface(self, segs, half):
@@ -126,30 +129,35 @@ def flat_trunk(branch, model, lift, settings):
 # ------------------------------------------------------------------------------------------------ the window
 
 
-def check_offset(box, index, room):
-    if box[index] != 0:
-        box.at_most(index, room)
-        box.at_least(index, -room)
+def positive_sizes(box, page):
+    box.positive(*page[:3])
 
 
-def check_square(box, r, R):
-    box.positive(0, 1, 2)
-    box.at_least(2, box.settings.ThicknessB / 2 + R)
-    box.at_least(3, r)
-    box.at_least(4, r + box[3])
-    check_offset(box, 11, R - r)
-    return QUARTER_TURN
+def check_limits(box, page, r, R):
+    """The checks behind those for sizes above 0. Gives the angle between the axes."""
+    _, _, length, to_intersection, main, offset, angle = page
 
+    def offset_has_room():
+        if offset is not None and box[offset] != 0:
+            box.at_most(offset, R - r)
+            box.at_least(offset, -(R - r))
 
-def check_slanting(box, r, R):
-    box.positive(5, 6, 7)
-    check_offset(box, 12, R - r)
-    box.at_least(7, box.settings.ThicknessB / 2 + R)
-    box.above(10, 0)
-    box.at_most(10, 90)
-    alpha = deg_to_rad(box[10])
-    box.at_least(8, r / math.sin(alpha) + R / math.tan(alpha))
-    box.at_least(9, r / math.tan(alpha) + R / math.sin(alpha))
+    def length_reaches_out():
+        box.at_least(length, box.settings.ThicknessB / 2 + R)
+
+    if angle is None:
+        length_reaches_out()
+        box.at_least(to_intersection, r)
+        box.at_least(main, r + box[to_intersection])
+        offset_has_room()
+        return QUARTER_TURN
+    offset_has_room()
+    length_reaches_out()
+    box.above(angle, 0)
+    box.at_most(angle, 90)
+    alpha = deg_to_rad(box[angle])
+    box.at_least(to_intersection, r / math.sin(alpha) + R / math.tan(alpha))
+    box.at_least(main, r / math.tan(alpha) + R / math.sin(alpha))
     return alpha
 
 
@@ -176,44 +184,71 @@ def cutting_radii(join, r, R, thick_a, thick_b):
     return (r, cut_by), (r + thick_a / 2, R)
 
 
-def text_block(case, box, join):
-    dA, dB, length, distance_, main, offset, angle = PAGES[case.dtype]
+def text_block(case, box, page, join):
+    dA, dB, length, distance_, main, offset, angle = page
     lines = [("Branch pipe diameter = ", dA), ("Main pipe diameter = ", dB), ("Branch pipe length = ", length),
-             ("Distance to intersection = ", distance_), ("Main pipe length = ", main)]
-    lines += [] if angle is None else [("Branch angle = ", angle)]
-    lines += [("Offset = ", offset),
-              ("Thickness of branch pipe = ", number_text(case.settings.ThicknessA)),
+             ("Distance to intersection = ", distance_), ("Main pipe length = ", main), ("Branch angle = ", angle),
+             ("Offset = ", offset)]
+    lines = [line for line in lines if line[1] is not None]
+    lines += [("Thickness of branch pipe = ", number_text(case.settings.ThicknessA)),
               ("Thickness of trunk pipe = ", number_text(case.settings.ThicknessB)), (JOIN_LINES[join], "")]
     return ["", ""] + box.lines(lines)
 
 
-def build(case, box, answer):
-    settings = case.settings
-    thick_a, thick_b = settings.ThicknessA, settings.ThicknessB
-    dA, dB, length, to_intersection, main, offset, _ = PAGES[case.dtype]
-    r, R = box.mean(box[dA] / 2, thick_a / 2), box.mean(box[dB] / 2, thick_b / 2)
-    alpha = (check_square, check_slanting)[case.dtype](box, r, R)
-    join = case.option("optInOrOn", MEAN_TO_MEAN)
-    half = settings.HalfPattern
-    if half and box[offset] != 0:
+def join_of(case):
+    return case.option("optInOrOn", MEAN_TO_MEAN)
+
+
+def mean_radii(box, page):
+    thickness = box.settings
+    return box.mean(box[page[0]] / 2, thickness.ThicknessA / 2), box.mean(box[page[1]] / 2, thickness.ThicknessB / 2)
+
+
+def angle_of_joint(case, r, alpha):
+    if join_of(case) == SET_ON and case.option("chkHeelCompensation", False) and alpha < QUARTER_TURN:
+        alpha -= heel_angle(r, alpha, case.settings.ThicknessA)
+        require_shape(alpha > 0)
+    return alpha
+
+
+def labelled(case, box, answer, page, beside_axis):
+    """The text block; and whether there is a half pattern."""
+    half = case.settings.HalfPattern
+    if half and beside_axis:
         answer.messages.append((USER_ERROR, NO_HALF, None))
         half = False
-    answer.labels = text_block(case, box, join) + [category_line(case, half)]
-    if join == SET_ON and case.option("chkHeelCompensation", False) and alpha < QUARTER_TURN:
-        alpha -= heel_angle(r, alpha, thick_a)
-    branch_radii, trunk_radii = cutting_radii(join, r, R, thick_a, thick_b)
-    for rad_a, rad_b in (branch_radii, trunk_radii):
-        if rad_a <= 0:
-            raise Refusal(PRODUCT, IMPOSSIBLE, None)  # the material is thicker than the pipe
-        if rad_a + abs(box[offset]) > rad_b:
+    answer.labels = text_block(case, box, page, join_of(case)) + [category_line(case, half)]
+    return half
+
+
+def require_meeting(offset, *pairs):
+    for rad_a, rad_b in pairs:
+        require_shape(rad_a > 0)  # the material is thicker than the pipe
+        if rad_a + abs(offset) > rad_b * (1 + 1e-13):
             raise Refusal(USER_ERROR, TOO_LARGE, None)
-    branch = Branch(alpha, -box[offset], box[length], box[main], box[to_intersection], *branch_radii, *trunk_radii)
-    answer.model, lift = branch.model(settings.segs, half)
+
+
+def make(case, answer, branch, half):
+    answer.model, lift = branch.model(case.settings.segs, half)
     if case.select == BRANCH:
-        answer.pattern = [flat_branch(branch, answer.model[0], settings)]
+        answer.pattern = [flat_branch(branch, answer.model[0], case.settings)]
     else:
-        answer.pattern = [flat_trunk(branch, answer.model[1], lift, settings)]
+        answer.pattern = [flat_trunk(branch, answer.model[1], lift, case.settings)]
     ask_for_pattern(case, answer)
+
+
+def build(case, box, answer):
+    settings, page = case.settings, PAGES[case.dtype]
+    _, _, length, to_intersection, main, offset, _ = page
+    r, R = mean_radii(box, page)
+    positive_sizes(box, page)
+    alpha = check_limits(box, page, r, R)
+    half = labelled(case, box, answer, page, box[offset] != 0)
+    alpha = angle_of_joint(case, r, alpha)
+    branch_radii, trunk_radii = cutting_radii(join_of(case), r, R, settings.ThicknessA, settings.ThicknessB)
+    require_meeting(box[offset], branch_radii, trunk_radii)
+    make(case, answer, Branch(alpha, -box[offset], box[length], box[main], box[to_intersection], *branch_radii,
+                              *trunk_radii), half)
 
 
 def compute(case):

@@ -68,8 +68,9 @@ TEST(Trim, AHalfIsRefusedOnce) {
     EXPECT_FALSE(inputs.HalfPattern);
 }
 
-TEST(Trim, TheSecondHalfStartsInTheMiddle) {
+TEST(Trim, HalvesOfAListHaveItsMiddleInCommon) {
     const C3DPoints points = PointsOf({{1, 0, 0, 1}, {2, 0, 0, 0}, {3, 0, 0, 5}, {4, 0, 0, 0}, {5, 0, 0, 1}});
+    EXPECT_TRUE(SamePoints(*FirstHalf(points), PointsOf({{1, 0, 0, 1}, {2, 0, 0, 0}, {3, 0, 0, 5}})));
     EXPECT_TRUE(SamePoints(*SecondHalf(points), PointsOf({{3, 0, 0, 5}, {4, 0, 0, 0}, {5, 0, 0, 1}})));
 }
 

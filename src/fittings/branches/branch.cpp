@@ -5,6 +5,7 @@
 #include "core/checked.h"
 #include "core/constants.h"
 #include "core/math_module.h"
+#include "fittings/cut_past_end.h"
 #include "fittings/pieces.h"
 #include "fittings/pipes/right_cylinder.h"
 #include "fittings/trim.h"
@@ -99,6 +100,10 @@ CRuleSurf CBranch::BuildBranchSurface() const {
     CRuleSurf surface;
     surface.List2 = BuildIntersectionList(cut);
     surface.List1 = BuildBranchEndList(*surface.List2, cut);
+    if (RefusesShortBranch) {
+        RequireCutWithinEnd(*surface.List2, *surface.List1, {std::sin(AxialAngle), 0, -std::cos(AxialAngle)},
+                            "the branch pipe length");
+    }
     return Trimmed(surface, TrimOf(inputs));
 }
 

@@ -32,6 +32,10 @@ struct CBranch {
     /// 0: a stretch-out is that of the radius; any other value: of the pipe's outside, to wrap round it.
     std::int16_t TemplateType = 0;
 
+    /// ConstructModel throws for a branch so short that its edge runs past its free end. Where this is not
+    /// set such a branch is built, and its pattern folds over.
+    bool RefusesShortBranch = false;
+
     /// Fills results.ModelSurfaceList with the branch and the trunk, the trunk standing on z = 0. All lists
     /// have 2 * segs + 1 stations, Flag the station number modulo 2.
     /// Branch: List1 its free end, List2 the edge on the trunk, from its top round to it again; the edge has
@@ -40,7 +44,8 @@ struct CBranch {
     /// List3 the edge of the hole, with the flags of the branch's edge.
     /// HalfPattern keeps stations 1 to segs + 1 of both pipes, and of the hole the half that lies on the kept
     /// half of the trunk, stations segs + 1 to the last.
-    /// Throws ArithmeticError when the pipes don't meet or the axes don't cross.
+    /// Throws ArithmeticError when the pipes don't meet, the axes don't cross, or the branch is refused as
+    /// too short.
     void ConstructModel();
 
     /// Fills results.PatternSurfaceList with the pipe that Miscellaneous asks for, or with nothing; with laps

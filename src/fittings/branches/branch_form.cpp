@@ -9,10 +9,6 @@
 namespace korvet::branch {
 namespace {
 
-Outcome CheckDiametersAndLength(FittingForm& form, const PipeBoxes& boxes) {
-    return form.CheckAllPositive(boxes.branchDiameter, boxes.mainDiameter, boxes.branchLength);
-}
-
 /// The branch reaches out of the trunk.
 Outcome CheckBranchLength(FittingForm& form, const PipeBoxes& boxes, const Walls& walls) {
     return form.CheckAtLeast(boxes.branchLength, walls.tB / 2 + walls.R);
@@ -28,9 +24,6 @@ Outcome CheckOffset(FittingForm& form, const PipeBoxes& boxes, const Walls& wall
 
 /// The hole lies between the ends of the trunk.
 Outcome CheckSquare(FittingForm& form, const PipeBoxes& boxes) {
-    if (CheckDiametersAndLength(form, boxes)) {
-        return Refused;
-    }
     const Walls walls = WallsOf(form, boxes);
     return RefusedIf(CheckBranchLength(form, boxes, walls) || form.CheckAtLeast(boxes.distance, walls.r) ||
                      form.CheckAtLeast(boxes.mainLength, walls.r + form.Value(boxes.distance)) ||
@@ -41,9 +34,6 @@ Outcome CheckSquare(FittingForm& form, const PipeBoxes& boxes) {
 /// R / tan(alpha) from where the axes cross. The trunk's length is asked for without the distance to the
 /// crossing, and a trunk that is shorter than its hole needs is thus let through.
 Outcome CheckSlanting(FittingForm& form, const PipeBoxes& boxes) {
-    if (CheckDiametersAndLength(form, boxes)) {
-        return Refused;
-    }
     const Walls walls = WallsOf(form, boxes);
     if (CheckOffset(form, boxes, walls) || CheckBranchLength(form, boxes, walls) ||
         form.CheckGreaterThan(boxes.angle, 0) || form.CheckAtMost(boxes.angle, 90)) {
@@ -72,7 +62,11 @@ Walls WallsOf(const FittingForm& form, const PipeBoxes& boxes) {
             MeanRadiusOfDiameter(form, boxes.mainDiameter, tB), tA, tB};
 }
 
-Outcome CheckPipes(FittingForm& form, const PipeBoxes& boxes) {
+Outcome CheckPositiveSizes(FittingForm& form, const PipeBoxes& boxes) {
+    return form.CheckAllPositive(boxes.branchDiameter, boxes.mainDiameter, boxes.branchLength);
+}
+
+Outcome CheckLimits(FittingForm& form, const PipeBoxes& boxes) {
     return boxes.angle == NoBox ? CheckSquare(form, boxes) : CheckSlanting(form, boxes);
 }
 

@@ -57,9 +57,12 @@ Walls WallsOf(const FittingForm& form, const PipeBoxes& boxes);
 
 // Checks, with the focus on the box after a refusal or, without one, left alone.
 
-/// Every limit of a page in its fixed order, that of a square or of a slanting branch. Throws ArithmeticError
-/// when a diameter holds no number.
-Outcome CheckPipes(FittingForm& form, const PipeBoxes& boxes);
+/// The first checks of a page: both diameters and the length of the branch are above 0.
+Outcome CheckPositiveSizes(FittingForm& form, const PipeBoxes& boxes);
+
+/// Every limit behind these in its fixed order, that of a square or of a slanting branch. Throws
+/// ArithmeticError when a diameter holds no number.
+Outcome CheckLimits(FittingForm& form, const PipeBoxes& boxes);
 
 /// The branch with these radii at `offset` between the axes is too large for its trunk.
 Outcome CheckMeeting(FittingForm& form, const CutRadii& radii, double offset);
@@ -76,14 +79,15 @@ inline constexpr int PatternSurfaces[] = {2, 1};
 
 /// The table of such a window. The seam lies opposite the branch, whatever JoinAngle the settings hold: they
 /// keep what a file has brought.
-constexpr WindowTable Table(std::span<const PageEntry> pages, BuildStep* build,
-                            BuildStep* afterPatternChoice) {
+constexpr WindowTable Table(std::span<const PageEntry> pages, BuildStep* build, BuildStep* afterPatternChoice,
+                            HalfPatterns halfPatterns = HalfPatterns::Offered) {
     return {.pages = pages,
             .newFitting = FittingHandle::Make<CBranch>,
             .buildFitting = build,
             .afterPatternChoice = afterPatternChoice,
             .multiple = true,
             .miscellaneous = TrunkPattern,
+            .halfPatterns = halfPatterns,
             .joinAngleDisable = true,
             .templateTypeEnabled = true,
             .materialDisable = true,

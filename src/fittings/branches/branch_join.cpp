@@ -9,6 +9,9 @@
 namespace korvet::branch {
 namespace {
 
+/// How far, as a part of the trunk's radius, a branch that just touches it may reach beyond it by rounding.
+constexpr double TouchingBand = 1e-13;
+
 /// Radius of the trunk at the depth to which a set-in branch reaches.
 double SetInDepth(const Walls& walls) {
     if (walls.r <= walls.R - walls.tB / 2) {
@@ -55,7 +58,7 @@ CutRadii HoleRadii(BranchJoin join, const Walls& walls) {
 
 bool MeetsTrunk(const CutRadii& radii, double offset) {
     RequireBranchWidth(radii.pipeA);
-    return radii.pipeA + AbsValue(offset) <= radii.pipeB;
+    return radii.pipeA + AbsValue(offset) <= radii.pipeB * (1 + TouchingBand);
 }
 
 /// In the section through both axes the inside of the branch, 2 (r - tA) + tA wide, covers p of the trunk.

@@ -30,8 +30,8 @@ CutRadii EdgeRadii(BranchJoin join, const Walls& walls);
 CutRadii HoleRadii(BranchJoin join, const Walls& walls);
 
 /// Whether a branch at this distance of the axes meets the trunk all round: its far side lies no further from
-/// the trunk's axis than the trunk's surface. Throws ArithmeticError when the branch has no radius left to
-/// cut, its material being too thick for its diameter.
+/// the trunk's axis than the trunk's surface, but for rounding. Throws ArithmeticError when the branch has no
+/// radius left to cut, its material being too thick for its diameter.
 bool MeetsTrunk(const CutRadii& radii, double offset);
 
 /// By how much the axial angle `alpha` (radians, below a quarter turn) of a set-on branch is made smaller so

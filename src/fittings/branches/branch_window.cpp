@@ -1,4 +1,5 @@
 // Branch: a round pipe on a round trunk, square or at an angle, with the pattern of either pipe.
+#include "fittings/branches/beside_axis.h"
 #include "fittings/branches/branch_form.h"
 #include "fittings/branches/branch_sketch.h"
 #include "fittings/joined.h"
@@ -6,17 +7,15 @@
 namespace korvet {
 namespace {
 
-/// The boxes and the offset. Half of a branch beside the trunk's axis is no mirror of the other half.
+/// The boxes and the offset.
 template <branch::PipeBoxes Pipes>
 Outcome Build(FittingForm& form, CBranch& fitting) {
-    if (branch::CheckPipes(form, Pipes)) {
+    if (branch::CheckPositiveSizes(form, Pipes) || branch::CheckLimits(form, Pipes)) {
         return Refused;
     }
     branch::SetPipes(form, Pipes, fitting);
     fitting.Offset = -form.Value(Pipes.offset);
-    if (form.settings.HalfPattern && fitting.Offset != 0) {
-        form.RefuseHalfPattern();
-    }
+    RefuseHalfBesideAxis(form, fitting.Offset);
     return Passed;
 }
 

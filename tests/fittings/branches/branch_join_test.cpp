@@ -63,6 +63,21 @@ TEST(MeetsTrunk, UpToTheEdgeOfTheTrunk) {
     EXPECT_FALSE(MeetsTrunk({80.001, 80}, 0));
 }
 
+/// A set-in branch that just touches the inside of a trunk, its radius typed to the hundredth of a
+/// millimetre.
+TEST(MeetsTrunk, RoundingIsNoGap) {
+    int above = 0;
+    for (int i = 1; i < 2000; ++i) {
+        const double pipeA = (50500 - 5 * i) / 1000.0;
+        const double pipeB = 50 + 1.5 - (2 + i * 0.01) / 2;
+        const double offset = pipeB - pipeA;
+        above += pipeA + std::fabs(offset) > pipeB ? 1 : 0;
+        EXPECT_TRUE(MeetsTrunk({pipeA, pipeB}, offset));
+        EXPECT_FALSE(MeetsTrunk({pipeA, pipeB}, offset + 1e-9));
+    }
+    EXPECT_GT(above, 10) << "the sum comes out above the radius";
+}
+
 TEST(MeetsTrunk, APipeWithoutARadiusIsAnError) {
     EXPECT_THROW((void)MeetsTrunk({0, 80}, 0), ArithmeticError);
     EXPECT_THROW((void)MeetsTrunk({-2, 80}, 0), ArithmeticError);

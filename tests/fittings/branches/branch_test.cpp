@@ -6,6 +6,7 @@
 #include <cmath>
 #include <vector>
 
+#include "core/checked.h"
 #include "core/constants.h"
 #include "core/math_module.h"
 #include "tests/support/point_lists.h"
@@ -293,6 +294,17 @@ TEST(BranchModel, ALaterBuildReplacesTheEarlierOne) {
     branch.ConstructModel();
     EXPECT_EQ(branch.results.ModelSurfaceList.Count(), 2U);
     EXPECT_EQ(branch.results.ModelSurfaceList.Item(2).List3->Count(), 21U);
+}
+
+/// At 30 degrees the heel lies (100 + 60 cos 30) / sin 30 = 303.9 from the trunk's axis, along the branch.
+TEST(ShortBranch, IsRefusedOnlyWhereItIsAskedFor) {
+    CBranch branch = Joint(PI / 6, 0, 60, 100);
+    branch.LengthPipeA = 303.92;
+    branch.ConstructModel();
+    branch.RefusesShortBranch = true;
+    EXPECT_THROW(branch.ConstructModel(), ArithmeticError);
+    branch.LengthPipeA = 303.93;
+    branch.ConstructModel();
 }
 
 }  // namespace
