@@ -12,7 +12,7 @@ const std::array<CatalogueRow, CatalogueSize> Catalogue = {{
     {"Right Cylinder", "frmRightCylinder", "CRightCylinder", 2150, AllLaps, &frmRightCylinder},
     {"Branch", "frmBranch", "CBranch", 2170, AllLaps, &frmBranch},
     {"Rectangle (Radius) to Round", "frmRectRound2", "CTransition", 2180, SeamLapOnly, &frmRectRound2},
-    {"Pipe to Cone", "frmPipeToCone", "CPipeToCone", 2190, AllLaps, nullptr},
+    {"Pipe to Cone", "frmPipeToCone", "CPipeToCone", 2190, AllLaps, &frmPipeToCone},
     {"Rectangle to Rectangle", "frmRectToRect", "CRectToRect", 2200, NoLaps, &frmRectToRect},
     {"Offset Cone", "frmOffsetCone", "COffsetCone", 2220, AllLaps, &frmOffsetCone},
     {"Truncated Right Cone", "frmRightCone2", "CRightCone", 2210, AllLaps, &frmRightCone2},
