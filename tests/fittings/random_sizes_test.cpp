@@ -2,6 +2,7 @@
 // message, never in a coordinate that is no number, in an empty pattern or in a crash.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <random>
 #include <sstream>
@@ -85,23 +86,27 @@ class RandomTyping {
         ChooseOneOf(options.optPatternSelect, [&](std::size_t button) { window.SelectPattern(button); });
         ChooseOneOf(options.optFlushSide,
                     [&](std::size_t button) { window.SelectOption(&FittingOptions::optFlushSide, button); });
+        window.branch.join = static_cast<BranchJoin>(std::uniform_int_distribution<int>(0, 2)(random_));
+        window.branch.heelCompensation = Chance(0.3);
     }
 
     std::mt19937 random_;
     std::ostringstream typed_;
 };
 
+bool IsWholeList(const C3DPoints& list) {
+    return std::all_of(list.begin(), list.end(), [](const C3DPoint& p) {
+        return std::isfinite(p.x) && std::isfinite(p.y) && std::isfinite(p.z);
+    });
+}
+
+/// A hole, where there is one, has its points too.
 bool IsWhole(const CRuleSurfs& surfaces) {
     for (const CRuleSurf& surface : surfaces) {
-        for (const PointList& list : {surface.List1, surface.List2}) {
-            if (!IsPresent(list)) {
-                return false;
-            }
-            for (const C3DPoint& p : *list) {
-                if (!std::isfinite(p.x) || !std::isfinite(p.y) || !std::isfinite(p.z)) {
-                    return false;
-                }
-            }
+        if (!IsPresent(surface.List1) || !IsPresent(surface.List2) || !IsWholeList(*surface.List1) ||
+            !IsWholeList(*surface.List2) ||
+            (surface.List3 && !(IsPresent(surface.List3) && IsWholeList(*surface.List3)))) {
+            return false;
         }
     }
     return surfaces.Count() > 0;
@@ -139,6 +144,9 @@ INSTANTIATE_TEST_SUITE_P(Breeches, RandomSizes,
                          testing::Values("Breech", "Reducing Breech",
                                          "Reducing Breech - Two Piece - Angle Top",
                                          "Reducing Breech - Two Piece - Parallel Top"));
+INSTANTIATE_TEST_SUITE_P(PipesAndCones, RandomSizes,
+                         testing::Values("Branch", "Pipe to Cone", "Cyclone (Cylinder)", "Cyclone (Cone)",
+                                         "Cone to Pipe Elbow", "Pipe to Cone Elbow"));
 
 }  // namespace
 }  // namespace korvet::random_sizes_test
