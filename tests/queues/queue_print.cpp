@@ -1,5 +1,5 @@
 // Prints a fitting on a print queue as the desktop does, without its windows:
-//     queue_print QUEUE PAPER portrait|landscape full|fit|table CATEGORY BOX=VALUE...
+//     queue_print QUEUE PAPER portrait|landscape full|fit|table|cancel CATEGORY BOX=VALUE...
 // A PDF comes into the current folder. Messages go to the standard error; the status is 1 when there was one.
 #include <QGuiApplication>
 #include <iostream>
@@ -48,6 +48,9 @@ int Print(const std::vector<std::string>& arguments) {
     window->ClickView(PatternButton);
     ui.files = {"printed.pdf"};  // in the current folder, where the PDF file asks for a name
     ui.onPrinters = [&](PrintersDialog& dialog) { Choose(dialog, arguments); };
+    if (arguments[3] == "cancel") {
+        ui.goesOn = [](const WorkProgress& progress) { return progress.done < 3; };
+    }
     window->PrintDrawing();
     for (const MessageBox& message : ui.messages) {
         std::cerr << message.text << '\n';

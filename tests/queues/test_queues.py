@@ -88,6 +88,16 @@ class QueueTest(unittest.TestCase):
         words = words_of(path, 1)
         self.assertEqual(words[:4], ["Korvet", "Development", "Suface", "No:"])
 
+    def test_a_cancelled_job_leaves_nothing_behind(self):
+        before = self.cups.documents("PLOT")
+        fitting = ("Right Cone", "3=300", "4=120", "5=250")
+        self.assertEqual(self.print_on("PLOT", "A4", "portrait", "cancel", *fitting), "")
+        self.assertEqual(self.cups.ask("lpstat", "-o", "PLOT").strip(), "")
+        self.assertEqual(self.print_on("PDF file", "A4", "portrait", "cancel", *fitting), "")
+        self.assertFalse((Path(self.folder.name) / "printed.pdf").exists())
+        self.expect_printed("A4", "portrait", "full", *fitting)
+        self.assertEqual(self.cups.documents("PLOT"), before + 1)
+
     def test_the_pdf_of_the_desktop_is_that_of_the_batch_program(self):
         self.assertEqual(self.print_on("PDF file", "A4", "portrait", "full", "Right Cone", "3=300", "4=120", "5=250"), "")
         batch = Path(self.folder.name) / "batch.pdf"

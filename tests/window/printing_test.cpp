@@ -2,16 +2,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cmath>
-#include <functional>
+#include <cstdlib>
 
-#include "core/math_module.h"
-#include "display/page_clip.h"
-#include "printing/printers_dialog.h"
-#include "tests/support/recording_device.h"
-#include "tests/support/test_context.h"
-#include "window/views.h"
+#include "tests/window/printing_fixture.h"
 
 namespace korvet {
 namespace {
@@ -20,74 +14,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-const std::string PatternOnly = "This option is only available in pattern view";
-
-/// A cone of 300 to 120 over 250, whose pattern lies in a quarter ring of 443; on A4 with 200 by 287 to print
-/// on. Its outline reaches from x -234.1 to 442.8 and y 0 to 442.8: four columns, two rows.
-class Printing : public testing::Test {
-  protected:
-    Printing() {
-        shell.printers.queues = {{.name = "Laser"}};
-        shell.printDialog.SetDefaultPapersize(shell.options, shell.ui);
-        window = shell.OpenSample("Right Cone", 2, &screen);
-        window->ClickView(PatternButton);
-        screen.calls.clear();
-    }
-
-    /// Print... with this done in its dialog before OK.
-    void Print(const std::function<void(PrintersDialog&)>& user) {
-        shell.ui.onPrinters = [&](PrintersDialog& dialog) {
-            user(dialog);
-            if (dialog.lblStatus.empty()) {
-                dialog.ClickOK();
-            }
-        };
-        window->PrintDrawing();
-    }
-
-    void PrintAllFull() {
-        Print([](PrintersDialog& dialog) { dialog.ClickScale(PrintersDialog::FullSize); });
-    }
-
-    void TickFrames() {
-        shell.frame.printFramesTicked = true;
-        window->SetupPrintFrames();
-    }
-
-    [[nodiscard]] std::vector<RecordingPrinters::Document>& Documents() { return shell.printers.documents; }
-
-    /// The names of the sheets of a document, from what stands on them.
-    static std::vector<std::string> SheetsOf(const RecordingPrinters::Document& document) {
-        std::vector<std::string> names;
-        for (const auto& sheet : document.sheets) {
-            for (const std::string& text : sheet->Strings()) {
-                if (text.starts_with("[SHEET ")) {
-                    names.push_back(text.substr(7, text.size() - 8));
-                }
-            }
-        }
-        return names;
-    }
-
-    [[nodiscard]] bool ScreenHasFrames() const {
-        bool has = false;
-        for (const RecordingDevice::Call& call : screen.calls) {
-            has = call.kind != RecordingDevice::Kind::Cls && (has || call.text == "[SHEET A1]");
-        }
-        return has;
-    }
-
-    /// All that was said, once.
-    std::vector<std::string> Said() {
-        const std::vector<std::string> texts = shell.ui.Texts();
-        shell.ui.messages.clear();
-        return texts;
-    }
-
-    TestShell shell;
-    RecordingDevice screen{400, 200};
-    std::unique_ptr<CFittingWindow> window;
-};
+class Printing : public PrintingCone {};
 
 TEST_F(Printing, FullSizePrintsEverySheetInOneJob) {
     PrintAllFull();
@@ -195,17 +122,17 @@ TEST_F(Printing, AUserScaleIsNotPrinted) {
 TEST_F(Printing, FullSizeIsOfPatternsOnly) {
     window->ClickView(0);
     PrintAllFull();
-    EXPECT_THAT(Said(), ElementsAre(PatternOnly));
+    EXPECT_THAT(Said(), ElementsAre(PatternViewAsked));
     EXPECT_EQ(shell.printers.started, 0);
 }
 
 TEST_F(Printing, WithoutRoomForAFrameNothingIsPrinted) {
     shell.printers.margin = 101;
     PrintAllFull();
-    EXPECT_THAT(Said(), ElementsAre(PatternOnly));
+    EXPECT_THAT(Said(), ElementsAre(PatternViewAsked));
     shell.printers.margin = 100;  // frames of no length
     PrintAllFull();
-    EXPECT_THAT(Said(), ElementsAre(PatternOnly));
+    EXPECT_THAT(Said(), ElementsAre(PatternViewAsked));
     EXPECT_EQ(shell.printers.started, 0);
     TickFrames();
     EXPECT_EQ(window->printFrames.PrinterPages.Count(), 0U);
@@ -281,118 +208,6 @@ TEST_F(Printing, CancelInTheDialogPrintsNothing) {
     EXPECT_EQ(Documents().size(), 1U);  // and is no reason to refuse the next one
 }
 
-TEST_F(Printing, FramesAreShownAndHiddenByTheirEntry) {
-    TickFrames();
-    EXPECT_TRUE(ScreenHasFrames());
-    EXPECT_TRUE(shell.frame.menuEnabled["mnuSelectFrames"]);
-    EXPECT_EQ(window->printFrames.PrinterPages.Count(), 8U);
-    screen.calls.clear();
-    shell.frame.printFramesTicked = false;
-    window->SetupPrintFrames();
-    EXPECT_FALSE(ScreenHasFrames());
-    EXPECT_FALSE(shell.frame.menuEnabled["mnuSelectFrames"]);
-    EXPECT_EQ(window->printFrames.PrinterPages.Count(), 0U);
-}
-
-TEST_F(Printing, FramesNeedAPatternAndAPrinter) {
-    window->ClickView(0);
-    TickFrames();
-    EXPECT_THAT(Said(), ElementsAre(PatternOnly));
-    window->ClickView(PatternButton);
-    shell.printers.queues.clear();
-    TickFrames();
-    EXPECT_THAT(Said(), ElementsAre("No printer"));
-    EXPECT_FALSE(shell.frame.menuEnabled["mnuSelectFrames"]);
-}
-
-TEST_F(Printing, ClicksChooseFramesAndTakeThemBack) {
-    TickFrames();
-    window->SelectPrintFrames();
-    shell.ui.messages.clear();
-    screen.calls.clear();
-    window->MouseUp(MouseButton::Left, 0, 10);
-    const CPrintPages& pages = window->printFrames.PrinterPages;
-    EXPECT_FALSE(pages.Item(1).PrintMe);
-    EXPECT_TRUE(pages.Item(3).PrintMe);
-    ASSERT_EQ(screen.Lines().size(), 4U);  // nothing but the box
-    EXPECT_EQ(screen.Lines()[0].pen.ForeColor, Green);
-    window->MouseUp(MouseButton::Left, 0, 10);
-    EXPECT_FALSE(pages.Item(3).PrintMe);
-    EXPECT_EQ(screen.Lines()[4].pen.ForeColor, Yellow);
-    window->MouseUp(MouseButton::Left, 5000, 10);
-    EXPECT_EQ(screen.Lines().size(), 8U);
-}
-
-TEST_F(Printing, AClickOnASharedEdgeChoosesBothFrames) {
-    TickFrames();
-    window->SelectPrintFrames();
-    const Bounds first = BoxOf(window->printFrames.PrinterPages.Item(1));
-    window->display.RotationAngle = 0;
-    const auto y = static_cast<float>(first.maxY);
-    window->MouseUp(MouseButton::Left, static_cast<float>(first.minX + 50), y);
-    EXPECT_EQ(window->printFrames.PrinterPages.Item(1).PrintMe,
-              IsWithinPage({first.minX + 50, y, 0, 0}, first));
-    EXPECT_TRUE(window->printFrames.PrinterPages.Item(2).PrintMe);
-}
-
-TEST_F(Printing, ChosenFramesArePrintedInTheirOrder) {
-    TickFrames();
-    window->SelectPrintFrames();
-    shell.ui.messages.clear();
-    window->MouseUp(MouseButton::Left, 400, 300);  // "D2"
-    window->MouseUp(MouseButton::Left, 0, 10);     // "B1"
-    Print([](PrintersDialog& dialog) {
-        EXPECT_TRUE(dialog.actionEnabled[PrintersDialog::PrintSelected]);
-        dialog.ClickAction(PrintersDialog::PrintSelected);
-    });
-    EXPECT_THAT(SheetsOf(Documents().at(0)), ElementsAre("B1", "D2"));
-    EXPECT_THAT(Said(), IsEmpty());
-    // The redraw behind it has them no more, and the mode has ended.
-    EXPECT_FALSE(window->modes.selectFramesMode);
-    for (const CPrintPage& page : window->printFrames.PrinterPages) {
-        EXPECT_FALSE(page.PrintMe);
-    }
-    // On paper they are not drawn as chosen ones.
-    for (const RecordingDevice::Call& line : Documents()[0].sheets[0]->Lines()) {
-        EXPECT_LT(line.pen.DrawWidth, 8);
-    }
-}
-
-TEST_F(Printing, WithNoneChosenTheActionIsGrey) {
-    Print([](PrintersDialog& dialog) {
-        EXPECT_FALSE(dialog.actionEnabled[PrintersDialog::PrintSelected]);
-        EXPECT_FALSE(dialog.actionEnabled[PrintersDialog::PrintTable]);
-        dialog.ClickCancel();
-    });
-}
-
-TEST_F(Printing, FramesChosenOnALargerPaperAreNotPrintedOnASmallerOne) {
-    shell.printDialog.CurrentPaperSize = 8;
-    TickFrames();
-    window->SelectPrintFrames();
-    shell.ui.messages.clear();
-    window->MouseUp(MouseButton::Left, 0, 10);
-    Print([](PrintersDialog& dialog) {
-        dialog.ClickAction(PrintersDialog::PrintSelected);
-        dialog.ChoosePaper("A4");
-    });
-    EXPECT_THAT(Said(),
-                ElementsAre("The frames were chosen on another paper. Set them up and choose them again."));
-    EXPECT_EQ(shell.printers.started, 0);
-}
-
-TEST_F(Printing, ARedrawLosesTheChoice) {
-    TickFrames();
-    window->SelectPrintFrames();
-    window->MouseUp(MouseButton::Left, 0, 10);
-    window->Redraw();
-    for (const CPrintPage& page : window->printFrames.PrinterPages) {
-        EXPECT_FALSE(page.PrintMe);
-    }
-    window->ClickView(0);
-    EXPECT_EQ(window->printFrames.PrinterPages.Count(), 0U);  // a model has none to choose
-}
-
 TEST_F(Printing, TheTableGoesOutAsText) {
     window->display.CoordTableRequested = true;
     window->Redraw();
@@ -426,18 +241,6 @@ TEST_F(Printing, WarningsComeOnceACommand) {
     EXPECT_FALSE(once.empty());
     PrintAllFull();
     EXPECT_EQ(Said(), once);
-}
-
-TEST_F(Printing, SetUpComputesTheFramesAnew) {
-    TickFrames();
-    shell.ui.onPrinters = [](PrintersDialog& dialog) {
-        EXPECT_EQ(dialog.lblStatus, "SetupPrinter");
-        dialog.ChoosePaper("A3");
-        dialog.ClickOK();
-    };
-    window->PrinterSetup();
-    EXPECT_EQ(window->printFrames.PrintFrameWidth, 400);
-    EXPECT_EQ(window->printFrames.PrinterPages.Count(), 6U);  // 277 by 400: three columns, two rows
 }
 
 TEST_F(Printing, APdfOfNamedSheets) {
