@@ -46,7 +46,7 @@ const std::array<CatalogueRow, CatalogueSize> Catalogue = {{
     {"Elliptical Hole", "frmEllipticalHole", "CBaffle", 2480, AllLaps, &frmEllipticalHole},
     {"Pipe to Bend", "frmPipeToBend", "CPipeToBend", 2470, AllLaps, &frmPipeToBend},
     {"Mitre Elbow", "frmMitreElbow", "CMitreElbow", 0, AllLaps, &frmMitreElbow, true},
-    {"Rectangular Tee", "frmRectTee", "CRectTee", 0, AllLaps, nullptr, true},
+    {"Rectangular Tee", "frmRectTee", "CRectTee", 0, AllLaps, &frmRectTee, true},
     {"Bends", "frmBends", "CBends", 2100, AllLaps, &frmBends, true},
     {"Murok Mitre", "frmMurokMitre", "CMurokMitre", 0, NoLaps, &frmMurokMitre, true},
 }};

@@ -16,7 +16,7 @@ from dxf_measure import Drawing
 from window_checks import number_text
 
 EXAMPLES = Path(__file__).resolve().parents[2] / "examples"
-MODELS_ALONE = ("Bends",)  # fittings without a pattern
+MODELS_ALONE = ("Bends", "Rectangular Tee")  # fittings without a pattern
 
 
 class DxfTest(FolderTest):
