@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "fittings/plates/bends.h"
+#include "printing/printers_dialog.h"
 #include "tests/exchange/dxf_reading.h"
 #include "tests/support/recording_device.h"
 #include "tests/support/refusals.h"
@@ -232,6 +233,20 @@ TEST_F(BendsPattern, IsExportedWithoutAnEntity) {
     window->ClickView(0);
     ASSERT_EQ(window->Export("model.dxf", ExportMode::Dxf), Passed);
     EXPECT_FALSE(dxf_reading::ReadEntities(shell.files.files["model.dxf"]).empty());
+}
+
+TEST_F(BendsPattern, HasNoSheets) {
+    shell.printers.queues = {{.name = "Laser"}};
+    shell.printDialog.SetDefaultPapersize(shell.options, shell.ui);
+    for (const PrintersDialog::Scale scale : {PrintersDialog::FullSize, PrintersDialog::FitPage}) {
+        shell.ui.onPrinters = [&](PrintersDialog& dialog) {
+            dialog.ClickScale(scale);
+            dialog.ClickOK();
+        };
+        window->PrintDrawing();
+        EXPECT_TRUE(shell.printers.documents.empty()) << scale;
+    }
+    EXPECT_TRUE(shell.ui.messages.empty());
 }
 
 TEST_F(BendsPattern, OpensFromItsFile) {
