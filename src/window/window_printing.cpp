@@ -301,7 +301,12 @@ Outcome CFittingWindow::PrintPages(const std::vector<std::string>& names, const 
     });
 }
 
+/// A fitting without a pattern has nothing to fit to the sheet in its pattern view.
 Outcome CFittingWindow::PrintToFit(const std::string& path) {
+    if (InPatternView(*views) && display.ShownExtents().Count() == 0) {
+        ShowUserError(context_.ui, context_.Message(NothingToPrint));
+        return Refused;
+    }
     return RunPrintJob(path, [this](PrintJob& job) {
         display.DrawToFit(job.NewPage());
         return true;

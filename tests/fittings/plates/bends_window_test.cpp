@@ -246,7 +246,8 @@ TEST_F(BendsPattern, HasNoSheets) {
         window->PrintDrawing();
         EXPECT_TRUE(shell.printers.documents.empty()) << scale;
     }
-    EXPECT_TRUE(shell.ui.messages.empty());
+    EXPECT_EQ(shell.ui.Texts(), (std::vector<std::string>{"This option is only available in pattern view",
+                                                          "Nothing to print!"}));
 }
 
 TEST_F(BendsPattern, OpensFromItsFile) {
