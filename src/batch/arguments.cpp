@@ -129,6 +129,9 @@ void CheckOutputs(const Arguments& arguments) {
     if (!arguments.settings.empty()) {
         claims.Claim(arguments.settings, "the options file", Claims::Reader);
     }
+    if (!arguments.meshFile.empty()) {
+        claims.Claim(arguments.meshFile, "the mesh file", Claims::Reader);
+    }
     for (const std::string& input : arguments.inputs) {
         claims.Claim(input, "the parameter file of " + input, Claims::Reader);
     }
@@ -163,6 +166,9 @@ void CheckTogether(const Arguments& arguments) {
     }
     if (arguments.newCategory.empty() && (arguments.type != 0 || arguments.sample)) {
         throw UsageError("--type and --sample go with --new: the type of a saved fitting is fixed");
+    }
+    if (!arguments.meshFile.empty() && (arguments.newCategory.empty() || arguments.sample)) {
+        throw UsageError("--mesh-file goes with --new and takes the place of --sample");
     }
     CheckOutputs(arguments);
 }
@@ -223,6 +229,8 @@ void AddOptions(CLI::App& app, Arguments& arguments, RawTexts& raw, LaterOutputs
         ->check(notEmpty);
     app.add_option("--type", arguments.type, "its type, from 1")->check(CLI::Range(1, 99));
     app.add_flag("--sample", arguments.sample, "fill it with the sample sizes of its type");
+    app.add_option("--mesh-file", arguments.meshFile, "DXF with the mesh of a new Imported Mesh")
+        ->check(notEmpty);
     app.add_option("--select", arguments.select, "the N-th pattern option, from 1")->check(CLI::Range(1, 99));
     app.add_option("--set", raw.sets, "NAME=VALUE: box3=120, segs=48, Thickness=3, FrameRequested=True ...")
         ->allow_extra_args(false);

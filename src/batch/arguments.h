@@ -30,6 +30,7 @@ struct Arguments {
     std::string newCategory;          ///< a new window instead of a file
     int type = 0;                     ///< of the new window, from 1; 0 is the type it opens with
     bool sample = false;              ///< fill the new window with the sample sizes of its type
+    std::string meshFile;             ///< drawing file with the mesh of the new window
     int select = 0;                   ///< pattern option, from 1; 0 leaves it
     std::vector<std::pair<std::string, std::string>> sets;
     ViewChoice view = ViewChoice::AsSaved;

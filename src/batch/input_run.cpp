@@ -3,6 +3,7 @@
 #include "batch/set_values.h"
 #include "frame/catalogue.h"
 #include "frame/new_fitting.h"
+#include "window/import_mesh.h"
 #include "window/saving.h"
 
 namespace korvet::batch {
@@ -51,11 +52,16 @@ Outcome InputRun::OpenWindow() {
     if (!window_) {
         return Refused;
     }
-    if (isFile) {
-        return window_->FillFromFile(input_);
+    return RefusedIf((isFile ? window_->FillFromFile(input_) : PrepareNewWindow()) || RequireMesh());
+}
+
+/// A window that has no mesh to show says so as a file does that is opened without one.
+Outcome InputRun::RequireMesh() {
+    if (window_->Table().sampleMesh == nullptr || window_->mesh.DXFMeshOK) {
+        return Passed;
     }
-    PrepareNewWindow();
-    return Passed;
+    ShowPlain(ui_, context_.Message(NoExtents), "no mesh has been imported");
+    return Refused;
 }
 
 /// Takes the category from the header of the file. Refuses, with a message, when there is no such fitting.
@@ -76,8 +82,9 @@ Outcome InputRun::ReadCategory() {
     return RequireFitting(context_, input_, category_);
 }
 
-/// Steps to the type asked for, types its sample sizes and selects its first pattern.
-void InputRun::PrepareNewWindow() {
+/// Steps to the type asked for, and fills the window as the command line says. Refused, which has then been
+/// said, when the mesh could not be read.
+Outcome InputRun::PrepareNewWindow() {
     const WindowTable& table = window_->Table();
     const int types = static_cast<int>(table.pages.size());
     if (arguments_.type > types) {
@@ -87,12 +94,28 @@ void InputRun::PrepareNewWindow() {
         window_->ClickPoint(window_->dtype < arguments_.type - 1 ? 0 : 1);
     }
     if (arguments_.sample) {
-        for (const BoxEntry& box : table.pages[static_cast<std::size_t>(window_->dtype)].boxes) {
-            window_->ChangeBox(static_cast<std::size_t>(box.index), std::string(box.sample));
-        }
-        if (!table.patternSelect.empty()) {
-            window_->SelectPattern(0);
-        }
+        FillWithSample();
+    }
+    if (arguments_.meshFile.empty()) {
+        return Passed;
+    }
+    if (table.sampleMesh == nullptr) {
+        throw UsageError(category_ + " takes no mesh");
+    }
+    return ReadMeshDXF(*window_, arguments_.meshFile);
+}
+
+/// Types the sample sizes of the type and selects its first pattern, or takes the sample mesh.
+void InputRun::FillWithSample() {
+    const WindowTable& table = window_->Table();
+    for (const BoxEntry& box : table.pages[static_cast<std::size_t>(window_->dtype)].boxes) {
+        window_->ChangeBox(static_cast<std::size_t>(box.index), std::string(box.sample));
+    }
+    if (!table.patternSelect.empty()) {
+        window_->SelectPattern(0);
+    }
+    if (table.sampleMesh != nullptr) {
+        window_->mesh = table.sampleMesh();
     }
 }
 

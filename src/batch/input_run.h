@@ -32,7 +32,9 @@ class InputRun {
   private:
     Outcome OpenWindow();
     Outcome ReadCategory();
-    void PrepareNewWindow();
+    Outcome PrepareNewWindow();
+    void FillWithSample();
+    Outcome RequireMesh();
     Outcome SetValues();
 
     const Arguments& arguments_;

@@ -60,8 +60,10 @@ std::string RoundedText(double value, int places, char decimalMark) {
     return NumberText(RoundPlaces(value, places), decimalMark);
 }
 
-std::string ShortestText(double value) {
-    return CharsOf(value);
+std::string ShortestText(double value, char decimalMark) {
+    std::string text = CharsOf(value);
+    std::replace(text.begin(), text.end(), '.', decimalMark);
+    return text;
 }
 
 std::optional<double> ParseNumber(std::string_view text, char decimalMark) {

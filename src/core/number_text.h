@@ -18,8 +18,8 @@ std::string NumberText(double value, char decimalMark = '.');
 /// NumberText of RoundPlaces.
 std::string RoundedText(double value, int places, char decimalMark = '.');
 
-/// The fewest digits that read back to the same double, with a point. Throws ArithmeticError when not finite.
-std::string ShortestText(double value);
+/// The fewest digits that read back to the same double. Throws ArithmeticError when not finite.
+std::string ShortestText(double value, char decimalMark = '.');
 
 /// The number that a text holds: blanks around it are dropped, the decimal mark is `decimalMark` or a point,
 /// an exponent is allowed, group separators are not. Nothing when it is no number, or not a finite one.

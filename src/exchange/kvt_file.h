@@ -9,6 +9,7 @@
 #include "core/branch_options.h"
 #include "core/dimensions.h"
 #include "core/file_store.h"
+#include "core/imported_mesh.h"
 #include "core/pattern_settings.h"
 #include "core/points.h"
 #include "display/view_point.h"
@@ -68,6 +69,9 @@ struct CKvtFile {
     /// Set for a fitting of a branch and a trunk, before loading too: its files hold both thicknesses and
     /// these.
     std::optional<BranchOptions> Branch;
+
+    /// Set for an imported mesh, before loading too: its files hold the mesh itself.
+    std::optional<ImportedMesh> Mesh;
     CViewPoint ViewPoint;
     int Dtype = 0;
     std::string FileName;

@@ -1,16 +1,19 @@
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "core/constants.h"
 #include "core/number_text.h"
 #include "core/text_encoding.h"
 #include "exchange/kvt_file.h"
+#include "exchange/mesh_dxf.h"
 
 namespace korvet {
 namespace {
 
-/// No parameter file comes near this; what does is none.
-constexpr std::size_t LargestFile = 16U << 20U;
+/// No parameter file comes near this; what does is none. Any mesh that can be imported can be saved and
+/// opened again: it takes no more room in a parameter file than in a drawing.
+constexpr std::size_t LargestFile = LargestDrawing + (16U << 20U);
 
 /// A line of the file as messages quote it.
 std::string Quoted(std::string_view line) {
@@ -77,6 +80,15 @@ class KvtLines {
     }
 
     double ReadNumber() { return Number(ReadLine()); }
+
+    /// A number just as it stands.
+    double ReadExactly() {
+        const std::string_view line = ReadLine();
+        const auto value = ParseFileNumber(line);
+        return value ? *value : Refuse<double>(line, "a number");
+    }
+
+    [[nodiscard]] std::size_t BytesLeft() const { return rest_.size(); }
 
     /// The number in a line that has been read.
     double Number(std::string_view line) {
@@ -314,6 +326,32 @@ void ReadBranchMaterial(KvtLines& lines, CPatternSettings& settings, BranchOptio
     lines.Expect("End Branch Material");
 }
 
+/// Stands behind the comments too. Files of programs that do not know it end there, and hold no mesh.
+void ReadMesh(KvtLines& lines, ImportedMesh& mesh) {
+    mesh = ImportedMesh();
+    if (!lines.SkipBlank()) {
+        return;
+    }
+    lines.Expect("Start Imported Mesh");
+    const int count = lines.ReadInteger(2, std::numeric_limits<int>::max());
+    // A pair of points takes at least six lines of a digit and its end: room is made for what is there.
+    constexpr std::size_t LeastPair = 12;
+    const std::size_t room = std::min(static_cast<std::size_t>(count), lines.BytesLeft() / LeastPair + 1);
+    CRuleSurf surface;
+    for (PointList* const list : {&surface.List1, &surface.List2}) {
+        *list = std::make_shared<C3DPoints>();
+        (*list)->Reserve(room);
+        for (int i = 0; i < count; ++i) {
+            const double x = lines.ReadExactly();
+            const double y = lines.ReadExactly();
+            (*list)->Add({x, y, lines.ReadExactly(), CornerRuleStation});
+        }
+    }
+    lines.Expect("End Imported Mesh");
+    mesh.DXFMesh = surface;
+    mesh.DXFMeshOK = true;
+}
+
 }  // namespace
 
 void CKvtFile::ParseHeader(const std::string& text) {
@@ -344,6 +382,9 @@ void CKvtFile::Parse(const std::string& text, int defaultSegs) {
     ReadComments(lines, *this);
     if (Branch) {
         ReadBranchMaterial(lines, PatternSettings, *Branch);
+    }
+    if (Mesh) {
+        ReadMesh(lines, *Mesh);
     }
 }
 

@@ -14,6 +14,7 @@ class KvtText {
     void Line(std::string_view text) { text_.append(text).append("\r\n"); }
     void Text(std::string_view text) { Line(OnOneLine(text)); }
     void Number(double value) { Line(NumberText(value, decimalMark_)); }
+    void Exactly(double value) { Line(ShortestText(value, decimalMark_)); }
     void Integer(int value) { Line(std::to_string(value)); }
     void Boolean(bool value) { Line(value ? "True" : "False"); }
 
@@ -156,6 +157,20 @@ void WriteBranchMaterial(KvtText& text, const CPatternSettings& settings, const 
     text.End("Branch Material");
 }
 
+/// Both rows point by point, in the digits that read back to the same points.
+void WriteMesh(KvtText& text, const CRuleSurf& mesh) {
+    text.Start("Imported Mesh");
+    text.Line(std::to_string(mesh.List1->Count()));
+    for (const PointList* const list : {&mesh.List1, &mesh.List2}) {
+        for (const C3DPoint& point : **list) {
+            for (const double coordinate : {point.x, point.y, point.z}) {
+                text.Exactly(coordinate);
+            }
+        }
+    }
+    text.End("Imported Mesh");
+}
+
 }  // namespace
 
 std::string CKvtFile::Compose(char decimalMark) const {
@@ -173,6 +188,9 @@ std::string CKvtFile::Compose(char decimalMark) const {
     WriteComments(text, *this);
     if (Branch) {
         WriteBranchMaterial(text, PatternSettings, *Branch);
+    }
+    if (Mesh && Mesh->DXFMeshOK) {
+        WriteMesh(text, Mesh->DXFMesh);
     }
     return text.Whole();
 }

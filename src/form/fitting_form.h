@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/branch_options.h"
+#include "core/imported_mesh.h"
 #include "core/pattern_settings.h"
 #include "core/thick_compensator.h"
 #include "form/fields.h"
@@ -25,6 +26,7 @@ struct FormState {
     std::int16_t dtype = 0;          ///< the type that is built, from 0
     std::int16_t miscellaneous = 0;  ///< selector of the pattern
     bool patternView = false;        ///< the current view shows the pattern
+    ImportedMesh mesh = {};          ///< of a window that imports one
 };
 
 /// The parameter boxes of a window, with the checks of form/fields.h on them. A box is told by its index in
@@ -39,6 +41,7 @@ class FittingForm {
           category(state.category),
           dtype(state.dtype),
           miscellaneous(state.miscellaneous),
+          mesh(state.mesh),
           context_(context),
           boxes_(state.boxes),
           patternView_(state.patternView) {}
@@ -49,6 +52,7 @@ class FittingForm {
     const std::string_view category;
     const std::int16_t dtype;
     const std::int16_t miscellaneous;
+    const ImportedMesh mesh;
 
     /// The number in a box. Throws ArithmeticError when it is none: check first where no sweep over all boxes
     /// has gone before.

@@ -62,7 +62,11 @@ enum MessageId : int {
     IniFileUpdated = 116,
     PrinterProblem = 117,
     NoPrinterAvailable = 118,
-    NoCadDrawing = 140
+    NoCadDrawing = 140,
+    UnsuitableDxf = 150,
+    NoEntitiesSection = 151,
+    NoSuitableMesh = 152,
+    SuitableMesh = 153
 };
 
 /// The text of message `id` in `language`. Only "English" has texts: any other language, and an id without a

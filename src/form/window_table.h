@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "core/fitting.h"
+#include "core/imported_mesh.h"
 #include "form/fitting_form.h"
 #include "form/sketch_entry.h"
 
@@ -96,6 +97,10 @@ struct WindowTable {
     /// The surface of the model, from 1, that each of those patterns develops: the sketch shows it off.
     std::span<const int> patternSurface = {};
     std::span<const std::string_view> flushSide = {};  ///< captions of optFlushSide; empty: no choice
+
+    /// The realistic mesh of a window whose fitting is imported and not typed: it has btnImportMesh. Null for
+    /// all others.
+    ImportedMesh (*sampleMesh)() = nullptr;
 
     /// Whether the window has optTopAngle and optBaseAngle.
     [[nodiscard]] constexpr bool HasAngleOptions() const {

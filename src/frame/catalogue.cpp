@@ -42,7 +42,7 @@ const std::array<CatalogueRow, CatalogueSize> Catalogue = {{
      SeamLapOnly, &frmBreechTwoPieceAngleTop},
     {"Reducing Breech - Two Piece - Parallel Top", "frmBreechTwoPieceParallelTop", "CBreechReducing2Prt",
      2450, SeamLapOnly, &frmBreechTwoPieceParallelTop},
-    {"Imported Mesh", "frmImportMesh", "CImportMesh", 2460, NoLaps, nullptr},
+    {"Imported Mesh", "frmImportMesh", "CImportMesh", 2460, NoLaps, &frmImportMesh},
     {"Elliptical Hole", "frmEllipticalHole", "CBaffle", 2480, AllLaps, &frmEllipticalHole},
     {"Pipe to Bend", "frmPipeToBend", "CPipeToBend", 2470, AllLaps, &frmPipeToBend},
     {"Mitre Elbow", "frmMitreElbow", "CMitreElbow", 0, AllLaps, &frmMitreElbow, true},

@@ -56,7 +56,15 @@ FittingHandle SampleFitting(const WindowTable& table, std::size_t page) {
     const FittingOptions choices = StartOptions(table);
     const BranchOptions branch;
     FittingForm form({refusing, options, '.', focus},
-                     {boxes, settings, choices, branch, {}, dtype, table.miscellaneous});
+                     {boxes,
+                      settings,
+                      choices,
+                      branch,
+                      {},
+                      dtype,
+                      table.miscellaneous,
+                      false,
+                      table.sampleMesh != nullptr ? table.sampleMesh() : ImportedMesh()});
     FittingHandle fitting = table.newFitting();
     if (table.buildFitting(form, fitting) || BuildChosenPattern(table, form, fitting)) {
         throw std::logic_error("the sample sizes are refused at " + focus);

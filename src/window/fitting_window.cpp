@@ -52,6 +52,7 @@ void CFittingWindow::InitialiseFitting() {
         controls.btnMore.back().visible = controls.btnBack.front().visible = false;
     }
     controls.btnPosition.visible = table.branchMaterialEnable;
+    controls.btnImportMesh.resize(table.sampleMesh != nullptr ? 2 : 0);
 }
 
 FieldContext CFittingWindow::Fields() {
@@ -91,6 +92,9 @@ void CFittingWindow::ChangeTextSize(const std::string& text) {
 }
 
 void CFittingWindow::ClickView(int button) {
+    if (RequireMesh()) {
+        return;
+    }
     AddPresetView(button, *views);
     UpdateFitting();
     if (!hasModel) {

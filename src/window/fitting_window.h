@@ -9,6 +9,7 @@
 
 #include "core/branch_options.h"
 #include "core/fitting.h"
+#include "core/imported_mesh.h"
 #include "core/pattern_settings.h"
 #include "display/object_display.h"
 #include "display/view_point.h"
@@ -25,6 +26,9 @@ struct PrintersDialog;
 
 /// Where an export goes.
 enum class ExportMode : int { Dxf = 1, Plotter = 2, CadLink = 3 };
+
+/// The buttons of btnImportMesh.
+enum MeshSource : std::size_t { MeshOfDxf = 0, MeshOfCad = 1 };
 
 /// The button of a mouse event; in a move, the one that is held.
 enum class MouseButton : int { None = 0, Left = 1, Right = 2 };
@@ -119,6 +123,7 @@ class CFittingWindow {
     /// A click on a button of optTopAngle, optBaseAngle or optFlushSide.
     void SelectOption(OptionGroup FittingOptions::*group, std::size_t index);
     void ClickPosition();
+    void ClickImportMesh(std::size_t source);
     void PressKeyInDrawing();
 
     /// The mouse over the drawing area, at a point of the drawing plane. MouseDown gives true when the View
@@ -170,6 +175,7 @@ class CFittingWindow {
     std::int16_t miscellaneous = 0;
     std::int16_t noOfSides = 0;
     BranchOptions branch;
+    ImportedMesh mesh;
     bool hasModel = false;
     bool edited = true;
     std::string category;
@@ -189,6 +195,7 @@ class CFittingWindow {
     void InitialiseFitting();
     void RevealBox(const TextBox& box);
     Outcome RequireModel();
+    Outcome RequireMesh();
     void Rebuild();
     Outcome AddViewOfExtents();
     Outcome CheckAllFields();

@@ -163,6 +163,9 @@ Outcome SaveFitting(CFittingWindow& window, const std::string& path) {
     if (window.Table().branchMaterialEnable) {
         file.Branch = window.branch;
     }
+    if (window.Table().sampleMesh != nullptr) {
+        file.Mesh = window.mesh;
+    }
     file.ViewPoint = window.views->Last();
     file.RotationAngle = display.RotationAngle;
     // The rotation point of a file is its first move point: readers of these files count on it.
@@ -196,6 +199,9 @@ CKvtFile LoadFitting(CFittingWindow& window, const std::string& path) {
     if (window.Table().branchMaterialEnable) {
         file.Branch = BranchOptions();
     }
+    if (window.Table().sampleMesh != nullptr) {
+        file.Mesh = ImportedMesh();
+    }
     try {
         file.LoadFile(context.files, context.options.DefaultSegs);
     } catch (const ParameterFileError&) {
@@ -215,6 +221,7 @@ CKvtFile LoadFitting(CFittingWindow& window, const std::string& path) {
     window.views->Add(file.ViewPoint);
     window.settings = WithWindowFlags(file.PatternSettings, window.Table());
     window.branch = file.Branch.value_or(BranchOptions());
+    window.mesh = file.Mesh.value_or(ImportedMesh());
     window.Context().patternSettingsDialog =
         PatternSettingsDialog();  // it closes with the settings it showed
     TakeDisplayState(window, file);

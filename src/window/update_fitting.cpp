@@ -78,7 +78,7 @@ Outcome CFittingWindow::BuildFitting() {
         fitting = Table().newFitting();
     }
     FittingForm form(Fields(), {controls.txtParameter, settings, controls.options, branch, category, dtype,
-                                miscellaneous, InPatternView(*views)});
+                                miscellaneous, InPatternView(*views), mesh});
     if (Table().buildFitting(form, *fitting)) {
         return Refused;
     }

@@ -26,6 +26,14 @@ void PlacePanels(CFittingWindow& window) {
     controls.lblTextSize.place = {100, 250, 0, 0};
 }
 
+void NameMeshButtons(WindowModel& controls) {
+    if (!controls.btnImportMesh.empty()) {
+        controls.btnImportMesh.at(MeshOfDxf).caption = "Import Mesh from DXF File...";
+        controls.btnImportMesh.at(MeshOfCad).caption = "Import Mesh from AutoCAD...";
+        controls.btnImportMesh.at(MeshOfCad).enabled = AutoCadVersion != 0;
+    }
+}
+
 void NameControls(WindowModel& controls) {
     controls.btnPoint[0].toolTip = "Next item";
     controls.btnPoint[1].toolTip = "Previous Item";
@@ -36,6 +44,7 @@ void NameControls(WindowModel& controls) {
     controls.btnSettings.toolTip = "Pattern settings for this item";
     controls.btnClose.toolTip = "Close this pattern";
     controls.btnPosition.caption = "Additional Options";
+    NameMeshButtons(controls);
     for (Control& button : controls.btnMore) {
         button.caption = "More";
     }

@@ -46,11 +46,12 @@ struct WindowModel {
     Place place;  ///< of the window in its frame
     Place scale;  ///< its inner area
     DrawingArea pboxGraphicWindow;
-    std::vector<Control> Picture1;  ///< parameter page of each type
-    std::vector<Control> pboxMore;  ///< second page of a type; no window has any
-    std::vector<Control> btnMore;   ///< one a page, where the window has them: on to the next page
-    std::vector<Control> btnBack;   ///< back to the one before
-    Control btnPosition;            ///< further options of a branch; hidden where there are none
+    std::vector<Control> Picture1;       ///< parameter page of each type
+    std::vector<Control> pboxMore;       ///< second page of a type; no window has any
+    std::vector<Control> btnMore;        ///< one a page, where the window has them: on to the next page
+    std::vector<Control> btnBack;        ///< back to the one before
+    Control btnPosition;                 ///< further options of a branch; hidden where there are none
+    std::vector<Control> btnImportMesh;  ///< where a mesh comes from, by MeshSource; no other window has any
     std::vector<TextBox> txtParameter;
     TextBox txtTextSize{.name = "txtTextSize"};
     Control lblTextSize;

@@ -91,7 +91,7 @@ class ListTest(unittest.TestCase):
         result = start("--help")
         self.assertEqual((result.status, result.errors), (DONE, ""))
         for option in ("--json", "--dxf", "--save", "--png", "--svg", "--size", "--view", "--set", "--new", "--type",
-                       "--select", "--settings", "--list", "--polylines", "--mesh", "--diagonals", "--dimensions",
+                       "--mesh-file", "--select", "--settings", "--list", "--polylines", "--mesh", "--diagonals", "--dimensions",
                        "--label", "{name}", "Exit status"):
             self.assertIn(option, result.output)
 

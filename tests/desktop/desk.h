@@ -100,6 +100,9 @@ inline void TypeSamples(CFittingWindow& window) {
     for (const BoxEntry& box : window.Table().pages[static_cast<std::size_t>(window.dtype)].boxes) {
         window.ChangeBox(static_cast<std::size_t>(box.index), std::string(box.sample));
     }
+    if (window.Table().sampleMesh != nullptr) {
+        window.mesh = window.Table().sampleMesh();
+    }
 }
 
 enum class State { NoChild, NoView, Refused, Model, Pattern };

@@ -15,6 +15,8 @@ import tempfile
 
 from korvet_screen import TITLE, Korvet
 
+EXAMPLES = pathlib.Path(__file__).resolve().parents[2] / "examples"
+
 # A dark desktop's colours, as the toolkit reads them from that desktop's settings: background, text.
 DARK = {"Window": ("49,54,59", "239,240,241"), "View": ("35,38,41", "239,240,241"),
         "Button": ("49,54,59", "239,240,241"), "Selection": ("61,174,233", "239,240,241"),
@@ -116,7 +118,10 @@ class Pictures:
             for _ in range(page):
                 screen.key("ctrl+Next")
             self.take(f"{name}-type{page + 1}-empty")
-            self.type_sizes(sizes)
+            if sizes:
+                self.type_sizes(sizes)
+            else:
+                self.import_mesh()
             screen.key("ctrl+1")
             screen.wait_drawing("Model")
             screen.click("Zoom Extents", "push button")
@@ -135,6 +140,11 @@ class Pictures:
                 self.take(f"additional-options-{type_name[:6].strip()}")
             screen.key("Escape")
             screen.wait_active("Main window")
+
+    def import_mesh(self):
+        self.screen.press("Import Mesh from DXF File...", "push button")
+        self.screen.choose_file("Import Mesh", EXAMPLES / "imported-mesh.dxf")
+        self.screen.answer(TITLE)
 
     def type_sizes(self, sizes):
         self.screen.settle(0.3)

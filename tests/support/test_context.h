@@ -44,6 +44,9 @@ struct TestShell {
         for (const BoxEntry& box : window->Table().pages[static_cast<std::size_t>(type - 1)].boxes) {
             window->ChangeBox(static_cast<std::size_t>(box.index), std::string(box.sample));
         }
+        if (window->Table().sampleMesh != nullptr) {
+            window->mesh = window->Table().sampleMesh();
+        }
         return window;
     }
 };

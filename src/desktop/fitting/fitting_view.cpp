@@ -186,7 +186,8 @@ void FittingView::TakeShape(int state) {
 
 void FittingView::FocusFirstBox() {
     const std::vector<QLineEdit*>& boxes = ShownPage().Boxes();
-    QWidget* const first = boxes.empty() ? static_cast<QWidget*>(drawing_) : boxes.front();
+    QWidget* const instead = firstControl_ != nullptr ? firstControl_ : drawing_;
+    QWidget* const first = boxes.empty() ? instead : boxes.front();
     first->setFocus(Qt::OtherFocusReason);
     SketchScroll::Reveal(*first);
 }

@@ -18,6 +18,7 @@ class QKeyEvent;
 class QLabel;
 class QLayout;
 class QLineEdit;
+class QPushButton;
 class QRadioButton;
 class QScrollArea;
 class QStackedLayout;
@@ -74,6 +75,8 @@ class FittingView : public QWidget {
     QToolButton* MakeStep(const std::string& name, std::size_t page, const Control& model,
                           const QString& spoken, void (CFittingWindow::*click)(std::size_t));
     void AddWindowOptions(QBoxLayout& column);
+    QPushButton* MakeWideButton(const std::string& name, const Control& model,
+                                const std::function<void(CFittingWindow&)>& click);
     QWidget* MakeControls();
     QWidget* MakePatternControls();
     QGridLayout* MakeViewButtons(QWidget* parent);
@@ -116,7 +119,8 @@ class FittingView : public QWidget {
     std::vector<BoundBox> boxes_;
     QStackedLayout* pageStack_ = nullptr;
     std::vector<Options> options_;
-    std::vector<Shown> shown_;  ///< what the window has beside the controls of every window
+    QWidget* firstControl_ = nullptr;  ///< where typing would begin in a window without boxes
+    std::vector<Shown> shown_;         ///< what the window has beside the controls of every window
     std::array<QToolButton*, 10> viewButtons_ = {};
     std::array<QToolButton*, 2> typeButtons_ = {};
     QLabel* typeLabel_ = nullptr;

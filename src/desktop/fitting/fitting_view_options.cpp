@@ -138,14 +138,28 @@ void FittingView::AddWindowOptions(QBoxLayout& column) {
     }
     const Control& position = window_->controls.btnPosition;
     if (position.visible) {
-        auto* button = new QPushButton(Text(position.caption));
-        NameWidget(*button, "btnPosition", button->text());
-        button->installEventFilter(this);
-        connect(button, &QPushButton::clicked, this,
-                [this] { Do([](CFittingWindow& window) { window.ClickPosition(); }); });
-        shown_.push_back({button, &position});
+        column.addWidget(
+            MakeWideButton("btnPosition", position, [](CFittingWindow& window) { window.ClickPosition(); }));
+    }
+    const std::vector<Control>& meshes = window_->controls.btnImportMesh;
+    for (std::size_t i = 0; i < meshes.size(); ++i) {
+        QPushButton* const button =
+            MakeWideButton("btnImportMesh_" + std::to_string(i), meshes[i],
+                           [i](CFittingWindow& window) { window.ClickImportMesh(i); });
+        firstControl_ = firstControl_ == nullptr ? button : firstControl_;
         column.addWidget(button);
     }
+}
+
+/// A button as wide as the panel, which the tab key reaches.
+QPushButton* FittingView::MakeWideButton(const std::string& name, const Control& model,
+                                         const std::function<void(CFittingWindow&)>& click) {
+    auto* button = new QPushButton(Text(model.caption));
+    NameWidget(*button, name, button->text());
+    button->installEventFilter(this);
+    connect(button, &QPushButton::clicked, this, [this, click] { Do(click); });
+    shown_.push_back({button, &model});
+    return button;
 }
 
 void FittingView::ProjectOptions() {
