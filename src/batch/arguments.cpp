@@ -146,6 +146,7 @@ void CheckOutputs(const Arguments& arguments) {
         };
         claim(arguments.save, "the parameter file" + of, number);
         claim(arguments.dxf, "the DXF" + of, number);
+        claim(arguments.hpgl, "the plot" + of, number);
         claim(arguments.png, "the PNG" + of, number);
         claim(arguments.svg, "the SVG" + of, number);
         claim(arguments.table, "the table" + of, number);
@@ -172,17 +173,6 @@ void CheckTogether(const Arguments& arguments) {
     }
     CheckOutputs(arguments);
 }
-
-/// Outputs of later versions: named, so that they are refused in plain words.
-struct LaterOutputs {
-    std::string hpgl;
-
-    void Refuse() const {
-        if (!hpgl.empty()) {
-            throw UsageError("--hpgl is not built yet");
-        }
-    }
-};
 
 /// The texts that need a look of their own after the line has been taken apart.
 struct RawTexts {
@@ -220,7 +210,7 @@ void AddPaperOptions(CLI::App& app, Arguments& arguments, RawTexts& raw, const C
         ->check(CLI::IsMember({"mm", "inch"}));
 }
 
-void AddOptions(CLI::App& app, Arguments& arguments, RawTexts& raw, LaterOutputs& later) {
+void AddOptions(CLI::App& app, Arguments& arguments, RawTexts& raw) {
     // What a script leaves empty by mistake must not pass for what was left out.
     const CLI::Validator notEmpty([](const std::string& text) { return text.empty() ? "it is empty" : ""; },
                                   "");
@@ -257,7 +247,7 @@ void AddOptions(CLI::App& app, Arguments& arguments, RawTexts& raw, LaterOutputs
     app.add_option("--size", raw.size, "WIDTHxHEIGHT of a picture in pixels, 800x600 by default")
         ->check(notEmpty);
     AddPaperOptions(app, arguments, raw, notEmpty);
-    app.add_option("--hpgl", later.hpgl, "plot file (not built yet)");
+    app.add_option("--hpgl", arguments.hpgl, "plot file of the view, for a pen plotter")->check(notEmpty);
     app.footer(
         "{name} in the name of an output stands for the name of the input.\n"
         "Exit status: 0 done, 1 an input was refused or failed, 2 wrong usage.");
@@ -268,10 +258,9 @@ void AddOptions(CLI::App& app, Arguments& arguments, RawTexts& raw, LaterOutputs
 std::optional<Arguments> ParseArguments(int argc, const char* const* argv) {
     Arguments arguments;
     RawTexts raw;
-    LaterOutputs later;
     CLI::App app("Korvet Development without a screen: parameter files to patterns, DXF, JSON and pictures.",
                  "korvet-batch");
-    AddOptions(app, arguments, raw, later);
+    AddOptions(app, arguments, raw);
     try {
         app.parse(argc, argv);
     } catch (const CLI::Success& success) {
@@ -280,7 +269,6 @@ std::optional<Arguments> ParseArguments(int argc, const char* const* argv) {
     } catch (const CLI::ParseError& error) {
         throw UsageError(error.what());
     }
-    later.Refuse();
     for (const std::string& text : raw.sets) {
         arguments.sets.push_back(ParseSet(text));
     }

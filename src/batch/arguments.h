@@ -39,6 +39,7 @@ struct Arguments {
 
     std::string json;  ///< "-" is standard output
     std::string dxf;
+    std::string hpgl;
     std::string save;
     std::string png;
     std::string svg;

@@ -72,14 +72,17 @@ Answer BatchUi::Show(const MessageBox& message) {
 }
 
 void BatchUi::RunModal(DxfOptionsDialog& dialog) {
+    Tick(dialog.chkDXFOutput[DxfOptionsDialog::Diagonals], arguments_.diagonals);
+    dialog.lblStatus = "OK";
+    if (dialog.toPlotter) {
+        return;  // what a plotter can't take is asked for of the drawing file beside its plot
+    }
     if (arguments_.polylines) {
         dialog.optPolyMode.selected = 1;
     }
     Tick(dialog.chkSurfaceMesh, arguments_.mesh ? std::optional(true) : std::nullopt);
-    Tick(dialog.chkDXFOutput[DxfOptionsDialog::Diagonals], arguments_.diagonals);
     Tick(dialog.chkDXFOutput[DxfOptionsDialog::Dimensions], arguments_.dimensions);
     Tick(dialog.chkDXFOutput[DxfOptionsDialog::Label], arguments_.label);
-    dialog.lblStatus = "OK";
 }
 
 /// Ticks or clears a box that the command line names. One that the dialog has greyed stays as it is, with a

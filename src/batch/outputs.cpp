@@ -25,8 +25,8 @@ Outcome Outputs::Write() {
 
 /// Whether an output shows the view, be it of the model or of the pattern.
 bool Outputs::IsOfView() const {
-    return !arguments_.save.empty() || !arguments_.dxf.empty() || !arguments_.png.empty() ||
-           !arguments_.svg.empty() || (!arguments_.pdf.empty() && arguments_.fit);
+    return !arguments_.save.empty() || !arguments_.dxf.empty() || !arguments_.hpgl.empty() ||
+           !arguments_.png.empty() || !arguments_.svg.empty() || (!arguments_.pdf.empty() && arguments_.fit);
 }
 
 /// The view of the file, or the one that the command line asks for; a new window shows its pattern, and so
@@ -66,7 +66,10 @@ Outcome Outputs::WriteFiles() {
         refused = SaveFitting(window_, OutputPath(arguments_.save, name_)) || refused;
     }
     if (!arguments_.dxf.empty()) {
-        refused = WriteDxf(OutputPath(arguments_.dxf, name_)) || refused;
+        refused = Export(OutputPath(arguments_.dxf, name_), ExportMode::Dxf) || refused;
+    }
+    if (!arguments_.hpgl.empty()) {
+        refused = Export(OutputPath(arguments_.hpgl, name_), ExportMode::Plotter) || refused;
     }
     if (!arguments_.png.empty()) {
         refused = WritePicture(OutputPath(arguments_.png, name_), PictureFormat::Png) || refused;
@@ -89,10 +92,10 @@ Outcome Outputs::WriteFiles() {
 
 /// Exports the view. Diagonals that the command line asks for are shown for as long as this takes, so that
 /// the export has them to offer; those that it forbids are not, since dimensions take the shown ones along.
-Outcome Outputs::WriteDxf(const std::string& path) {
+Outcome Outputs::Export(const std::string& path, ExportMode mode) {
     bool& requested = window_.display.DiagonalsRequested;
     const bool shown = std::exchange(requested, arguments_.diagonals.value_or(requested));
-    const Outcome outcome = window_.Export(path, ExportMode::Dxf);
+    const Outcome outcome = window_.Export(path, mode);
     requested = shown;
     return outcome;
 }

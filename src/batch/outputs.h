@@ -41,7 +41,7 @@ class Outputs {
     void ChooseView();
     void Show();
     Outcome WriteFiles();
-    Outcome WriteDxf(const std::string& path);
+    Outcome Export(const std::string& path, ExportMode mode);
     Outcome WritePicture(const std::string& path, PictureFormat format);
     Outcome WriteTable(const std::string& path);
     Outcome WritePdf(const std::string& path);

@@ -179,6 +179,25 @@ std::u16string Utf16Units(std::string_view text) {
     return units;
 }
 
+std::string Utf8Of(std::u16string_view units) {
+    const auto isHalf = [&](std::size_t i, char16_t first) {
+        return i < units.size() && units[i] >= first && units[i] < first + 0x400;
+    };
+    constexpr char16_t First = 0xD800;
+    constexpr char16_t Second = 0xDC00;
+    std::string text;
+    for (std::size_t i = 0; i < units.size(); ++i) {
+        if (isHalf(i, First) && isHalf(i + 1, Second)) {
+            const auto high = static_cast<char32_t>(units[i] - First);
+            ++i;
+            AppendUtf8(text, 0x10000 + (high << 10U) + static_cast<char32_t>(units[i] - Second));
+        } else {
+            AppendUtf8(text, isHalf(i, First) || isHalf(i, Second) ? U'?' : units[i]);
+        }
+    }
+    return text;
+}
+
 std::string OnOneLine(std::string_view text) {
     std::string line{text};
     std::replace_if(

@@ -25,6 +25,9 @@ std::string_view Beginning(std::string_view text, std::size_t limit);
 /// reads it.
 std::u16string Utf16Units(std::string_view text);
 
+/// The UTF-8 text of UTF-16 units. A half of a pair without the other one becomes a question mark.
+std::string Utf8Of(std::u16string_view units);
+
 /// The text on one line: every control character becomes a blank.
 std::string OnOneLine(std::string_view text);
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/dimensions.h"
+#include "dialogs/dialog_controls.h"
 #include "form/controls.h"
 #include "form/fields.h"
 
@@ -67,6 +68,10 @@ struct DxfOptionsDialog {
                                              {"Dimensions", false, false},
                                              {"Label", false, false}}};
     CheckBox chkSurfaceMesh{.caption = "Surface mesh"};
+    bool toPlotter = false;    ///< the drawing goes to a plotter, which takes neither polylines nor text
+    bool choosesPort = false;  ///< the two below are there
+    ComboBox cmbPlotterPort{.edit = NamedBox("cmbPlotterPort"), .list = {}};
+    OptionGroup optHandshake{.captions = {"No hand-shake", "XON/XOFF", "RTS/CTS"}, .selected = 0};
     std::string lblStatus;
     bool visible = true;  ///< false ends the modal run
 

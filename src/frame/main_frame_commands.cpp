@@ -11,6 +11,7 @@
 #include "frame/new_fitting.h"
 #include "frame/start_up.h"
 #include "window/saving.h"
+#include "window/transfer_place.h"
 
 namespace korvet {
 namespace {
@@ -172,7 +173,9 @@ void CMainFrame::ExportDxf(CFittingWindow& child) {
 }
 
 void CMainFrame::ExportHpgl(CFittingWindow& child) {
-    (void)child.Export("Transfer.plt", ExportMode::Plotter);
+    constexpr const char* PlotFile = "Transfer.plt";
+    const TransferPlace* const folder = context_.transfer;
+    (void)child.Export(folder != nullptr ? folder->PathOf(PlotFile) : PlotFile, ExportMode::Plotter);
 }
 
 /// The link needs a CAD program that it can reach, and this one reaches none.

@@ -13,6 +13,9 @@
 
 namespace korvet {
 
+class PlotterLine;
+class TransferPlace;
+
 struct WindowContext {
     COptions& options;
     UserInterface& ui;
@@ -22,6 +25,8 @@ struct WindowContext {
     PatternSettingsDialog& patternSettingsDialog;  ///< one for the whole program
     CPrintDialog& printDialog;                     ///< the printer, for the whole program too
     char decimalMark = '.';
+    TransferPlace* transfer = nullptr;  ///< null: drawings go nowhere but into files
+    PlotterLine* plotter = nullptr;     ///< null: plots go into files
 
     /// The text of a message in the language of the options.
     [[nodiscard]] std::string Message(int id) const { return GetMessage(id, options.Language); }

@@ -2,6 +2,8 @@
 
 #include "dialogs/small_dialogs.h"
 #include "exchange/dxf.h"
+#include "window/plotter_line.h"
+#include "window/plotting.h"
 #include "window/views.h"
 
 namespace korvet {
@@ -18,6 +20,24 @@ enum ExportStep : int {
     LabelOffered
 };
 
+/// The port of the plotter, where the user has a choice.
+void OfferPort(const WindowContext& context, DxfOptionsDialog& dialog) {
+    const auto port = context.plotter != nullptr ? context.plotter->Port() : std::nullopt;
+    dialog.choosesPort = port.has_value();
+    if (port) {
+        dialog.cmbPlotterPort.list = context.plotter->Ports();
+        dialog.cmbPlotterPort.edit.text = port->name;
+        dialog.optHandshake.selected = static_cast<std::size_t>(port->handshake);
+    }
+}
+
+void TakePort(const WindowContext& context, const DxfOptionsDialog& dialog) {
+    if (dialog.choosesPort) {
+        context.plotter->SetPort({dialog.cmbPlotterPort.edit.text,
+                                  static_cast<Handshake>(dialog.optHandshake.selected.value_or(0))});
+    }
+}
+
 /// Fills the dialog for the view that is shown: boxes are offered for what the display shows.
 void FillDialog(const CFittingWindow& window, ExportMode mode, DxfOptionsDialog& dialog, ExportStep& step) {
     const WindowContext& context = window.Context();
@@ -25,6 +45,10 @@ void FillDialog(const CFittingWindow& window, ExportMode mode, DxfOptionsDialog&
     const bool plotter = mode == ExportMode::Plotter;  // takes neither polylines nor text
     dialog.optPolyMode.selected = context.options.PolyMode == 1 && !plotter ? 1 : 0;
     dialog.optPolyMode.enabled = !plotter;
+    dialog.toPlotter = plotter;
+    if (plotter) {
+        OfferPort(context, dialog);
+    }
     step = DialogLoaded;
     const bool pattern = InPatternView(*window.views);
     step = ViewExamined;
@@ -92,9 +116,9 @@ Outcome RunExport(CFittingWindow& window, const std::string& path, ExportMode mo
     if (dialog.lblStatus != "OK") {
         return Refused;
     }
-    if (mode != ExportMode::Dxf) {
-        ShowPlain(context.ui, "This version writes DXF files only");
-        return Refused;
+    if (mode == ExportMode::Plotter) {
+        TakePort(context, dialog);
+        return PlotDrawing(window, DxfOf(window, dialog, path), path);
     }
     DxfOf(window, dialog, path).WriteDXF(context.files);
     context.ui.Show(

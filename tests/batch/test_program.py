@@ -90,7 +90,7 @@ class ListTest(unittest.TestCase):
     def test_help(self):
         result = start("--help")
         self.assertEqual((result.status, result.errors), (DONE, ""))
-        for option in ("--json", "--dxf", "--save", "--png", "--svg", "--size", "--view", "--set", "--new", "--type",
+        for option in ("--json", "--dxf", "--hpgl", "--save", "--png", "--svg", "--size", "--view", "--set", "--new", "--type",
                        "--mesh-file", "--select", "--settings", "--list", "--polylines", "--mesh", "--diagonals", "--dimensions",
                        "--label", "{name}", "Exit status"):
             self.assertIn(option, result.output)
@@ -133,14 +133,9 @@ class WrongUsageTest(FolderTest):
 
     def test_empty_values(self):
         """An empty text where a name or a value must stand is no way of leaving the option out."""
-        for option in ("--json", "--dxf", "--save", "--png", "--svg", "--settings", "--size", "--view", "--new", "--pdf",
+        for option in ("--json", "--dxf", "--hpgl", "--save", "--png", "--svg", "--settings", "--size", "--view", "--new", "--pdf",
                        "--paper", "--sheets", "--units"):
             self.wrong(*CONE, option, "")
-
-    def test_outputs_of_later_versions(self):
-        path = self.folder / "out"
-        self.wrong(*CONE, "--hpgl", path, "--json", path, says="--hpgl is not built yet")
-        self.assertFalse(path.exists())
 
     def test_names_and_types(self):
         self.wrong("--new", "right cone", says='"right cone"')

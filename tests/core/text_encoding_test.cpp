@@ -44,6 +44,10 @@ TEST(TextEncoding, Utf16HasTwoUnitsForACharacterAboveTheFirstPlane) {
     EXPECT_EQ(Utf16Units("\U0001F527\U0010FFFF"), u"\U0001F527\U0010FFFF");
     EXPECT_EQ(Utf16Units("\xFC"), u"\u00fc");
     EXPECT_EQ(Utf16Units(""), u"");
+    for (const char* text : {"", "a\u00fc\u677f", "\U0001F527\U0010FFFF"}) {
+        EXPECT_EQ(Utf8Of(Utf16Units(text)), text);
+    }
+    EXPECT_EQ(Utf8Of(std::u16string{u'a', 0xD83D, u'b', 0xDD27, 0xD83D}), "a?b??");
 }
 
 TEST(TextEncoding, OneLineHasNoControlCharacters) {

@@ -51,9 +51,7 @@ const std::map<std::string_view, Texts> Said = {
     {"mnuFileSave", {NoSave, NotNow, NotNow, "", ""}},
     {"mnuFileSaveAs", {NoSave, NotNow, NotNow, "", ""}},
     {"mnuExportDXF", {NoCommand, NotNow, NotNow, Saved, Saved}},
-    {"mnuExportHPGL",
-     {NoCommand, NotNow, NotNow, "P This version writes DXF files only",
-      "P This version writes DXF files only"}},
+    {"mnuExportHPGL", {NoCommand, NotNow, NotNow, "P File sent", "P File sent"}},
     {"mnuSendToAcad", {NoCommand, NoCad, NoCad, NoCad, NoCad}},
     {"mnuPrintFrames", {"", NotNow, NotNow, "UE" + PatternOnly, NoFrames}},
     {"mnuSelectFrames", {"", Select, Select, Select, Select}},
@@ -75,6 +73,8 @@ const std::string SaveAs = "SaveAs|Korvet Development Files (*.Kvt)|*.Kvt|save";
 const std::string Saves = SaveAs + ", wrote part, drew, now part";
 const std::string Export = "Export DXF|Drawing eXchange File (*.DXF)|*.DXF|save";
 const std::string Exports = Export + ", wrote part, Exporting part";
+const std::string Plots =
+    "wrote work/Transfer.tmp, wrote work/Transfer.plt, wrote work/Plot.bat, Exporting work/Transfer.plt";
 const std::string Closes = "remove Development 1, now none";
 
 /// Commands that are not listed leave everything as it is.
@@ -85,7 +85,7 @@ const std::map<std::string_view, Texts> Done = {
     {"mnuFileSave", {"", SaveAs, SaveAs, Saves, Saves}},
     {"mnuFileSaveAs", {"", SaveAs, SaveAs, Saves, Saves}},
     {"mnuExportDXF", {"", Export, Export, Exports, Exports}},
-    {"mnuExportHPGL", {"", "", "", "Exporting Transfer.plt", "Exporting Transfer.plt"}},
+    {"mnuExportHPGL", {"", "", "", Plots, Plots}},
     {"mnuFilePageSetup",
      {"disabled", "Print Setup", "Print Setup", "Print Setup, drew", "Print Setup, drew"}},
     {"mnuFilePrint", {"", "", "", "Print", "Print"}},

@@ -8,6 +8,7 @@
 #include "frame/catalogue.h"
 #include "frame/new_fitting.h"
 #include "tests/support/memory_file_store.h"
+#include "tests/support/recording_plotter.h"
 #include "tests/support/recording_printers.h"
 #include "tests/support/recording_ui.h"
 
@@ -27,7 +28,10 @@ struct TestShell {
     PatternSettingsDialog patternSettingsDialog;
     RecordingPrinters printers;
     CPrintDialog printDialog{printers};
-    WindowContext context{options, ui, files, clock, frame, patternSettingsDialog, printDialog};
+    TestTransferPlace transferPlace;
+    RecordingPlotter plotter;
+    WindowContext context{options,     ui,  files,          clock,   frame, patternSettingsDialog,
+                          printDialog, '.', &transferPlace, &plotter};
 
     /// A new window of a category that is built, drawing on `area` if given.
     std::unique_ptr<CFittingWindow> Open(const std::string& category, DrawingDevice* area = nullptr) {

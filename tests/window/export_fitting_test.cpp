@@ -75,14 +75,6 @@ TEST_F(ExportTest, APlotterTakesNeitherPolylinesNorText) {
     }
 }
 
-TEST_F(ExportTest, OtherTargetsThanDxfAreRefusedForNow) {
-    const auto window = shell.OpenSample("Right Cone", 2);
-    window->ClickView(PatternButton);
-    EXPECT_EQ(window->Export("plot", ExportMode::Plotter), Refused);
-    EXPECT_EQ(shell.ui.Texts(), (std::vector<std::string>{"This version writes DXF files only"}));
-    EXPECT_TRUE(shell.files.files.empty());
-}
-
 TEST_F(ExportTest, OffersAMeshForAModel) {
     const auto window = shell.OpenSample("Right Cone", 2);
     window->ClickView(0);

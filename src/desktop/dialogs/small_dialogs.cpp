@@ -1,6 +1,7 @@
 #include "desktop/dialogs/small_dialogs.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -48,6 +49,24 @@ QGroupBox* MakeLines(ModelDialog& window, LabelDialog& dialog) {
         grid->addWidget(label, row, 0, 1, 2);
     }
     grid->setRowStretch(row, 1);
+    return frame;
+}
+
+/// Where the plotter is: a port of the machine, or the path of another one.
+QGroupBox* MakePlotterPort(ModelDialog& window, DxfOptionsDialog& dialog) {
+    QGroupBox* const frame =
+        MakeFrame("fraPlotterPort", QStringLiteral("Plotter"), QStringLiteral("Plotter"));
+    auto* column = new QVBoxLayout(frame);
+    auto* row = new QHBoxLayout;
+    QComboBox* const port = MakeCombo("cmbPlotterPort", QStringLiteral("Plotter port"), true);
+    window.Bind(*port, dialog.cmbPlotterPort,
+                [&dialog](const std::string& text) { dialog.cmbPlotterPort.edit.text = text; });
+    row->addWidget(MakeLabel(QStringLiteral("Plotter &port:"), port));
+    row->addWidget(port, 1);
+    column->addLayout(row);
+    auto* options = new QHBoxLayout;
+    AddOptions(*options, MakeOptions(window, "optHandshake", dialog.optHandshake, "hXR"));
+    column->addLayout(options);
     return frame;
 }
 
@@ -115,6 +134,9 @@ void RunDialog(const DialogHost& host, DxfOptionsDialog& dialog) {
     }
     column->addWidget(MakeCheck(window, "chkSurfaceMesh", dialog.chkSurfaceMesh, 's'));
     window.Body().addWidget(output);
+    if (dialog.choosesPort) {
+        window.Body().addWidget(MakePlotterPort(window, dialog));
+    }
     window.Body().addStretch();
     AddOkAndCancel(window, dialog);
     window.AddHelpButton();

@@ -14,8 +14,10 @@
 #include "frame/start_up.h"
 #include "platform/disk_files.h"
 #include "platform/registry_settings.h"
+#include "platform/serial_plotter.h"
 #include "platform/system_clock.h"
 #include "platform/system_printers.h"
+#include "platform/transfer_folder.h"
 
 namespace korvet::desktop {
 namespace {
@@ -42,8 +44,11 @@ struct Application {
     QtUi ui{nullptr};
     SystemPrinters printers;
     CPrintDialog printDialog{printers};
+    TransferFolder transfer = TransferFolder::OfProgram();
+    SerialPlotter plotter{settings};
     WindowContext context{
-        options, ui, files, clock, frame, patternSettingsDialog, printDialog, SystemDecimalMark()};
+        options,   ui,      files, clock, frame, patternSettingsDialog, printDialog, SystemDecimalMark(),
+        &transfer, &plotter};
     HelpWindow help{HelpWindow::FileBesideProgram(), SketchOfPage};
 };
 

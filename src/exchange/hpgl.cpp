@@ -1,0 +1,128 @@
+#include "exchange/hpgl.h"
+
+#include <cmath>
+
+#include "core/math_module.h"
+#include "core/number_text.h"
+#include "exchange/dxf_annotations.h"
+#include "exchange/mesh_dxf.h"
+#include "exchange/transfer_file.h"
+
+namespace korvet {
+namespace {
+
+constexpr double StepsPerMillimetre = 40;
+constexpr double StepsPerInch = 1016;
+constexpr double FullCircle = 360;      // degrees
+constexpr double DirectionScale = 100;  // of a text's run and rise
+constexpr int DirectionPlaces = 3;
+constexpr char TextEnd = '#';
+
+/// The letters of a text that the plotter can draw.
+std::string PlotterText(std::string_view text) {
+    std::string plotted;
+    for (const char letter : text) {
+        const auto byte = static_cast<unsigned char>(letter);
+        if (letter == TextEnd) {
+            plotted += ' ';
+        } else if (byte >= 0xC0) {
+            plotted += '?';  // the first byte of a letter outside ASCII; the others follow
+        } else if (byte >= ' ' && byte < 0x7F) {
+            plotted += letter;
+        }
+    }
+    return plotted;
+}
+
+/// A plot under way.
+class PlotText {
+  public:
+    PlotText(double stepsPerUnit, const C3DPoint& offset) : steps_(stepsPerUnit), offset_(offset) {
+        Add("IN");
+        Add("SP1");
+    }
+
+    std::string Finish() {
+        Add("PU");
+        Add("SP0");
+        return std::move(plot_);
+    }
+
+    void Draw(const TransferLine& line) { PlotLine(line.a, line.b); }
+
+    void Draw(const TransferArc& arc) {
+        const double end = arc.end < arc.start ? arc.end + FullCircle : arc.end;
+        MoveTo(PolarPoint(arc.centre, DegToRad(arc.start), arc.radius));
+        Add("PD");
+        Add("AA" + Position(arc.centre) + "," + NumberText(end - arc.start) + ",1");
+    }
+
+    void Draw(const TransferText& text) {
+        const double angle = DegToRad(text.angle);
+        MoveTo(text.point);
+        Add("DI" + RoundedText(std::cos(angle) * DirectionScale, DirectionPlaces) + "," +
+            RoundedText(std::sin(angle) * DirectionScale, DirectionPlaces));
+        Add(std::string("DT") + TextEnd);
+        Add("LB" + PlotterText(text.text) + TextEnd);
+    }
+
+    /// An edge of two points comes as a polyline; longer ones don't come at all in a drawing made of arcs.
+    void Draw(const TransferPolyline& polyline) {
+        if (polyline.rows == 0 && polyline.points.Count() == 2) {
+            PlotLine(polyline.points.Item(1), polyline.points.Item(2));
+        }
+    }
+
+  private:
+    void PlotLine(const C3DPoint& a, const C3DPoint& b) {
+        MoveTo(a);
+        Add("PD");
+        Add("PA" + Position(b));
+    }
+
+    void MoveTo(const C3DPoint& point) {
+        Add("PU");
+        Add("PA" + Position(point));
+    }
+
+    [[nodiscard]] std::string Position(const C3DPoint& point) const {
+        return RoundedText((point.x + offset_.x) * steps_, 0) + "," +
+               RoundedText((point.y + offset_.y) * steps_, 0);
+    }
+
+    void Add(const std::string& instruction) { plot_.append(instruction).append(";\r\n"); }
+
+    double steps_;
+    C3DPoint offset_;
+    std::string plot_;
+};
+
+/// What brings the lower left corner of the drawing to the plotter's origin.
+C3DPoint OffsetOf(const CRuleSurfs& surfaces) {
+    const auto frame = BuildDXFFrame(surfaces);
+    return frame ? C3DPoint{-frame->front().x, -frame->front().y, 0, PlainStation} : C3DPoint();
+}
+
+}  // namespace
+
+std::string CHPGL::Plot(std::string_view drawing) const {
+    PlotText plot(PrintUnits == PrintMillimetres ? StepsPerMillimetre : StepsPerInch, OffsetOf(SurfaceList));
+    for (const TransferEntity& entity : ReadTransferFile(drawing)) {
+        std::visit([&](const auto& shape) { plot.Draw(shape); }, entity.shape);
+    }
+    return plot.Finish();
+}
+
+bool CHPGL::TransferTempFile(FileStore& files, const std::string& transferFile) const {
+    if (!files.Exists(transferFile)) {
+        return false;
+    }
+    files.Write(FileName, Plot(files.Read(transferFile, LargestDrawing)), Flush::No);
+    return true;
+}
+
+std::string PlotBatch(std::string_view plotFile) {
+    return "mode com2:9600,n,8,1\r\ncopy \"" + std::string(plotFile) + "\" COM2\r\n";
+}
+
+}  // namespace korvet
