@@ -63,10 +63,16 @@ enum MessageId : int {
     PrinterProblem = 117,
     NoPrinterAvailable = 118,
     NoCadDrawing = 140,
+    PickInsertion = 141,
+    TransferComplete = 142,
+    Transferring = 143,
     UnsuitableDxf = 150,
     NoEntitiesSection = 151,
     NoSuitableMesh = 152,
-    SuitableMesh = 153
+    SuitableMesh = 153,
+    SelectMesh = 155,
+    MeshIsClosed = 156,
+    MeshOnlyInModelSpace = 157
 };
 
 /// The text of message `id` in `language`. Only "English" has texts: any other language, and an id without a

@@ -10,7 +10,9 @@
 #include "frame/main_frame.h"
 #include "frame/new_fitting.h"
 #include "frame/start_up.h"
+#include "window/auto_cad.h"
 #include "window/saving.h"
+#include "window/transfer.h"
 #include "window/transfer_place.h"
 
 namespace korvet {
@@ -178,9 +180,10 @@ void CMainFrame::ExportHpgl(CFittingWindow& child) {
     (void)child.Export(folder != nullptr ? folder->PathOf(PlotFile) : PlotFile, ExportMode::Plotter);
 }
 
-/// The link needs a CAD program that it can reach, and this one reaches none.
-void CMainFrame::SendToAcad(CFittingWindow& /*child*/) {
-    ShowPlain(context_.ui, context_.Message(NoCadDrawing));
+void CMainFrame::SendToAcad(CFittingWindow& child) {
+    if (ConnectGlobalAcad(context_) == Passed) {
+        (void)child.Export(TransferFile(context_), ExportMode::CadLink);
+    }
 }
 
 void CMainFrame::PageSetup(CFittingWindow& child) {

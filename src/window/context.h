@@ -1,6 +1,8 @@
 // What all fitting windows of a run share.
 #pragma once
 
+#include <memory>
+
 #include "core/file_store.h"
 #include "dialogs/pattern_settings_dialog.h"
 #include "dialogs/user_interface.h"
@@ -13,6 +15,8 @@
 
 namespace korvet {
 
+class Automation;
+class CAutoCAD;
 class PlotterLine;
 class TransferPlace;
 
@@ -25,8 +29,10 @@ struct WindowContext {
     PatternSettingsDialog& patternSettingsDialog;  ///< one for the whole program
     CPrintDialog& printDialog;                     ///< the printer, for the whole program too
     char decimalMark = '.';
-    TransferPlace* transfer = nullptr;  ///< null: drawings go nowhere but into files
-    PlotterLine* plotter = nullptr;     ///< null: plots go into files
+    TransferPlace* transfer = nullptr;    ///< null: drawings go nowhere but into files
+    PlotterLine* plotter = nullptr;       ///< null: plots go into files
+    Automation* automation = nullptr;     ///< null: no other program can be driven here
+    std::shared_ptr<CAutoCAD> acad = {};  ///< the link to the drawing program, once it has been asked for
 
     /// The text of a message in the language of the options.
     [[nodiscard]] std::string Message(int id) const { return GetMessage(id, options.Language); }

@@ -2,8 +2,10 @@
 
 #include "dialogs/small_dialogs.h"
 #include "exchange/dxf.h"
+#include "window/auto_cad.h"
 #include "window/plotter_line.h"
 #include "window/plotting.h"
+#include "window/transfer.h"
 #include "window/views.h"
 
 namespace korvet {
@@ -105,6 +107,17 @@ CDXF DxfOf(const CFittingWindow& window, const DxfOptionsDialog& dialog, const s
     return dxf;
 }
 
+/// By the link that the command has connected, through the transfer file.
+Outcome DrawInCad(CFittingWindow& window, const CDXF& drawing) {
+    WindowContext& context = window.Context();
+    const auto held = HoldTransferPlace(context);
+    if (!held) {
+        return Refused;
+    }
+    drawing.WriteDXF(context.files);
+    return TransferToAcad(context);
+}
+
 /// The export itself; the step it has come to stands in `step` when it throws.
 Outcome RunExport(CFittingWindow& window, const std::string& path, ExportMode mode, ExportStep& step) {
     WindowContext& context = window.Context();
@@ -119,6 +132,9 @@ Outcome RunExport(CFittingWindow& window, const std::string& path, ExportMode mo
     if (mode == ExportMode::Plotter) {
         TakePort(context, dialog);
         return PlotDrawing(window, DxfOf(window, dialog, path), path);
+    }
+    if (mode == ExportMode::CadLink) {
+        return DrawInCad(window, DxfOf(window, dialog, path));
     }
     DxfOf(window, dialog, path).WriteDXF(context.files);
     context.ui.Show(

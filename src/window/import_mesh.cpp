@@ -2,6 +2,7 @@
 
 #include "core/text_encoding.h"
 #include "exchange/mesh_dxf.h"
+#include "window/auto_cad.h"
 
 namespace korvet {
 namespace {
@@ -46,9 +47,13 @@ Outcome CFittingWindow::RequireMesh() {
 /// A new mesh takes the place of the old one in the drawing too.
 void CFittingWindow::ClickImportMesh(std::size_t source) {
     if (source == MeshOfCad) {
-        // No drawing can be reached, and what was there before is not what was asked for.
-        mesh.DXFMeshOK = false;
-        ShowPlain(context_.ui, context_.Message(NoCadDrawing));
+        const auto fetched = MeshFromAcad(context_);
+        mesh.DXFMeshOK = fetched.has_value();  // without one there is nothing that was asked for
+        if (fetched) {
+            mesh = {.DXFMeshOK = true, .FileName = {}, .DXFMesh = *fetched};
+            edited = true;
+            UpdateFitting();
+        }
         return;
     }
     const auto path = context_.ui.ChooseFile({"Import Mesh", "Drawing eXchange File (*.DXF)|*.DXF"});

@@ -12,6 +12,7 @@
 #include "desktop/sketch/sketch_painter.h"
 #include "frame/catalogue.h"
 #include "frame/start_up.h"
+#include "platform/com_automation.h"
 #include "platform/disk_files.h"
 #include "platform/registry_settings.h"
 #include "platform/serial_plotter.h"
@@ -46,9 +47,15 @@ struct Application {
     CPrintDialog printDialog{printers};
     TransferFolder transfer = TransferFolder::OfProgram();
     SerialPlotter plotter{settings};
+#ifdef _WIN32
+    ComAutomation programs;
+    Automation* automation = &programs;
+#else
+    Automation* automation = nullptr;  // other programs can't be driven here
+#endif
     WindowContext context{
-        options,   ui,      files, clock, frame, patternSettingsDialog, printDialog, SystemDecimalMark(),
-        &transfer, &plotter};
+        options,   ui,       files,     clock, frame, patternSettingsDialog, printDialog, SystemDecimalMark(),
+        &transfer, &plotter, automation};
     HelpWindow help{HelpWindow::FileBesideProgram(), SketchOfPage};
 };
 
