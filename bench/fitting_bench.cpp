@@ -54,9 +54,7 @@ void RegisterWindow(const CatalogueRow& row) {
 
 int main(int argc, char** argv) {
     for (const korvet::CatalogueRow& row : korvet::Catalogue) {
-        if (row.table != nullptr) {
-            korvet::RegisterWindow(row);
-        }
+        korvet::RegisterWindow(row);
     }
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

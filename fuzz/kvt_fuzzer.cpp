@@ -48,7 +48,7 @@ std::string CategoryOf(const std::string& text) {
     } catch (const ParameterFileError&) {
     }
     const CatalogueRow* row = FindCategory(file.Category);
-    return row != nullptr && row->table != nullptr ? file.Category : "Right Cone";
+    return row != nullptr ? file.Category : "Right Cone";
 }
 
 }  // namespace

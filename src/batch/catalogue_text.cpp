@@ -30,11 +30,8 @@ void AppendTypes(std::string& text, const WindowTable& table) {
 std::string CatalogueText() {
     std::string text;
     for (const CatalogueRow& row : Catalogue) {
-        text.append(row.category).append("  ").append(row.window);
-        text += row.table != nullptr ? "\n" : "  (not built yet)\n";
-        if (row.table != nullptr) {
-            AppendTypes(text, *row.table);
-        }
+        text.append(row.category).append("  ").append(row.window).append("\n");
+        AppendTypes(text, *row.table);
     }
     return text;
 }

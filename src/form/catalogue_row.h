@@ -16,7 +16,7 @@ struct CatalogueRow {
     std::string_view fittingClass;  ///< name of its class
     int helpContextId;              ///< 0: no topic
     std::int16_t lapEnable;         ///< the laps that it has, a LapMask
-    const WindowTable* table;       ///< null: this window is not built yet
+    const WindowTable* table;       ///< never null
     bool hidden = false;            ///< not offered in the menu; only a parameter file opens it
 };
 

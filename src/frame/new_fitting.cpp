@@ -12,10 +12,6 @@ std::unique_ptr<CFittingWindow> NewFitting(WindowContext& context, const std::st
     if (row == nullptr) {
         return nullptr;
     }
-    if (row->table == nullptr) {
-        ShowPlain(context.ui, "The fitting \"" + category + "\" is not built yet");
-        return nullptr;
-    }
     auto window = std::make_unique<CFittingWindow>(context, *row, drawingArea);
     window->controls.caption =
         std::string(NewWindowCaption) + " " + std::to_string(context.frame.documentCounter);

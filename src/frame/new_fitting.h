@@ -9,8 +9,7 @@
 namespace korvet {
 
 /// A new window of a category, captioned "Development " and its number. Null, with nothing said, for a
-/// category that the catalogue does not have; null, with a plain box that says so, for one whose window is
-/// not built yet. The number counts up in either case.
+/// category that the catalogue does not have. The number counts up in either case.
 std::unique_ptr<CFittingWindow> NewFitting(WindowContext& context, const std::string& category,
                                            DrawingDevice* drawingArea);
 

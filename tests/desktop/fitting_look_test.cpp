@@ -76,18 +76,16 @@ void VerifyPanel(const QWidget& panel, const QString& page) {
     VerifyControls(panel, controls, page);
 }
 
-/// The windows that are built, each with its view.
+/// The windows of the catalogue, each with its view.
 class AllWindows {
   public:
     using Look = std::function<void(const QString& page, ViewOfTable& shown, const QScrollArea& scroll)>;
 
     AllWindows() {
         for (const CatalogueRow& row : Catalogue) {
-            if (row.table != nullptr) {
-                windows_.push_back(
-                    {QString::fromUtf8(row.window.data(), static_cast<qsizetype>(row.window.size())),
-                     std::make_unique<ViewOfTable>(*row.table)});
-            }
+            windows_.push_back(
+                {QString::fromUtf8(row.window.data(), static_cast<qsizetype>(row.window.size())),
+                 std::make_unique<ViewOfTable>(*row.table)});
         }
     }
 

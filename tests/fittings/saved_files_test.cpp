@@ -21,7 +21,7 @@ void PrintTo(const SavedType& saved, std::ostream* out) {
 std::vector<SavedType> EveryType() {
     std::vector<SavedType> types;
     for (const CatalogueRow& row : Catalogue) {
-        for (std::size_t page = 0; row.table != nullptr && page < row.table->pages.size(); ++page) {
+        for (std::size_t page = 0; page < row.table->pages.size(); ++page) {
             types.push_back({std::string(row.category), static_cast<int>(page) + 1});
         }
     }

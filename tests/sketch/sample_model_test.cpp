@@ -76,7 +76,7 @@ TEST(SampleModel, RightConeHasTheSizesOfItsSamples) {
 TEST(SampleModel, EveryPageOfEveryWindowHasOne) {
     int pages = 0;
     for (const CatalogueRow& row : Catalogue) {
-        for (std::size_t page = 0; row.table != nullptr && page < row.table->pages.size(); ++page) {
+        for (std::size_t page = 0; page < row.table->pages.size(); ++page) {
             SCOPED_TRACE(std::string(row.category) + ", page " + std::to_string(page));
             const CRuleSurfs model = SampleModel(*row.table, page);
             EXPECT_GT(model.Count(), 0U);

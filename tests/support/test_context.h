@@ -55,16 +55,6 @@ struct TestShell {
     }
 };
 
-/// A fitting of the catalogue that is not built yet. Once all are, the refusal and its tests can go.
-inline std::string CategoryNotBuilt() {
-    for (const CatalogueRow& row : Catalogue) {
-        if (row.table == nullptr) {
-            return std::string(row.category);
-        }
-    }
-    throw std::logic_error("every fitting is built");
-}
-
 /// Makes the export dialog answer OK as it is shown.
 inline void AcceptExports(RecordingUi& ui) {
     ui.onDxfOptions = [](DxfOptionsDialog& dialog) { dialog.lblStatus = "OK"; };

@@ -266,12 +266,9 @@ TEST_F(SaveLoadTest, AFailedSaveIsToldAndLeavesCaptionAndFile) {
     EXPECT_EQ(shell.files.files["a.Kvt"], "old");
 }
 
-TEST_F(SaveLoadTest, EveryPageOfEveryBuiltWindowHasAValidSample) {
+TEST_F(SaveLoadTest, EveryPageOfEveryWindowHasAValidSample) {
     int pages = 0;
     for (const CatalogueRow& row : Catalogue) {
-        if (row.table == nullptr) {
-            continue;
-        }
         for (std::size_t type = 1; type <= row.table->pages.size(); ++type, ++pages) {
             const auto window = shell.OpenSample(std::string(row.category), static_cast<int>(type));
             window->ClickView(0);

@@ -26,8 +26,7 @@ namespace {
 /// A sketch for the help pages; none for a fitting or page that there isn't.
 QImage SketchOfPage(const QString& category, int page, QSize size, const QPalette& palette) {
     const CatalogueRow* row = FindCategory(category.toStdString());
-    if (row == nullptr || row->table == nullptr || page < 1 ||
-        static_cast<std::size_t>(page) > row->table->pages.size()) {
+    if (row == nullptr || page < 1 || static_cast<std::size_t>(page) > row->table->pages.size()) {
         return {};
     }
     return SketchImage(*row->table, static_cast<std::size_t>(page - 1), size, qApp->devicePixelRatio(),

@@ -71,24 +71,6 @@ void DrawFitting(QPainter& painter, const CatalogueRow& row, const QRectF& area,
     PaintSolid(painter, picture, scale, origin, SolidColorsOf(palette), 1.3);
 }
 
-void DrawNotBuilt(QPainter& painter, const QRectF& area, const QPalette& palette) {
-    const QColor text = palette.color(QPalette::Active, QPalette::WindowText);
-    QColor ground = text;
-    ground.setAlphaF(0.08F);
-    QColor frame = text;
-    frame.setAlphaF(0.35F);
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(frame, 1, Qt::DashLine));
-    painter.setBrush(ground);
-    painter.drawRoundedRect(area.adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
-    QColor words = text;
-    words.setAlphaF(0.75F);
-    painter.setPen(words);
-    painter.drawText(area, Qt::AlignCenter | Qt::TextWordWrap, QStringLiteral("Not built yet"));
-    painter.restore();
-}
-
 QPixmap DrawTile(const CatalogueRow& row, const QSize& size, qreal devicePixelRatio, const QPalette& palette,
                  const QFont& font) {
     QPixmap picture((QSizeF(size) * devicePixelRatio).toSize());
@@ -102,11 +84,7 @@ QPixmap DrawTile(const CatalogueRow& row, const QSize& size, qreal devicePixelRa
     const QRectF tile = QRectF(QPointF(0, 0), size).adjusted(Margin, Margin, -Margin, -Margin);
     const QRectF area =
         DrawCategory(painter, row, tile, palette.color(QPalette::Active, QPalette::WindowText));
-    if (row.table != nullptr) {
-        DrawFitting(painter, row, area, palette);
-    } else {
-        DrawNotBuilt(painter, area, palette);
-    }
+    DrawFitting(painter, row, area, palette);
     return picture;
 }
 
@@ -115,7 +93,7 @@ QString TileKey(const CatalogueRow& row, const QSize& size, qreal devicePixelRat
                 const QFont& font) {
     QByteArray look;
     QDataStream stream(&look, QIODevice::WriteOnly);
-    stream << CategoryOf(row) << (row.table != nullptr) << size << devicePixelRatio << palette << font;
+    stream << CategoryOf(row) << size << devicePixelRatio << palette << font;
     return QStringLiteral("tile ") +
            QString::fromLatin1(QCryptographicHash::hash(look, QCryptographicHash::Sha1).toHex());
 }

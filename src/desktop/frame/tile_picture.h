@@ -10,9 +10,9 @@
 
 namespace korvet::desktop {
 
-/// The tile of a fitting: its picture with the category below it, on a transparent ground. A fitting that has
-/// no window yet gets a grey tile that says so. The size is in logical pixels; below TileSide in either
-/// direction a long category takes room from the picture. Crisp at the device pixel ratio.
+/// The tile of a fitting: its picture with the category below it, on a transparent ground. The size is in
+/// logical pixels; below TileSide in either direction a long category takes room from the picture. Crisp at
+/// the device pixel ratio.
 QPixmap TilePicture(const CatalogueRow& row, const QSize& size, qreal devicePixelRatio,
                     const QPalette& palette, const QFont& font);
 
