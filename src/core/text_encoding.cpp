@@ -78,17 +78,23 @@ bool IsUnseen(char32_t point) {
                        [point](const Range& range) { return point >= range.first && point <= range.last; });
 }
 
-/// Appends one code point below 0x10000 as UTF-8.
+/// Appends one code point as UTF-8.
 void AppendUtf8(std::string& text, char32_t point) {
+    const auto append = [&](unsigned lead, unsigned shift) {
+        text.push_back(static_cast<char>(lead | (point >> shift)));
+        while (shift > 0) {
+            shift -= 6;
+            text.push_back(static_cast<char>(0x80U | ((point >> shift) & 0x3FU)));
+        }
+    };
     if (point < 0x80) {
-        text.push_back(static_cast<char>(point));
+        append(0, 0);
     } else if (point < 0x800) {
-        text.push_back(static_cast<char>(0xC0U | (point >> 6U)));
-        text.push_back(static_cast<char>(0x80U | (point & 0x3FU)));
+        append(0xC0U, 6);
+    } else if (point < 0x10000) {
+        append(0xE0U, 12);
     } else {
-        text.push_back(static_cast<char>(0xE0U | (point >> 12U)));
-        text.push_back(static_cast<char>(0x80U | ((point >> 6U) & 0x3FU)));
-        text.push_back(static_cast<char>(0x80U | (point & 0x3FU)));
+        append(0xF0U, 18);
     }
 }
 

@@ -33,7 +33,8 @@ std::string DrawingOf(Write write) {
 std::string Plotted(const std::string& drawing, const CHPGL& plotter = {}) {
     const std::string plot = plotter.Plot(drawing);
     EXPECT_TRUE(plot.starts_with(PlotStart) && plot.ends_with(PlotEnd)) << plot;
-    return plot.substr(9, plot.size() - 9 - 11);
+    const std::size_t start = std::string_view(PlotStart).size();
+    return plot.substr(start, plot.size() - start - std::string_view(PlotEnd).size());
 }
 
 std::string PlottedText(const std::string& text, double angle = 0) {
