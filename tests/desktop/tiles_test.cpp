@@ -135,8 +135,8 @@ void Tiles::everyCategoryHasRoomBelowItsPicture() {
         const int side = TileSide(font, 100);
         QVERIFY(side >= 100);
         for (const CatalogueRow& row : Catalogue) {
-            CatalogueRow tile = row;
-            tile.table = nullptr;
+            CatalogueRow tile = RightConeRow();
+            tile.category = row.category;
             if (!row.hidden) {
                 const QImage image = TilePicture(tile, {side, side}, 1, LightPalette(), font).toImage();
                 // Neither the sides nor the foot of the tile cut a letter off.

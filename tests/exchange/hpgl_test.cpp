@@ -157,10 +157,10 @@ TEST(Hpgl, ADrawingThatIsNotWholeIsRefused) {
         out.WritePolyline(PointsOf({{1, 1, 0}, {2, 3, 0}, {5, 5, 0}}), "Cut");
         out.WriteMesh(PointsOf({{1, 1, 0}, {2, 3, 0}}), PointsOf({{1, 5, 0}, {2, 6, 0}}), "Cut");
     });
-    EXPECT_NO_THROW(CHPGL().Plot(whole));
+    EXPECT_NO_THROW((void)CHPGL().Plot(whole));
     const std::size_t last = whole.rfind("EOF") + 3;
     for (std::size_t length = 0; length < last; ++length) {
-        EXPECT_THROW(CHPGL().Plot(whole.substr(0, length)), TransferError) << length;
+        EXPECT_THROW((void)CHPGL().Plot(whole.substr(0, length)), TransferError) << length;
     }
     for (std::size_t at = whole.find(" 2 "); at != std::string::npos; at = whole.find(" 2 ", at + 1)) {
         std::string faulty = whole;

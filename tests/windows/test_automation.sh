@@ -44,7 +44,7 @@ wine server.exe calls.txt >ready.txt &
 tries=0
 until grep -q ready ready.txt; do
     tries=$((tries + 1))
-    [ $tries -lt 100 ] || { echo "the server does not start"; exit 1; }
+    [ $tries -lt 900 ] || { echo "the server does not start"; exit 1; }
     sleep 0.2
 done
 wine client.exe draw "$sources/tests/windows/transfer.dxf" >draw.txt
