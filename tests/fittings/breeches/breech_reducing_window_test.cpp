@@ -201,7 +201,8 @@ TEST(ReducingBreechSizes, OfTheIncludedAngleAreLikeOnBothSides) {
 
 TEST(ReducingBreechSizes, OfTwoAngles) {
     TestShell shell;
-    const CBreechReducing& breech = Built(*shell.OpenSample(Category, 2));
+    const auto window = shell.OpenSample(Category, 2);
+    const CBreechReducing& breech = Built(*window);
     EXPECT_EQ(breech.PipeRad, 130);
     EXPECT_EQ(breech.PipeLength, 240);
     EXPECT_EQ(breech.ConeRadA, 85);

@@ -184,7 +184,8 @@ TEST(BreechSizes, AreThoseOfTheBoxes) {
 
 TEST(BreechSizes, OfFivePipesHaveFourAngles) {
     TestShell shell;
-    const CBreech& breech = Built(*shell.OpenSample(Category, 3));
+    const auto window = shell.OpenSample(Category, 3);
+    const CBreech& breech = Built(*window);
     EXPECT_NEAR(RadToDeg(breech.PipeAngle1), 60, Near);
     EXPECT_NEAR(RadToDeg(breech.PipeAngle4), 90, Near);
     EXPECT_EQ(breech.inputs.Dtype, 2);
