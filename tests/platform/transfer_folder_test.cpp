@@ -68,7 +68,7 @@ TEST_F(TransferFolderTest, AFolderThatCannotBeWrittenIsAnError) {
     QFile file(folder.filePath("file"));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     TransferFolder place("", Path("file/below"));
-    EXPECT_THROW(place.Hold(), FileError);
+    EXPECT_THROW((void)place.Hold(), FileError);
 }
 
 }  // namespace
