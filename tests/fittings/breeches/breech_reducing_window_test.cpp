@@ -18,11 +18,6 @@ namespace {
 
 constexpr const char* Category = "Reducing Breech";
 
-const CBreechReducing& Built(CFittingWindow& window) {
-    EXPECT_EQ(window.BuildFitting(), Passed);
-    return window.fitting->As<CBreechReducing>();
-}
-
 TEST(ReducingBreechWindow, StartsAsAReducingBreechDoes) {
     ExpectStart(Category, {.helpContextId = 2240,
                            .boxes = 18,
@@ -34,11 +29,7 @@ TEST(ReducingBreechWindow, StartsAsAReducingBreechDoes) {
 class ReducingBreechRefusals : public testing::TestWithParam<Refusal> {};
 
 TEST_P(ReducingBreechRefusals, NameTheBox) {
-    TestShell shell;
-    const auto window = shell.OpenSample(Category, GetParam().type);
-    TypeBoxes(*window, GetParam().boxes);
-    EXPECT_EQ(window->BuildFitting(), Refused);
-    ExpectUserError(shell.ui, *window, GetParam().message, GetParam().box);
+    ExpectRefused(Category, GetParam());
 }
 
 // The box that is refused later in the order is wrong too.
@@ -187,7 +178,7 @@ TEST(ReducingBreechSizes, OfTheIncludedAngleAreLikeOnBothSides) {
     const auto window = shell.OpenSample(Category, 1);
     window->settings.Thickness = 6;
     window->settings.InOutMean = InsideDimension;
-    const CBreechReducing& breech = Built(*window);
+    const CBreechReducing& breech = Built<CBreechReducing>(*window);
     EXPECT_EQ(breech.PipeRad, 153);
     EXPECT_EQ(breech.PipeLength, 280);
     EXPECT_EQ(breech.ConeRadA, 93);
@@ -202,7 +193,7 @@ TEST(ReducingBreechSizes, OfTheIncludedAngleAreLikeOnBothSides) {
 TEST(ReducingBreechSizes, OfTwoAngles) {
     TestShell shell;
     const auto window = shell.OpenSample(Category, 2);
-    const CBreechReducing& breech = Built(*window);
+    const CBreechReducing& breech = Built<CBreechReducing>(*window);
     EXPECT_EQ(breech.PipeRad, 130);
     EXPECT_EQ(breech.PipeLength, 240);
     EXPECT_EQ(breech.ConeRadA, 85);
@@ -218,7 +209,7 @@ TEST(ReducingBreechSizes, OfUnlikeBranches) {
     const auto window = shell.OpenSample(Category, 3);
     window->settings.Thickness = 6;
     window->settings.InOutMean = OutsideDimension;
-    const CBreechReducing& breech = Built(*window);
+    const CBreechReducing& breech = Built<CBreechReducing>(*window);
     EXPECT_EQ(breech.PipeRad, 157);
     EXPECT_EQ(breech.ConeRadA, 72);
     EXPECT_EQ(breech.ConeRadB, 102);

@@ -19,11 +19,6 @@ namespace {
 
 constexpr const char* Category = "Breech";
 
-const CBreech& Built(CFittingWindow& window) {
-    EXPECT_EQ(window.BuildFitting(), Passed);
-    return window.fitting->As<CBreech>();
-}
-
 TEST(BreechWindow, StartsAsABreechDoes) {
     ExpectStart(Category, {.helpContextId = 2230,
                            .boxes = 15,
@@ -39,11 +34,7 @@ TEST(BreechWindow, StartsAsABreechDoes) {
 class BreechRefusals : public testing::TestWithParam<Refusal> {};
 
 TEST_P(BreechRefusals, NameTheBox) {
-    TestShell shell;
-    const auto window = shell.OpenSample(Category, GetParam().type);
-    TypeBoxes(*window, GetParam().boxes);
-    EXPECT_EQ(window->BuildFitting(), Refused);
-    ExpectUserError(shell.ui, *window, GetParam().message, GetParam().box);
+    ExpectRefused(Category, GetParam());
 }
 
 // The box that is refused later in the order is wrong too.
@@ -168,7 +159,7 @@ TEST(BreechSizes, AreThoseOfTheBoxes) {
     window->settings.InOutMean = OutsideDimension;
     window->settings.TemplateType = 1;
     window->settings.KerfSpacing = 9;
-    const CBreech& breech = Built(*window);
+    const CBreech& breech = Built<CBreech>(*window);
     EXPECT_EQ(breech.BaseRad, 68);
     EXPECT_EQ(breech.PipeLength1, 250);
     EXPECT_NEAR(breech.PipeAngle1, 80 * std::numbers::pi / 180, Near);
@@ -185,7 +176,7 @@ TEST(BreechSizes, AreThoseOfTheBoxes) {
 TEST(BreechSizes, OfFivePipesHaveFourAngles) {
     TestShell shell;
     const auto window = shell.OpenSample(Category, 3);
-    const CBreech& breech = Built(*window);
+    const CBreech& breech = Built<CBreech>(*window);
     EXPECT_NEAR(RadToDeg(breech.PipeAngle1), 60, Near);
     EXPECT_NEAR(RadToDeg(breech.PipeAngle4), 90, Near);
     EXPECT_EQ(breech.inputs.Dtype, 2);

@@ -21,11 +21,6 @@ constexpr const char* AngleTop = "Reducing Breech - Two Piece - Angle Top";
 constexpr const char* ParallelTop = "Reducing Breech - Two Piece - Parallel Top";
 const std::vector<std::string> Categories = {AngleTop, ParallelTop};
 
-const CBreechReducing2Prt& Built(CFittingWindow& window) {
-    EXPECT_EQ(window.BuildFitting(), Passed);
-    return window.fitting->As<CBreechReducing2Prt>();
-}
-
 void ChooseFlushSide(CFittingWindow& window) {
     window.SelectOption(&FittingOptions::optFlushSide, 1);
 }
@@ -134,7 +129,7 @@ TEST(TwoPieceSizes, OfTheAngleTop) {
     const auto window = shell.OpenSample(AngleTop, 1);
     window->settings.Thickness = 4;
     window->settings.InOutMean = InsideDimension;
-    const CBreechReducing2Prt& breech = Built(*window);
+    const CBreechReducing2Prt& breech = Built<CBreechReducing2Prt>(*window);
     EXPECT_EQ(breech.PipeRad, 127);
     EXPECT_EQ(breech.ConeRadA, 77);
     EXPECT_EQ(breech.ConeRadB, 77);
@@ -151,7 +146,7 @@ TEST(TwoPieceSizes, OfTheParallelTop) {
     TestShell shell;
     const auto window = shell.OpenSample(ParallelTop, 1);
     TypeBoxes(*window, {{2, "140"}});
-    const CBreechReducing2Prt& breech = Built(*window);
+    const CBreechReducing2Prt& breech = Built<CBreechReducing2Prt>(*window);
     EXPECT_EQ(breech.PipeRad, 120);
     EXPECT_EQ(breech.ConeRadB, 70);
     EXPECT_EQ(breech.ConeLengthA, 175);  // a triangle of 105, 140 and 175
@@ -167,7 +162,7 @@ TEST(TwoPieceSizes, TheFlushSideMovesTheOutlets) {
         TestShell shell;
         const auto window = shell.OpenSample(category, 1);
         ChooseFlushSide(*window);
-        EXPECT_EQ(Built(*window).Offset, -50);
+        EXPECT_EQ(Built<CBreechReducing2Prt>(*window).Offset, -50);
     }
 }
 
@@ -185,7 +180,7 @@ TEST(TwoPieceHalves, AreRefusedOnTheFlushSide) {
         EXPECT_EQ(shell.ui.Texts(), std::vector<std::string>{"Half pattern not applicable to this item"});
         EXPECT_FALSE(window->settings.HalfPattern);
         EXPECT_EQ(TextBlock(*window).back(), category + "  Full pattern  21 Nov 2026");
-        EXPECT_EQ(Built(*window).results.PatternSurfaceList.Item(1).List1->Count(), 49U);
+        EXPECT_EQ(Built<CBreechReducing2Prt>(*window).results.PatternSurfaceList.Item(1).List1->Count(), 49U);
     }
 }
 

@@ -6,6 +6,7 @@
 #include "tests/support/refusals.h"
 #include "tests/support/saved_fittings.h"
 #include "tests/support/text_blocks.h"
+#include "tests/support/window_start.h"
 #include "window/views.h"
 
 namespace korvet::offset_cone_window_test {
@@ -14,33 +15,15 @@ namespace {
 constexpr const char* Category = "Offset Cone";
 const std::string NotZero = "This dimension cannot be equal to 0";
 
-const COffsetCone& Built(CFittingWindow& window) {
-    EXPECT_EQ(window.BuildFitting(), Passed);
-    return window.fitting->As<COffsetCone>();
-}
-
 TEST(OffsetConeWindow, StartsAsAnOffsetConeDoes) {
-    TestShell shell;
-    const auto window = shell.Open(Category);
-    EXPECT_EQ(window->Row().helpContextId, 2220);
-    EXPECT_EQ(window->dtype, 0);
-    EXPECT_FALSE(window->Table().multiple);
-    EXPECT_EQ(window->settings.LapEnable, AllLaps);
-    EXPECT_FALSE(window->settings.JoinAngleDisable);
-    EXPECT_FALSE(window->settings.TemplateTypeEnabled);
-    EXPECT_FALSE(window->settings.KerfEnabled);
-    EXPECT_FALSE(window->settings.HalfPatternDisable);
-    EXPECT_EQ(window->controls.txtParameter.size(), 7U);
+    ExpectStart(Category,
+                {.helpContextId = 2220, .boxes = 7, .laps = AllLaps, .seamAngle = true, .halfPattern = true});
 }
 
 class OffsetConeRefusals : public testing::TestWithParam<Refusal> {};
 
 TEST_P(OffsetConeRefusals, NameTheBox) {
-    TestShell shell;
-    const auto window = shell.OpenSample(Category, GetParam().type);
-    TypeBoxes(*window, GetParam().boxes);
-    EXPECT_EQ(window->BuildFitting(), Refused);
-    ExpectUserError(shell.ui, *window, GetParam().message, GetParam().box);
+    ExpectRefused(Category, GetParam());
 }
 
 // The box that is refused later in the order is wrong too.
@@ -76,22 +59,14 @@ TEST(OffsetConeLimits, WallMustFitIntoTheBaseAndThenIntoTheTop) {
 }
 
 TEST(OffsetConeLimits, HeightAndOffsetMayGoEitherWay) {
-    const std::vector<std::pair<int, BoxTexts>> cases = {{1, {{2, "-210"}}},
-                                                         {1, {{3, "-90"}}},
-                                                         {1, {{3, "0.001"}}},
-                                                         {1, {{1, "319.99"}}},
-                                                         {1, {{2, "-0.5"}, {3, "10"}}},
-                                                         {1, {{3, "500"}}},
-                                                         {2, {{6, "-280"}}},
-                                                         {2, {{5, "0.001"}}}};
-    for (const auto& [type, boxes] : cases) {
-        TestShell shell;
-        const auto window = shell.OpenSample(Category, type);
-        TypeBoxes(*window, boxes);
-        window->ClickView(PatternButton);
-        EXPECT_TRUE(window->hasModel) << type << " " << boxes.begin()->first;
-        EXPECT_EQ(shell.ui.Texts(), std::vector<std::string>());
-    }
+    ExpectMade(Category, {{1, {{2, "-210"}}},
+                          {1, {{3, "-90"}}},
+                          {1, {{3, "0.001"}}},
+                          {1, {{1, "319.99"}}},
+                          {1, {{2, "-0.5"}, {3, "10"}}},
+                          {1, {{3, "500"}}},
+                          {2, {{6, "-280"}}},
+                          {2, {{5, "0.001"}}}});
 }
 
 TEST(OffsetConeLimits, SizesWithoutAShapeAreNotMade) {
@@ -118,13 +93,13 @@ TEST(OffsetConeLimits, SizesWithoutAShapeAreNotMade) {
 TEST(OffsetConeSizes, LeadToTheApex) {
     TestShell shell;
     const auto window = shell.OpenSample(Category, 1);
-    const COffsetCone& cone = Built(*window);
+    const COffsetCone& cone = Built<COffsetCone>(*window);
     EXPECT_EQ(cone.BaseRad, 160);
     EXPECT_EQ(cone.CPHeight, 210);
     EXPECT_TRUE(Same(cone.ApexPt, {240, 0, 560, 0}));
     EXPECT_EQ(cone.inputs.Dtype, 0);
     TypeBoxes(*window, {{2, "-210"}, {3, "-90"}});
-    EXPECT_TRUE(Same(Built(*window).ApexPt, {-240, 0, -560, 0}));
+    EXPECT_TRUE(Same(Built<COffsetCone>(*window).ApexPt, {-240, 0, -560, 0}));
 }
 
 // Both radii grow by 4, so that the slope stays and the apex moves out with the wall: 164 / 60 times.
@@ -133,25 +108,25 @@ TEST(OffsetConeSizes, ThicknessMovesTheApex) {
     const auto window = shell.OpenSample(Category, 1);
     window->settings.Thickness = 8;
     window->settings.InOutMean = InsideDimension;
-    EXPECT_EQ(Built(*window).BaseRad, 164);
-    EXPECT_TRUE(Same(Built(*window).ApexPt, {246, 0, 574, 0}));
+    EXPECT_EQ(Built<COffsetCone>(*window).BaseRad, 164);
+    EXPECT_TRUE(Same(Built<COffsetCone>(*window).ApexPt, {246, 0, 574, 0}));
     window->settings.InOutMean = OutsideDimension;
-    EXPECT_EQ(Built(*window).BaseRad, 156);
-    EXPECT_TRUE(Same(Built(*window).ApexPt, {234, 0, 546, 0}));
+    EXPECT_EQ(Built<COffsetCone>(*window).BaseRad, 156);
+    EXPECT_TRUE(Same(Built<COffsetCone>(*window).ApexPt, {234, 0, 546, 0}));
 }
 
 // The top is 70 off the middle, the difference of the radii: the apex stands over the edge of the base.
 TEST(OffsetConeSizes, OfTheSecondTypeMakeOneSideUpright) {
     TestShell shell;
     const auto window = shell.OpenSample(Category, 2);
-    const COffsetCone& cone = Built(*window);
+    const COffsetCone& cone = Built<COffsetCone>(*window);
     EXPECT_EQ(cone.BaseRad, 180);
     EXPECT_EQ(cone.CPHeight, 280);
     EXPECT_TRUE(Same(cone.ApexPt, {180, 0, 720, 0}));
     EXPECT_EQ(cone.inputs.Dtype, 1);
     window->settings.Thickness = 8;
     window->settings.InOutMean = InsideDimension;
-    EXPECT_TRUE(Same(Built(*window).ApexPt, {184, 0, 736, 0}));
+    EXPECT_TRUE(Same(Built<COffsetCone>(*window).ApexPt, {184, 0, 736, 0}));
     window->fitting->ConstructModel();
     const CRuleSurf& model = window->fitting->Results().ModelSurface;
     EXPECT_NEAR(model.List1->Item(1).x, 184, 1e-9);

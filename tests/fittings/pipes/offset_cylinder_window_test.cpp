@@ -8,6 +8,7 @@
 #include "tests/support/refusals.h"
 #include "tests/support/saved_fittings.h"
 #include "tests/support/text_blocks.h"
+#include "tests/support/window_start.h"
 #include "window/views.h"
 
 namespace korvet::offset_cylinder_window_test {
@@ -15,32 +16,15 @@ namespace {
 
 constexpr const char* Category = "Offset Cylinder";
 
-const CRoundToRound& Built(CFittingWindow& window) {
-    EXPECT_EQ(window.BuildFitting(), Passed);
-    return window.fitting->As<CRoundToRound>();
-}
-
 TEST(OffsetCylinderWindow, StartsAsAnOffsetCylinderDoes) {
-    TestShell shell;
-    const auto window = shell.Open(Category);
-    EXPECT_EQ(window->Row().helpContextId, 2250);
-    EXPECT_EQ(window->dtype, 0);
-    EXPECT_FALSE(window->Table().multiple);
-    EXPECT_EQ(window->settings.LapEnable, AllLaps);
-    EXPECT_FALSE(window->settings.JoinAngleDisable);
-    EXPECT_FALSE(window->settings.TemplateTypeEnabled);
-    EXPECT_FALSE(window->settings.HalfPatternDisable);
-    EXPECT_EQ(window->controls.txtParameter.size(), 6U);
+    ExpectStart(Category,
+                {.helpContextId = 2250, .boxes = 6, .laps = AllLaps, .seamAngle = true, .halfPattern = true});
 }
 
 class OffsetCylinderRefusals : public testing::TestWithParam<Refusal> {};
 
 TEST_P(OffsetCylinderRefusals, NameTheBox) {
-    TestShell shell;
-    const auto window = shell.OpenSample(Category, GetParam().type);
-    TypeBoxes(*window, GetParam().boxes);
-    EXPECT_EQ(window->BuildFitting(), Refused);
-    ExpectUserError(shell.ui, *window, GetParam().message, GetParam().box);
+    ExpectRefused(Category, GetParam());
 }
 
 // The box that is refused later in the order is wrong too. A diameter is only asked for room.
@@ -57,30 +41,13 @@ INSTANTIATE_TEST_SUITE_P(ByAngle, OffsetCylinderRefusals,
                                          Refusal{2, {{4, "180"}}, LessThan + "180", 4}));
 
 TEST(OffsetCylinderLimits, WallMustFitIntoThePipe) {
-    for (const auto& [type, diameter, other, radius] : {std::tuple{1, 0, 1, 110.0}, {2, 3, 5, 120.0}}) {
-        TestShell shell;
-        const auto window = shell.OpenSample(Category, type);
-        window->settings.InOutMean = OutsideDimension;
-        window->settings.Thickness = radius;
-        EXPECT_EQ(window->BuildFitting(), Passed);
-        window->settings.Thickness = radius + 0.1;
-        TypeBoxes(*window, {{other, "0"}});  // wrong as well, but comes after
-        EXPECT_EQ(window->BuildFitting(), Refused);
-        ExpectUserError(shell.ui, *window, NoRoom, diameter);
-    }
+    ExpectRoomUpTo(110, Category, 1, 0, {{1, "0"}});
+    ExpectRoomUpTo(120, Category, 2, 3, {{5, "0"}});
 }
 
 TEST(OffsetCylinderLimits, OffsetMayGoEitherWay) {
-    const std::vector<std::pair<int, BoxTexts>> cases = {
-        {1, {{2, "0"}}}, {1, {{2, "-130"}}}, {1, {{2, "900"}}}, {2, {{4, "90"}}}, {2, {{4, "150"}}}};
-    for (const auto& [type, boxes] : cases) {
-        TestShell shell;
-        const auto window = shell.OpenSample(Category, type);
-        TypeBoxes(*window, boxes);
-        window->ClickView(PatternButton);
-        EXPECT_TRUE(window->hasModel) << type << " " << boxes.begin()->second;
-        EXPECT_EQ(shell.ui.Texts(), std::vector<std::string>());
-    }
+    ExpectMade(Category,
+               {{1, {{2, "0"}}}, {1, {{2, "-130"}}}, {1, {{2, "900"}}}, {2, {{4, "90"}}}, {2, {{4, "150"}}}});
 }
 
 TEST(OffsetCylinderLimits, ADiameterOfZeroIsNoPipe) {
@@ -93,7 +60,7 @@ TEST(OffsetCylinderLimits, ADiameterOfZeroIsNoPipe) {
         // The wall of an inside diameter of 0 is a pipe as thick as its wall.
         window->settings.Thickness = 5;
         window->settings.InOutMean = InsideDimension;
-        EXPECT_EQ(Built(*window).BaseRad, 2.5);
+        EXPECT_EQ(Built<CRoundToRound>(*window).BaseRad, 2.5);
     }
 }
 
@@ -102,7 +69,7 @@ TEST(OffsetCylinderSizes, AreThoseOfEqualCircles) {
     const auto offset = shell.OpenSample(Category, 1);
     offset->settings.Thickness = 6;
     offset->settings.InOutMean = InsideDimension;
-    const CRoundToRound& pipe = Built(*offset);
+    const CRoundToRound& pipe = Built<CRoundToRound>(*offset);
     EXPECT_EQ(pipe.BaseRad, 113);
     EXPECT_EQ(pipe.TopRad, 113);
     EXPECT_EQ(pipe.Height, 300);
@@ -115,14 +82,14 @@ TEST(OffsetCylinderSizes, AreThoseOfEqualCircles) {
 TEST(OffsetCylinderSizes, ComeFromAngleAndLength) {
     TestShell shell;
     const auto angle = shell.OpenSample(Category, 2);
-    const CRoundToRound& pipe = Built(*angle);
+    const CRoundToRound& pipe = Built<CRoundToRound>(*angle);
     EXPECT_EQ(pipe.BaseRad, 120);
     EXPECT_EQ(pipe.TopRad, 120);
     EXPECT_NEAR(pipe.TopOffsetX, 175, 1e-9);
     EXPECT_NEAR(pipe.Height, 175 * std::sqrt(3.0), 1e-9);
     TypeBoxes(*angle, {{4, "120"}});
-    EXPECT_NEAR(Built(*angle).TopOffsetX, -175, 1e-9);
-    EXPECT_NEAR(Built(*angle).Height, 175 * std::sqrt(3.0), 1e-9);
+    EXPECT_NEAR(Built<CRoundToRound>(*angle).TopOffsetX, -175, 1e-9);
+    EXPECT_NEAR(Built<CRoundToRound>(*angle).Height, 175 * std::sqrt(3.0), 1e-9);
 }
 
 TEST(OffsetCylinderTextBlock, TellsTheSizesAsTyped) {

@@ -8,17 +8,13 @@
 #include "tests/support/refusals.h"
 #include "tests/support/saved_fittings.h"
 #include "tests/support/text_blocks.h"
+#include "tests/support/window_start.h"
 #include "window/views.h"
 
 namespace korvet::round_to_round_window_test {
 namespace {
 
 constexpr const char* Category = "Round to Round";
-
-const CRoundToRound& Built(CFittingWindow& window) {
-    EXPECT_EQ(window.BuildFitting(), Passed);
-    return window.fitting->As<CRoundToRound>();
-}
 
 void ExpectSizes(const CRoundToRound& fitting, double base, double top, double height, double offset,
                  double tilt) {
@@ -31,28 +27,16 @@ void ExpectSizes(const CRoundToRound& fitting, double base, double top, double h
 }
 
 TEST(RoundToRoundWindow, StartsAsARoundToRoundDoes) {
-    TestShell shell;
-    const auto window = shell.Open(Category);
-    EXPECT_EQ(window->Row().helpContextId, 2280);
-    EXPECT_EQ(window->dtype, 0);
-    EXPECT_FALSE(window->Table().multiple);
-    EXPECT_EQ(window->settings.LapEnable, AllLaps);
-    EXPECT_FALSE(window->settings.JoinAngleDisable);
-    EXPECT_FALSE(window->settings.TemplateTypeEnabled);
-    EXPECT_FALSE(window->settings.HalfPatternDisable);
-    EXPECT_EQ(window->controls.txtParameter.size(), 13U);
+    ExpectStart(
+        Category,
+        {.helpContextId = 2280, .boxes = 13, .laps = AllLaps, .seamAngle = true, .halfPattern = true});
 }
 
 class RoundToRoundRefusals : public testing::TestWithParam<Refusal> {};
 
 TEST_P(RoundToRoundRefusals, NameTheBox) {
-    TestShell shell;
-    const auto window = shell.OpenSample(Category, GetParam().type);
-    TypeBoxes(*window, GetParam().boxes);
     // The wall fits into no diameter of these, but comes last.
-    window->settings.Thickness = 1000;
-    EXPECT_EQ(window->BuildFitting(), Refused);
-    ExpectUserError(shell.ui, *window, GetParam().message, GetParam().box);
+    ExpectRefused(Category, GetParam(), 1000);
 }
 
 INSTANTIATE_TEST_SUITE_P(OverBase, RoundToRoundRefusals,
@@ -93,17 +77,16 @@ TEST(RoundToRoundLimits, WallMustFitIntoTheBaseAndThenIntoTheTop) {
 }
 
 TEST(RoundToRoundLimits, TheLimitsThemselvesAreAllowed) {
-    const std::vector<std::pair<int, BoxTexts>> cases = {
-        {1, {{3, "-90"}}}, {1, {{3, "90"}}}, {1, {{0, "0.5"}}},  {1, {{1, "1000"}}}, {2, {{8, "90"}}},
-        {2, {{8, "-90"}}}, {2, {{7, "0"}}},  {2, {{7, "-400"}}}, {3, {{12, "0"}}},   {3, {{12, "-250"}}}};
-    for (const auto& [type, boxes] : cases) {
-        TestShell shell;
-        const auto window = shell.OpenSample(Category, type);
-        TypeBoxes(*window, boxes);
-        window->ClickView(PatternButton);
-        EXPECT_TRUE(window->hasModel) << type << " " << boxes.begin()->first;
-        EXPECT_EQ(shell.ui.Texts(), std::vector<std::string>());
-    }
+    ExpectMade(Category, {{1, {{3, "-90"}}},
+                          {1, {{3, "90"}}},
+                          {1, {{0, "0.5"}}},
+                          {1, {{1, "1000"}}},
+                          {2, {{8, "90"}}},
+                          {2, {{8, "-90"}}},
+                          {2, {{7, "0"}}},
+                          {2, {{7, "-400"}}},
+                          {3, {{12, "0"}}},
+                          {3, {{12, "-250"}}}});
 }
 
 TEST(RoundToRoundLimits, SizesWithoutAShapeAreNotMade) {
@@ -121,9 +104,9 @@ TEST(RoundToRoundLimits, SizesWithoutAShapeAreNotMade) {
 
 TEST(RoundToRoundSizes, ComeFromTheBoxesOfTheType) {
     TestShell shell;
-    ExpectSizes(Built(*shell.OpenSample(Category, 1)), 150, 90, 260, 0, -DegToRad(25));
-    ExpectSizes(Built(*shell.OpenSample(Category, 2)), 160, 100, 280, 110, -DegToRad(20));
-    ExpectSizes(Built(*shell.OpenSample(Category, 3)), 170, 80, 230, 250, -QuarterTurn);
+    ExpectSizes(Built<CRoundToRound>(*shell.OpenSample(Category, 1)), 150, 90, 260, 0, -DegToRad(25));
+    ExpectSizes(Built<CRoundToRound>(*shell.OpenSample(Category, 2)), 160, 100, 280, 110, -DegToRad(20));
+    ExpectSizes(Built<CRoundToRound>(*shell.OpenSample(Category, 3)), 170, 80, 230, 250, -QuarterTurn);
 }
 
 TEST(RoundToRoundSizes, ThicknessMovesBothRadiiByHalf) {
@@ -131,18 +114,18 @@ TEST(RoundToRoundSizes, ThicknessMovesBothRadiiByHalf) {
     const auto window = shell.OpenSample(Category, 2);
     window->settings.Thickness = 6;
     window->settings.InOutMean = InsideDimension;
-    ExpectSizes(Built(*window), 163, 103, 280, 110, -DegToRad(20));
+    ExpectSizes(Built<CRoundToRound>(*window), 163, 103, 280, 110, -DegToRad(20));
     window->settings.InOutMean = OutsideDimension;
-    ExpectSizes(Built(*window), 157, 97, 280, 110, -DegToRad(20));
+    ExpectSizes(Built<CRoundToRound>(*window), 157, 97, 280, 110, -DegToRad(20));
 }
 
 TEST(RoundToRoundSizes, OfAnotherTypeAreForgotten) {
     TestShell shell;
     const auto window = shell.OpenSample(Category, 3);
-    Built(*window);
+    Built<CRoundToRound>(*window);
     window->dtype = 0;
     TypeBoxes(*window, {{0, "300"}, {1, "180"}, {2, "260"}});
-    ExpectSizes(Built(*window), 150, 90, 260, 0, 0);
+    ExpectSizes(Built<CRoundToRound>(*window), 150, 90, 260, 0, 0);
 }
 
 /// Towards +x, where the top is offset to.
@@ -150,7 +133,7 @@ TEST(RoundToRoundSizes, TopFallsWhereThePositiveAngleLeans) {
     TestShell shell;
     for (const int type : {1, 2, 3}) {
         const auto window = shell.OpenSample(Category, type);
-        Built(*window);
+        Built<CRoundToRound>(*window);
         window->fitting->ConstructModel();
         const C3DPoints& top = *window->fitting->Results().ModelSurface.List2;
         EXPECT_LT(top.Item(1).z, top.Item(25).z - 50) << type;  // 24 fold lines, half way round
