@@ -41,20 +41,25 @@ struct Reach {
     }
 };
 
-/// The ends of the shape across a strip of the picture; nothing when it has no part there. A wall that is
-/// seen edge on has no face, but its edges.
-std::optional<std::pair<double, double>> Across(const SolidPicture& picture, double low, double high) {
-    Reach reach = {low, high};
+/// The sides of all faces, and all edges: a wall that is seen edge on has no face.
+template <typename Take>
+void ForEachSegment(const SolidPicture& picture, Take take) {
     for (const SolidFace& face : picture.faces) {
         for (std::size_t i = 0; i < face.corners.size(); ++i) {
-            reach.TakeIn(face.corners[i], face.corners[(i + 1) % face.corners.size()]);
+            take(face.corners[i], face.corners[(i + 1) % face.corners.size()]);
         }
     }
     for (const SolidEdge& edge : picture.edges) {
         for (std::size_t i = 1; i < edge.points.size(); ++i) {
-            reach.TakeIn(edge.points[i - 1], edge.points[i]);
+            take(edge.points[i - 1], edge.points[i]);
         }
     }
+}
+
+/// The ends of the shape across a strip of the picture; nothing when it has no part there.
+std::optional<std::pair<double, double>> Across(const SolidPicture& picture, double low, double high) {
+    Reach reach = {low, high};
+    ForEachSegment(picture, [&](SketchXY a, SketchXY b) { reach.TakeIn(a, b); });
     return reach.left <= reach.right ? std::optional(std::pair(reach.left, reach.right)) : std::nullopt;
 }
 
@@ -83,12 +88,27 @@ SolidPicture Exchanged(const SolidPicture& picture) {
 
 std::vector<SolidBounds> StripsOf(const SolidPicture& picture) {
     const double height = picture.bounds.top - picture.bounds.bottom;
-    std::vector<SolidBounds> strips;
+    std::vector<Reach> reaches;
     for (int i = 0; i < Strips; ++i) {
-        const double low = picture.bounds.bottom + height * i / Strips;
-        const double high = picture.bounds.bottom + height * (i + 1) / Strips;
-        if (const auto ends = Across(picture, low, high)) {
-            strips.push_back({.left = ends->first, .bottom = low, .right = ends->second, .top = high});
+        reaches.push_back(
+            {picture.bounds.bottom + height * i / Strips, picture.bounds.bottom + height * (i + 1) / Strips});
+    }
+    const auto stripAt = [&](double y) {
+        const double strip = height > 0 ? (y - picture.bounds.bottom) / height * Strips : 0;
+        return static_cast<int>(std::clamp(strip, 0.0, double{Strips - 1}));
+    };
+    ForEachSegment(picture, [&](SketchXY a, SketchXY b) {
+        // One strip further to both sides: a segment on a border belongs to both.
+        const int last = std::min(stripAt(std::max(a.y, b.y)) + 1, Strips - 1);
+        for (int i = std::max(stripAt(std::min(a.y, b.y)) - 1, 0); i <= last; ++i) {
+            reaches[static_cast<std::size_t>(i)].TakeIn(a, b);
+        }
+    });
+    std::vector<SolidBounds> strips;
+    for (const Reach& reach : reaches) {
+        if (reach.left <= reach.right) {
+            strips.push_back(
+                {.left = reach.left, .bottom = reach.low, .right = reach.right, .top = reach.high});
         }
     }
     return strips;

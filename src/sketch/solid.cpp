@@ -27,7 +27,8 @@ SolidPicture DrawSolid(const CRuleSurfs& model, const SketchView& view, std::siz
     const SolidMesh mesh = MakeSolidMesh(model, view);
     SolidPicture picture;
     picture.bounds = mesh.bounds;
-    for (const std::size_t number : PaintersOrder(mesh).faces) {
+    const SeenFaces seenFaces(mesh);
+    for (const std::size_t number : PaintersOrder(mesh, seenFaces).faces) {
         const MeshFace& face = mesh.faces[number];
         SolidFace seen{{}, LightOn(face.wallNormal), face.inside, IsPale(face, shownOff)};
         for (const std::size_t corner : face.corners) {
@@ -35,7 +36,7 @@ SolidPicture DrawSolid(const CRuleSurfs& model, const SketchView& view, std::siz
         }
         picture.faces.push_back(std::move(seen));
     }
-    picture.edges = VisibleEdges(mesh, shownOff);
+    picture.edges = VisibleEdges(mesh, seenFaces, shownOff);
     return picture;
 }
 

@@ -3,6 +3,7 @@
 #include <array>
 #include <cmath>
 #include <deque>
+#include <limits>
 #include <map>
 #include <optional>
 
@@ -20,6 +21,10 @@ constexpr double TouchesUpTo = 1e-7;
 
 /// Lengths below this share of the size are no line on the picture.
 constexpr double NoLength = 1e-6;
+
+double Span(const SketchXY& a, const SketchXY& b) {
+    return std::sqrt((b.x - a.x) * (b.x - a.x) + (b.y - a.y) * (b.y - a.y));
+}
 
 /// Where along a line a face lies before it.
 struct Stretch {
@@ -58,7 +63,15 @@ bool CutToPositive(double at0, double at1, double& low, double& high) {
 /// The faces ready for the test, found by their places.
 class Cover {
   public:
-    explicit Cover(const SolidMesh& mesh) : mesh_(mesh), faces_(FacesOf(mesh)), tree_(PlacesOf(faces_)) {}
+    Cover(const SolidMesh& mesh, const SeenFaces& seen) : mesh_(mesh), seen_(seen) {
+        for (const std::size_t number : seen.Numbers()) {
+            double nearest = -std::numeric_limits<double>::infinity();
+            for (const std::size_t corner : mesh.faces[number].corners) {
+                nearest = std::max(nearest, mesh.vertices[corner].depth);
+            }
+            nearest_.push_back(nearest);
+        }
+    }
 
     /// The visible shares of a line between two vertices, in order.
     [[nodiscard]] std::vector<Stretch> VisibleParts(const Ray& ray) const {
@@ -67,44 +80,15 @@ class Cover {
         place.halfWidth += NoLength * mesh_.size;
         const double deepest = std::min(ray.from.depth, ray.to.depth);
         std::vector<Stretch> covered;
-        for (const std::size_t number : tree_.Meeting(place).numbers) {
-            if (faces_[number].nearest > deepest) {
-                AddStretch(*faces_[number].face, ray, covered);
+        for (const std::size_t i : seen_.Tree().Meeting(place).numbers) {
+            if (nearest_[i] > deepest) {
+                AddStretch(mesh_.faces[seen_.Numbers()[i]], ray, covered);
             }
         }
         return Uncovered(covered);
     }
 
   private:
-    struct Entry {
-        const MeshFace* face = nullptr;
-        SolidPlace place;
-        double nearest = 0;
-    };
-
-    static std::vector<Entry> FacesOf(const SolidMesh& mesh) {
-        std::vector<Entry> entries;
-        for (const MeshFace& face : mesh.faces) {
-            if (!face.OnEdge()) {
-                Entry& entry = entries.emplace_back(Entry{&face, PlaceOf(mesh, face)});
-                entry.nearest = mesh.vertices[face.corners[0]].depth;
-                for (const std::size_t corner : face.corners) {
-                    entry.nearest = std::max(entry.nearest, mesh.vertices[corner].depth);
-                }
-            }
-        }
-        return entries;
-    }
-
-    static std::vector<SolidPlace> PlacesOf(const std::vector<Entry>& entries) {
-        std::vector<SolidPlace> places;
-        places.reserve(entries.size());
-        for (const Entry& entry : entries) {
-            places.push_back(entry.place);
-        }
-        return places;
-    }
-
     void AddStretch(const MeshFace& face, const Ray& ray, std::vector<Stretch>& covered) const {
         double low = 0;
         double high = 1;
@@ -115,7 +99,7 @@ class Cover {
             const EyePoint& a = mesh_.vertices[face.corners[i]];
             const EyePoint& b = mesh_.vertices[face.corners[(i + 1) % face.corners.size()]];
             // A line along the border of the face counts as behind it.
-            const double border = NoLength * mesh_.size * 1e-2 * std::hypot(b.x - a.x, b.y - a.y);
+            const double border = NoLength * mesh_.size * 1e-2 * Span(OnPicture(a), OnPicture(b));
             const auto inward = [&](const SketchXY& p) {
                 return side * ((b.x - a.x) * (p.y - a.y) - (b.y - a.y) * (p.x - a.x)) + border;
             };
@@ -164,8 +148,8 @@ class Cover {
     }
 
     const SolidMesh& mesh_;
-    std::vector<Entry> faces_;
-    PlaceTree tree_;
+    const SeenFaces& seen_;
+    std::vector<double> nearest_;  ///< depth of the corner that is nearest to the eye, of each face
 };
 
 /// A visible piece of an edge. Whole ends carry their vertex, so that neighbours find each other; a cut end
@@ -177,10 +161,6 @@ struct Piece {
     std::optional<std::size_t> toVertex;
     bool used = false;
 };
-
-double Span(const SketchXY& a, const SketchXY& b) {
-    return std::hypot(b.x - a.x, b.y - a.y);
-}
 
 /// Whether an edge bounds no face of the surface that is shown off.
 bool IsPaleEdge(const SolidMesh& mesh, const MeshEdge& edge, std::size_t shownOff) {
@@ -306,8 +286,8 @@ bool IsPale(const MeshFace& face, std::size_t shownOff) {
     return shownOff != 0 && face.surface + 1 != shownOff;
 }
 
-std::vector<SolidEdge> VisibleEdges(const SolidMesh& mesh, std::size_t shownOff) {
-    const Cover cover(mesh);
+std::vector<SolidEdge> VisibleEdges(const SolidMesh& mesh, const SeenFaces& seen, std::size_t shownOff) {
+    const Cover cover(mesh, seen);
     struct Layer {
         bool outline;
         bool pale;

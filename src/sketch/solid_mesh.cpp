@@ -373,14 +373,6 @@ EdgeLook LookOf(const SolidMesh& mesh, const MeshEdge& edge) {
     return flatFacesMeet && !edge.diagonal ? EdgeLook::BendLine : EdgeLook::None;
 }
 
-SolidPlace PlaceOf(const SolidMesh& mesh, const MeshFace& face) {
-    std::vector<SketchXY> corners;
-    for (const std::size_t corner : face.corners) {
-        corners.push_back(OnPicture(mesh.vertices[corner]));
-    }
-    return SolidPlace::About(corners);
-}
-
 double DepthAt(const SolidMesh& mesh, const MeshFace& face, const SketchXY& at) {
     const EyePoint& corner = mesh.vertices[face.corners[0]];
     return corner.depth -

@@ -68,21 +68,31 @@ inline SketchXY OnPicture(const EyePoint& point) {
 /// Depth of a face's plane at a place of the picture. The face must not be on edge.
 double DepthAt(const SolidMesh& mesh, const MeshFace& face, const SketchXY& at);
 
-/// Where a face lies on the picture.
-SolidPlace PlaceOf(const SolidMesh& mesh, const MeshFace& face);
+/// The faces that are not on edge, to be found by where they lie on the picture.
+class SeenFaces {
+  public:
+    explicit SeenFaces(const SolidMesh& mesh);
+
+    [[nodiscard]] const std::vector<std::size_t>& Numbers() const { return numbers_; }  ///< in the mesh
+    [[nodiscard]] const PlaceTree& Tree() const { return tree_; }  ///< their places, in that order
+
+  private:
+    std::vector<std::size_t> numbers_;
+    PlaceTree tree_;
+};
 
 /// The faces that are not on edge, from the back to the front.
 struct PaintingOrder {
     std::vector<std::size_t> faces;
     std::size_t compared = 0;  ///< how many comparisons of places it took: what the order costs
 };
-PaintingOrder PaintersOrder(const SolidMesh& mesh);
+PaintingOrder PaintersOrder(const SolidMesh& mesh, const SeenFaces& seen);
 
 /// Whether a face is none of the surface, from 1, that is shown off; nothing is pale beside surface 0.
 bool IsPale(const MeshFace& face, std::size_t shownOff);
 
 /// The pieces of the edges that no face hides, joined to long lines; bend lines come first, and pale ones
 /// before others. A line is pale when none of its faces belongs to the surface that is shown off.
-std::vector<SolidEdge> VisibleEdges(const SolidMesh& mesh, std::size_t shownOff = 0);
+std::vector<SolidEdge> VisibleEdges(const SolidMesh& mesh, const SeenFaces& seen, std::size_t shownOff = 0);
 
 }  // namespace korvet

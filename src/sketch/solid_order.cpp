@@ -29,18 +29,43 @@ struct Area {
 /// One face as it lies on the picture.
 struct PaintedFace {
     std::size_t face = 0;
+    std::size_t place = 0;  ///< its number among those that are seen
     Area area;
     double middleDepth = 0;
 };
+
+std::vector<std::size_t> NotOnEdge(const SolidMesh& mesh) {
+    std::vector<std::size_t> numbers;
+    for (std::size_t i = 0; i < mesh.faces.size(); ++i) {
+        if (!mesh.faces[i].OnEdge()) {
+            numbers.push_back(i);
+        }
+    }
+    return numbers;
+}
+
+/// Where faces lie on the picture.
+std::vector<SolidPlace> PlacesOf(const SolidMesh& mesh, const std::vector<std::size_t>& numbers) {
+    std::vector<SolidPlace> places;
+    std::vector<SketchXY> corners;
+    for (const std::size_t number : numbers) {
+        corners.clear();
+        for (const std::size_t corner : mesh.faces[number].corners) {
+            corners.push_back(OnPicture(mesh.vertices[corner]));
+        }
+        places.push_back(SolidPlace::About(corners));
+    }
+    return places;
+}
 
 /// Twice the area of the triangle a, b, p; above 0 when p lies left of the line from a to b.
 double LeftOf(const SketchXY& a, const SketchXY& b, const SketchXY& p) {
     return (b.x - a.x) * (p.y - a.y) - (b.y - a.y) * (p.x - a.x);
 }
 
-PaintedFace MakePainted(const SolidMesh& mesh, std::size_t number) {
+PaintedFace MakePainted(const SolidMesh& mesh, std::size_t number, std::size_t place) {
     const MeshFace& face = mesh.faces[number];
-    PaintedFace painted{number, {}, 0};
+    PaintedFace painted{number, place, {}, 0};
     for (const std::size_t corner : face.corners) {
         const EyePoint& p = mesh.vertices[corner];
         painted.area.Add(OnPicture(p));
@@ -136,22 +161,24 @@ struct CoverGraph {
 };
 
 /// Compares the faces that may meet on the picture, each with those that come later.
-CoverGraph MakeCoverGraph(const SolidMesh& mesh, const std::vector<PaintedFace>& faces) {
+CoverGraph MakeCoverGraph(const SolidMesh& mesh, const SeenFaces& seen,
+                          const std::vector<PaintedFace>& faces) {
     CoverGraph graph{std::vector<std::vector<std::size_t>>(faces.size()),
                      std::vector<std::size_t>(faces.size(), 0)};
-    std::vector<SolidPlace> places;
-    for (const PaintedFace& face : faces) {
-        places.push_back(PlaceOf(mesh, mesh.faces[face.face]));
-    }
-    const PlaceTree tree(places);
+    std::vector<std::size_t> rankOf(faces.size());
     for (std::size_t i = 0; i < faces.size(); ++i) {
-        const auto [met, compared] = tree.Meeting(places[i]);
+        rankOf[faces[i].place] = i;
+    }
+    const PlaceTree& tree = seen.Tree();
+    for (std::size_t i = 0; i < faces.size(); ++i) {
+        const auto [met, compared] = tree.Meeting(tree.Places()[faces[i].place]);
         graph.compared += compared;
-        for (auto next = std::upper_bound(met.begin(), met.end(), i); next != met.end(); ++next) {
-            const int order = CompareDepth(mesh, faces[i], faces[*next]);
+        for (const std::size_t place : met) {
+            const std::size_t other = rankOf[place];
+            const int order = other > i ? CompareDepth(mesh, faces[i], faces[other]) : 0;
             if (order != 0) {
-                const std::size_t back = order > 0 ? *next : i;
-                const std::size_t front = order > 0 ? i : *next;
+                const std::size_t back = order > 0 ? other : i;
+                const std::size_t front = order > 0 ? i : other;
                 graph.coveredBy[back].push_back(front);
                 ++graph.waitsFor[front];
             }
@@ -198,16 +225,16 @@ std::vector<std::size_t> BackToFront(CoverGraph& graph) {
 
 }  // namespace
 
-PaintingOrder PaintersOrder(const SolidMesh& mesh) {
+SeenFaces::SeenFaces(const SolidMesh& mesh) : numbers_(NotOnEdge(mesh)), tree_(PlacesOf(mesh, numbers_)) {}
+
+PaintingOrder PaintersOrder(const SolidMesh& mesh, const SeenFaces& seen) {
     std::vector<PaintedFace> faces;
-    for (std::size_t i = 0; i < mesh.faces.size(); ++i) {
-        if (!mesh.faces[i].OnEdge()) {
-            faces.push_back(MakePainted(mesh, i));
-        }
+    for (std::size_t i = 0; i < seen.Numbers().size(); ++i) {
+        faces.push_back(MakePainted(mesh, seen.Numbers()[i], i));
     }
     std::sort(faces.begin(), faces.end(),
               [](const PaintedFace& a, const PaintedFace& b) { return a.middleDepth < b.middleDepth; });
-    CoverGraph graph = MakeCoverGraph(mesh, faces);
+    CoverGraph graph = MakeCoverGraph(mesh, seen, faces);
     PaintingOrder order{{}, graph.compared};
     for (const std::size_t next : BackToFront(graph)) {
         order.faces.push_back(faces[next].face);

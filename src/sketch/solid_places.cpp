@@ -68,7 +68,7 @@ SolidPlace SolidPlace::About(const std::vector<SketchXY>& points) {
     for (std::size_t i = 0; i < points.size(); ++i) {
         const SketchXY& p = points[i];
         const SketchXY& q = points[(i + 1) % points.size()];
-        const double length = std::hypot(q.x - p.x, q.y - p.y);
+        const double length = Length(q - p);
         if (length > longest) {
             longest = length;
             along = {(q.x - p.x) / length, (q.y - p.y) / length};

@@ -28,6 +28,8 @@ class PlaceTree {
   public:
     explicit PlaceTree(std::vector<SolidPlace> places);
 
+    [[nodiscard]] const std::vector<SolidPlace>& Places() const { return places_; }
+
     /// The numbers of all areas that meet one, in ascending order, and how many comparisons it took.
     struct Found {
         std::vector<std::size_t> numbers;
