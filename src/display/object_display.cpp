@@ -62,16 +62,22 @@ void CObjectDisplay::DisplayObject() {
     Warnings.clear();
     Pass pass = NewPass();
     BuildWithWarnings(pass);
-    Show(std::move(pass), SecondBuild::Yes);
+    Show(std::move(pass), Shown::Built);
 }
 
 void CObjectDisplay::ShowAgain() {
     Pass pass = KeptPass();
     TakeFrame(pass);
-    Show(std::move(pass), SecondBuild::No);
+    Show(std::move(pass), Shown::LaidAnew);
 }
 
-void CObjectDisplay::Show(Pass pass, SecondBuild secondBuild) {
+void CObjectDisplay::ShowUnder(const CViewPoint& view) {
+    Pass pass = KeptPass();
+    pass.view = view;
+    Show(std::move(pass), Shown::AsItIs);
+}
+
+void CObjectDisplay::Show(Pass pass, Shown what) {
     std::optional<DrawingRecord> picture;
     if (DisplayDevice != nullptr) {
         picture.emplace(*DisplayDevice);
@@ -80,12 +86,12 @@ void CObjectDisplay::Show(Pass pass, SecondBuild secondBuild) {
     if (NewDrawing(device, {}).CanDraw()) {
         pass.window = FitScaleWindow(pass.view, pass.worldExtents, DisplayDevice->OuterSize());
     }
-    if (Overlay && pass.view.Patternview) {
+    if (Overlay && pass.view.Patternview && what != Shown::AsItIs) {
         Overlay->lay(pass.extentFrame);
     }
     const Drawing drawing = NewDrawing(device, pass.window);
     DrawBelow(drawing, pass);
-    if (IsDrawnAgain(pass) && secondBuild == SecondBuild::Yes) {
+    if (IsDrawnAgain(pass) && what == Shown::Built) {
         Build(pass);
     }
     DrawAbove(drawing, pass);
@@ -307,6 +313,30 @@ std::optional<CNearestPoint> CObjectDisplay::FindClosestPoint(const C3DPoint& cl
 void CObjectDisplay::PrintCoordinateTable(FileStore& files, const std::string& path) {
     extentFrame_ = ShownExtents();
     files.Write(path, CoordinateTable({screenSurfaces_, extentFrame_}, Decimals), Flush::No);
+}
+
+CViewPoint CObjectDisplay::ZoomedAbout(const WorldPoint& point, double factor) const {
+    const double across = Quotient(point.x - displayWindow_.ScaleLeft, displayWindow_.ScaleWidth);
+    const double down = Quotient(point.y - displayWindow_.ScaleTop, displayWindow_.ScaleHeight);
+    // The window may have been resized since: the place is the same pixel of the picture to come.
+    const PixelSize shown = DisplayDevice->ScaleSize();
+    const PixelSize next = DisplayDevice->NextSize();
+    CViewPoint view = ViewPoint;
+    view.ZoomFactor *= factor;
+    const WorldWindow zoomed = FitScaleWindow(view, WorldExtents, DisplayDevice->OuterSize());
+    const double left = point.x - across * Quotient(shown.width, next.width) * zoomed.ScaleWidth;
+    const double top = point.y - down * Quotient(shown.height, next.height) * zoomed.ScaleHeight;
+    view.PanX = Finite(view.PanX + left - zoomed.ScaleLeft, "the view");
+    view.PanY = Finite(view.PanY + top - zoomed.ScaleTop, "the view");
+    return view;
+}
+
+bool CObjectDisplay::ShowsAll() const {
+    const std::optional<Bounds> drawn = BoundsOfAll(screenSurfaces_);
+    const WorldWindow& picture = displayWindow_;
+    return !drawn || picture.ScaleWidth == 0 ||
+           (drawn->minX >= picture.ScaleLeft && drawn->maxX <= picture.ScaleLeft + picture.ScaleWidth &&
+            drawn->maxY <= picture.ScaleTop && drawn->minY >= picture.ScaleTop + picture.ScaleHeight);
 }
 
 void CObjectDisplay::ZoomExtents() {

@@ -1,6 +1,7 @@
 // Turns the current fitting into a picture, on the screen or on paper.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -72,6 +73,11 @@ class CObjectDisplay {
     /// is now. Nothing is built.
     void ShowAgain();
 
+    /// Clears the screen and shows what the last DisplayObject showed under `view`, which differs from the
+    /// view of that pass in zoom and pan alone. Nothing is built, and the overlay stays as it was laid. A
+    /// throw leaves everything as it was.
+    void ShowUnder(const CViewPoint& view);
+
     /// Draws what the last DisplayObject showed onto a picture of its own: all of it, with laps, annotations
     /// and label block, as large as the picture has room for it. Nothing is built.
     void DrawPicture(DrawingDevice& picture) const;
@@ -105,6 +111,15 @@ class CObjectDisplay {
     void ZoomExtents();
     void ZoomWindow(double x1, double y1, double x2, double y2);
 
+    /// The view of the last pass with its zoom multiplied by `factor`, panned so that the point of the
+    /// drawing plane that lies under a place of the picture stays under it. Throws ArithmeticError before
+    /// anything was drawn, and for a view too far out.
+    [[nodiscard]] CViewPoint ZoomedAbout(const WorldPoint& point, double factor) const;
+
+    /// Whether all lines of the fitting that the last pass drew, laps too, lie inside the picture. There is
+    /// nothing outside where nothing was drawn.
+    [[nodiscard]] bool ShowsAll() const;
+
     /// The surfaces as drawn last: projected for a model, the true ones for a pattern.
     [[nodiscard]] const CRuleSurfs& ScreenSurfaces() const { return screenSurfaces_; }
 
@@ -133,8 +148,9 @@ class CObjectDisplay {
     void PlacePattern(CRuleSurf& surface) const;
     [[nodiscard]] bool NeedsFrame() const;
     [[nodiscard]] bool IsDrawnAgain(const Pass& pass) const;
-    enum class SecondBuild : bool { No, Yes };
-    void Show(Pass pass, SecondBuild secondBuild);
+    /// What a pass shows: a new build, the last one with its overlay laid anew, or the last one as it is.
+    enum class Shown : std::uint8_t { Built, LaidAnew, AsItIs };
+    void Show(Pass pass, Shown what);
     void DrawBelow(const Drawing& drawing, const Pass& pass) const;
     void DrawAbove(const Drawing& drawing, const Pass& pass) const;
     void DrawWhole(DrawingRecord& record, bool onPaper, const ScaleFor& scaleFor) const;

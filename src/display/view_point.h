@@ -14,6 +14,7 @@ struct CViewPoint {
     double PanX = 0;
     double FromXY = 0;  ///< elevation of the eye above the xy plane, radians; a quarter turn is straight down
     double AroundZ = 0;  ///< turn about z, radians
+    bool operator==(const CViewPoint&) const = default;
 };
 
 /// The history of views of one window; the last item is the current view.

@@ -84,6 +84,7 @@ CFittingWindow* CMainFrame::NewFitting(bool fromFile) {
         return nullptr;
     }
     CFittingWindow& child = *children_.emplace_back(std::move(window));
+    child.keepsInSight = true;
     desktop_.ShowWindow(child);
     ActivateChild(&child);
     return &child;

@@ -14,14 +14,13 @@
 #include "window/saving.h"
 #include "window/transfer.h"
 #include "window/transfer_place.h"
+#include "window/views.h"
 
 namespace korvet {
 namespace {
 
 /// No message: without a window the command only greys those that need one.
 constexpr int Silent = 0;
-
-constexpr double ZoomStep = 0.9;
 
 }  // namespace
 

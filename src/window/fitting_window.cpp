@@ -97,7 +97,9 @@ void CFittingWindow::ClickView(int button) {
     }
     AddPresetView(button, *views);
     UpdateFitting();
-    if (!hasModel) {
+    if (hasModel) {
+        BringIntoSight();
+    } else {
         views->Remove(views->Count());
     }
 }

@@ -2,6 +2,8 @@
 // class driven by the table of their catalogue row.
 #pragma once
 
+#include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -31,7 +33,7 @@ enum class ExportMode : int { Dxf = 1, Plotter = 2, CadLink = 3 };
 enum MeshSource : std::size_t { MeshOfDxf = 0, MeshOfCad = 1 };
 
 /// The button of a mouse event; in a move, the one that is held.
-enum class MouseButton : int { None = 0, Left = 1, Right = 2 };
+enum class MouseButton : int { None = 0, Left = 1, Right = 2, Middle = 3 };
 
 /// The mouse mode that is armed; the commands that arm one clear the others first.
 struct MouseModes {
@@ -47,6 +49,15 @@ struct MouseModes {
     float startY = 0;
     float currentX = 0;
     float currentY = 0;
+};
+
+/// The last view of the history as the wheel or a drag with the middle button has put it there: until another
+/// one follows, the next move of the same run takes its place.
+struct MovedView {
+    enum class By : std::uint8_t { Wheel, MiddleButton };
+    By by = By::Wheel;
+    CViewPoint view;
+    std::size_t count = 0;  ///< views there are with it
 };
 
 /// What a build makes of the boxes, as the fitting has it.
@@ -132,6 +143,12 @@ class CFittingWindow {
     void MouseMove(MouseButton button, float x, float y);
     void MouseUp(MouseButton button, float x, float y);
 
+    /// Zooms by turns of the wheel, parts of one allowed and above 0 inwards, about a point of the drawing
+    /// plane. Turns that follow each other within half a second of `milliseconds`, on any clock, make one
+    /// view of the history. Nothing is built, no mode ends; nothing happens without a model and at the limits
+    /// of the zoom.
+    void TurnWheel(double turns, float x, float y, std::int64_t milliseconds);
+
     void Resize(const Place& scale);
     void Activate();
 
@@ -186,6 +203,8 @@ class CFittingWindow {
     bool removeDimensionMode = false;
     bool labelSeen = false;
     bool closed = false;
+    bool keepsInSight = false;  ///< in a window that is looked at, until its user's first zoom or pan: a view
+                                ///< button ends with the extents where the picture does not hold the drawing
     std::optional<CNearestPoint> nearest1;  ///< points picked last for a measurement, dimension or rotation
     std::optional<CNearestPoint> nearest2;
     std::optional<FittingHandle> fitting;
@@ -198,6 +217,7 @@ class CFittingWindow {
     Outcome RequireMesh();
     void Rebuild();
     Outcome AddViewOfExtents();
+    void BringIntoSight();
     Outcome CheckAllFields();
     Outcome CheckThicknesses();
     void AddTextBlock();
@@ -232,6 +252,9 @@ class CFittingWindow {
     void FinishDrag();
     bool RemoveDimensionAt(float x, float y);
     void PanByRubberBand();
+    void PanTo(float x, float y);
+    void ShowMoved(MovedView::By by, bool sameRun, const std::function<CViewPoint()>& makeView);
+    [[nodiscard]] bool LastIsMoved(MovedView::By by) const;
     void MeasureAt();
     void AddDimensionAt();
     void PlaceLabelAt(float x, float y);
@@ -240,6 +263,9 @@ class CFittingWindow {
     WindowContext& context_;
     const CatalogueRow* row_;
     double goodTextSize_;  ///< for while the text size box holds no number
+    std::optional<MovedView> moved_;
+    std::optional<WorldPoint> panFrom_;  ///< the point of the drawing that the middle button holds
+    std::int64_t lastTurn_ = 0;          ///< of the wheel, milliseconds
 };
 
 }  // namespace korvet

@@ -87,6 +87,10 @@ bool CFittingWindow::MouseDown(MouseButton button, float x, float y) {
             return true;
         });
     }
+    if (button == MouseButton::Middle) {
+        panFrom_ = {x, y};
+        moved_.reset();  // a drag of its own is a view of its own
+    }
     if (button == MouseButton::Right) {
         EndRubberBand();  // the menu that comes up takes the release of a drag
     }
@@ -110,6 +114,9 @@ void CFittingWindow::BeginMouseOperation(float x, float y) {
 }
 
 void CFittingWindow::MouseMove(MouseButton button, float x, float y) {
+    if (button == MouseButton::Middle) {
+        PanTo(x, y);
+    }
     if (button != MouseButton::Left || !modes.mouseDown || !Drags(modes)) {
         return;
     }
@@ -119,6 +126,9 @@ void CFittingWindow::MouseMove(MouseButton button, float x, float y) {
 }
 
 void CFittingWindow::MouseUp(MouseButton button, float x, float y) {
+    if (button == MouseButton::Middle) {
+        panFrom_.reset();
+    }
     if (views->Count() == 0 || button != MouseButton::Left) {
         return;
     }
@@ -151,6 +161,7 @@ bool CFittingWindow::FinishMouseOperation(float x, float y) {
 void CFittingWindow::FinishDrag() {
     if (modes.zoomWindowMode) {
         display.ZoomWindow(modes.startX, modes.startY, modes.currentX, modes.currentY);
+        keepsInSight = false;
     } else if (modes.panMode) {
         PanByRubberBand();
     } else {
@@ -184,6 +195,7 @@ void CFittingWindow::PanByRubberBand() {
     view.PanX = Finite(view.PanX + modes.startX - modes.currentX, "the view");
     view.PanY = Finite(view.PanY + modes.startY - modes.currentY, "the view");
     views->Add(view);
+    keepsInSight = false;
 }
 
 void CFittingWindow::MeasureAt() {

@@ -33,15 +33,19 @@ PresetAngles AnglesOfButton(int button) {
 
 /// Refuses another step from a last view that is zoomed too far.
 Outcome CheckZoom(MessageBoxes& boxes, const COptions& options, const CViewList& views) {
-    const auto zoom = static_cast<float>(views.Last().ZoomFactor);
-    if (zoom > 10000.0F || zoom < 0.0001F) {
-        ShowPlain(boxes, GetMessage(MaximumZoom, options.Language));
-        return Refused;
+    if (IsWithinZoomLimits(views.Last().ZoomFactor)) {
+        return Passed;
     }
-    return Passed;
+    ShowPlain(boxes, GetMessage(MaximumZoom, options.Language));
+    return Refused;
 }
 
 }  // namespace
+
+bool IsWithinZoomLimits(double zoomFactor) {
+    const auto zoom = static_cast<float>(zoomFactor);
+    return zoom >= 0.0001F && zoom <= 10000.0F;
+}
 
 void AddPresetView(int button, CViewList& views) {
     const PresetAngles angles = AnglesOfButton(button);

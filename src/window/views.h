@@ -11,6 +11,12 @@ namespace korvet {
 /// Number of the pattern button among the view buttons; the others show the model.
 inline constexpr int PatternButton = 9;
 
+/// Zoom In and a turn of the wheel divide by it what the picture spans, Zoom Out multiplies.
+inline constexpr double ZoomStep = 0.9;
+
+/// Whether a zoom, as single precision, lies in 0.0001 to 10000, where it can be changed step by step.
+bool IsWithinZoomLimits(double zoomFactor);
+
 /// Appends the view of button 0 to 9: a copy of the last view (pan and zoom kept), or the default view when
 /// there is none, with the button's angles. Throws ListError for another number.
 void AddPresetView(int button, CViewList& views);

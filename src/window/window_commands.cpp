@@ -133,7 +133,9 @@ void CFittingWindow::ZoomPrevious() {
 void CFittingWindow::ZoomX(double factor) {
     CancelMouseModes();
     if (hasModel) {
-        (void)ZoomView(context_.ui, context_.options, factor, *views);  // drawn anew all the same
+        if (ZoomView(context_.ui, context_.options, factor, *views) == Passed) {
+            keepsInSight = false;
+        }
         UpdateFitting();
     }
 }

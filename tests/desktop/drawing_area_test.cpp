@@ -64,6 +64,57 @@ class DrawingAreaTest : public QObject {
         QVERIFY(desk.shell.ui.messages[0].text.starts_with("Distance = "));
     }
 
+    void theWheelZoomsAtThePointer() {
+        Desk desk;
+        CFittingWindow& window = desk.New();
+        TypeCone(desk);
+        Click(desk.window, "btnView_9");
+        auto& area = static_cast<DrawingArea&>(Drawing(desk));
+        const QPoint at(150, 90);
+        const WorldPoint under = area.ToDrawing(at);
+        const double zoom = window.views->Last().ZoomFactor;
+        TurnWheel(area, at, 1, 10000);
+        TurnWheel(area, at, 1, 10100);
+        QVERIFY(std::fabs(window.views->Last().ZoomFactor / zoom - 1 / 0.81) < 1e-9);
+        QVERIFY(std::fabs(area.ToDrawing(at).x - under.x) < 0.01);
+        QVERIFY(std::fabs(area.ToDrawing(at).y - under.y) < 0.01);
+        QCOMPARE(window.views->Count(), 2U);
+        TurnWheel(area, at, -1, 20000);
+        QCOMPARE(window.views->Count(), 3U);
+    }
+
+    void theMiddleButtonPans() {
+        Desk desk;
+        CFittingWindow& window = desk.New();
+        TypeCone(desk);
+        Click(desk.window, "btnView_9");
+        auto& area = static_cast<DrawingArea&>(Drawing(desk));
+        const WorldPoint held = area.ToDrawing(QPoint(150, 90));
+        QTest::mousePress(&area, Qt::MiddleButton, Qt::NoModifier, {150, 90});
+        for (const QPoint to : {QPoint(180, 120), QPoint(220, 100)}) {
+            QMouseEvent move(QEvent::MouseMove, to, area.mapToGlobal(to), Qt::NoButton, Qt::MiddleButton,
+                             Qt::NoModifier);
+            QCoreApplication::sendEvent(&area, &move);
+            QVERIFY(std::fabs(area.ToDrawing(to).x - held.x) < 0.01);
+            QVERIFY(std::fabs(area.ToDrawing(to).y - held.y) < 0.01);
+        }
+        QTest::mouseRelease(&area, Qt::MiddleButton, Qt::NoModifier, {220, 100});
+        QCOMPARE(window.views->Count(), 2U);
+    }
+
+    void theFirstPictureOfEachViewShowsAllOfIt() {
+        Desk desk;
+        desk.New();
+        TypeCone(desk);
+        for (const char* const button : {"btnView_9", "btnView_0", "btnView_5"}) {
+            Click(desk.window, button);
+            auto& area = static_cast<DrawingArea&>(Drawing(desk));
+            const CFittingWindow& window = *desk.window.Frame().ActiveChild();
+            QVERIFY(window.display.ShowsAll());
+            QVERIFY(Ink(area) > 500);
+        }
+    }
+
     void theRightButtonShowsTheViewMenu() {
         Desk desk;
         desk.New();

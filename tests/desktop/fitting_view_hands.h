@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QTest>
+#include <QWheelEvent>
 
 #include "tests/desktop/desk.h"
 
@@ -41,6 +42,14 @@ inline void Drag(QWidget& area, QPoint from, QPoint to) {
                      Qt::NoModifier);
     QCoreApplication::sendEvent(&area, &move);
     QTest::mouseRelease(&area, Qt::LeftButton, Qt::NoModifier, to);
+}
+
+/// Notches of the wheel at a place; forward above 0.
+inline void TurnWheel(QWidget& area, QPoint at, int notches, quint64 milliseconds) {
+    QWheelEvent turn(at, area.mapToGlobal(at), QPoint(), QPoint(0, 120 * notches), Qt::NoButton,
+                     Qt::NoModifier, Qt::NoScrollPhase, false);
+    turn.setTimestamp(milliseconds);
+    QCoreApplication::sendEvent(&area, &turn);
 }
 
 /// Pixels of the drawing that are not its ground.

@@ -83,6 +83,57 @@ TEST_F(ObjectDisplay, ADimensionComesBackWithItsPoint) {
     EXPECT_THAT(screen.Strings(), ElementsAre("70", "30"));
 }
 
+TEST_F(ObjectDisplay, AnotherViewShowsTheLastDisplayWithoutABuild) {
+    AddView(true);
+    RequestAll();
+    display.DisplayObject();
+    fitting->canned.PatternSurface = Sheet(100, 100);
+    const CViewPoint turned = {true, 2, 5, 10, QuarterTurn, QuarterTurn};
+    screen.calls.clear();
+    display.ShowUnder(turned);
+    const std::vector<std::string> shown = LogOf(screen);
+    EXPECT_EQ(display.ViewPoint, turned);
+    EXPECT_EQ(display.ViewList->Count(), 1U);
+    // A build under that view draws the same.
+    fitting->canned.PatternSurface = Sheet();
+    display.ViewList->Add(turned);
+    screen.calls.clear();
+    display.DisplayObject();
+    EXPECT_EQ(LogOf(screen), shown);
+}
+
+TEST_F(ObjectDisplay, AViewThatCannotBeDrawnLeavesTheOneThatIsShown) {
+    AddView(true);
+    display.DisplayObject();
+    const CViewPoint shown = display.ViewPoint;
+    screen.calls.clear();
+    EXPECT_THROW(display.ShowUnder({true, 1e30, 0, 0, QuarterTurn, QuarterTurn}), ArithmeticError);
+    EXPECT_EQ(display.ViewPoint, shown);
+    EXPECT_TRUE(screen.calls.empty());
+}
+
+TEST_F(ObjectDisplay, AllIsShownWhenNoLineLeavesThePicture) {
+    EXPECT_TRUE(display.ShowsAll());
+    AddView(true);
+    // 400 by 200 with the origin in the middle.
+    fitting->canned.PatternSurface = Sheet(170, 60);
+    display.DisplayObject();
+    EXPECT_TRUE(display.ShowsAll());
+    for (const auto& [x, y] : {std::pair{170.5, 60.0}, {170.0, 60.5}, {-200.5, 60.0}, {170.0, -100.5}}) {
+        fitting->canned.PatternSurface = Sheet(x, y);
+        display.DisplayObject();
+        EXPECT_FALSE(display.ShowsAll()) << x << " " << y;
+    }
+    fitting->canned.PatternSurface = Sheet();
+    fitting->canned.PatternSurface.LapList1 = Points({{0, 0, 0, 1}, {-201, 0, 0, 1}});
+    display.DisplayObject();
+    EXPECT_FALSE(display.ShowsAll()) << "a lap belongs to the drawing";
+}
+
+TEST_F(ObjectDisplay, BeforeAnythingIsDrawnThereIsNoPointToZoomAbout) {
+    EXPECT_THROW((void)display.ZoomedAbout({0, 0}, 2), ArithmeticError);
+}
+
 TEST_F(ObjectDisplay, TheTableCountsFromTheFrameOfWhatIsShownNow) {
     MemoryFileStore files;
     AddView(true);

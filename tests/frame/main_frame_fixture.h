@@ -76,6 +76,7 @@ class FrameRig {
         desktop.pick = "Right Cone";
         frame.RunMenu("mnuFileNew");
         CFittingWindow& cone = *frame.ActiveChild();
+        cone.keepsInSight = false;  // the zooms of the commands count from 1
         cone.ChangeBox(3, "300");
         cone.ChangeBox(4, "150");
         cone.ChangeBox(5, "250");

@@ -96,6 +96,16 @@ TEST_F(MainFrameTest, ANewWindowIsShownAndActive) {
     EXPECT_TRUE(rig.shell.frame.menuEnabled.at("mnuFileSave"));
 }
 
+TEST_F(MainFrameTest, OnlyAWindowOfTheFrameBringsItsDrawingIntoSight) {
+    PutGoodFile();
+    rig.frame.OpenFile("good.Kvt");
+    EXPECT_TRUE(rig.frame.ActiveChild()->keepsInSight);
+    rig.desktop.pick = "Right Cone";
+    rig.frame.RunMenu("mnuFileNew");
+    EXPECT_TRUE(rig.frame.ActiveChild()->keepsInSight);
+    EXPECT_FALSE(rig.shell.Open("Right Cone")->keepsInSight);
+}
+
 TEST_F(MainFrameTest, CommandsGoToTheWindowThatIsActive) {
     CFittingWindow& first = rig.OpenCone();
     CFittingWindow& second = rig.OpenCone();

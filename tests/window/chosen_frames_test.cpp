@@ -55,6 +55,18 @@ TEST_F(ChosenFrames, ClicksChooseFramesAndTakeThemBack) {
     EXPECT_EQ(screen.Lines().size(), 8U);
 }
 
+TEST_F(ChosenFrames, TheWheelAndTheMiddleButtonKeepThem) {
+    TickFrames();
+    window->printFrames.PrinterPages.Item(3).PrintMe = true;
+    screen.calls.clear();
+    window->TurnWheel(1, 10, 10, 10000);
+    EXPECT_TRUE(ScreenHasFrames());
+    EXPECT_FALSE(window->MouseDown(MouseButton::Middle, 10, 10));
+    window->MouseMove(MouseButton::Middle, 40, 40);
+    window->MouseUp(MouseButton::Middle, 40, 40);
+    EXPECT_TRUE(window->printFrames.PrinterPages.Item(3).PrintMe);
+}
+
 TEST_F(ChosenFrames, AClickOnASharedEdgeChoosesBothFrames) {
     TickFrames();
     window->SelectPrintFrames();

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QWheelEvent>
 
 #include "desktop/bindings.h"
 #include "window/views.h"
@@ -14,7 +15,10 @@ MouseButton ButtonOf(Qt::MouseButtons buttons) {
     if (buttons.testFlag(Qt::LeftButton)) {
         return MouseButton::Left;
     }
-    return buttons.testFlag(Qt::RightButton) ? MouseButton::Right : MouseButton::None;
+    if (buttons.testFlag(Qt::RightButton)) {
+        return MouseButton::Right;
+    }
+    return buttons.testFlag(Qt::MiddleButton) ? MouseButton::Middle : MouseButton::None;
 }
 
 Qt::CursorShape ShapeOf(Cursor cursor) {
@@ -27,6 +31,9 @@ Qt::CursorShape ShapeOf(Cursor cursor) {
             return Qt::ArrowCursor;
     }
 }
+
+/// A notch of a common wheel, in the toolkit's eighths of a degree.
+constexpr double AngleOfTurn = QWheelEvent::DefaultDeltasPerStep;
 
 /// Keys that end a mouse mode: those that write something, and Esc. Function keys and arrows do not.
 bool IsCharacter(const QKeyEvent& event) {
@@ -156,6 +163,17 @@ void DrawingArea::mouseReleaseEvent(QMouseEvent* event) {
     }
     const WorldPoint point = ToDrawing(event->position());
     window_->MouseUp(ButtonOf(event->button()), point.x, point.y);
+    afterEvent();
+}
+
+void DrawingArea::wheelEvent(QWheelEvent* event) {
+    if (window_ == nullptr) {
+        return;
+    }
+    const WorldPoint point = ToDrawing(event->position());
+    window_->TurnWheel(event->angleDelta().y() / AngleOfTurn, point.x, point.y,
+                       static_cast<std::int64_t>(event->timestamp()));
+    event->accept();  // else the area of the windows would scroll
     afterEvent();
 }
 

@@ -39,6 +39,7 @@ class DrawingArea : public QWidget {
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     [[nodiscard]] QSize minimumSizeHint() const override { return {120, 120}; }
 
