@@ -32,6 +32,10 @@ class FileStore {
     /// Puts `contents` in the place of the file in one step: after an error the old file is whole, or there
     /// is still none. Throws FileError. Flush::Yes is for what holds the user's own work.
     virtual void Write(const std::string& path, const std::string& contents, Flush flush) = 0;
+
+    /// Makes a new file and flushes it to the disk. False when something of that name is there already, which
+    /// stays as it is, also when two programs try at once. Throws FileError; there is then no file.
+    virtual bool Create(const std::string& path, const std::string& contents) = 0;
 };
 
 }  // namespace korvet

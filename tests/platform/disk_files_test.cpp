@@ -5,78 +5,22 @@
 
 #include <cerrno>
 #include <csignal>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <limits>
 #include <string>
 #include <system_error>
+
+#include "tests/platform/disk_files_fixture.h"
 
 #ifndef _WIN32
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <unistd.h>
 #endif
 
 namespace korvet {
 namespace {
 
-namespace fs = std::filesystem;
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::StartsWith;
-
-constexpr std::size_t NoLimit = std::numeric_limits<std::size_t>::max();
-
-std::string ContentsOf(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-void Put(const fs::path& path, const std::string& contents) {
-    std::ofstream(path, std::ios::binary) << contents;
-}
-
-class DiskFilesTest : public testing::Test {
-  protected:
-    DiskFilesTest() {
-        std::string name = (fs::temp_directory_path() / "disk_files_XXXXXX").string();
-        folder = ::mkdtemp(name.data());
-    }
-    ~DiskFilesTest() override {
-        std::error_code ignored;
-        fs::remove_all(folder, ignored);
-    }
-
-    [[nodiscard]] std::string Path(const std::string& name) const { return (folder / name).string(); }
-
-    /// How many things there are in the folder.
-    [[nodiscard]] std::ptrdiff_t Entries() const {
-        return std::distance(fs::directory_iterator(folder), fs::directory_iterator());
-    }
-
-    [[nodiscard]] std::string ReadError(const std::string& path, std::size_t limit = NoLimit) const {
-        try {
-            (void)files.Read(path, limit);
-        } catch (const FileError& error) {
-            return error.what();
-        }
-        return "no error";
-    }
-
-    [[nodiscard]] std::string WriteError(const std::string& path, const std::string& contents = "new") {
-        try {
-            files.Write(path, contents, Flush::No);
-        } catch (const FileError& error) {
-            return error.what();
-        }
-        return "no error";
-    }
-
-    DiskFiles files;
-    fs::path folder;
-};
 
 TEST_F(DiskFilesTest, WrittenBytesReadBackAsTheyAre) {
     const std::string bytes("a\r\n\0b\xff", 6);
@@ -174,23 +118,6 @@ TEST_F(DiskFilesTest, PermissionsStay) {
     EXPECT_EQ(fs::status(Path("file")).permissions(), fs::perms::owner_all);
     EXPECT_EQ(ContentsOf(Path("file")), "new");
 }
-
-/// The superuser may write every file, so for as long as this lives the process is nobody instead.
-class WithoutSuperuser {
-  public:
-    WithoutSuperuser() {
-        if (user_ == 0) {
-            EXPECT_EQ(::seteuid(Nobody), 0);
-        }
-    }
-    ~WithoutSuperuser() { EXPECT_EQ(::seteuid(user_), 0); }
-    WithoutSuperuser(const WithoutSuperuser&) = delete;
-    WithoutSuperuser& operator=(const WithoutSuperuser&) = delete;
-
-  private:
-    static constexpr ::uid_t Nobody = 65534;
-    ::uid_t user_ = ::geteuid();
-};
 
 TEST_F(DiskFilesTest, AWriteProtectedFileIsNotReplaced) {
     Put(Path("file"), "old");

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <map>
 #include <set>
 #include <string>
@@ -13,7 +14,7 @@ namespace korvet {
 
 class MemoryFileStore final : public FileStore {
   public:
-    /// One call of Write that succeeded.
+    /// One call of Write or Create that succeeded.
     struct Written {
         std::string path;
         Flush flush = Flush::No;
@@ -21,8 +22,11 @@ class MemoryFileStore final : public FileStore {
 
     std::map<std::string, std::string> files;  ///< the bytes by path; a test may put files here itself
     std::set<std::string> unreadable;          ///< paths at which Read throws though the file exists
-    std::set<std::string> unwritable;          ///< paths at which Write throws and changes nothing
+    std::set<std::string> unwritable;          ///< paths at which Write and Create throw and change nothing
     std::vector<Written> writes;               ///< successful writes, in their order
+
+    /// What another program does as soon as a file has been written.
+    std::function<void(const std::string& path)> afterWrite;
 
     [[nodiscard]] bool Exists(const std::string& path) const override { return files.contains(path); }
 
@@ -46,6 +50,17 @@ class MemoryFileStore final : public FileStore {
         }
         files[path] = contents;
         writes.push_back({path, flush});
+        if (afterWrite) {
+            afterWrite(path);
+        }
+    }
+
+    bool Create(const std::string& path, const std::string& contents) override {
+        if (Exists(path)) {
+            return false;
+        }
+        Write(path, contents, Flush::Yes);
+        return true;
     }
 };
 

@@ -1,0 +1,42 @@
+// A file beside the one to be written, which takes its place when it is whole.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "platform/file_steps.h"
+
+namespace korvet {
+
+/// It goes away again unless it has taken the other one's place. Until then it is held, so that no other
+/// program takes it for one that was left over.
+class TemporaryFile {
+  public:
+    /// Creates it. Throws FileError in the name of `path`.
+    TemporaryFile(const std::string& path, const std::filesystem::path& folder);
+    ~TemporaryFile();
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+    /// Fills it and puts it in the place of `target`, each step only after the one before has succeeded. With
+    /// `keep` it takes over the attributes of the file that is there.
+    std::error_code Replace(const std::filesystem::path& target, bool keep, const std::string& contents,
+                            Flush flush);
+
+    /// The same under a name that nothing has yet. Nothing is done and `isNew` is false when something has
+    /// it.
+    std::error_code TakeName(const std::filesystem::path& target, const std::string& contents, bool& isNew);
+
+  private:
+    std::error_code Fill(const std::string& contents, Flush flush);
+
+    std::filesystem::path name_;
+    OpenFile file_;
+    bool placed_ = false;
+};
+
+/// Takes away what saves that were killed have left in a folder: files named as temporary ones are, a day old
+/// and held by no program. What can't be taken away stays.
+void RemoveLeftTemporaryFiles(const std::filesystem::path& folder);
+
+}  // namespace korvet
