@@ -20,10 +20,10 @@ def plain(text):
 def said_by_program(sources):
     """All texts of the sources, neighbouring literals put together, without their line breaks."""
     texts = set()
-    for path in sources.rglob("*.cpp"):
+    for path in (*sources.rglob("*.cpp"), *sources.rglob("*.h")):
         for run in re.finditer(rf"{LITERAL}(?:\s*{LITERAL})*", path.read_text(encoding="utf-8")):
             text = "".join(re.findall(LITERAL, run[0]))
-            texts.add(plain(text.replace("\\r", "").replace("\\n", " ").replace('\\"', '"')))
+            texts.add(plain(text.replace("\\r", "").replace("\\n", " ").replace('\\"', '"').replace("\\\\", "\\")))
     return texts
 
 

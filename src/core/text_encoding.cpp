@@ -170,6 +170,23 @@ std::string_view Beginning(std::string_view text, std::size_t limit) {
     return text.substr(0, limit);
 }
 
+std::string_view Excerpt(std::string_view text) {
+    constexpr std::size_t MostCharacters = 200;
+    return Beginning(text, MostCharacters);
+}
+
+std::string ValidText(std::string_view text) {
+    constexpr std::string_view Replacement = "\xEF\xBF\xBD";
+    std::string valid;
+    while (!text.empty()) {
+        const auto character = FirstCharacter(text);
+        const std::size_t length = character ? character->length : 1;
+        valid += character ? text.substr(0, length) : Replacement;
+        text.remove_prefix(length);
+    }
+    return valid;
+}
+
 std::u16string Utf16Units(std::string_view text) {
     std::u16string units;
     const auto points = CodePoints(DecodeText(text));

@@ -21,6 +21,12 @@ std::string Printable(std::string_view text);
 /// The beginning of a UTF-8 text, of at most `limit` bytes and of whole characters.
 std::string_view Beginning(std::string_view text, std::size_t limit);
 
+/// The beginning of a file's text, as much of it as a message shows.
+std::string_view Excerpt(std::string_view text);
+
+/// A text that is UTF-8 in any case: a byte that is none becomes the replacement character.
+std::string ValidText(std::string_view text);
+
 /// The UTF-16 units of a text, a character above U+FFFF as two. What is no valid UTF-8 is read as DecodeText
 /// reads it.
 std::u16string Utf16Units(std::string_view text);

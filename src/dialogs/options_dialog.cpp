@@ -7,6 +7,7 @@
 #include "core/number_text.h"
 #include "dialogs/options_file.h"
 #include "dialogs/paper.h"
+#include "form/layer_name.h"
 #include "form/messages.h"
 
 namespace korvet {
@@ -117,7 +118,7 @@ void OptionsDialog::ClickSave() {
         return;
     }
     try {
-        WriteIniFile(options_, files_, decimalMark_);
+        SaveIniFile(options_, files_, decimalMark_);
     } catch (const FileError& error) {
         ShowPlain(ui_, error.what());
         return;
@@ -177,6 +178,9 @@ Outcome OptionsDialog::StoreLayers() {
         if (Trimmed(layer.box.text).empty()) {
             return Refuse(layer.box, layer.whenEmpty);
         }
+        if (!IsLayerName(layer.box.text)) {
+            return Refuse(layer.box, std::string(NoLayerName));
+        }
         layer.option = layer.stored.text;
     }
     return Passed;
@@ -197,7 +201,7 @@ Outcome OptionsDialog::StoreTextSizes() {
 }
 
 /// Says what is wrong with a box and puts the focus on it.
-Outcome OptionsDialog::Refuse(const TextBox& box, const char* text) {
+Outcome OptionsDialog::Refuse(const TextBox& box, const std::string& text) {
     tab = TabOf(box.name);
     ShowUserError(ui_, text);
     focus = box.name;

@@ -91,7 +91,7 @@ struct OptionsDialog {
     void Fill();
     Outcome StoreLayers();
     Outcome StoreTextSizes();
-    Outcome Refuse(const TextBox& box, const char* text);
+    Outcome Refuse(const TextBox& box, const std::string& text);
     [[nodiscard]] FieldContext Fields();
 
     COptions& options_;

@@ -1,5 +1,8 @@
 #include "dialogs/options_file.h"
 
+#include <algorithm>
+#include <array>
+#include <cctype>
 #include <cmath>
 #include <limits>
 #include <string>
@@ -10,6 +13,7 @@
 #include "core/constants.h"
 #include "core/number_text.h"
 #include "core/text_encoding.h"
+#include "form/layer_name.h"
 #include "form/messages.h"
 #include "form/outcome.h"
 
@@ -18,6 +22,10 @@ namespace {
 
 constexpr std::size_t SizeLimit = std::size_t{64} * 1024;
 constexpr int MaxDecimals = 5;
+
+/// In the order of their lines.
+constexpr std::array Layers = {&COptions::DXFTextLayer, &COptions::DXFFoldLayer, &COptions::DXFCutLayer,
+                               &COptions::DXFBorderLayer, &COptions::DXFDimensionLayer};
 
 /// Two lines of settings that no longer exist. They keep their places, since a line's number is its key.
 constexpr double FormerSetting18 = 200.0;
@@ -134,9 +142,12 @@ class LineReader {
     }
 
     /// Throws the error about the line that was read last.
-    [[noreturn]] void Refuse(const char* why) const {
-        throw OptionsFileError(file_ + ", line " + std::to_string(next_) + ": \"" +
-                               std::string(Trimmed(lines_[next_ - 1])) + "\" " + why);
+    [[noreturn]] void Refuse(const std::string& why) const { throw OptionsFileError(Told(why)); }
+
+    /// What is to be said of the line that was read last, with its file and number.
+    [[nodiscard]] std::string Told(const std::string& what) const {
+        return file_ + ", line " + std::to_string(next_) + ": \"" +
+               Printable(Excerpt(Trimmed(lines_[next_ - 1]))) + "\" " + what;
     }
 
   private:
@@ -145,37 +156,27 @@ class LineReader {
     std::size_t next_ = 0;
 };
 
-std::string ReadText(const COptions& options, const FileStore& files) {
-    return DecodeText(files.Read(options.IniFileName, SizeLimit));
+std::string BytesOf(const COptions& options, const FileStore& files) {
+    return files.Read(options.IniFileName, SizeLimit);
 }
 
-bool IsThisVersion(std::string_view text) {
-    return Trimmed(text.substr(0, text.find('\n'))) == SettingsVersion;
+std::string_view FirstLine(std::string_view text) {
+    return Trimmed(text.substr(0, text.find('\n')));
 }
 
-/// Makes sure that there is a file of this version. Refuses when it could not be made.
-Outcome CheckIniFile(const COptions& options, FileStore& files, MessageBoxes& boxes, char decimalMark) {
-    const bool exists = files.Exists(options.IniFileName);
-    if (exists && IsThisVersion(ReadText(options, files))) {
-        return Passed;
+/// The name of a layer, or the one that it has in a new program, with a message.
+std::string LayerName(LineReader& reader, const std::string& otherwise, MessageBoxes& boxes) {
+    std::string name = reader.TrimmedText();
+    if (IsLayerName(name)) {
+        return name;
     }
-    if (exists) {
-        ShowPlain(boxes, GetMessage(IniFileUpdated, options.Language));
-    }
-    try {
-        if (exists) {
-            files.Write(options.IniFileName + ".bak", files.Read(options.IniFileName, SizeLimit), Flush::Yes);
-        }
-        WriteIniFile(options, files, decimalMark);
-    } catch (const FileError& error) {
-        ShowPlain(boxes, error.what());
-        return Refused;
-    }
-    return Passed;
+    ShowPlain(boxes, reader.Told("cannot be the name of a layer: " + otherwise + " is used"),
+              std::string(NoLayerName));
+    return otherwise;
 }
 
 /// Lines 2 to 17: segments, numbers, language, colours and layers.
-void ReadDrawingOptions(LineReader& reader, COptions& options) {
+void ReadDrawingOptions(LineReader& reader, COptions& options, MessageBoxes& boxes) {
     options.DefaultSegs = reader.Segs();
     options.Decimals = reader.Decimals();
     options.Language = reader.TrimmedText();
@@ -186,9 +187,9 @@ void ReadDrawingOptions(LineReader& reader, COptions& options) {
           &colors.DisplayBackColor, &colors.DisplayDimensionColor, &colors.DisplayBorderColor}) {
         *color = reader.Integer<Color>();
     }
-    for (std::string* layer : {&options.DXFTextLayer, &options.DXFFoldLayer, &options.DXFCutLayer,
-                               &options.DXFBorderLayer, &options.DXFDimensionLayer}) {
-        *layer = reader.TrimmedText();
+    const COptions start;
+    for (const auto layer : Layers) {
+        options.*layer = LayerName(reader, start.*layer, boxes);
     }
     options.DXFTextSize = reader.Single(reader.PositiveNumber());
 }
@@ -212,9 +213,38 @@ void ReadOutputOptions(LineReader& reader, COptions& options) {
     options.PrintYCalibration = reader.PositiveNumber();
 }
 
-}  // namespace
+/// Reads all lines of a file. Throws OptionsFileError; `options` then stays as it is.
+void ReadLines(const std::string& bytes, COptions& options, MessageBoxes& boxes) {
+    const std::string text = DecodeText(bytes);
+    LineReader reader(text, options.IniFileName);
+    if (Trimmed(reader.Text()) != SettingsVersion) {
+        reader.Refuse(std::string("is not the version of this program's options files, ") + SettingsVersion);
+    }
+    COptions read = options;
+    ReadDrawingOptions(reader, read, boxes);
+    ReadOutputOptions(reader, read);
+    options = read;
+}
 
-void WriteIniFile(const COptions& options, FileStore& files, char decimalMark) {
+/// Whatever is said of what is read only to see whether it can be read.
+class Silence : public MessageBoxes {
+  public:
+    Answer Show(const MessageBox& /*message*/) override { return Answer::Ok; }
+};
+
+/// Whether the bytes are a whole file of this version.
+bool CanBeRead(const std::string& bytes, COptions options) {
+    Silence silence;
+    try {
+        ReadLines(bytes, options, silence);
+        return true;
+    } catch (const OptionsFileError&) {
+        return false;
+    }
+}
+
+/// All lines of the current values.
+std::string IniText(const COptions& options, char decimalMark) {
     const DisplayColors& colors = options.Colors;
     LineWriter writer(decimalMark);
     writer.Text(SettingsVersion);
@@ -227,9 +257,8 @@ void WriteIniFile(const COptions& options, FileStore& files, char decimalMark) {
           colors.DisplayDimensionColor, colors.DisplayBorderColor}) {
         writer.Number(color);
     }
-    for (const std::string* layer : {&options.DXFTextLayer, &options.DXFFoldLayer, &options.DXFCutLayer,
-                                     &options.DXFBorderLayer, &options.DXFDimensionLayer}) {
-        writer.Text(*layer);
+    for (const auto layer : Layers) {
+        writer.Text(options.*layer);
     }
     for (const double value :
          {options.DXFTextSize, FormerSetting18, FormerSetting19, static_cast<double>(options.PolyMode),
@@ -237,20 +266,105 @@ void WriteIniFile(const COptions& options, FileStore& files, char decimalMark) {
           static_cast<double>(options.PrintUnits), options.PrintXCalibration, options.PrintYCalibration}) {
         writer.Number(value);
     }
-    files.Write(options.IniFileName, writer.Contents(), Flush::Yes);
+    return writer.Contents();
+}
+
+/// Keeps the bytes of the file beside it, under a name that nothing has yet.
+void Keep(const COptions& options, FileStore& files, const std::string& bytes, const std::string& suffix) {
+    const std::string path = options.IniFileName + suffix;
+    std::string kept = path;
+    for (int number = 2; !files.Create(kept, bytes); ++number) {
+        kept = path + std::to_string(number);
+    }
+}
+
+/// Keeps the bytes and puts the current values in the place of the file, unless another program has been at
+/// it meanwhile: what it holds then is newer than what was examined.
+void Replace(const COptions& options, FileStore& files, const std::string& examined,
+             const std::string& suffix, char decimalMark) {
+    Keep(options, files, examined, suffix);
+    if (BytesOf(options, files) == examined) {
+        WriteIniFile(options, files, decimalMark);
+    }
+}
+
+/// Makes sure that there is a file, and that none is left which an earlier version of this program has
+/// written. Refuses, with a box, when that can't be done.
+Outcome MakeIniFile(const COptions& options, FileStore& files, MessageBoxes& boxes, char decimalMark) {
+    const bool exists = files.Exists(options.IniFileName);
+    const std::string bytes = exists ? BytesOf(options, files) : "";
+    const bool isOld = exists && FirstLine(bytes) != SettingsVersion && MayBeOptionsFile(bytes);
+    if (isOld) {
+        ShowPlain(boxes, GetMessage(IniFileUpdated, options.Language));
+    }
+    try {
+        if (isOld) {
+            Replace(options, files, bytes, ".bak", decimalMark);
+        } else if (!exists) {
+            (void)CreateIniFile(options, files, decimalMark);
+        }
+    } catch (const FileError& error) {
+        ShowPlain(boxes, error.what());
+        return Refused;
+    }
+    return Passed;
+}
+
+}  // namespace
+
+bool MayBeOptionsFile(std::string_view bytes) {
+    constexpr std::size_t LongestVersion = 8;
+    const std::string_view line = FirstLine(bytes);
+    const std::size_t point = line.find('.');
+    const auto isDigit = [](char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; };
+    const auto isSign = [](char c) { return std::isalnum(static_cast<unsigned char>(c)) != 0 || c == '.'; };
+    return line.size() <= LongestVersion && point != 0 && point < line.size() - 1 &&
+           std::all_of(line.begin(), line.begin() + static_cast<std::ptrdiff_t>(point), isDigit) &&
+           std::all_of(line.begin(), line.end(), isSign);
+}
+
+void WriteIniFile(const COptions& options, FileStore& files, char decimalMark) {
+    const std::string text = IniText(options, decimalMark);
+    try {
+        COptions again = options;
+        Silence silence;
+        if (text.size() > SizeLimit) {
+            throw OptionsFileError("it is larger than " + std::to_string(SizeLimit) + " bytes");
+        }
+        ReadLines(text, again, silence);
+    } catch (const OptionsFileError& error) {
+        throw FileError(options.IniFileName +
+                        " cannot be written, as it could not be read again: " + error.what());
+    }
+    files.Write(options.IniFileName, text, Flush::Yes);
+}
+
+bool CreateIniFile(const COptions& options, FileStore& files, char decimalMark) {
+    return files.Create(options.IniFileName, IniText(options, decimalMark));
+}
+
+void ReadOptionsFile(COptions& options, const FileStore& files, MessageBoxes& boxes) {
+    ReadLines(BytesOf(options, files), options, boxes);
 }
 
 void ReadIniFile(COptions& options, FileStore& files, MessageBoxes& boxes, char decimalMark) {
-    if (CheckIniFile(options, files, boxes, decimalMark)) {
-        return;
+    if (MakeIniFile(options, files, boxes, decimalMark) == Passed) {
+        ReadOptionsFile(options, files, boxes);
     }
-    const std::string text = ReadText(options, files);
-    LineReader reader(text, options.IniFileName);
-    reader.Text();
-    COptions read = options;
-    ReadDrawingOptions(reader, read);
-    ReadOutputOptions(reader, read);
-    options = read;
+}
+
+void SaveIniFile(const COptions& options, FileStore& files, char decimalMark) {
+    if (files.Exists(options.IniFileName)) {
+        const std::string bytes = BytesOf(options, files);
+        if (!CanBeRead(bytes, options)) {
+            Keep(options, files, bytes, ".bak");
+        }
+    }
+    WriteIniFile(options, files, decimalMark);
+}
+
+void SetIniFileAside(const COptions& options, FileStore& files, char decimalMark) {
+    Replace(options, files, BytesOf(options, files), ".bad", decimalMark);
 }
 
 }  // namespace korvet

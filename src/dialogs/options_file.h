@@ -2,6 +2,7 @@
 #pragma once
 
 #include <stdexcept>
+#include <string_view>
 
 #include "core/file_store.h"
 #include "form/message_boxes.h"
@@ -15,20 +16,40 @@ class OptionsFileError : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-/// First line of a file that this version reads. Any other file is out of date and makes way for a new one.
+/// First line of a file that this version reads.
 inline constexpr const char* SettingsVersion = "3.b";
+
+/// Whether a file may be one that some version of this program has written: its first line is a version such
+/// as "3.a" or "2.14". Any other is of another program.
+bool MayBeOptionsFile(std::string_view bytes);
 
 /// Writes all 25 lines of the current values to options.IniFileName, in UTF-8 with CR LF. Numbers stand
 /// between blanks (a minus sign takes the place of the first) with `decimalMark`, texts are bare. Throws
-/// FileError; the old file is then whole.
+/// FileError, also for values that could not be read again; the old file is then whole.
 void WriteIniFile(const COptions& options, FileStore& files, char decimalMark);
 
-/// Reads options.IniFileName into `options`. A missing file is first written from the values that `options`
-/// has; one of another version too, after message 116, and the old one is kept under its name with ".bak"
-/// behind. When that can't be done, a plain box says why and `options` keeps its values for this run. Numbers
-/// may have a point or a comma, lines may end in CR LF or LF. Throws OptionsFileError for a line that
-/// can't be used and FileError for a file that can't be read or has more than 64 KiB; `options` and the file
-/// then stay as they are.
+/// The same where there is no file yet: false, and nothing is written, when there is one. Throws FileError.
+bool CreateIniFile(const COptions& options, FileStore& files, char decimalMark);
+
+/// Reads options.IniFileName into `options` and writes nothing. Numbers may have a point or a comma, lines
+/// may end in CR LF or LF. A layer name that no drawing can have gives way to the built-in one, after a
+/// message. Throws OptionsFileError for a line that can't be used, the first line of another version among
+/// them, and FileError for a file that can't be read or has more than 64 KiB; `options` then stays as it is.
+void ReadOptionsFile(COptions& options, const FileStore& files, MessageBoxes& boxes);
+
+/// The same for the program's own settings file. A missing one is first written from the values that
+/// `options` has; one that another version has written too, after message 116, and the old one is kept under
+/// its name with ".bak" behind, ".bak2" and so on when there is one. When that can't be done, a plain box
+/// says why and `options` keeps its values for this run. Programs that start at once lose nothing.
 void ReadIniFile(COptions& options, FileStore& files, MessageBoxes& boxes, char decimalMark);
+
+/// Writes the current values when the user asks for it. A file that this version can't read, as one that
+/// could not be kept at the start, is first kept as ReadIniFile would. Throws FileError; the file is then as
+/// it was.
+void SaveIniFile(const COptions& options, FileStore& files, char decimalMark);
+
+/// Keeps the settings file under its name with ".bad" behind, ".bad2" and so on when there is one, and writes
+/// the current values in its place. Throws FileError; the settings file is then as it was.
+void SetIniFileAside(const COptions& options, FileStore& files, char decimalMark);
 
 }  // namespace korvet

@@ -77,5 +77,21 @@ TEST(TextEncoding, TheBeginningOfATextEndsWithAWholeCharacter) {
     EXPECT_EQ(Beginning("\xE2\x82\xAC", 1), "");
 }
 
+TEST(TextEncoding, ValidTextReplacesEachByteThatIsNone) {
+    const std::string valid = "a\x01 \xC3\xA9 \xE2\x82\xAC \xF0\x9F\x98\x80";
+    EXPECT_EQ(ValidText(valid), valid);
+    EXPECT_EQ(ValidText("a\xE2\x82"), "a\xEF\xBF\xBD\xEF\xBF\xBD");
+    EXPECT_EQ(ValidText("\xFFz\xC0\x80"), "\xEF\xBF\xBDz\xEF\xBF\xBD\xEF\xBF\xBD");
+    EXPECT_EQ(ValidText(""), "");
+}
+
+TEST(TextEncoding, AnExcerptIsOfWholeCharacters) {
+    EXPECT_EQ(Excerpt("short"), "short");
+    EXPECT_EQ(Excerpt(std::string(500, 'x')).size(), 200U);
+    std::string text(199, 'x');
+    text += "\xC3\xA9 and more";
+    EXPECT_EQ(Excerpt(text), std::string(199, 'x'));
+}
+
 }  // namespace
 }  // namespace korvet

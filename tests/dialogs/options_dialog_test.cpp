@@ -259,6 +259,9 @@ TEST_F(GlobalOptions, SaveWritesNothingWhenABoxIsBad) {
     EXPECT_TRUE(files.files.empty());
 }
 
+constexpr const char* LayerMarks =
+    "A layer name cannot hold control characters nor any of < > / \\ \" : ; ? * | = `";
+
 struct BadOption {
     const char* name;
     std::function<void(OptionsDialog&)> spoil;
@@ -292,6 +295,10 @@ const std::vector<BadOption> BadOptions = {
     {"border", [](auto& d) { d.txtDXFBorderLayer.text = ""; }, "No layer name for Border",
      "txtDXFBorderLayer", 4},
     {"dimension", [](auto& d) { d.txtDXFDimensionLayer.text = ""; }, "No layer name for Border",
+     "txtDXFDimensionLayer", 4},
+    {"cut with a mark", [](auto& d) { d.txtDXFCutLayer.text = "a/b"; }, LayerMarks, "txtDXFCutLayer", 4},
+    {"fold with a bell", [](auto& d) { d.txtDXFFoldLayer.text = "a\x07"; }, LayerMarks, "txtDXFFoldLayer", 4},
+    {"dimension with a mark", [](auto& d) { d.txtDXFDimensionLayer.text = "`"; }, LayerMarks,
      "txtDXFDimensionLayer", 4},
     {"dxf size 0", [](auto& d) { d.txtDXFTextSize.text = "0"; }, "DXF Text size not valid", "txtDXFTextSize",
      4},

@@ -138,7 +138,7 @@ TEST_F(OptionsFile, AMissingFileBecomesTheDefaultsInSilence) {
 }
 
 TEST_F(OptionsFile, AnotherVersionMakesWayAfterAMessageAndIsKeptBeside) {
-    for (const char* old : {"3.a\r\n 99 \r\n", "", "3.b2\r\n", "settings\n", "x"}) {
+    for (const char* old : {"3.a\r\n 99 \r\n", "3.b2\r\n", " 2.14 \n", "3.bx"}) {
         ui.messages.clear();
         files.files = {{Path, old}};
         files.writes.clear();
@@ -157,6 +157,111 @@ TEST_F(OptionsFile, AnotherVersionMakesWayAfterAMessageAndIsKeptBeside) {
         EXPECT_EQ(files.writes[1].flush, Flush::Yes);
         EXPECT_EQ(options.DefaultSegs, 24);
     }
+}
+
+TEST_F(OptionsFile, WhatIsReplacedIsKeptUnderANewNameEachTime) {
+    const std::string bak = std::string(Path) + ".bak";
+    files.files = {{Path, "3.a\r\nfirst"}, {bak, "of another time"}};
+    Read();
+    files.files[Path] = "3.a\r\nsecond";
+    Read();
+    EXPECT_EQ(files.files[bak], "of another time");
+    EXPECT_EQ(files.files[bak + "2"], "3.a\r\nfirst");
+    EXPECT_EQ(files.files[bak + "3"], "3.a\r\nsecond");
+    EXPECT_EQ(files.files[Path], Joined(DefaultLines()));
+}
+
+TEST_F(OptionsFile, AFileThatNoVersionHasWrittenIsNotReplaced) {
+    for (const char* foreign : {"", "settings\n", "x", "[General]\n", "Korvet Development-3.3.3\r\n", "3\r\n",
+                                ".b", "3.", "3.b\xC3\xA4", "3.123456789"}) {
+        files.files = {{Path, foreign}};
+        options.DefaultSegs = 77;
+        EXPECT_THROW(Read(), OptionsFileError) << foreign;
+        EXPECT_EQ(files.files, (std::map<std::string, std::string>{{Path, foreign}}));
+        EXPECT_EQ(options.DefaultSegs, 77);
+    }
+}
+
+/// A store in which another program puts its own file as soon as a copy of the old one has been made.
+TEST_F(OptionsFile, WhatAnotherProgramHasWrittenMeanwhileStays) {
+    std::vector<std::string> lines = DefaultLines();
+    lines[1] = " 48 ";
+    files.files = {{Path, "3.a\r\n"}};
+    files.afterWrite = [&](const std::string& path) {
+        if (path.ends_with(".bak")) {
+            files.files[Path] = Joined(lines);
+        }
+    };
+    Read();
+    EXPECT_EQ(options.DefaultSegs, 48);
+    EXPECT_EQ(files.files[Path], Joined(lines));
+    EXPECT_EQ(files.files[std::string(Path) + ".bak"], "3.a\r\n");
+}
+
+TEST_F(OptionsFile, ReadingForABatchRunWritesNothing) {
+    for (const char* text : {"3.a\r\n", "", "shopping list"}) {
+        files.files = {{Path, text}};
+        EXPECT_THROW(ReadOptionsFile(options, files, ui), OptionsFileError);
+        EXPECT_TRUE(files.writes.empty());
+    }
+    EXPECT_THROW(ReadOptionsFile(options, MemoryFileStore(), ui), FileError);
+    EXPECT_TRUE(ui.messages.empty());
+}
+
+TEST_F(OptionsFile, ALayerNameThatNoDrawingHasGivesWayToTheBuiltInOne) {
+    std::vector<std::string> lines = DefaultLines();
+    lines[12] = "fold|lines";
+    lines[15] = "a\x1b[2J";
+    files.files[Path] = Joined(lines);
+    options.DXFFoldLayer = "before";
+    Read();
+    EXPECT_EQ(options.DXFFoldLayer, "FoldLayer");
+    EXPECT_EQ(options.DXFDimensionLayer, "DimensionLayer");
+    EXPECT_EQ(options.DXFCutLayer, "CutLayer");
+    ASSERT_EQ(ui.messages.size(), 2U);
+    EXPECT_EQ(
+        ui.messages[0].text,
+        std::string(Path) + ", line 13: \"fold|lines\" cannot be the name of a layer: FoldLayer is used");
+    EXPECT_EQ(ui.messages[1].text.find('\x1b'), std::string::npos);
+}
+
+TEST_F(OptionsFile, AMessageShowsLittleOfTheFile) {
+    EXPECT_LT(ErrorWithLine(2, std::string(50000, 'x')).size(), 300U);
+}
+
+TEST_F(OptionsFile, WhatCouldNotBeReadAgainIsNotWritten) {
+    options.DXFTextLayer = std::string(70000, 'x');
+    EXPECT_THROW(WriteIniFile(options, files, '.'), FileError);
+    options = COptions();
+    options.IniFileName = Path;
+    options.PrintXCalibration = 0;
+    EXPECT_THROW(WriteIniFile(options, files, '.'), FileError);
+    EXPECT_TRUE(files.files.empty());
+}
+
+TEST_F(OptionsFile, SavingKeepsWhatCouldNotBeKeptAtTheStart) {
+    const std::string bak = std::string(Path) + ".bak";
+    for (const char* old : {"3.a\r\n", "3.b\r\nspoilt", "of another program"}) {
+        files.files = {{Path, old}};
+        files.unwritable = {bak};
+        EXPECT_THROW(SaveIniFile(options, files, '.'), FileError);
+        EXPECT_EQ(files.files[Path], old);
+        files.unwritable.clear();
+        SaveIniFile(options, files, '.');
+        EXPECT_EQ(files.files[bak], old);
+        EXPECT_EQ(files.files[Path], Joined(DefaultLines()));
+    }
+    files.files = {{Path, Joined(DefaultLines())}};
+    SaveIniFile(options, files, '.');
+    EXPECT_EQ(files.files.size(), 1U) << "an ordinary save keeps nothing beside";
+}
+
+TEST_F(OptionsFile, AFileSetAsideIsKeptUnderANewName) {
+    files.files = {{Path, "3.b\r\nspoilt"}, {std::string(Path) + ".bad", "older"}};
+    SetIniFileAside(options, files, '.');
+    EXPECT_EQ(files.files[std::string(Path) + ".bad"], "older");
+    EXPECT_EQ(files.files[std::string(Path) + ".bad2"], "3.b\r\nspoilt");
+    EXPECT_EQ(files.files[Path], Joined(DefaultLines()));
 }
 
 TEST_F(OptionsFile, TheVersionLineMayStandBetweenBlanks) {

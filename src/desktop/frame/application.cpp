@@ -1,7 +1,9 @@
 #include "desktop/frame/application.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileInfo>
+#include <QStandardPaths>
 #include <QTimer>
 
 #include "core/constants.h"
@@ -58,6 +60,12 @@ struct Application {
     HelpWindow help{HelpWindow::FileBesideProgram(), SketchOfPage};
 };
 
+/// Where programs keep what belongs to their user; empty when it can't be made.
+std::string ConfigurationFolder() {
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
+    return QDir().mkpath(folder) ? folder.toStdString() : std::string();
+}
+
 /// A caption is the file's name for later saves, so it must not hang on the current folder.
 QStringList WholeNames(QStringList files) {
     for (QString& file : files) {
@@ -73,7 +81,10 @@ int RunApplication(const QStringList& files) {
     QApplication::setWindowIcon(ApplicationIcon());
     Application application;
     application.ui.context = &application.context;
-    if (SetupStartup(application.context, application.settings)) {
+    application.files.onPartedNames = [&application](const std::string& path) {
+        ShowPlain(application.ui, PartedNamesText(path));
+    };
+    if (SetupStartup(application.context, application.settings, ConfigurationFolder)) {
         return 1;
     }
     MainWindow window(application.context, application.help, application.settings);
