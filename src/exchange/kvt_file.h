@@ -44,6 +44,9 @@ struct KvtControls {
     std::vector<std::optional<bool>> optFlushSide;
 };
 
+/// More dimensions than anybody sets. A file that holds more is refused.
+inline constexpr std::size_t MostDimensions = 10000;
+
 struct CKvtFile {
     std::string Comment1;
     std::string Comment2;
@@ -70,6 +73,10 @@ struct CKvtFile {
     /// these.
     std::optional<BranchOptions> Branch;
 
+    /// After loading such a fitting: the file ends before thicknesses and join, as files of other programs
+    /// do.
+    bool BranchMissing = false;
+
     /// Set for an imported mesh, before loading too: its files hold the mesh itself.
     std::optional<ImportedMesh> Mesh;
     CViewPoint ViewPoint;
@@ -81,7 +88,7 @@ struct CKvtFile {
     [[nodiscard]] std::string Compose(char decimalMark) const;
 
     /// Composes the file and puts it in the place of FileName in one step, flushed to the disk. Throws
-    /// FileError.
+    /// FileError, also for a file that LoadFile would not read again.
     void SaveFile(FileStore& files, char decimalMark) const;
 
     /// Reads FileName from the header to the comments into the members; Controls must have the window's
@@ -92,6 +99,13 @@ struct CKvtFile {
 
     /// The same from the text of a file.
     void Parse(const std::string& text, int defaultSegs);
+
+    /// Sees to it that the bytes can be loaded into a file with the controls and sections of this one. Throws
+    /// FileError.
+    void RequireReadable(const std::string& bytes) const;
+
+    /// Whether the file that was read is of a later version than this program writes.
+    [[nodiscard]] bool IsOfLaterVersion() const;
 
     /// Reads only the header of FileName: Product, the version and Category. For choosing the window.
     void ReadHeader(const FileStore& files);

@@ -143,6 +143,11 @@ class KvtLines {
                                  std::string(missing) + "\"");
     }
 
+    /// Refuses the line that was read last.
+    [[noreturn]] void RefuseLine(const std::string& why) const {
+        throw ParameterFileError("line " + std::to_string(number_) + ": " + why);
+    }
+
   private:
     template <typename T>
     [[noreturn]] T Refuse(std::string_view line, const std::string& wanted) const {
@@ -150,8 +155,7 @@ class KvtLines {
             throw ParameterFileError("line " + std::to_string(number_ + 1) + ": the file ends where " +
                                      wanted + " should stand");
         }
-        throw ParameterFileError("line " + std::to_string(number_) + ": " + Quoted(line) + " is not " +
-                                 wanted);
+        RefuseLine(Quoted(line) + " is not " + wanted);
     }
 
     std::string_view rest_;
@@ -294,6 +298,9 @@ void ReadDimensions(KvtLines& lines, CKvtFile& file) {
                           &dimension.SurfaceNo2}) {
             *part = lines.ReadInteger(Lowest, Highest);
         }
+        if (dimensions.Count() == MostDimensions) {
+            lines.RefuseLine("there are more than " + std::to_string(MostDimensions) + " dimensions");
+        }
         dimensions.Add(dimension);
     }
     if (dimensions.Count() > 0) {
@@ -311,12 +318,12 @@ void ReadComments(KvtLines& lines, CKvtFile& file) {
     }
 }
 
-/// Stands behind the comments, where programs that do not know it have stopped reading. Older files end
-/// there.
-void ReadBranchMaterial(KvtLines& lines, CPatternSettings& settings, BranchOptions& branch) {
+/// Stands behind the comments, where programs that do not know it have stopped reading. Their own files end
+/// there: false for such a one.
+bool ReadBranchMaterial(KvtLines& lines, CPatternSettings& settings, BranchOptions& branch) {
     branch = BranchOptions();
     if (!lines.SkipBlank()) {
-        return;
+        return false;
     }
     lines.Expect("Start Branch Material");
     settings.ThicknessA = lines.ReadNumber();
@@ -324,6 +331,7 @@ void ReadBranchMaterial(KvtLines& lines, CPatternSettings& settings, BranchOptio
     branch.join = static_cast<BranchJoin>(lines.ReadInteger(SetInJoin, MeanToMeanJoin));
     branch.heelCompensation = lines.ReadBoolean();
     lines.Expect("End Branch Material");
+    return true;
 }
 
 /// Stands behind the comments too. Files of programs that do not know it end there, and hold no mesh.
@@ -380,12 +388,30 @@ void CKvtFile::Parse(const std::string& text, int defaultSegs) {
     ReadLabel(lines, *this);
     ReadDimensions(lines, *this);
     ReadComments(lines, *this);
-    if (Branch) {
-        ReadBranchMaterial(lines, PatternSettings, *Branch);
-    }
+    BranchMissing = Branch && !ReadBranchMaterial(lines, PatternSettings, *Branch);
     if (Mesh) {
         ReadMesh(lines, *Mesh);
     }
+}
+
+void CKvtFile::RequireReadable(const std::string& bytes) const {
+    CKvtFile again = *this;
+    try {
+        if (bytes.size() > LargestFile) {
+            throw ParameterFileError("it is larger than " + std::to_string(LargestFile) + " bytes");
+        }
+        again.Parse(DecodeText(bytes), MinSegs);
+    } catch (const ParameterFileError& error) {
+        throw FileError(FileName + " cannot be written, as it could not be opened again: " + error.what());
+    }
+}
+
+bool CKvtFile::IsOfLaterVersion() const {
+    std::string digits;
+    for (const int digit : {VersionNo, SubVersion, SubVersionIndex}) {
+        digits += (digits.empty() ? "" : ".") + std::to_string(digit);
+    }
+    return digits > ProgramVersion;
 }
 
 void CKvtFile::LoadFile(const FileStore& files, int defaultSegs) {

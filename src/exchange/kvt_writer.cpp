@@ -196,7 +196,9 @@ std::string CKvtFile::Compose(char decimalMark) const {
 }
 
 void CKvtFile::SaveFile(FileStore& files, char decimalMark) const {
-    files.Write(FileName, EncodeText(Compose(decimalMark)), Flush::Yes);
+    const std::string bytes = EncodeText(Compose(decimalMark));
+    RequireReadable(bytes);
+    files.Write(FileName, bytes, Flush::Yes);
 }
 
 }  // namespace korvet

@@ -1,5 +1,6 @@
 #include "frame/new_fitting.h"
 
+#include "core/text_encoding.h"
 #include "frame/catalogue.h"
 #include "window/saving.h"
 
@@ -22,8 +23,9 @@ Outcome RequireFitting(WindowContext& context, const std::string& path, const st
     if (FindCategory(category) != nullptr) {
         return Passed;
     }
-    const std::string fault =
-        category.empty() ? "the fitting is missing" : "there is no fitting \"" + category + '"';
+    const std::string fault = category.empty()
+                                  ? "the fitting is missing"
+                                  : "there is no fitting \"" + std::string(Excerpt(category)) + '"';
     ShowLoadError(context, path, ParameterFileError("line 2: " + fault));
     return Refused;
 }

@@ -190,6 +190,7 @@ Outcome CFittingWindow::FillFromFile(const std::string& path) {
         const CKvtFile file = LoadFitting(*this, path);
         comment1 = file.Comment1;
         comment2 = file.Comment2;
+        ShowLoadNotes(context_, file);
         return Passed;
     } catch (const std::exception& error) {
         ShowLoadError(context_, path, error);

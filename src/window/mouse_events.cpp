@@ -207,7 +207,10 @@ void CFittingWindow::MeasureAt() {
 
 /// Two picks of the same place make no dimension.
 void CFittingWindow::AddDimensionAt() {
-    if (Distance3D(nearest1->ScreenPoint, nearest2->ScreenPoint) > 0) {
+    if (dimensions->Count() == MostDimensions) {
+        ShowUserError(context_.ui,
+                      "A drawing holds at most " + std::to_string(MostDimensions) + " dimensions");
+    } else if (Distance3D(nearest1->ScreenPoint, nearest2->ScreenPoint) > 0) {
         dimensions->Add({.SurfaceNo2 = nearest2->surfaceNo,
                          .SurfaceNo1 = nearest1->surfaceNo,
                          .ListNo2 = nearest2->ListNo,

@@ -151,6 +151,20 @@ void ShowLoadError(WindowContext& context, const std::string& path, const std::e
     ShowPlain(context.ui, context.Message(ErrorLoading), FaultOf(path, error));
 }
 
+void ShowLoadNotes(WindowContext& context, const CKvtFile& file) {
+    if (file.IsOfLaterVersion()) {
+        ShowPlain(context.ui,
+                  "This file is of the later version " + Printable(Excerpt(file.Version)) +
+                      ": what this program does not know of it is left out",
+                  Printable(file.FileName));
+    }
+    if (file.BranchMissing) {
+        ShowPlain(context.ui,
+                  "The thicknesses and the join of the branch are not in this file: the settings of a new "
+                  "window are used");
+    }
+}
+
 Outcome SaveFitting(CFittingWindow& window, const std::string& path) {
     const CObjectDisplay& display = window.display;
     WindowContext& context = window.Context();

@@ -37,6 +37,9 @@ void ShowHeaderError(MessageBoxes& boxes, const std::string& path, const std::ex
 /// faulty header, before message 109. Each names the file, and shows only what can be seen of its contents.
 void ShowLoadError(WindowContext& context, const std::string& path, const std::exception& error);
 
+/// Says what a file that has been loaded does not hold for this program, if there is such a thing.
+void ShowLoadNotes(WindowContext& context, const CKvtFile& file);
+
 /// Lets a window be closed: asks whether its model is to be saved, and saves it. Refuses when the window is
 /// to stay open: after Cancel, in the question or the file dialog, or when it could not be saved.
 Outcome ConfirmSave(CFittingWindow& window);

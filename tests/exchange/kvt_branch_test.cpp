@@ -61,7 +61,9 @@ TEST(KvtBranch, AFileWithoutItIsMeanToMeanOfNoThickness) {
         EXPECT_EQ(file.PatternSettings.ThicknessB, 0);
         EXPECT_EQ(file.Branch->join, MeanToMeanJoin);
         EXPECT_FALSE(file.Branch->heelCompensation);
+        EXPECT_TRUE(file.BranchMissing);
     }
+    EXPECT_FALSE(Read(BranchFile().Compose('.')).BranchMissing);
 }
 
 TEST(KvtBranch, AReaderThatDoesNotKnowItStopsAtTheComments) {
@@ -69,6 +71,7 @@ TEST(KvtBranch, AReaderThatDoesNotKnowItStopsAtTheComments) {
     file.Parse(BranchFile().Compose('.'), 24);
     EXPECT_EQ(file.PatternSettings.ThicknessA, 0);
     EXPECT_FALSE(file.Branch.has_value());
+    EXPECT_FALSE(file.BranchMissing);
 }
 
 TEST(KvtBranch, FaultsAreNamed) {
