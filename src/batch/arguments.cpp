@@ -1,6 +1,7 @@
 #include "batch/arguments.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <array>
 #include <filesystem>
 #include <map>
@@ -8,12 +9,15 @@
 #include <system_error>
 
 #include "core/number_text.h"
+#include "core/text_encoding.h"
+#include "platform/growing_file.h"
 #include "printing/printers.h"
 
 namespace korvet::batch {
 namespace {
 
 constexpr int LargestPicture = 20000;
+constexpr std::int64_t MostPixels = 200'000'000;
 constexpr int MostSurfaces = 32767;
 constexpr int MostPoints = 1'000'000'000;
 
@@ -22,11 +26,13 @@ PictureSize ParseSize(const std::string& text) {
     if (cross != std::string::npos) {
         const auto width = ParseWholeNumber(text.substr(0, cross), 1, LargestPicture);
         const auto height = ParseWholeNumber(text.substr(cross + 1), 1, LargestPicture);
-        if (width && height) {
+        if (width && height && std::int64_t{*width} * *height <= MostPixels) {
             return {*width, *height};
         }
     }
-    throw UsageError("--size takes WIDTHxHEIGHT in pixels, each from 1 to 20000, not \"" + text + "\"");
+    throw UsageError(
+        "--size takes WIDTHxHEIGHT in pixels, each from 1 to 20000 and 200 million in all, not \"" + text +
+        "\"");
 }
 
 std::pair<std::string, std::string> ParseSet(const std::string& text) {
@@ -34,7 +40,7 @@ std::pair<std::string, std::string> ParseSet(const std::string& text) {
     if (equals == std::string::npos || equals == 0) {
         throw UsageError("--set takes NAME=VALUE, not \"" + text + "\"");
     }
-    return {text.substr(0, equals), text.substr(equals + 1)};
+    return {text.substr(0, equals), DecodeText(text.substr(equals + 1))};
 }
 
 /// "surface list point surface list point", as a picked dimension would store them.
@@ -106,9 +112,12 @@ class Claims {
     /// everybody.
     void Claim(const std::string& path, const std::string& owner, std::size_t input) {
         std::error_code ignored;
-        const std::filesystem::path whole = std::filesystem::weakly_canonical(path, ignored);
-        if (std::filesystem::exists(whole, ignored) && !std::filesystem::is_regular_file(whole, ignored)) {
-            return;
+        std::filesystem::path whole = std::filesystem::weakly_canonical(path, ignored);
+        if (std::filesystem::exists(whole, ignored)) {
+            if (!std::filesystem::is_regular_file(whole, ignored)) {
+                return;
+            }
+            whole = FirstNameOf(whole);
         }
         const auto [place, isNew] = claims_.try_emplace(whole.string(), owner, input);
         auto& [firstOwner, firstInput] = place->second;
@@ -120,6 +129,19 @@ class Claims {
     }
 
   private:
+    /// The first name under which a file with several names (hard links) has been claimed.
+    std::filesystem::path FirstNameOf(const std::filesystem::path& file) {
+        std::error_code ignored;
+        if (std::filesystem::hard_link_count(file, ignored) < 2) {
+            return file;
+        }
+        const auto found = std::find_if(linked_.begin(), linked_.end(), [&](const auto& other) {
+            return std::filesystem::equivalent(file, other, ignored);
+        });
+        return found != linked_.end() ? *found : linked_.emplace_back(file);
+    }
+
+    std::vector<std::filesystem::path> linked_;  ///< claimed files that have further names
     std::map<std::string, std::pair<std::string, std::size_t>> claims_;
 };
 
@@ -152,8 +174,11 @@ void CheckOutputs(const Arguments& arguments) {
         claim(arguments.table, "the table" + of, number);
         claim(arguments.pdf, "the PDF" + of, number);
         const bool oneJson = arguments.json.find("{name}") == std::string::npos;
-        claim(arguments.json == "-" ? "" : arguments.json, oneJson ? "the JSON" : "the JSON" + of,
-              oneJson ? Claims::Whole : number);
+        if (arguments.json != "-" && !arguments.json.empty()) {
+            for (const std::string& json : {arguments.json, GrowingFile::PartOf(arguments.json)}) {
+                claim(json, oneJson ? "the JSON" : "the JSON" + of, oneJson ? Claims::Whole : number);
+            }
+        }
     }
 }
 

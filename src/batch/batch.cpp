@@ -1,11 +1,13 @@
 #include "batch/batch.h"
 
 #include <iostream>
+#include <optional>
 #include <stdexcept>
 
 #include "batch/batch_ui.h"
 #include "batch/catalogue_text.h"
 #include "batch/input_run.h"
+#include "batch/report_output.h"
 #include "batch/set_values.h"
 #include "dialogs/options_file.h"
 #include "platform/disk_files.h"
@@ -30,12 +32,16 @@ class BatchRun {
             return Failed;
         }
         SetUpPrinter();
+        files_.onPartedNames = [this](const std::string& path) { ShowPlain(ui_, PartedNamesText(path)); };
         const std::vector<std::string> inputs = InputsOf(arguments_);
+        if (!arguments_.json.empty()) {
+            report_.emplace(arguments_.json, inputs.size());
+        }
         for (std::size_t i = 0; i < inputs.size(); ++i) {
             ui_.ShowProgress(i + 1, inputs.size(), inputs[i]);
             RunInput(inputs[i]);
         }
-        WriteReports();
+        Report([](ReportOutput& report) { report.Finish(); });
         ui_.ClearProgress();
         return status_;
     }
@@ -49,11 +55,10 @@ class BatchRun {
         ui_.BeginInput(arguments_.settings);
         options_.IniFileName = arguments_.settings;
         try {
-            // A mistyped name must not make a new file.
             if (!files_.Exists(options_.IniFileName)) {
                 throw FileError(options_.IniFileName + ": there is no such options file");
             }
-            ReadIniFile(options_, files_, ui_, context_.decimalMark);
+            ReadOptionsFile(options_, files_, ui_);
             return true;
         } catch (const std::exception& error) {
             Say(error.what());
@@ -84,38 +89,17 @@ class BatchRun {
         if (!run.Succeeded()) {
             Fail();
         }
-        if (!arguments_.json.empty()) {
-            Report(run.Report(), InputName(arguments_, input));
-        }
+        Report([&](ReportOutput& report) { report.Add(InputName(arguments_, input), run.Report()); });
     }
 
-    /// Keeps the JSON of one input, or writes it at once when each input has a file of its own.
-    void Report(const InputReport& report, const std::string& name) {
-        if (arguments_.json.find("{name}") != std::string::npos) {
-            WriteJson(OutputPath(arguments_.json, name), ReportJson(report) + "\n");
-        } else {
-            reports_.append(reports_.empty() ? "" : ",\n").append(ReportJson(report));
-        }
-    }
-
-    void WriteReports() {
-        if (!reports_.empty()) {
-            const bool several = arguments_.inputs.size() > 1;
-            WriteJson(arguments_.json, (several ? "[" : "") + reports_ + (several ? "]" : "") + "\n");
-        }
-    }
-
-    void WriteJson(const std::string& path, const std::string& text) {
+    /// Does a step of the report where one is asked for, and says how it failed.
+    template <typename Step>
+    void Report(Step step) {
         try {
-            if (path == "-") {
-                std::cout << text << std::flush;
-                if (!std::cout) {
-                    throw FileError("the standard output cannot be written");
-                }
-            } else {
-                files_.Write(path, text, Flush::No);
+            if (report_) {
+                step(*report_);
             }
-        } catch (const FileError& error) {
+        } catch (const std::exception& error) {
             Say(error.what());
             Fail();
         }
@@ -137,7 +121,7 @@ class BatchRun {
     CPrintDialog printDialog_{printers_};
     WindowContext context_ = {
         options_, ui_, files_, clock_, frame_, patternSettingsDialog_, printDialog_, SystemDecimalMark()};
-    std::string reports_;
+    std::optional<ReportOutput> report_;  ///< where the command line asks for JSON
     int status_ = Done;
 };
 

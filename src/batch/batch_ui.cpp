@@ -21,6 +21,7 @@ void BatchUi::BeginInput(const std::string& name) {
     name_ = name;
     messages_.clear();
     leaveOutRepeats_ = false;
+    lacksSomethingAsked_ = false;
 }
 
 void BatchUi::ClearProgress() {
@@ -94,6 +95,7 @@ void BatchUi::Tick(CheckBox& box, std::optional<bool> wanted) {
     if (box.enabled) {
         box.checked = *wanted;
     } else if (*wanted) {
+        lacksSomethingAsked_ = true;
         PrintLine(name_ + ": there is nothing for \"" + box.caption + "\" in this view");
     }
 }

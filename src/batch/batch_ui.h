@@ -25,6 +25,9 @@ class BatchUi : public UserInterface {
     /// The messages of the input so far, in their order. News of success are not among them.
     [[nodiscard]] const std::vector<MessageBox>& Messages() const { return messages_; }
 
+    /// Whether the command line has asked the export of this input for something that its view has not.
+    [[nodiscard]] bool LacksSomethingAsked() const { return lacksSomethingAsked_; }
+
     /// Rubs out the progress line and writes one line to the standard error.
     void PrintLine(const std::string& text);
 
@@ -57,6 +60,7 @@ class BatchUi : public UserInterface {
     std::string name_;
     std::vector<MessageBox> messages_;
     bool leaveOutRepeats_ = false;
+    bool lacksSomethingAsked_ = false;
     bool progressShown_ = false;
 };
 

@@ -1,5 +1,7 @@
 #include "batch/input_run.h"
 
+#include <new>
+
 #include "batch/set_values.h"
 #include "frame/catalogue.h"
 #include "frame/new_fitting.h"
@@ -20,6 +22,9 @@ void InputRun::Run() {
         succeeded_ = outputs_->Write() == Passed;
     } catch (const UsageError&) {
         throw;
+    } catch (const std::bad_alloc&) {
+        outputs_.reset();
+        ShowPlain(ui_, "There is not enough memory for this");
     } catch (const std::exception& error) {
         outputs_.reset();
         ShowPlain(ui_, error.what());
@@ -27,12 +32,11 @@ void InputRun::Run() {
 }
 
 InputReport InputRun::Report() const {
-    InputReport report = {input_, category_, window_.get(), {}, ui_.Messages(), true, "[]", "[]"};
+    InputReport report = {input_, category_, window_.get(), {}, ui_.Messages(), true, nullptr};
     if (outputs_) {
         report.labels = outputs_->Labels();
         report.refused = !outputs_->Taken();
-        report.model = outputs_->Model();
-        report.pattern = outputs_->Pattern();
+        report.surfaces = outputs_->Surfaces();
     }
     return report;
 }

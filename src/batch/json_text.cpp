@@ -1,17 +1,42 @@
 #include "batch/json_text.h"
 
+#include <algorithm>
 #include <array>
 
+#include "core/checked.h"
 #include "core/number_text.h"
 #include "core/text_encoding.h"
 
 namespace korvet::batch {
 namespace {
 
+/// Gathers small pieces of a text into large ones.
+class Gathered {
+  public:
+    explicit Gathered(const TextSink& sink) : sink_(sink) {}
+
+    void Put(std::string_view piece) {
+        constexpr std::size_t Enough = 1U << 18U;
+        text_ += piece;
+        if (text_.size() >= Enough) {
+            HandOver();
+        }
+    }
+
+    void HandOver() {
+        sink_(text_);
+        text_.clear();
+    }
+
+  private:
+    const TextSink& sink_;
+    std::string text_;
+};
+
 std::string Quoted(std::string_view text) {
     constexpr std::string_view Hex = "0123456789abcdef";
     std::string quoted = "\"";
-    for (const char c : text) {
+    for (const char c : ValidText(text)) {
         const auto byte = static_cast<unsigned char>(c);
         if (c == '"' || c == '\\') {
             quoted.append(1, '\\').append(1, c);
@@ -33,77 +58,109 @@ std::string_view BooleanText(bool value) {
     return value ? "true" : "false";
 }
 
-/// Items joined by commas between two brackets.
-template <typename Items, typename ToText>
-std::string ListJson(const Items& items, std::string_view separator, ToText toText) {
-    std::string text = "[";
+/// Puts items one by one, with commas between them, between two brackets.
+template <typename Items, typename PutItem>
+void PutList(Gathered& text, const Items& items, std::string_view separator, PutItem putItem) {
+    text.Put("[");
+    bool isFirst = true;
     for (const auto& item : items) {
-        text.append(text.size() > 1 ? separator : "").append(toText(item));
+        text.Put(isFirst ? "" : separator);
+        isFirst = false;
+        putItem(item);
     }
-    return text + "]";
+    text.Put("]");
 }
 
 std::string CoordinatesJson(const C3DPoint& point) {
     return ShortestText(point.x) + "," + ShortestText(point.y) + "," + ShortestText(point.z);
 }
 
-std::string PointsJson(const PointList& list) {
+void PutPoints(Gathered& text, const PointList& list) {
     if (!list) {
-        return "null";
+        text.Put("null");
+        return;
     }
-    return ListJson(*list, ",", [](const C3DPoint& point) {
-        return "[" + CoordinatesJson(point) + "," + std::to_string(point.Flag) + "]";
+    PutList(text, *list, ",", [&text](const C3DPoint& point) {
+        text.Put("[" + CoordinatesJson(point) + "," + std::to_string(point.Flag) + "]");
     });
 }
 
-std::string SurfaceJson(const CRuleSurf& surface) {
-    const std::array<std::pair<std::string_view, const PointList*>, 5> lists = {
-        {{"List1", &surface.List1},
-         {"List2", &surface.List2},
-         {"List3", &surface.List3},
-         {"LapList1", &surface.LapList1},
-         {"LapList2", &surface.LapList2}}};
-    std::string text = "{";
-    for (const auto& [name, list] : lists) {
-        text.append(Quoted(name)).append(": ").append(PointsJson(*list)).append(",\n  ");
+std::array<std::pair<std::string_view, const PointList*>, 5> ListsOf(const CRuleSurf& surface) {
+    return {{{"List1", &surface.List1},
+             {"List2", &surface.List2},
+             {"List3", &surface.List3},
+             {"LapList1", &surface.LapList1},
+             {"LapList2", &surface.LapList2}}};
+}
+
+void PutSurface(Gathered& text, const CRuleSurf& surface) {
+    text.Put("{");
+    for (const auto& [name, list] : ListsOf(surface)) {
+        text.Put(Quoted(name) + ": ");
+        PutPoints(text, *list);
+        text.Put(",\n  ");
     }
-    text.append("\"RefPoint\": ")
-        .append(surface.RefPoint ? "[" + CoordinatesJson(*surface.RefPoint) + "]" : "null")
-        .append(", \"RefPointDisplay\": ")
-        .append(BooleanText(surface.RefPointDisplay));
-    return text + "}";
+    text.Put("\"RefPoint\": ");
+    text.Put(surface.RefPoint ? "[" + CoordinatesJson(*surface.RefPoint) + "]" : "null");
+    text.Put(", \"RefPointDisplay\": ");
+    text.Put(BooleanText(surface.RefPointDisplay));
+    text.Put("}");
+}
+
+/// The surfaces of the model or of the pattern; none when there is no such thing.
+void PutSurfaces(Gathered& text, const CRuleSurfs* surfaces) {
+    PutList(text, surfaces != nullptr ? *surfaces : CRuleSurfs(), ",\n ",
+            [&text](const CRuleSurf& surface) { PutSurface(text, surface); });
 }
 
 std::string MessageJson(const MessageBox& message) {
     return "{\"title\": " + Quoted(message.title) + ", \"text\": " + Quoted(message.text) +
+           ", \"detail\": " + QuotedOrNull(message.detail) +
            ", \"box\": " + (message.box ? std::to_string(*message.box) : "null") + "}";
-}
-
-std::string LabelsJson(const InputReport& report) {
-    if (!report.labels) {
-        return "[]";
-    }
-    return ListJson(*report.labels, ", ", [](const CLabel& label) { return Quoted(label.LabelString); });
 }
 
 }  // namespace
 
-std::string SurfacesJson(const CRuleSurfs& surfaces) {
-    return ListJson(surfaces, ",\n ", SurfaceJson);
+void RequireFinite(const CRuleSurfs& surfaces) {
+    const auto require = [](const C3DPoint& point) {
+        for (const double coordinate : {point.x, point.y, point.z}) {
+            (void)Finite(coordinate, "a coordinate");
+        }
+    };
+    for (const CRuleSurf& surface : surfaces) {
+        for (const auto& [name, list] : ListsOf(surface)) {
+            if (*list) {
+                std::for_each((*list)->begin(), (*list)->end(), require);
+            }
+        }
+        if (surface.RefPoint) {
+            require(*surface.RefPoint);
+        }
+    }
 }
 
-std::string ReportJson(const InputReport& report) {
+void WriteReport(const InputReport& report, const TextSink& sink) {
     const CFittingWindow* window = report.window;
-    std::string text = "{\"file\": " + QuotedOrNull(DecodeText(report.file));
-    text += ",\n\"category\": " + QuotedOrNull(report.category);
-    text += ",\n\"window\": " + (window != nullptr ? Quoted(window->Row().window) : "null");
-    text += ",\n\"type\": " + (window != nullptr ? std::to_string(window->dtype + 1) : "null");
-    text += ",\n\"labels\": " + LabelsJson(report);
-    text += ",\n\"messages\": " + ListJson(report.messages, ",\n ", MessageJson);
-    text.append(",\n\"refused\": ").append(BooleanText(report.refused));
-    text += ",\n\"model\": " + report.model;
-    text += ",\n\"pattern\": " + report.pattern + "}";
-    return text;
+    const ModelAndPattern* surfaces = report.surfaces;
+    Gathered text(sink);
+    text.Put("{\"file\": " + QuotedOrNull(DecodeText(report.file)));
+    text.Put(",\n\"category\": " + QuotedOrNull(report.category));
+    text.Put(",\n\"window\": " + (window != nullptr ? Quoted(window->Row().window) : "null"));
+    text.Put(",\n\"type\": " + (window != nullptr ? std::to_string(window->dtype + 1) : "null"));
+    text.Put(",\n\"labels\": ");
+    PutList(text, report.labels ? *report.labels : CLabels(), ", ",
+            [&text](const CLabel& label) { text.Put(Quoted(label.LabelString)); });
+    text.Put(",\n\"messages\": ");
+    PutList(text, report.messages, ",\n ",
+            [&text](const MessageBox& message) { text.Put(MessageJson(message)); });
+    text.Put(",\n\"refused\": ");
+    text.Put(BooleanText(report.refused));
+    text.Put(",\n\"model\": ");
+    PutSurfaces(text, surfaces != nullptr ? &surfaces->model : nullptr);
+    text.Put(",\n\"pattern\": ");
+    PutSurfaces(text, surfaces != nullptr ? &surfaces->pattern : nullptr);
+    text.Put("}");
+    text.HandOver();
 }
 
 }  // namespace korvet::batch

@@ -1,8 +1,10 @@
 // The JSON that tells of one input.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "form/message_boxes.h"
@@ -18,15 +20,17 @@ struct InputReport {
     std::shared_ptr<const CLabels> labels;  ///< text block of the build that model and pattern come from
     std::vector<MessageBox> messages;
     bool refused = false;
-    std::string model;  ///< JSON lists of surfaces, "[]" when refused
-    std::string pattern;
+    const ModelAndPattern* surfaces = nullptr;  ///< null when refused
 };
 
-/// A list of surfaces as JSON: the points as [x, y, z, Flag], numbers with the fewest digits that read back.
-/// Throws ArithmeticError when a coordinate is not finite.
-std::string SurfacesJson(const CRuleSurfs& surfaces);
+/// Takes a text piece by piece.
+using TextSink = std::function<void(std::string_view)>;
 
-/// The object for one input.
-std::string ReportJson(const InputReport& report);
+/// Throws ArithmeticError when a coordinate is not finite: JSON has no word for it.
+void RequireFinite(const CRuleSurfs& surfaces);
+
+/// Hands the object for one input to the sink. A surface holds its points as [x, y, z, Flag], numbers with
+/// the fewest digits that read back. All of it is UTF-8, whatever the texts of the report are.
+void WriteReport(const InputReport& report, const TextSink& sink);
 
 }  // namespace korvet::batch

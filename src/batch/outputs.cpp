@@ -49,13 +49,13 @@ void Outputs::Show() {
 
 /// Model and pattern of a fresh fitting.
 Outcome Outputs::MakeJson() {
-    const std::optional<ModelAndPattern> made = window_.MakeModelAndPattern();
+    made_ = window_.MakeModelAndPattern();
     labels_ = window_.labels;
-    if (made) {
-        model_ = SurfacesJson(made->model);
-        pattern_ = SurfacesJson(made->pattern);
+    if (made_) {
+        RequireFinite(made_->model);
+        RequireFinite(made_->pattern);
     }
-    taken_ = made.has_value();
+    taken_ = made_.has_value();
     return RefusedIf(!taken_);
 }
 
@@ -97,7 +97,7 @@ Outcome Outputs::Export(const std::string& path, ExportMode mode) {
     const bool shown = std::exchange(requested, arguments_.diagonals.value_or(requested));
     const Outcome outcome = window_.Export(path, mode);
     requested = shown;
-    return outcome;
+    return RefusedIf(outcome || ui_.LacksSomethingAsked());
 }
 
 Outcome Outputs::WritePicture(const std::string& path, PictureFormat format) {

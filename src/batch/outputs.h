@@ -1,7 +1,8 @@
-// What comes out of one filled window: the JSON of its surfaces, files and pictures.
+// What comes out of one filled window: its surfaces, for the JSON, files and pictures.
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "batch/arguments.h"
@@ -31,9 +32,8 @@ class Outputs {
     /// The text block of the build that the JSON tells of, as far as it came; null without JSON.
     [[nodiscard]] const std::shared_ptr<const CLabels>& Labels() const { return labels_; }
 
-    /// Model and pattern as JSON lists of surfaces, "[]" when the window was refused.
-    [[nodiscard]] std::string Model() const { return taken_ ? model_ : "[]"; }
-    [[nodiscard]] std::string Pattern() const { return taken_ ? pattern_ : "[]"; }
+    /// Model and pattern that the JSON tells of; null without JSON and when the window was refused.
+    [[nodiscard]] const ModelAndPattern* Surfaces() const { return taken_ && made_ ? &*made_ : nullptr; }
 
   private:
     Outcome MakeJson();
@@ -52,8 +52,7 @@ class Outputs {
     CFittingWindow& window_;
     std::string name_;
     std::shared_ptr<const CLabels> labels_;
-    std::string model_ = "[]";
-    std::string pattern_ = "[]";
+    std::optional<ModelAndPattern> made_;
     bool taken_ = false;
     bool shown_ = false;  ///< the display holds the current view
 };

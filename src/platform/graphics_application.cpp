@@ -1,6 +1,7 @@
 #include "platform/graphics_application.h"
 
 #include <QGuiApplication>
+#include <iostream>
 #include <stdexcept>
 
 #include "platform/system_clock.h"
@@ -15,15 +16,19 @@ void EnsureGraphicsApplication() {
         return;
     }
 #if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");  // whatever is set for programs with windows
 #endif
     static int argumentCount = 1;
     static char programName[] = "korvet";
     static char* arguments[] = {programName, nullptr};
-    // What it says of a missing desktop at its start is no concern of a program that only makes pictures.
-    const auto handler = qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    // What it says of a missing desktop at its start is no concern of a program that only makes pictures, but
+    // for what ends the program.
+    const auto handler =
+        qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
+            if (type == QtFatalMsg) {
+                std::cerr << "korvet: " << text.toStdString() << std::endl;
+            }
+        });
     static const QGuiApplication application(argumentCount, arguments);
     qInstallMessageHandler(handler);
     HoldNumericLocale();

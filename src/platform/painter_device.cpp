@@ -47,6 +47,18 @@ QFont MakeFont(int pixels, FontFace face, bool bold) {
     return font;
 }
 
+/// A text as it is drawn: what has no picture, and would make a vector file unreadable, leaves a blank.
+QString DrawnText(const std::string& text) {
+    constexpr char16_t LastCharacter = 0xFFFD;
+    QString drawn = QString::fromStdString(text);
+    for (QChar& unit : drawn) {
+        if (unit.category() == QChar::Other_Control || unit.unicode() > LastCharacter) {
+            unit = QLatin1Char(' ');
+        }
+    }
+    return drawn;
+}
+
 }  // namespace
 
 QColor ColorOf(Color color) {
@@ -86,7 +98,7 @@ PixelSize PainterDevice::TextExtent(const std::string& text, double points) cons
     }
     const auto [width, isNew] = font.widths.try_emplace(text, 0);
     if (isNew) {
-        width->second = font.metrics.horizontalAdvance(QString::fromStdString(text));
+        width->second = font.metrics.horizontalAdvance(DrawnText(text));
     }
     return {width->second, font.metrics.height()};
 }
@@ -119,7 +131,7 @@ void PainterDevice::TextOut(const std::string& text, PixelPoint corner, const Te
     painter->setPen(ColorOf(color));
     painter->translate(corner.x, corner.y);
     painter->rotate(-font.lfEscapement / 10.0);
-    painter->drawText(QPointF(0, drawn.metrics.ascent()), QString::fromStdString(text));
+    painter->drawText(QPointF(0, drawn.metrics.ascent()), DrawnText(text));
     painter->restore();
 }
 

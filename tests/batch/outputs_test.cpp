@@ -93,8 +93,9 @@ TEST_F(OutputsTest, TheJsonIsOfOneConstructModelAndThenOneDevelopModel) {
     EXPECT_EQ(Write(), Passed);
     EXPECT_EQ(Fitting().constructed, 1);
     EXPECT_EQ(Fitting().developed, 1);
-    EXPECT_NE(outputs->Model().find("[5,3,9,1]"), std::string::npos) << outputs->Model();
-    EXPECT_NE(outputs->Pattern().find("[70,30,0,1]"), std::string::npos) << outputs->Pattern();
+    ASSERT_NE(outputs->Surfaces(), nullptr);
+    EXPECT_EQ(outputs->Surfaces()->model.Item(1).List2->Item(2).z, 9);
+    EXPECT_EQ(outputs->Surfaces()->pattern.Item(1).List2->Item(2).x, 70);
     ASSERT_TRUE(outputs->Labels());
 }
 
@@ -103,7 +104,7 @@ TEST_F(OutputsTest, ARefusedWindowHasNoSurfaces) {
     arguments.json = "-";
     EXPECT_EQ(Write(), Refused);
     EXPECT_FALSE(outputs->Taken());
-    EXPECT_EQ(outputs->Model(), "[]");
+    EXPECT_EQ(outputs->Surfaces(), nullptr);
     EXPECT_EQ(ui.Messages().size(), 1U);
 }
 

@@ -7,7 +7,7 @@ import subprocess
 import unittest
 import xml.etree.ElementTree
 
-from batch_program import CONE, CUT_CONE, DONE, PROGRAM, FolderTest, cone_file, run
+from batch_program import CONE, CUT_CONE, DONE, PROGRAM, REFUSED, WRONG_USAGE, FolderTest, cone_file, run, start
 
 
 class PictureTest(FolderTest):
@@ -129,12 +129,37 @@ class PictureTest(FolderTest):
             self.assertEqual((result.returncode, result.stdout, result.stderr), (DONE, b"", b""))
             self.assertEqual(self.names(), ["a"])
 
+    def test_the_environment_does_not_matter(self):
+        """A desktop's settings that can't be followed without a screen neither end the run nor spoil its report."""
+        bad = self.write("bad.Kvt", "x")
+        for platform in ("xcb", "wayland", "none"):
+            for kind in ("png", "svg"):
+                result = start(bad, self.write("a.Kvt", cone_file()), f"--{kind}", self.folder / f"{{name}}.{kind}",
+                               "--json", "-", environment={"QT_QPA_PLATFORM": platform, "DISPLAY": ""})
+                self.assertEqual((result.status, len(result.lines)), (REFUSED, 1))
+                self.assertEqual([report["refused"] for report in result.json], [True, False])
+                self.assertTrue((self.folder / f"a.{kind}").exists())
+
+    def test_control_characters_in_texts(self):
+        """A vector file can be read whatever the texts hold."""
+        texts = "a\x01b\x1bc\x7fd\x85e\ufffef\uffffg\t<&>"
+        path = self.write("in.Kvt", cone_file(Comment1=texts, Label=("0", "0", "0")))
+        out = self.folder / "out.svg"
+        self.assertEqual(run(path, "--svg", out).status, DONE)
+        root, _ = self.svg(out)
+        words = "".join(root.itertext())
+        self.assertIn("a b c d e f g <&>", words)
+
     def test_same_picture_every_time(self):
         for kind in ("png", "svg"):
             paths = [self.folder / f"{k}.{kind}" for k in range(2)]
             for path in paths:
                 run(*CONE, f"--{kind}", path)
             self.assertEqual(paths[0].read_bytes(), paths[1].read_bytes())
+
+    def test_most_pixels(self):
+        self.assertEqual(run(*CONE, "--size", "20000x10001", "--png", self.folder / "a.png").status, WRONG_USAGE)
+        self.assertEqual(self.names(), [])
 
     def test_largest_size(self):
         path = self.folder / "wide.png"

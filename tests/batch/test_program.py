@@ -191,6 +191,14 @@ class WrongUsageTest(FolderTest):
         self.wrong("a.Kvt", "--dxf", "a.Kvt")
         self.assertEqual((self.folder / "a.Kvt").read_bytes(), cone_file().encode())
 
+    def test_two_names_of_one_file(self):
+        self.write("a.Kvt", cone_file())
+        self.write("one", "x")
+        (self.folder / "two").hardlink_to(self.folder / "one")
+        (self.folder / "b.dxf").hardlink_to(self.folder / "a.Kvt")
+        self.wrong("a.Kvt", "--json", "one", "--dxf", "two", says="cannot be the DXF of a.Kvt and the JSON")
+        self.wrong("a.Kvt", "--dxf", "b.dxf")
+
 
 class SeveralInputsTest(FolderTest):
     def test_refused_input_stops_nothing_else(self):

@@ -196,18 +196,30 @@ class SettingsFileTest(FolderTest):
             path = self.write("settings.ini", "".join(whole[:count]))
             self.assertEqual(run(*CONE, "--settings", path).status, REFUSED, count)
 
-    def test_other_version(self):
-        """A file of another version is replaced by the defaults, and told of; the old one is kept beside it."""
-        path = self.write("settings.ini", settings_file(version="3.a"))
-        result = run(*CONE, "--settings", path, "--json", "-")
-        self.assertEqual(result.status, DONE)
-        self.assertEqual(result.lines, [f"{path}: The Settings.ini file is being updated."])
-        self.assertEqual(len(result.json["pattern"][0]["List1"]), 25)
-        lines = path.read_bytes().decode().split("\r\n")
-        self.assertEqual(lines[:5], ["3.b", " 24 ", " 1 ", "English", " 2 "])
-        self.assertEqual(len(lines), 26)
-        self.assertEqual((self.folder / "settings.ini.bak").read_bytes(), settings_file(version="3.a").encode())
-        self.assertEqual(run(*CONE, "--settings", path).errors, "")
+    def test_files_that_are_no_options_of_this_version(self):
+        """They are refused and stay as they are, whatever they hold; nothing is made beside them."""
+        for name, contents in (("settings.ini", settings_file(version="3.a")), ("mine.Kvt", cone_file()),
+                               ("notes", "shopping list\n"), ("empty", "")):
+            with self.subTest(name=name):
+                path = self.write(name, contents)
+                self.write(f"{name}.bak", "older")
+                result = run(*CONE, "--settings", path, "--json", self.folder / "out.json")
+                self.assertEqual((result.status, len(result.lines)), (REFUSED, 1))
+                self.assertIn(f"{path}, line 1: ", result.lines[0])
+                self.assertEqual(path.read_bytes(), contents.encode())
+                self.assertEqual((self.folder / f"{name}.bak").read_text(), "older")
+                self.assertNotIn("out.json", self.names())
+
+    def test_layer_names_that_no_drawing_has(self):
+        for bad in ("a/b", "c|d", "e\x07f", 'g"h', "i`j"):
+            path = self.write("settings.ini", settings_file(CutLayer=bad))
+            result = run(*CONE, "--settings", path, "--dxf", self.folder / "out.dxf")
+            self.assertEqual((result.status, len(result.lines)), (DONE, 1))
+            self.assertIn("line 14", result.lines[0])
+            drawing = (self.folder / "out.dxf").read_bytes()
+            self.assertIn(b"CutLayer", drawing)
+            self.assertNotIn(bad.encode(), drawing)
+            self.assertIn(b"Bends", drawing)
 
     def test_folder_as_settings(self):
         self.assertEqual(run(*CONE, "--settings", self.folder).status, REFUSED)
