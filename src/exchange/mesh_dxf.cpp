@@ -55,16 +55,16 @@ std::optional<double> FindMesh(DxfLines& lines) {
     return std::nullopt;
 }
 
-/// A row of the mesh. Null, with the fault, when the file ends in it or a coordinate is none.
-PointList ReadRow(DxfLines& lines, std::size_t columns, std::string& fault) {
+/// A row of the mesh. Null, with the fault, when the mesh ends in it or a coordinate is none.
+PointList ReadRow(DxfLines& lines, std::size_t columns, const std::string& name, std::string& fault) {
     auto row = std::make_shared<C3DPoints>();
     row->Reserve(columns);
     for (std::size_t i = 1; i <= columns; ++i) {
         std::array<double, 3> place = {};
         for (const auto& [code, coordinate] :
              {std::pair{"10", &place[0]}, {"20", &place[1]}, {"30", &place[2]}}) {
-            if (!lines.SkipTo(code)) {
-                fault = lines.Here() + "the file ends before vertex " + std::to_string(i) + " of a row";
+            if (!lines.SkipTo(code, "SEQEND")) {
+                fault = lines.Here() + "the mesh ends before vertex " + std::to_string(i) + " of its " + name;
                 return nullptr;
             }
             const auto number = lines.Number();
@@ -96,15 +96,19 @@ DxfMesh ReadDxfMesh(std::string_view text) {
     }
     // A count that the rest of the file can't hold must not be made room for; its last line may lack its end.
     if (*columns > static_cast<double>((lines.BytesLeft() + 1) / (2 * LeastVertex))) {
-        found.fault = lines.Here() + "the file ends before the last vertex of the mesh";
+        found.fault = lines.Here() + "the file is too short for the vertices of the mesh";
         return found;
     }
     CRuleSurf surface;
-    for (PointList* const row : {&surface.List1, &surface.List2}) {
-        *row = ReadRow(lines, static_cast<std::size_t>(*columns), found.fault);
+    for (const auto& [row, name] : {std::pair{&surface.List1, "first row"}, {&surface.List2, "second row"}}) {
+        *row = ReadRow(lines, static_cast<std::size_t>(*columns), name, found.fault);
         if (!*row) {
             return found;
         }
+    }
+    if (lines.SkipTo("VERTEX", "SEQEND")) {
+        found.fault = lines.Here() + "the mesh has more vertices than it says";
+        return found;
     }
     found.surface = surface;
     return found;

@@ -27,8 +27,8 @@ struct DxfMesh {
 ///
 /// Lines end with CR LF, LF or CR, and are compared without the blanks around them and without regard to
 /// case. Group codes are looked for by their text, in their order, whatever stands between. There is no
-/// surface when the file ends before the last vertex, when the count of vertices is no whole number, or when
-/// a coordinate is no finite number. Takes memory in proportion to the text, whatever counts it names.
+/// surface when the mesh has fewer or more vertices than it says, or when a coordinate is no finite number.
+/// Takes memory in proportion to the text, whatever counts it names.
 DxfMesh ReadDxfMesh(std::string_view text);
 
 }  // namespace korvet

@@ -86,8 +86,9 @@ TEST(MeshDxf, WhatIsNoOpenMeshOfTwoRowsIsPassedOver) {
 }
 
 TEST(MeshDxf, TheFirstOfSeveralIsTaken) {
-    ExpectHood(ReadDxfMesh(Drawing(MeshText() + MeshText("16", "2", "2"))));
-    EXPECT_EQ(ReadDxfMesh(Drawing(MeshText("16", "2", "2") + MeshText())).surface->List1->Count(), 2U);
+    const std::string other = Replaced(MeshText(), "-4.5", "-7");
+    ExpectHood(ReadDxfMesh(Drawing(MeshText() + other)));
+    EXPECT_EQ(ReadDxfMesh(Drawing(other + MeshText())).surface->List2->Item(1).y, -7);
 }
 
 TEST(MeshDxf, AMeshOutsideTheEntitiesIsNone) {
@@ -110,13 +111,23 @@ TEST(MeshDxf, AFileThatEndsAnywhereHasNoMesh) {
 }
 
 TEST(MeshDxf, CountsThatLieAreNotMadeRoomFor) {
-    for (const char* columns : {"4", "1000000000", "1e9", "1e300", "9007199254740993"}) {
-        EXPECT_TRUE(FaultOf(Drawing(MeshText("16", "2", columns))).find("the file ends before") !=
+    for (const char* columns : {"1000000000", "1e9", "1e300", "9007199254740993"}) {
+        EXPECT_TRUE(FaultOf(Drawing(MeshText("16", "2", columns))).find("the file is too short") !=
                     std::string::npos)
             << columns;
     }
     EXPECT_EQ(FaultOf(Drawing(MeshText("16", "2", "1e999"))),
               "it holds no open polygon mesh of 2 by N vertices");
+}
+
+/// Of two meshes with a wrong count neither is read on into what stands behind it, and none is cut short.
+TEST(MeshDxf, CountsThatLieAboutTheVerticesAreFaults) {
+    for (const std::string& behind : {std::string(), MeshText(), Replaced(MeshText(), "POLYLINE", "LINE")}) {
+        EXPECT_TRUE(FaultOf(Drawing(MeshText("16", "2", "4") + behind))
+                        .ends_with("the mesh ends before vertex 3 of its second row"));
+        EXPECT_TRUE(FaultOf(Drawing(MeshText("16", "2", "2") + behind))
+                        .ends_with("the mesh has more vertices than it says"));
+    }
 }
 
 TEST(MeshDxf, CoordinatesAreFiniteNumbers) {
