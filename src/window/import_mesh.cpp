@@ -52,8 +52,8 @@ void CFittingWindow::ClickImportMesh(std::size_t source) {
         if (fetched) {
             mesh = {.DXFMeshOK = true, .FileName = {}, .DXFMesh = *fetched};
             edited = true;
-            UpdateFitting();
         }
+        UpdateFitting();
         return;
     }
     const auto path = context_.ui.ChooseFile({"Import Mesh", "Drawing eXchange File (*.DXF)|*.DXF"});

@@ -126,6 +126,20 @@ TEST_F(ImportMeshWindow, NoMeshComesFromADrawingProgramThatIsNotThere) {
     EXPECT_FALSE(window->mesh.DXFMeshOK);
 }
 
+/// What is still to be seen is not there any more: it must not be saved over the file that holds it.
+TEST_F(ImportMeshWindow, AMeshThatWasDroppedIsNeitherSavedNorExported) {
+    Import("hood.dxf");
+    window->ClickView(PatternButton);
+    ASSERT_EQ(window->SaveFile("hood.Kvt"), Passed);
+    const std::string saved = shell.files.files["hood.Kvt"];
+    window->ClickImportMesh(MeshOfCad);
+    shell.ui.messages.clear();
+    EXPECT_EQ(window->Export("a.dxf", ExportMode::Dxf), Refused);
+    EXPECT_EQ(window->SaveFile("hood.Kvt"), Refused);
+    EXPECT_EQ(shell.ui.Texts(), (std::vector<std::string>(2, NotNow)));
+    EXPECT_EQ(shell.files.files["hood.Kvt"], saved);
+}
+
 TEST_F(ImportMeshWindow, AMeshTooFarOutIsNotMade) {
     shell.files.files["far.dxf"] = TwoByTwo("16");
     shell.files.files["far.dxf"].replace(shell.files.files["far.dxf"].find("\n40\n"), 4, "\n4e9\n");
