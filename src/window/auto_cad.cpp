@@ -150,7 +150,7 @@ C3DPoint CAutoCAD::Placed(const C3DPoint& point) const {
 
 void CAutoCAD::Replay(const std::vector<TransferEntity>& entities) {
     for (const TransferEntity& entity : entities) {
-        const std::string& layer = entity.layer;
+        const std::string layer{Trimmed(entity.layer)};  // as MakeLayer has called it
         if (const auto* const line = std::get_if<TransferLine>(&entity.shape)) {
             DrawLine(Placed(line->a), Placed(line->b), layer);
         } else if (const auto* const arc = std::get_if<TransferArc>(&entity.shape)) {

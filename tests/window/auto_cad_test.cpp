@@ -125,9 +125,12 @@ TEST_F(CadLinkTest, OnlyLayersThatTheDrawingLacksAreMade) {
     drawing.layers = {"0", " CutLayer ", "foldlayer"};
     ASSERT_EQ(ConnectGlobalAcad(shell.context), Passed);
     shell.options.DXFTextLayer = "  M\u00e4nner ";
-    shell.files.files["work/Transfer.tmp"] = DxfStream(1).Finish();
+    DxfStream stream(1);
+    stream.WriteLine({}, {1, 0, 0}, shell.options.DXFTextLayer);
+    shell.files.files["work/Transfer.tmp"] = stream.Finish();
     shell.ui.answers = {Answer::Ok};
     ASSERT_EQ(TransferToAcad(shell.context), Passed);
+    EXPECT_EQ(drawing.calls.end()[-3], "Line.Layer = \"M\u00e4nner\"");
     EXPECT_EQ(Calls(drawing.calls.begin() + 1, drawing.calls.begin() + 6),
               (Calls{"Document.SendCommand(\"_ucs w \")", "Layers.Add(\"BorderLayer\")",
                      "Layers.Add(\"DimensionLayer\")", "Layers.Add(\"FoldLayer\")",
