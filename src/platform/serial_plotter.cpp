@@ -3,6 +3,7 @@
 #include <QSerialPortInfo>
 
 #ifdef _WIN32
+#define WIN32_LEAN_AND_MEAN  // the rest has a macro called SetPort
 #include <windows.h>
 
 #include <filesystem>

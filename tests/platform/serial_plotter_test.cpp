@@ -14,6 +14,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QProcess>
+#include <QSerialPort>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <thread>
@@ -232,6 +233,17 @@ TEST_F(SerialPlotterTest, APortThatIsNotThereFailsWithTheReasonOfTheSystem) {
     }
     plotter.SetPort({"/dev/no-such-port", Handshake::None});
     EXPECT_THAT(Send("IN;").reason, HasSubstr("No such file or directory"));
+}
+
+TEST_F(SerialPlotterTest, APortThatAnotherHasFailsWithTheReasonOfTheSystem) {
+    FarEnd far;
+    QSerialPort other(QString::fromStdString(far.port));
+    ASSERT_TRUE(other.open(QIODevice::ReadWrite));
+    plotter.SetPort({far.port, Handshake::None});
+    const PlotSent sent = Send("IN;");
+    EXPECT_EQ(sent.end, PlotSent::End::Failed);
+    EXPECT_THAT(sent.reason, testing::ContainsRegex("^pts/[0-9]+: .+"));
+    EXPECT_EQ(far.Read(), "");
 }
 
 TEST_F(SerialPlotterTest, CancelStopsTheSending) {

@@ -1,10 +1,12 @@
 #!/bin/sh
-# test_automation.sh SOURCES FOLDER: the Windows side of the link to a drawing program, compiled with MinGW and run under
-# wine against a fake drawing program in a process of its own. Exit status 77: MinGW or wine is not installed, and the
-# calls are held to their list without Windows alone (window_tests, CadLinkTest).
+# test_automation.sh SOURCES FOLDER QT_HEADERS: the Windows side of the link to a drawing program, compiled with MinGW and
+# run under wine against a fake drawing program in a process of its own; the other sources that have a Windows side are
+# held to the language alone, as there is no toolkit to link them with. Exit status 77: MinGW or wine is not installed, and
+# the calls are held to their list without Windows alone (window_tests, CadLinkTest).
 set -eu
 sources=$1
 folder=$2
+qt=$3
 compiler=x86_64-w64-mingw32-g++-posix
 if ! command -v $compiler >/dev/null || ! command -v wine >/dev/null; then
     echo "MinGW or wine is not installed: the Windows side is not tested"
@@ -24,6 +26,10 @@ set -- platform/com_automation.cpp window/auto_cad.cpp window/transfer.cpp excha
     form/message_boxes.cpp
 compile "$folder/client.exe" "$@" ../tests/windows/automation_client.cpp
 compile "$folder/server.exe" core/number_text.cpp core/checked.cpp ../tests/windows/fake_drawing_server.cpp
+for source in $(grep -rl --include='*.cpp' _WIN32 .); do
+    $compiler -std=c++20 -fsyntax-only -Wall -Wextra -Werror -I. -isystem "$qt" -isystem "$qt/QtCore" -isystem "$qt/QtGui" \
+        -isystem "$qt/QtSerialPort" -isystem "$qt/QtWidgets" "$source"
+done
 cd "$folder"
 
 export WINEPREFIX="$folder/prefix" WINEDEBUG=-all WINEDLLOVERRIDES="mscoree=;mshtml="
