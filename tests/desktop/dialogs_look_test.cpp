@@ -83,6 +83,16 @@ std::map<QString, std::function<void(DialogDesk&)>> AllDialogs() {
         dialog.lblExportType = "Exporting unfolded pattern";
         desk.ui.RunModal(dialog);
     };
+    all["export-plotter"] = [](DialogDesk& desk) {
+        DxfOptionsDialog dialog;
+        dialog.caption = "Exporting /home/user/.local/share/Korvet Development/Transfer.plt";
+        dialog.lblExportType = "Exporting unfolded pattern";
+        dialog.toPlotter = dialog.choosesPort = true;
+        dialog.optPolyMode.enabled = false;
+        dialog.cmbPlotterPort.list = {"/dev/ttyS0", "/dev/ttyS1"};
+        dialog.cmbPlotterPort.edit.text = "/dev/serial/by-id/usb-1a86_USB2.0-Serial-if00-port0";
+        desk.ui.RunModal(dialog);
+    };
     all["rotate"] = [](DialogDesk& desk) {
         RotateDialog dialog(desk.context.ui, desk.context.options, desk.context.decimalMark, 0.5);
         desk.ui.RunModal(dialog);

@@ -1,4 +1,5 @@
 #include <QCheckBox>
+#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -155,6 +156,43 @@ class SmallDialogs : public QObject {
         });
         QVERIFY(dialog.optPolyMode.IsOn(1));
         QVERIFY(dialog.chkSurfaceMesh.checked);
+    }
+
+    void ADrawingFileHasNoPlotterPort() {
+        DxfOptionsDialog dialog;
+        Run(dialog, [](QDialog& window) {
+            QVERIFY(window.findChild<QGroupBox*>("fraPlotterPort") == nullptr);
+            QVERIFY(window.findChild<QComboBox*>("cmbPlotterPort") == nullptr);
+        });
+    }
+
+    void ThePlotterPortIsPickedOrTyped() {
+        for (const bool typed : {false, true}) {
+            DxfOptionsDialog dialog;
+            dialog.choosesPort = true;
+            dialog.cmbPlotterPort.list = {"/dev/ttyS0", "/dev/ttyS1"};
+            dialog.cmbPlotterPort.edit.text = "/dev/ttyUSB7";
+            dialog.optHandshake.selected = 1;
+            Run(dialog, [typed](QDialog& window) {
+                auto& port = Child<QComboBox>(window, "cmbPlotterPort");
+                QCOMPARE(port.currentText(), QStringLiteral("/dev/ttyUSB7"));
+                QCOMPARE(port.count(), 2);
+                QVERIFY(Child<QRadioButton>(window, "optHandshake_1").isChecked());
+                if (typed) {
+                    port.lineEdit()->selectAll();
+                    QTest::keyClicks(port.lineEdit(), QStringLiteral("/dev/pts/3"));
+                } else {
+                    port.setFocus();
+                    QTest::keyClick(&port, Qt::Key_Down);
+                    QTest::keyClick(&port, Qt::Key_Down);
+                }
+                Press(window, "optHandshake_2");
+                QVERIFY(!Child<QRadioButton>(window, "optHandshake_1").isChecked());
+                Press(window, "btnOK");
+            });
+            QCOMPARE(dialog.cmbPlotterPort.edit.text, std::string(typed ? "/dev/pts/3" : "/dev/ttyS1"));
+            QVERIFY(dialog.optHandshake.IsOn(2));
+        }
     }
 
     void RotateRefusesWhatIsNoAngle() {

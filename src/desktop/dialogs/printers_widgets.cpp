@@ -81,8 +81,8 @@ void RunDialog(const DialogHost& host, PrintersDialog& dialog) {
 
 std::unique_ptr<QProgressDialog> MakeProgressBox(QWidget* parent, int total) {
     auto box = std::make_unique<QProgressDialog>(QString(), QStringLiteral("Cancel"), 0, total, parent);
-    NameWidget(*box, "frmProgress", QStringLiteral("Printing"));
-    box->setWindowTitle(QStringLiteral("Printing"));
+    NameWidget(*box, "frmProgress", QStringLiteral("Progress"));
+    box->setWindowTitle(QStringLiteral("Progress"));
     box->setWindowModality(Qt::WindowModal);
     box->setMinimumDuration(PatienceMilliseconds);
     box->setAutoClose(false);

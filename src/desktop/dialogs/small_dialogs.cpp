@@ -61,11 +61,11 @@ QGroupBox* MakePlotterPort(ModelDialog& window, DxfOptionsDialog& dialog) {
     QComboBox* const port = MakeCombo("cmbPlotterPort", QStringLiteral("Plotter port"), true);
     window.Bind(*port, dialog.cmbPlotterPort,
                 [&dialog](const std::string& text) { dialog.cmbPlotterPort.edit.text = text; });
-    row->addWidget(MakeLabel(QStringLiteral("Plotter &port:"), port));
+    row->addWidget(MakeLabel(QStringLiteral("Plotter por&t:"), port));
     row->addWidget(port, 1);
     column->addLayout(row);
     auto* options = new QHBoxLayout;
-    AddOptions(*options, MakeOptions(window, "optHandshake", dialog.optHandshake, "hXR"));
+    AddOptions(*options, MakeOptions(window, "optHandshake", dialog.optHandshake, "NXR"));
     column->addLayout(options);
     return frame;
 }
