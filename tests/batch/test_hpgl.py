@@ -50,6 +50,18 @@ class Plot:
             else:
                 test.assertEqual(instruction, "DT#")
 
+    def ends(self):
+        """Of all lines and arcs."""
+        return {p for line in self.lines for p in line} | {p for start, centre, sweep in self.arcs
+                                                           for p in (start, turned(start, centre, sweep))}
+
+
+LISTS = ("List1", "List2", "List3", "LapList1", "LapList2")
+
+
+def points_of(surfaces):
+    return [p for surface in surfaces for name in LISTS for p in surface[name] or ()]
+
 
 def turned(point, centre, degrees):
     c, s = math.cos(math.radians(degrees)), math.sin(math.radians(degrees))
@@ -107,7 +119,9 @@ class HpglTest(FolderTest):
                         self.assertEqual((plot.lines, plot.arcs), ([], []))  # a model that is never laid flat
                         continue
                     self.assertGreater(len(plot.lines), 3)
-                    self.check(plot, space, self.to_steps(report, view))
+                    place = self.to_steps(report, view)
+                    self.check(plot, space, place)
+                    self.same_points(plot.ends(), {place(p) for p in points_of(report[view])}, NEAR)
 
     def test_diagonals_and_their_lengths(self):
         plot, space, report = self.make(*CONE, "--diagonals")
@@ -145,11 +159,11 @@ class HpglTest(FolderTest):
             for axis in (0, 1):
                 shift = min(p[axis] for p in ends) - min(p[axis] for p in ours)
                 ours = {tuple(c + (shift if k == axis else 0) for k, c in enumerate(p)) for p in ours}
-            self.same_points(ours, ends)
-            self.same_points(ends, ours)
+            self.same_points(ours, ends, NEAR / STEPS)
+            self.same_points(ends, ours, NEAR / STEPS)
 
-    def same_points(self, points, others):
-        near = NEAR / STEPS
+    def same_points(self, points, others, near):
+        """Each of the points is one of the others."""
         cells = {}
         for p in others:
             cells.setdefault((math.floor(p[0] / near), math.floor(p[1] / near)), []).append(p)
