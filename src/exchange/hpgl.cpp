@@ -1,5 +1,7 @@
 #include "exchange/hpgl.h"
 
+#include <array>
+#include <charconv>
 #include <cmath>
 
 #include "core/math_module.h"
@@ -34,6 +36,19 @@ std::string PlotterText(std::string_view text) {
     return plotted;
 }
 
+/// No plotter reads an exponent. So small an angle is told to the last place that angles of a drawing have.
+std::string SweepText(double degrees) {
+    constexpr double ExponentsBegin = 0.0001;
+    constexpr int Places = 6;
+    if (degrees <= 0 || degrees >= ExponentsBegin) {
+        return NumberText(degrees);
+    }
+    std::array<char, Places + 2> text{};  // and "0."
+    const auto end =
+        std::to_chars(text.data(), text.data() + text.size(), degrees, std::chars_format::fixed, Places).ptr;
+    return {text.data(), end};
+}
+
 /// A plot under way.
 class PlotText {
   public:
@@ -54,7 +69,7 @@ class PlotText {
         const double end = arc.end < arc.start ? arc.end + FullCircle : arc.end;
         MoveTo(PolarPoint(arc.centre, DegToRad(arc.start), arc.radius));
         Add("PD");
-        Add("AA" + Position(arc.centre) + "," + NumberText(end - arc.start) + ",1");
+        Add("AA" + Position(arc.centre) + "," + SweepText(end - arc.start) + ",1");
     }
 
     void Draw(const TransferText& text) {

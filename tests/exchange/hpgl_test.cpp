@@ -74,6 +74,17 @@ TEST(Hpgl, AnArcIsSweptFromItsStart) {
     EXPECT_THAT(arc({15, 20, 0}, {14, 23, 0}), HasSubstr("AA400,800,36.869898,1;"));
 }
 
+/// A plotter would take the exponent of a nearly straight arc for the end of its number.
+TEST(Hpgl, ASmallSweepHasNoExponent) {
+    for (const auto& [rise, sweep] :
+         {std::pair{0.872665, "0.000050"}, {0.0174533, "0.000001"}, {2.0, "0.00011"}}) {
+        EXPECT_THAT(Plotted(DrawingOf([&](DxfStream& out) {
+                        out.WriteArc({1e6, 0, 0}, {1e6, rise, 0}, {}, "Cut");
+                    })),
+                    HasSubstr("AA0,0," + std::string(sweep)));
+    }
+}
+
 TEST(Hpgl, ATextStandsAtItsPointInItsDirection) {
     EXPECT_EQ(PlottedText("12.5"), "PU;\r\nPA40,80;\r\nDI100,0;\r\nDT#;\r\nLB12.5#;\r\n");
     EXPECT_THAT(PlottedText("x", std::numbers::pi / 6), HasSubstr("DI86.603,50;"));
