@@ -57,12 +57,11 @@ struct Arc {
 };
 
 /// What the rounding of its angles does to an arc. On a radius above some 1e05 units a step of their last
-/// place is longer than a station may be missed by.
+/// place is longer than a gap may be wide.
 struct AngleSteps {
-    double startGap = 0;  ///< length missing at the start; negative where the arc begins before it
-    double endGap = 0;    ///< the same at the end
-    double sagitta = 0;   ///< height of the arc over its chord
-    double sweep = 0;     ///< degrees; 0 for equal angles, which readers take for a full circle
+    double startGap = 0;    ///< length missing at the start; negative where the arc begins before it
+    double endGap = 0;      ///< the same at the end
+    bool areEqual = false;  ///< readers take that for a full circle
 
     explicit AngleSteps(const Arc& arc) {
         const double start = RadToDeg(PlanAngle(arc.centre, arc.start));
@@ -72,13 +71,7 @@ struct AngleSteps {
         const double radius = Distance3D(arc.centre, arc.start);
         startGap = radius * DegToRad(writtenStart - start);
         endGap = radius * DegToRad(end - writtenEnd);
-        sweep = std::fmod(writtenEnd - writtenStart + 360, 360);
-        sagitta = radius * (1 - std::cos(DegToRad(sweep / 2)));
-    }
-
-    /// Whether the arc stays on its edge: no full circle, and at most its sagitta beyond an end.
-    [[nodiscard]] bool StayOnEdge() const {
-        return sweep != 0 && std::min(startGap, endGap) >= -std::max(StationTolerance, sagitta);
+        areEqual = std::fmod(writtenEnd - writtenStart + 360, 360) == 0;
     }
 };
 
@@ -104,7 +97,7 @@ class EdgeWalk {
 
     void Line(const C3DPoint& a, const C3DPoint& b) {
         out_.WriteLine(a, b, layer_);
-        endsShort_ = false;
+        gapBehind_ = 0;
     }
 
     void TripleArc(const C3DPoint& p1, const C3DPoint& p2, const C3DPoint& p3, ArcPart part);
@@ -141,20 +134,23 @@ class EdgeWalk {
 
     DxfStream& out_;
     std::string_view layer_;
-    bool endsShort_ = false;  ///< the last entity is an arc that misses its end as written
+    double gapBehind_ =
+        0;  ///< by which the last entity, as written, ends before its end, or behind it if negative
 };
 
-/// Writes the arc unless it would leave its edge, or a station that the arc before misses already would be
-/// missed by both.
+/// Writes the arc unless it would miss an end or leave a gap to the entity before it, or run over either, by
+/// more than a station may be missed by.
 bool EdgeWalk::TryArc(const Arc& arc) {
     const AngleSteps steps(arc);
     const double gapBefore = arc.forward ? steps.startGap : steps.endGap;
     const double gapBehind = arc.forward ? steps.endGap : steps.startGap;
-    if (!steps.StayOnEdge() || (endsShort_ && gapBefore > StationTolerance)) {
+    const double widest =
+        std::max({AbsValue(gapBefore), AbsValue(gapBehind), AbsValue(gapBehind_ + gapBefore)});
+    if (steps.areEqual || widest > StationTolerance) {
         return false;
     }
     out_.WriteArc(arc.start, arc.end, arc.centre, layer_);
-    endsShort_ = gapBehind > StationTolerance;
+    gapBehind_ = gapBehind;
     return true;
 }
 

@@ -33,7 +33,7 @@ C3DPoint ThreePointCentre(const C3DPoint& p1, const C3DPoint& p2, const C3DPoint
 /// Draws the arc through p1, p2, p3 in part: p1 to p2, p1 to p3 or p2 to p3. A turn at p2 within 1e-08 of
 /// straight gives one LINE over that part. Where the arc would not run along its own points the segments of
 /// that part go out as LINEs: where the circle misses one by more than 0.0001 units, the part would go the
-/// wrong way round, or its angles as written are equal or reach beyond its ends by more than its sagitta.
+/// wrong way round, or its angles as written are equal or miss an end by more than 0.001 units.
 void WriteTripleArc(DxfStream& out, const C3DPoint& p1, const C3DPoint& p2, const C3DPoint& p3,
                     std::string_view layer, ArcPart part);
 
@@ -41,9 +41,9 @@ void WriteTripleArc(DxfStream& out, const C3DPoint& p1, const C3DPoint& p2, cons
 /// With an even count the last segment is written twice. A last point with Flag 8, the end of a seam lap, is
 /// no part of the curve: a LINE leads to it. Two points are a LINE, fewer are nothing.
 ///
-/// Every point between the ends lies within 0.001 units of an entity: a LINE over two segments that would
-/// miss the point between them becomes two, and so does an arc where its angles as written leave a gap to an
-/// arc before it that ends too early, too.
+/// Every point between the ends lies within 0.001 units of an entity, and entities meet as closely: a LINE
+/// over two segments that would miss the point between them becomes two, and so does an arc where its angles
+/// as written leave a wider gap, or a longer overlap.
 void WriteArcPath(DxfStream& out, const C3DPoints& list, std::string_view layer);
 
 }  // namespace korvet

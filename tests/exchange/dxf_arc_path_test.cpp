@@ -137,12 +137,12 @@ TEST(WriteArcPath, TheEndOfASeamLapIsNoPartOfTheCurve) {
               (Lines{"ARC 0,0 r5 0..36.87", "ARC 0,0 r5 36.87..90", "ARC 0,0 r5 53.13..90", "LINE 0,5 0,9"}));
 }
 
-/// The kinds of the entities of an S-shaped edge of radius 1e06 that turns over between its second point, at
+/// The kinds of the entities of an S-shaped edge of radius 1e05 that turns over between its second point, at
 /// `degrees` as seen from the first centre, and its third, which the second centre sees at 190.
 std::string KindsOfSCurve(double degrees) {
     const auto around = [](const C3DPoint& centre, double bearing) {
         const double angle = bearing * std::numbers::pi / 180;
-        return C3DPoint{centre.x + 1e6 * std::cos(angle), centre.y + 1e6 * std::sin(angle), 0, 0};
+        return C3DPoint{centre.x + 1e5 * std::cos(angle), centre.y + 1e5 * std::sin(angle), 0, 0};
     };
     const C3DPoint p2 = around({}, degrees);
     const C3DPoint p3 = around({}, 10.1000004);
@@ -161,7 +161,7 @@ std::string KindsOfSCurve(double degrees) {
 }
 
 TEST(WriteArcPath, OfTwoArcsThatBothMissTheirJointAsWrittenTheSecondIsLines) {
-    // The sixth place of a degree is 0.017 units here. The second arc ends 0.007 units short of the joint;
+    // The sixth place of a degree is 0.0017 units here. The second arc ends 0.0007 units short of the joint;
     // 10.0000006 is written as 10.000001, so that the first reaches over it, and 10.0000004 as 10.
     EXPECT_EQ(KindsOfSCurve(10.0000006), "ARC ARC ARC ");
     EXPECT_EQ(KindsOfSCurve(10.0000004), "ARC LINE LINE ARC ");

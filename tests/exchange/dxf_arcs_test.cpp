@@ -174,8 +174,8 @@ TEST(WriteTripleArc, ALineWhereTheAnglesWouldBeEqualAsWritten) {
     EXPECT_NEAR(dxf_reading::Course(entities[1]).Length(), 500 * 20 * std::numbers::pi / 180, 1e-4);
 }
 
-TEST(WriteTripleArc, LinesWhereTheAnglesAsWrittenReachBeyondTheEdge) {
-    // On a radius of 1e06 the sixth place of a degree is 0.017 units; the sagitta is 0.0064.
+TEST(WriteTripleArc, LinesWhereTheAnglesAsWrittenMissAnEnd) {
+    // On a radius of 1e06 the sixth place of a degree is 0.017 units.
     const auto kindFrom = [](double degrees) {
         DxfStream out(0);
         WriteTripleArc(out, OnCircle({}, 1e6, degrees), OnCircle({}, 1e6, 10.0065), OnCircle({}, 1e6, 10.013),
@@ -184,9 +184,10 @@ TEST(WriteTripleArc, LinesWhereTheAnglesAsWrittenReachBeyondTheEdge) {
         return entities[0].kind + (entities.size() == 2 ? " twice" : "");
     };
     EXPECT_EQ(kindFrom(10), "ARC");
-    EXPECT_EQ(kindFrom(10.0000003), "ARC");          // written 0.0052 units before its start
-    EXPECT_EQ(kindFrom(10.00000045), "LINE twice");  // 0.0079 units before it
-    EXPECT_EQ(kindFrom(10.0000006), "ARC");          // 0.007 units behind it, for its neighbour to reach
+    EXPECT_EQ(kindFrom(10.00000005), "ARC");         // written 0.0009 units before its start
+    EXPECT_EQ(kindFrom(10.00000007), "LINE twice");  // 0.0012 units before it
+    EXPECT_EQ(kindFrom(9.99999995), "ARC");          // 0.0009 units behind it
+    EXPECT_EQ(kindFrom(9.99999993), "LINE twice");   // 0.0012 units behind it
 }
 
 TEST(WriteTripleArc, KeepsTheHeightOfItsPoints) {
