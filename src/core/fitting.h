@@ -52,7 +52,7 @@ struct FittingResults {
 /// and throw ArithmeticError or ListError when the properties leave no shape to build: a fitting never
 /// validates.
 template <typename T>
-concept FittingClass = std::default_initializable<T> && requires(T fitting) {
+concept FittingClass = std::default_initializable<T> && std::copy_constructible<T> && requires(T fitting) {
     { fitting.inputs } -> std::same_as<FittingInputs&>;
     { fitting.results } -> std::same_as<FittingResults&>;
     { fitting.ConstructModel() } -> std::same_as<void>;
@@ -75,6 +75,10 @@ class FittingHandle {
     static FittingHandle Make() {
         return FittingHandle(std::make_shared<T>());
     }
+
+    /// Another fitting with the same inputs and properties, as far built as this one: the two share what has
+    /// been built until either builds anew.
+    [[nodiscard]] FittingHandle Copy() const { return {operations_->copy(object_.get()), operations_}; }
 
     /// The fitting itself. T must be the class that the handle was made with.
     template <FittingClass T>
@@ -99,6 +103,7 @@ class FittingHandle {
 
   private:
     struct Operations {
+        std::shared_ptr<void> (*copy)(const void*);
         FittingInputs& (*inputs)(void*);
         FittingResults& (*results)(void*);
         void (*constructModel)(void*);
@@ -107,10 +112,16 @@ class FittingHandle {
 
     template <typename T>
     static constexpr Operations OperationsOf = {
+        [](const void* object) -> std::shared_ptr<void> {
+            return std::make_shared<T>(*static_cast<const T*>(object));
+        },
         [](void* object) -> FittingInputs& { return static_cast<T*>(object)->inputs; },
         [](void* object) -> FittingResults& { return static_cast<T*>(object)->results; },
         [](void* object) { static_cast<T*>(object)->ConstructModel(); },
         [](void* object) { static_cast<T*>(object)->DevelopModel(); }};
+
+    FittingHandle(std::shared_ptr<void> object, const Operations* operations)
+        : object_(std::move(object)), operations_(operations) {}
 
     /// Runs an operation with a fresh list of warnings, and lets no surface out that is not finite.
     void Run(void (*operation)(void*)) const;

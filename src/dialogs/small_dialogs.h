@@ -68,6 +68,7 @@ struct DxfOptionsDialog {
                                              {"Dimensions", false, false},
                                              {"Label", false, false}}};
     CheckBox chkSurfaceMesh{.caption = "Surface mesh"};
+    bool tellsCheck = true;    ///< the box that tells of the file tells its check too
     bool toPlotter = false;    ///< the drawing goes to a plotter, which takes neither polylines nor text
     bool choosesPort = false;  ///< the two below are there
     ComboBox cmbPlotterPort{.edit = NamedBox("cmbPlotterPort"), .list = {}};

@@ -42,8 +42,37 @@ void WritePath(DxfStream& out, const CDXF& dxf, const C3DPoints& list) {
     }
 }
 
+/// Notes for each entity of a surface what it is to the piece.
+class PartNotes {
+  public:
+    PartNotes(const DxfStream& out, std::vector<DxfPart>& parts, std::size_t piece)
+        : out_(out), parts_(parts), piece_(piece), begin_(out.Size()) {}
+
+    /// What follows now is the next part.
+    void Begin() { begin_ = out_.Size(); }
+
+    /// What has come since the last call is of this part.
+    void End(CutPart part) {
+        const std::size_t end = out_.Size();
+        const bool goesOn = !parts_.empty() && parts_.back().piece == piece_ && parts_.back().part == part &&
+                            parts_.back().end == begin_;
+        if (goesOn) {
+            parts_.back().end = end;
+        } else if (end > begin_) {
+            parts_.push_back({piece_, part, begin_, end});
+        }
+        begin_ = end;
+    }
+
+  private:
+    const DxfStream& out_;
+    std::vector<DxfPart>& parts_;
+    std::size_t piece_;
+    std::size_t begin_;
+};
+
 /// The two ends of the strip as outlines, the rule stations between them as bend lines.
-void WriteRulings(DxfStream& out, const CDXF& dxf, const CRuleSurf& surface) {
+void WriteRulings(DxfStream& out, const CDXF& dxf, const CRuleSurf& surface, PartNotes& notes) {
     const std::size_t n = StationCount(surface);
     for (std::size_t i = 1; i <= n; ++i) {
         const C3DPoint& a = surface.List1->Item(i);
@@ -51,28 +80,31 @@ void WriteRulings(DxfStream& out, const CDXF& dxf, const CRuleSurf& surface) {
         if (i == 1 || i == n) {
             if (dxf.OutlinesRequested) {
                 out.WriteLine(a, b, dxf.CutLayer);
+                notes.End(i == 1 ? CutPart::FirstEnd : CutPart::LastEnd);
             }
         } else if (dxf.BendLinesRequested && IsRuleStation(a)) {
             out.WriteLine(a, b, dxf.FoldLayer);
+            notes.End(CutPart::Bend);
         }
     }
 }
 
-void WriteSurface(DxfStream& out, const CDXF& dxf, const CRuleSurf& surface) {
+void WriteSurface(DxfStream& out, const CDXF& dxf, const CRuleSurf& surface, PartNotes notes) {
     if (StationCount(surface) == 0) {
         return;
     }
     if (dxf.AcadPolygonMesh) {
         out.WriteMesh(*surface.List1, *surface.List2, dxf.FoldLayer);
     }
-    WriteRulings(out, dxf, surface);
+    notes.Begin();
+    WriteRulings(out, dxf, surface, notes);
     if (!dxf.OutlinesRequested) {
         return;
     }
-    for (const PointList& list :
-         {surface.List1, surface.List2, surface.List3, surface.LapList1, surface.LapList2}) {
-        if (IsPresent(list)) {
-            WritePath(out, dxf, *list);
+    for (const auto& [list, part] : PathsOf(surface)) {
+        if (IsPresent(*list)) {
+            WritePath(out, dxf, **list);
+            notes.End(part);
         }
     }
 }
@@ -80,9 +112,14 @@ void WriteSurface(DxfStream& out, const CDXF& dxf, const CRuleSurf& surface) {
 }  // namespace
 
 std::string CDXF::Text() const {
+    std::vector<DxfPart> parts;
+    return Text(parts);
+}
+
+std::string CDXF::Text(std::vector<DxfPart>& parts) const {
     DxfStream out(TextSize, ExpectedBytes(SurfaceList));
-    for (const CRuleSurf& surface : SurfaceList) {
-        WriteSurface(out, *this, surface);
+    for (std::size_t i = 1; i <= SurfaceList.Count(); ++i) {
+        WriteSurface(out, *this, SurfaceList.Item(i), PartNotes(out, parts, i));
     }
     if (SurfaceList.Count() > 0) {
         WriteAnnotations(out, *this);

@@ -4,10 +4,12 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "core/dimensions.h"
 #include "core/file_store.h"
 #include "core/rule_surf.h"
+#include "exchange/cut_drawing.h"
 
 namespace korvet {
 
@@ -47,6 +49,9 @@ struct CDXF {
     /// The bytes of the file. Without any surface there is no entity in it. Where List1 and List2 differ in
     /// length the shorter one counts. Throws ArithmeticError when a number is not finite.
     [[nodiscard]] std::string Text() const;
+
+    /// The same, and where in it the outlines and folds of each surface stand.
+    [[nodiscard]] std::string Text(std::vector<DxfPart>& parts) const;
 
     /// Writes Text() to FileName in one step, so that a failed export leaves the old file whole or none.
     /// Throws ArithmeticError and FileError.

@@ -32,6 +32,9 @@ class DxfStream {
     /// unrounded; `expectedBytes` only makes room.
     explicit DxfStream(double textSize, std::size_t expectedBytes = 0);
 
+    /// The bytes of the text so far.
+    [[nodiscard]] std::size_t Size() const { return text_.size(); }
+
     /// The whole file: closes the section. The stream is empty afterwards.
     [[nodiscard]] std::string Finish();
 

@@ -3,6 +3,7 @@
 #include "dialogs/small_dialogs.h"
 #include "exchange/dxf.h"
 #include "window/auto_cad.h"
+#include "window/check_export.h"
 #include "window/plotter_line.h"
 #include "window/plotting.h"
 #include "window/transfer.h"
@@ -107,6 +108,21 @@ CDXF DxfOf(const CFittingWindow& window, const DxfOptionsDialog& dialog, const s
     return dxf;
 }
 
+/// What the check of a drawing that was written tells, a line each; the export stands whatever becomes of it.
+std::string CheckText(const CFittingWindow& window, const CDXF& drawing) {
+    std::string text;
+    try {
+        if (const auto check = CheckExport(window, drawing)) {
+            for (const std::string& line : CheckLines(*check, window.Context().decimalMark)) {
+                text.append(text.empty() ? "" : "\n").append(line);
+            }
+        }
+    } catch (const std::exception& error) {
+        text = std::string("The file could not be checked: ") + error.what();
+    }
+    return text;
+}
+
 /// By the link that the command has connected, through the transfer file.
 Outcome DrawInCad(CFittingWindow& window, const CDXF& drawing) {
     WindowContext& context = window.Context();
@@ -136,9 +152,10 @@ Outcome RunExport(CFittingWindow& window, const std::string& path, ExportMode mo
     if (mode == ExportMode::CadLink) {
         return DrawInCad(window, DxfOf(window, dialog, path));
     }
-    DxfOf(window, dialog, path).WriteDXF(context.files);
-    context.ui.Show(
-        {context.Message(DxfSaved) + path, InformationBox, std::string(ProductTitle), {}, std::nullopt});
+    const CDXF drawing = DxfOf(window, dialog, path);
+    drawing.WriteDXF(context.files);
+    context.ui.Show({context.Message(DxfSaved) + path, InformationBox, std::string(ProductTitle),
+                     dialog.tellsCheck ? CheckText(window, drawing) : "", std::nullopt});
     return Passed;
 }
 
