@@ -82,17 +82,22 @@ void QtUi::RunModal(PrintersDialog& dialog) {
     RunDialog(Host(), dialog);
 }
 
-/// Short work is over before its box would come up.
+/// Short work is over before its box would come up, unless the box must keep the user off the window that
+/// waits for it.
 bool QtUi::GoesOn(const WorkProgress& progress) {
     const int total = static_cast<int>(progress.total);
     if (progress.done >= progress.total) {
         progress_.reset();
         return true;
     }
-    if (!progress_) {
+    const bool first = !progress_;
+    if (first) {
         progress_ = MakeProgressBox(Parent(), total);
     }
     progress_->setLabelText(QString::fromStdString(progress.what));
+    if (first && progress.eventsGoOn) {
+        progress_->show();
+    }
     progress_->setValue(static_cast<int>(progress.done));  // lets the user's click come through
     return !progress_->wasCanceled();
 }

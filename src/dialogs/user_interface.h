@@ -30,6 +30,7 @@ struct WorkProgress {
     std::string what;  ///< "Sheet A1"
     std::size_t done = 0;
     std::size_t total = 0;
+    bool eventsGoOn = false;  ///< the program works on its events meanwhile: the user must be kept off them
 };
 
 class UserInterface : public MessageBoxes {
@@ -37,8 +38,9 @@ class UserInterface : public MessageBoxes {
     /// The path chosen, or nothing after Cancel.
     virtual std::optional<std::string> ChooseFile(const FileChoice& choice) = 0;
 
-    /// Shows how far the work is, with a way to cancel it: false once the user has. With all done it is taken
-    /// away again.
+    /// Shows how far the work is, with a way to cancel it: false once the user has. It comes up over
+    /// everything else, at once when events go on, else when the work takes its time. With all done it is
+    /// taken away again.
     virtual bool GoesOn(const WorkProgress& progress) = 0;
 
     // Each shows its dialog modally. The dialog's lblStatus tells how it was left: "OK", or anything else for

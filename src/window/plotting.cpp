@@ -29,7 +29,7 @@ Outcome SendPlot(WindowContext& context, const std::string& plotFile) {
     const PlotJob job = {.plot = context.files.Read(plotFile, LargestDrawing),
                          .batchFile = WritePlotBatch(context, plotFile)};
     const PlotSent sent = context.plotter->Send(job, [&](std::size_t taken, std::size_t whole) {
-        return context.ui.GoesOn({"Sending the plot", taken, whole});
+        return context.ui.GoesOn({"Sending the plot", taken, whole, true});
     });
     (void)context.ui.GoesOn({{}, job.plot.size(), job.plot.size()});  // takes the progress away
     if (sent.end == PlotSent::End::Failed) {

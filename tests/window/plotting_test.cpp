@@ -37,6 +37,7 @@ TEST_F(PlottingTest, ThePlotGoesThroughTheTransferFileToTheLine) {
     EXPECT_EQ(shell.ui.messages[0].style, PlainBox);
     ASSERT_EQ(shell.ui.progress.size(), 2U);
     EXPECT_EQ(shell.ui.progress[0].what, "Sending the plot");
+    EXPECT_TRUE(shell.ui.progress[0].eventsGoOn);
     EXPECT_EQ(shell.ui.progress[0].total, files.at("work/Transfer.plt").size());
     EXPECT_TRUE(IsTakenAway(shell.ui.progress[1]));
 }
