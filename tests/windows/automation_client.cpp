@@ -28,6 +28,7 @@ class Files final : public FileStore {
         return {std::istreambuf_iterator<char>(file), {}};
     }
     void Write(const std::string&, const std::string&, Flush) override {}
+    bool Create(const std::string&, const std::string&) override { return false; }
 };
 
 void ShowRow(const C3DPoints& row) {
