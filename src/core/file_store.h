@@ -25,6 +25,9 @@ class FileStore {
 
     [[nodiscard]] virtual bool Exists(const std::string& path) const = 0;
 
+    /// Whether two paths lead to one and the same file.
+    [[nodiscard]] virtual bool IsSameFile(const std::string& one, const std::string& other) const = 0;
+
     /// The bytes of a file. Throws FileError when there is none, when it is no regular file, when it can't be
     /// read, or when it is larger than `limit` bytes.
     [[nodiscard]] virtual std::string Read(const std::string& path, std::size_t limit) const = 0;

@@ -21,8 +21,10 @@ struct RotateDialog;
 /// A file dialog.
 struct FileChoice {
     std::string title;
-    std::string filter;  ///< description, an upright bar, and the pattern
-    bool save = false;   ///< asks for a name to write to, and before it replaces a file
+    std::string filter;       ///< description, an upright bar, and the pattern
+    bool save = false;        ///< asks for a name to write to, and before it replaces a file
+    std::string name = {};    ///< that is offered
+    std::string folder = {};  ///< to open in as long as the user has chosen no file in another; may be empty
 };
 
 /// How far work is that takes its time.

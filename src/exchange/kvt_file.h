@@ -1,9 +1,11 @@
 // The parameter file (*.Kvt): what the user typed, the settings and the view, never the model itself.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/branch_options.h"
@@ -82,6 +84,7 @@ struct CKvtFile {
     CViewPoint ViewPoint;
     int Dtype = 0;
     std::string FileName;
+    std::uint64_t Fingerprint = 0;  ///< of the bytes that LoadFile has read or SaveFile has written
     KvtControls Controls;
 
     /// The whole file as text, CR LF at the end of each line; numbers with the given decimal mark.
@@ -89,7 +92,7 @@ struct CKvtFile {
 
     /// Composes the file and puts it in the place of FileName in one step, flushed to the disk. Throws
     /// FileError, also for a file that LoadFile would not read again.
-    void SaveFile(FileStore& files, char decimalMark) const;
+    void SaveFile(FileStore& files, char decimalMark);
 
     /// Reads FileName from the header to the comments into the members; Controls must have the window's
     /// counts. PatternSettings and ViewPoint start anew, with `defaultSegs` segments. After an error
@@ -113,5 +116,11 @@ struct CKvtFile {
     /// The same from the text of a file.
     void ParseHeader(const std::string& text);
 };
+
+/// A number that tells the bytes of one file from those of another.
+std::uint64_t FingerprintOf(std::string_view bytes);
+
+/// The same of the file at a path; nothing when it can't be read.
+std::optional<std::uint64_t> FingerprintOfFile(const FileStore& files, const std::string& path);
 
 }  // namespace korvet

@@ -415,7 +415,26 @@ bool CKvtFile::IsOfLaterVersion() const {
 }
 
 void CKvtFile::LoadFile(const FileStore& files, int defaultSegs) {
-    Parse(DecodeText(files.Read(FileName, LargestFile)), defaultSegs);
+    const std::string bytes = files.Read(FileName, LargestFile);
+    Fingerprint = FingerprintOf(bytes);
+    Parse(DecodeText(bytes), defaultSegs);
+}
+
+/// The bytes one after the other by FNV-1a.
+std::uint64_t FingerprintOf(std::string_view bytes) {
+    std::uint64_t fingerprint = 0xcbf29ce484222325;
+    for (const char byte : bytes) {
+        fingerprint = (fingerprint ^ static_cast<unsigned char>(byte)) * 0x100000001b3;
+    }
+    return fingerprint;
+}
+
+std::optional<std::uint64_t> FingerprintOfFile(const FileStore& files, const std::string& path) {
+    try {
+        return FingerprintOf(files.Read(path, LargestFile));
+    } catch (const FileError&) {
+        return std::nullopt;
+    }
 }
 
 }  // namespace korvet

@@ -195,10 +195,11 @@ std::string CKvtFile::Compose(char decimalMark) const {
     return text.Whole();
 }
 
-void CKvtFile::SaveFile(FileStore& files, char decimalMark) const {
+void CKvtFile::SaveFile(FileStore& files, char decimalMark) {
     const std::string bytes = EncodeText(Compose(decimalMark));
     RequireReadable(bytes);
     files.Write(FileName, bytes, Flush::Yes);
+    Fingerprint = FingerprintOf(bytes);
 }
 
 }  // namespace korvet

@@ -13,7 +13,9 @@ enum BoxStyle : int {
     CriticalBox = 16,
     QuestionBox = 32,
     YesNoCancelBox = 35,
+    YesNoBox = 36,
     ExclamationBox = 48,
+    YesNoWarningBox = 52,
     InformationBox = 64
 };
 

@@ -24,6 +24,9 @@ class FrameDesktop {
     /// Shows a new child window and gives it its drawing area; it becomes the active one.
     virtual void ShowWindow(CFittingWindow& window) = 0;
 
+    /// Makes a child window the active one, over the others.
+    virtual void BringToFront(CFittingWindow& window) = 0;
+
     /// Takes a child window that has closed off the desktop, before it is destroyed.
     virtual void RemoveWindow(CFittingWindow& window) = 0;
 

@@ -92,6 +92,10 @@ CFittingWindow* CMainFrame::NewFitting(bool fromFile) {
 
 void CMainFrame::OpenFile(const std::string& path) {
     Guarded([&] {
+        if (CFittingWindow* const open = ChildOfFile(path)) {
+            desktop_.BringToFront(*open);
+            return;
+        }
         if (ReadCategory(path)) {
             return;
         }
@@ -101,6 +105,15 @@ void CMainFrame::OpenFile(const std::string& path) {
             (void)child->LoadFile(path);
         }
     });
+}
+
+/// The window of a file, under whatever path it was opened; null when there is none.
+CFittingWindow* CMainFrame::ChildOfFile(const std::string& path) const {
+    const auto child = std::find_if(children_.begin(), children_.end(), [&](const auto& candidate) {
+        return !HasNoFile(*candidate) && (candidate->controls.caption == path ||
+                                          context_.files.IsSameFile(candidate->controls.caption, path));
+    });
+    return child == children_.end() ? nullptr : child->get();
 }
 
 /// Takes the category from the header of a parameter file.

@@ -33,7 +33,8 @@ class CMainFrame {
     /// Does what the tool button at that position, from 1, does.
     void ClickTool(int position);
 
-    /// Opens a parameter file as File > Open does after its dialog.
+    /// Opens a parameter file as File > Open does after its dialog. The window that has it open already comes
+    /// to the front instead.
     void OpenFile(const std::string& path);
 
     /// A child window became the active one; null: none is.
@@ -63,6 +64,7 @@ class CMainFrame {
 
     // Windows.
     CFittingWindow* NewFitting(bool fromFile);
+    [[nodiscard]] CFittingWindow* ChildOfFile(const std::string& path) const;
     Outcome ReadCategory(const std::string& path);
     Outcome AskAllToClose();
     void Remove(CFittingWindow& window);

@@ -11,6 +11,7 @@
 #include "frame/new_fitting.h"
 #include "frame/start_up.h"
 #include "window/auto_cad.h"
+#include "window/export_fitting.h"
 #include "window/saving.h"
 #include "window/transfer.h"
 #include "window/transfer_place.h"
@@ -142,7 +143,10 @@ void CMainFrame::FileClose(CFittingWindow& child) {
 }
 
 void CMainFrame::FileSave(CFittingWindow& child) {
-    if (const auto path = HasNoFile(child) ? ChooseSaveName(context_.ui) : child.controls.caption) {
+    if (child.RequireModel()) {
+        return;
+    }
+    if (const auto path = HasNoFile(child) ? ChooseSaveName(child) : child.controls.caption) {
         (void)child.SaveFile(*path);
     }
 }
@@ -150,7 +154,10 @@ void CMainFrame::FileSave(CFittingWindow& child) {
 /// The caption is the name that later saves write to, so it goes back to what it was unless the file was
 /// written.
 void CMainFrame::FileSaveAs(CFittingWindow& child) {
-    const auto path = ChooseSaveName(context_.ui);
+    if (child.RequireModel()) {
+        return;
+    }
+    const auto path = ChooseSaveName(child);
     if (!path) {
         return;
     }
@@ -162,7 +169,10 @@ void CMainFrame::FileSaveAs(CFittingWindow& child) {
 }
 
 void CMainFrame::ExportDxf(CFittingWindow& child) {
-    const auto path = context_.ui.ChooseFile({"Export DXF", "Drawing eXchange File (*.DXF)|*.DXF", true});
+    if (ConfirmExportOfOldSizes(child)) {
+        return;
+    }
+    const auto path = ChooseDrawingName(child);
     if (!path) {
         return;
     }
@@ -174,13 +184,16 @@ void CMainFrame::ExportDxf(CFittingWindow& child) {
 }
 
 void CMainFrame::ExportHpgl(CFittingWindow& child) {
+    if (ConfirmExportOfOldSizes(child)) {
+        return;
+    }
     constexpr const char* PlotFile = "Transfer.plt";
     const TransferPlace* const folder = context_.transfer;
     (void)child.Export(folder != nullptr ? folder->PathOf(PlotFile) : PlotFile, ExportMode::Plotter);
 }
 
 void CMainFrame::SendToAcad(CFittingWindow& child) {
-    if (ConnectGlobalAcad(context_) == Passed) {
+    if (ConfirmExportOfOldSizes(child) == Passed && ConnectGlobalAcad(context_) == Passed) {
         (void)child.Export(TransferFile(context_), ExportMode::CadLink);
     }
 }

@@ -60,6 +60,11 @@ bool DiskFiles::Exists(const std::string& path) const {
     return path.find('\0') == std::string::npos && fs::exists(path, ignored);
 }
 
+bool DiskFiles::IsSameFile(const std::string& one, const std::string& other) const {
+    std::error_code ignored;
+    return fs::equivalent(one, other, ignored);
+}
+
 std::string DiskFiles::Read(const std::string& path, std::size_t limit) const {
     RequireFileName(path);
     std::error_code error;

@@ -21,6 +21,8 @@ class DiskFiles final : public FileStore {
     /// not let one look.
     [[nodiscard]] bool Exists(const std::string& path) const override;
 
+    [[nodiscard]] bool IsSameFile(const std::string& one, const std::string& other) const override;
+
     [[nodiscard]] std::string Read(const std::string& path, std::size_t limit) const override;
 
     /// Writes a temporary file in the same folder and renames it. The new file keeps owner, group,

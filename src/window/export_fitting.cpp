@@ -1,5 +1,8 @@
 #include "window/export_fitting.h"
 
+#include <algorithm>
+
+#include "core/constants.h"
 #include "dialogs/small_dialogs.h"
 #include "exchange/dxf.h"
 #include "window/auto_cad.h"
@@ -57,6 +60,8 @@ void FillDialog(const CFittingWindow& window, ExportMode mode, DxfOptionsDialog&
     step = ViewExamined;
     dialog.chkSurfaceMesh.enabled = !pattern;
     dialog.lblExportType = context.Message(pattern ? ExportingPattern : ExportingModel);
+    const std::string piece = DrawnPiece(window);
+    dialog.lblExportType += piece.empty() ? "" : ": " + piece;
     if (!pattern) {
         return;
     }
@@ -160,6 +165,31 @@ Outcome RunExport(CFittingWindow& window, const std::string& path, ExportMode mo
 }
 
 }  // namespace
+
+/// By what the fitting was last displayed with: another piece may have been chosen since.
+std::string DrawnPiece(const CFittingWindow& window) {
+    const bool ofPieces = !window.Table().patternSurface.empty();
+    if (!ofPieces || !window.hasModel || !InPatternView(*window.views)) {
+        return {};
+    }
+    const auto number = static_cast<std::size_t>(window.fitting->Inputs().Miscellaneous);
+    return window.controls.options.optPatternSelect.captions.at(number - 1);
+}
+
+Outcome ConfirmExportOfOldSizes(const CFittingWindow& window) {
+    const std::vector<TextBox>& boxes = window.controls.txtParameter;
+    const bool old = window.hasModel && std::any_of(boxes.begin(), boxes.end(),
+                                                    [](const TextBox& box) { return box.textColor == Red; });
+    if (!old) {
+        return Passed;
+    }
+    const Answer answer = window.Context().ui.Show(
+        {.text = "The sizes in red have been changed since this was drawn, and the file will not have them. "
+                 "Do you want to export what is drawn?",
+         .style = YesNoWarningBox,
+         .title = std::string(ProductTitle)});
+    return RefusedIf(answer != Answer::Yes);
+}
 
 Outcome ExportFitting(CFittingWindow& window, const std::string& path, ExportMode mode) {
     WindowContext& context = window.Context();

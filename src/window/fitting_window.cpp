@@ -7,6 +7,7 @@
 #include "dialogs/branch_additional_dialog.h"
 #include "window/export_fitting.h"
 #include "window/fitting_types.h"
+#include "window/parameter_file.h"
 #include "window/saving.h"
 #include "window/views.h"
 #include "window/window_layout.h"
@@ -25,6 +26,7 @@ CFittingWindow::CFittingWindow(WindowContext& context, const CatalogueRow& row, 
     InitialiseFitting();
     SetupFittingWindow(*this);
     edited = true;
+    CountAsSaved(*this);
 }
 
 /// The defaults of the window and the flags of its pattern settings.
@@ -210,6 +212,7 @@ Outcome CFittingWindow::LoadFile(const std::string& path) {
         if (AddViewOfExtents() == Passed) {
             Rebuild();
         }
+        CountAsSaved(*this);
         return Passed;
     } catch (const std::exception& error) {
         hasModel = false;
@@ -217,6 +220,16 @@ Outcome CFittingWindow::LoadFile(const std::string& path) {
         ShowLoadError(context_, path, error);
         return Refused;
     }
+}
+
+/// The first view is one of the model, which asks least of the user.
+Outcome CFittingWindow::RequireBuild() {
+    if (views->Count() == 0) {
+        ClickView(0);
+    } else {
+        UpdateFitting();
+    }
+    return RefusedIf(!hasModel);
 }
 
 Outcome CFittingWindow::SaveFile(const std::string& path) {

@@ -20,6 +20,7 @@
 #include "form/outcome.h"
 #include "printing/print_frames.h"
 #include "window/context.h"
+#include "window/saved_state.h"
 #include "window/window_model.h"
 
 namespace korvet {
@@ -109,6 +110,13 @@ class CFittingWindow {
 
     /// Writes the coordinate table of the pattern that is shown.
     Outcome WriteTable(const std::string& path);
+
+    /// Refuses with message 76 when there is no model.
+    Outcome RequireModel();
+
+    /// Builds what is typed, in the view that is shown or in a first one. Refuses, after the message of the
+    /// build, when there is no model then.
+    Outcome RequireBuild();
 
     /// Updates and writes the parameter file; the caption becomes its path.
     Outcome SaveFile(const std::string& path);
@@ -210,10 +218,13 @@ class CFittingWindow {
     std::optional<FittingHandle> fitting;
     std::string statusString;  ///< line for the status bar, as it was last composed
 
+    /// As it was last saved or loaded, or as a new one; nothing: all that it holds is yet to be saved.
+    std::optional<SavedState> saved;
+    std::optional<KnownFile> knownFile;
+
   private:
     void InitialiseFitting();
     void RevealBox(const TextBox& box);
-    Outcome RequireModel();
     Outcome RequireMesh();
     void Rebuild();
     Outcome AddViewOfExtents();

@@ -16,16 +16,20 @@ inline constexpr std::string_view NewWindowCaption = "Development";
 /// Whether the window has no file yet, by its caption.
 bool HasNoFile(const CFittingWindow& window);
 
-/// Saves the window's boxes, settings, view and annotations to `path`, which becomes its caption. Refuses,
-/// with a message, when the file could not be written; the caption and an old file then stay as they were.
+/// Saves the window's boxes, settings, view and annotations to `path`, which becomes its caption. Asks first
+/// when the window has read or written that file before, and it is now another one. Refuses after No, and
+/// with a message when the file could not be written; the caption and an old file then stay as they were.
 Outcome SaveFitting(CFittingWindow& window, const std::string& path);
 
 /// Fills the window from a parameter file and shows the page of its type; nothing is built. Returns what was
 /// read. Throws FileError and ParameterFileError; what was read before the fault stays in the controls.
 CKvtFile LoadFitting(CFittingWindow& window, const std::string& path);
 
-/// Asks under which name a parameter file is to be saved; nothing after Cancel.
-std::optional<std::string> ChooseSaveName(UserInterface& ui);
+/// Asks under which name the window's parameter file is to be saved; nothing after Cancel.
+std::optional<std::string> ChooseSaveName(const CFittingWindow& window);
+
+/// Asks for the name of a drawing of the window; nothing after Cancel.
+std::optional<std::string> ChooseDrawingName(const CFittingWindow& window);
 
 /// Says that the file at `path` is one of another product.
 void ShowForeignProduct(WindowContext& context, const std::string& path, const std::exception& error);
@@ -40,8 +44,9 @@ void ShowLoadError(WindowContext& context, const std::string& path, const std::e
 /// Says what a file that has been loaded does not hold for this program, if there is such a thing.
 void ShowLoadNotes(WindowContext& context, const CKvtFile& file);
 
-/// Lets a window be closed: asks whether its model is to be saved, and saves it. Refuses when the window is
-/// to stay open: after Cancel, in the question or the file dialog, or when it could not be saved.
+/// Lets a window be closed: if it has changes, asks whether they are to be saved, builds and saves them.
+/// Refuses when the window is to stay open: after Cancel, in the question or the file dialog, when the sizes
+/// are refused, or when it could not be saved.
 Outcome ConfirmSave(CFittingWindow& window);
 
 }  // namespace korvet

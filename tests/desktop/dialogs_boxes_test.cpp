@@ -26,6 +26,8 @@ const std::array Styles = {
     MessageStyle{QuestionBox, QMessageBox::Question, QMessageBox::Ok},
     MessageStyle{YesNoCancelBox, QMessageBox::Question,
                  QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel},
+    MessageStyle{YesNoBox, QMessageBox::Question, QMessageBox::Yes | QMessageBox::No},
+    MessageStyle{YesNoWarningBox, QMessageBox::Warning, QMessageBox::Yes | QMessageBox::No},
     MessageStyle{ExclamationBox, QMessageBox::Warning, QMessageBox::Ok},
     MessageStyle{InformationBox, QMessageBox::Information, QMessageBox::Ok}};
 
@@ -95,6 +97,10 @@ class DialogBoxes : public QObject {
         QCOMPARE(desk_.ui.Show({"?", ExclamationBox, "t"}), Answer::Ok);
         press(Qt::Key_Return);
         QCOMPARE(desk_.ui.Show({"?", YesNoCancelBox, "t"}), Answer::Yes);
+        for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {  // what can be lost needs more than that
+            press(key);
+            QCOMPARE(desk_.ui.Show({"?", YesNoWarningBox, "t"}), Answer::No);
+        }
     }
 
     void TextsAreShownAsTheyAre() {
@@ -182,6 +188,29 @@ class DialogBoxes : public QObject {
             WhenShown([&](QDialog& window) { ChooseName(window, path); });
             QCOMPARE(desk_.ui.ChooseFile(SaveAs), folder_.filePath(saved).toStdString());
         }
+    }
+
+    void TheOfferedNameIsTakenWithAKey() {
+        DialogDesk desk;
+        QVERIFY(QDir(folder_.path()).mkdir("orders"));
+        FileChoice offered = Dxf;
+        offered.name = "Branch Trunk.DXF";
+        offered.folder = folder_.filePath("orders").toStdString();
+        const auto take = [](QDialog& window) {
+            Activate(window);
+            auto& edit = Child<QLineEdit>(window, "fileNameEdit");
+            QCOMPARE(edit.text(), QStringLiteral("Branch Trunk.DXF"));
+            QTest::keyClick(&edit, Qt::Key_Return);
+        };
+        WhenShown(take);
+        QCOMPARE(desk.ui.ChooseFile(offered), folder_.filePath("orders/Branch Trunk.DXF").toStdString());
+        // From the first choice on a dialog opens where the last one was made.
+        offered.folder = folder_.path().toStdString();
+        WhenShown(take);
+        QCOMPARE(desk.ui.ChooseFile(offered), folder_.filePath("orders/Branch Trunk.DXF").toStdString());
+        QVERIFY(QDir(folder_.filePath("orders")).removeRecursively());
+        WhenShown(take);
+        QCOMPARE(desk.ui.ChooseFile(offered), folder_.filePath("Branch Trunk.DXF").toStdString());
     }
 
     void AFileIsReplacedOnlyAfterAQuestion() {

@@ -54,16 +54,38 @@ class FrameWindowsTest : public QObject {
         CFittingWindow& made = desk.New(0);
         Bring(made, State::Pattern);
         QVERIFY(made.SaveFile("/jobs/cone.Kvt") == Passed);
+        QVERIFY(desk.window.Frame().CloseChild(made) == Passed);
         QMimeData files;
         files.setUrls({QUrl::fromLocalFile("/jobs/cone.Kvt"), QUrl::fromLocalFile("/jobs/none.Kvt")});
-        QDragEnterEvent enter(QPoint(20, 20), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(&desk.window, &enter);
-        QVERIFY(enter.isAccepted());
-        QDropEvent drop(QPointF(20, 20), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(&desk.window, &drop);
-        QTRY_COMPARE(desk.window.Frame().Children().size(), 2U);
+        const auto any = Qt::CopyAction | Qt::MoveAction | Qt::LinkAction;
+        QDragEnterEvent enter(QPoint(20, 20), any, &files, Qt::LeftButton, Qt::ShiftModifier);
+        QDragMoveEvent move(QPoint(30, 20), any, &files, Qt::LeftButton, Qt::ShiftModifier);
+        QDropEvent drop(QPointF(30, 20), any, &files, Qt::LeftButton, Qt::ShiftModifier);
+        for (QDropEvent* const event :
+             {static_cast<QDropEvent*>(&enter), static_cast<QDropEvent*>(&move), &drop}) {
+            event->setDropAction(Qt::MoveAction);  // as the key asks for
+            event->ignore();
+            QCoreApplication::sendEvent(&desk.window, event);
+            QVERIFY(event->isAccepted());
+            QCOMPARE(event->dropAction(), Qt::CopyAction);
+        }
+        QTRY_COMPARE(desk.window.Frame().Children().size(), 1U);
         QCOMPARE(desk.window.Frame().ActiveChild()->controls.caption, std::string("/jobs/cone.Kvt"));
         QTRY_VERIFY(!desk.shell.ui.messages.empty());  // of the file that is not there
+    }
+
+    void aFileThatIsOpenComesToTheFront() {
+        Desk desk;
+        CFittingWindow& first = desk.New(0);
+        Bring(first, State::Pattern);
+        QVERIFY(first.SaveFile("/jobs/cone.Kvt") == Passed);
+        desk.ActiveView().showMinimized();
+        desk.New(8);
+        desk.window.Frame().OpenFile("/jobs/cone.Kvt");
+        QCOMPARE(desk.window.Frame().Children().size(), 2U);
+        QCOMPARE(desk.window.Frame().ActiveChild(), &first);
+        QCOMPARE(desk.ActiveView().View().Window(), &first);
+        QVERIFY(!desk.ActiveView().isMinimized());
     }
 
     void windowsAreArranged() {

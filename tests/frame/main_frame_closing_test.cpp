@@ -49,8 +49,8 @@ TEST_F(MainFrameClosingTest, YesThatSavesNothingKeepsTheWindow) {
 }
 
 TEST_F(MainFrameClosingTest, TheDesktopTellsWhichWindowComesNext) {
-    CFittingWindow& first = rig.OpenCone();
-    CFittingWindow& second = rig.OpenCone();
+    CFittingWindow& first = rig.OpenNewCone();
+    CFittingWindow& second = rig.OpenNewCone();
     first.statusString = "of the first";
     EXPECT_EQ(rig.frame.CloseChild(second), Passed);
     EXPECT_EQ(rig.frame.ActiveChild(), &first);
@@ -61,22 +61,22 @@ TEST_F(MainFrameClosingTest, TheDesktopTellsWhichWindowComesNext) {
 
 TEST_F(MainFrameClosingTest, NoWindowIsActiveWhileTheDesktopHasNamedNone) {
     rig.desktop.activate = nullptr;
-    rig.OpenCone();
-    CFittingWindow& second = rig.OpenCone();
+    rig.OpenNewCone();
+    CFittingWindow& second = rig.OpenNewCone();
     EXPECT_EQ(rig.frame.CloseChild(second), Passed);
     EXPECT_EQ(rig.frame.ActiveChild(), nullptr);
     EXPECT_EQ(rig.Open(), (Captions{"Development 1"}));
 }
 
 TEST_F(MainFrameClosingTest, AnInactiveWindowClosesWithoutDisturbingTheActiveOne) {
-    CFittingWindow& first = rig.OpenCone();
-    CFittingWindow& second = rig.OpenCone();
+    CFittingWindow& first = rig.OpenNewCone();
+    CFittingWindow& second = rig.OpenNewCone();
     EXPECT_EQ(rig.frame.CloseChild(first), Passed);
     EXPECT_EQ(rig.frame.ActiveChild(), &second);
 }
 
 TEST_F(MainFrameClosingTest, CommandsStayUsableUntilOneFindsNoWindow) {
-    (void)rig.frame.CloseChild(rig.OpenCone());
+    (void)rig.frame.CloseChild(rig.OpenNewCone());
     EXPECT_TRUE(rig.shell.frame.menuEnabled.at("mnuFileSave"));
     rig.frame.RunMenu("mnuFileSave");
     EXPECT_TRUE(rig.shell.frame.menuEnabled.at("mnuFileSave"));
@@ -85,10 +85,10 @@ TEST_F(MainFrameClosingTest, CommandsStayUsableUntilOneFindsNoWindow) {
     EXPECT_FALSE(rig.shell.frame.menuEnabled.at("mnuFileSave"));
 }
 
-TEST_F(MainFrameClosingTest, TheFrameAsksForEveryDrawnWindowAndThenClosesAll) {
+TEST_F(MainFrameClosingTest, TheFrameAsksForEveryChangedWindowAndThenClosesAll) {
     rig.OpenDrawnCone();
-    rig.OpenCone();  // nothing to lose: no question
-    rig.OpenDrawnCone();
+    rig.OpenNewCone();  // nothing to lose: no question
+    rig.OpenCone();
     rig.shell.ui.answers = {Answer::Yes, Answer::No};
     rig.shell.ui.files = {"a.Kvt"};
     rig.shell.patternSettingsDialog.lblNoOfSides = 6;

@@ -47,7 +47,7 @@ const std::string NoFrames = "P No printer";
 
 /// Commands that are not listed say nothing in any state.
 const std::map<std::string_view, Texts> Said = {
-    {"mnuFileClose", {NoSave, "", "", Question, Question}},
+    {"mnuFileClose", {NoSave, Question, Question, Question, Question}},
     {"mnuFileSave", {NoSave, NotNow, NotNow, "", ""}},
     {"mnuFileSaveAs", {NoSave, NotNow, NotNow, "", ""}},
     {"mnuExportDXF", {NoCommand, NotNow, NotNow, Saved, Saved}},
@@ -75,15 +75,13 @@ const std::string Export = "Export DXF|Drawing eXchange File (*.DXF)|*.DXF|save"
 const std::string Exports = Export + ", wrote part, Exporting part";
 const std::string Plots =
     "wrote work/Transfer.tmp, wrote work/Transfer.plt, wrote work/Plot.bat, Exporting work/Transfer.plt";
-const std::string Closes = "remove Development 1, now none";
 
 /// Commands that are not listed leave everything as it is.
 const std::map<std::string_view, Texts> Done = {
     {"mnuFileNew", Everywhere("category menu")},
     {"mnuFileOpen", Everywhere("Open|All Files (*.Kvt)|*.Kvt|open")},
-    {"mnuFileClose", {"", Closes, Closes, "", ""}},
-    {"mnuFileSave", {"", SaveAs, SaveAs, Saves, Saves}},
-    {"mnuFileSaveAs", {"", SaveAs, SaveAs, Saves, Saves}},
+    {"mnuFileSave", {"", "", "", Saves, Saves}},
+    {"mnuFileSaveAs", {"", "", "", Saves, Saves}},
     {"mnuExportDXF", {"", Export, Export, Exports, Exports}},
     {"mnuExportHPGL", {"", "", "", Plots, Plots}},
     {"mnuFilePageSetup",
@@ -221,6 +219,30 @@ TEST(MainFrameCommandsTest, AFileThatAnotherProgramHoldsIsNotExportedTo) {
     rig->frame.RunMenu("mnuExportDXF");
     EXPECT_EQ(rig->Said(), "P This file is already open by another process");
     EXPECT_EQ(rig->Did(), Export);
+}
+
+TEST(MainFrameCommandsTest, AnExportOfOldSizesAsksFirst) {
+    for (const std::string_view menu : {"mnuExportDXF", "mnuExportHPGL", "mnuSendToAcad"}) {
+        const auto rig = Ready(FrameState::Pattern, menu);
+        rig->frame.ActiveChild()->ChangeBox(3, "350");
+        rig->shell.ui.answers = {Answer::No, Answer::Yes};
+        rig->shell.ui.files = {"part", "part"};
+        const std::string question =
+            "52 The sizes in red have been changed since this was drawn, and the file will not have them. "
+            "Do you want to export what is drawn?";
+        rig->frame.RunMenu(menu);
+        EXPECT_EQ(rig->Said(), question);
+        EXPECT_EQ(rig->Did(), "");
+        rig->Forget();
+        rig->frame.RunMenu(menu);
+        EXPECT_EQ(rig->Said(), question + " / " + In(Said, menu, FrameState::Pattern));
+        EXPECT_EQ(rig->Did(), In(Done, menu, FrameState::Pattern));
+        // What is built again needs no question.
+        rig->frame.RunMenu("mnuRedraw");
+        rig->Forget();
+        rig->frame.RunMenu(menu);
+        EXPECT_EQ(rig->Said(), In(Said, menu, FrameState::Pattern));
+    }
 }
 
 TEST(MainFrameCommandsTest, ACancelledFileDialogEndsACommandWithoutAWord) {

@@ -71,11 +71,16 @@ class FrameRig {
         return captions;
     }
 
-    /// A new cone with sizes typed, through File > New.
-    CFittingWindow& OpenCone() {
+    /// A new cone, through File > New.
+    CFittingWindow& OpenNewCone() {
         desktop.pick = "Right Cone";
         frame.RunMenu("mnuFileNew");
-        CFittingWindow& cone = *frame.ActiveChild();
+        return *frame.ActiveChild();
+    }
+
+    /// The same with sizes typed: closing it asks.
+    CFittingWindow& OpenCone() {
+        CFittingWindow& cone = OpenNewCone();
         cone.keepsInSight = false;  // the zooms of the commands count from 1
         cone.ChangeBox(3, "300");
         cone.ChangeBox(4, "150");
@@ -83,7 +88,7 @@ class FrameRig {
         return cone;
     }
 
-    /// A cone that shows its pattern: closing it asks.
+    /// A cone that shows its pattern.
     CFittingWindow& OpenDrawnCone() {
         CFittingWindow& cone = OpenCone();
         cone.ClickView(PatternButton);

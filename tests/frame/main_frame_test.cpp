@@ -196,6 +196,29 @@ TEST_F(MainFrameTest, AFileOfAnUnknownFittingIsToldAndOpensNothingButCounts) {
     EXPECT_EQ(rig.shell.frame.documentCounter, 3);
 }
 
+TEST_F(MainFrameTest, AFileThatIsOpenIsNotOpenedAgain) {
+    PutGoodFile();
+    rig.shell.files.links = {{"link.Kvt", "good.Kvt"}};
+    rig.frame.OpenFile("good.Kvt");
+    CFittingWindow& cone = *rig.frame.ActiveChild();
+    cone.ChangeBox(3, "310");
+    rig.OpenNewCone();
+    for (const std::string path : {"good.Kvt", "link.Kvt"}) {
+        rig.frame.ActivateChild(rig.frame.Children().back().get());
+        rig.Forget();
+        rig.frame.OpenFile(path);
+        EXPECT_EQ(rig.desktop.calls, (Captions{"front good.Kvt"}));
+        EXPECT_EQ(rig.frame.ActiveChild(), &cone);
+        EXPECT_EQ(rig.frame.Children().size(), 2U);
+        EXPECT_EQ(cone.controls.txtParameter[3].text, "310");
+    }
+    // One that it could not read is not open.
+    rig.shell.files.files["bad.Kvt"] = rig.shell.files.files["good.Kvt"].substr(0, 400);
+    rig.frame.OpenFile("bad.Kvt");
+    rig.frame.OpenFile("bad.Kvt");
+    EXPECT_EQ(rig.frame.Children().size(), 4U);
+}
+
 TEST_F(MainFrameTest, AFileCutShortLeavesANewWindowWithWhatWasRead) {
     PutGoodFile();
     std::string& contents = rig.shell.files.files["good.Kvt"];
@@ -207,6 +230,7 @@ TEST_F(MainFrameTest, AFileCutShortLeavesANewWindowWithWhatWasRead) {
     EXPECT_EQ(cone.controls.txtParameter[3].text, "300");
     EXPECT_FALSE(cone.hasModel);
     // It is not saved over the file that it could not be read from.
+    rig.frame.ActiveChild()->ClickView(0);
     rig.frame.RunMenu("mnuFileSave");
     EXPECT_EQ(rig.shell.ui.fileDialogs.size(), 1U);
 }

@@ -71,6 +71,19 @@ TEST_F(DiskFilesTest, ExistsSeesFilesAndFolders) {
     EXPECT_FALSE(files.Exists(""));
 }
 
+TEST_F(DiskFilesTest, OneFileHasManyPaths) {
+    Put(Path("a"), "same");
+    Put(Path("b"), "same");
+    fs::create_symlink("a", Path("link"));
+    for (const std::string& path : {Path("a"), Path("./a"), Path("link")}) {
+        EXPECT_TRUE(files.IsSameFile(Path("a"), path)) << path;
+        EXPECT_TRUE(files.IsSameFile(path, Path("a"))) << path;
+    }
+    EXPECT_FALSE(files.IsSameFile(Path("a"), Path("b")));
+    EXPECT_FALSE(files.IsSameFile(Path("a"), Path("none")));
+    EXPECT_FALSE(files.IsSameFile(Path("none"), Path("none")));
+}
+
 TEST_F(DiskFilesTest, WritingReplacesTheWholeFile) {
     Put(Path("file"), "a longer old text");
     files.Write(Path("file"), "new", Flush::No);

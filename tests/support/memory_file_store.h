@@ -23,12 +23,17 @@ class MemoryFileStore final : public FileStore {
     std::map<std::string, std::string> files;  ///< the bytes by path; a test may put files here itself
     std::set<std::string> unreadable;          ///< paths at which Read throws though the file exists
     std::set<std::string> unwritable;          ///< paths at which Write and Create throw and change nothing
+    std::map<std::string, std::string> links;  ///< other paths of files
     std::vector<Written> writes;               ///< successful writes, in their order
 
     /// What another program does as soon as a file has been written.
     std::function<void(const std::string& path)> afterWrite;
 
     [[nodiscard]] bool Exists(const std::string& path) const override { return files.contains(path); }
+
+    [[nodiscard]] bool IsSameFile(const std::string& one, const std::string& other) const override {
+        return Target(one) == Target(other);
+    }
 
     [[nodiscard]] std::string Read(const std::string& path, std::size_t limit) const override {
         const auto file = files.find(path);
@@ -61,6 +66,12 @@ class MemoryFileStore final : public FileStore {
         }
         Write(path, contents, Flush::Yes);
         return true;
+    }
+
+  private:
+    [[nodiscard]] std::string Target(const std::string& path) const {
+        const auto link = links.find(path);
+        return link == links.end() ? path : link->second;
     }
 };
 

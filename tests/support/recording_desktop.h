@@ -33,6 +33,12 @@ class RecordingDesktop final : public FrameDesktop {
         window.display.DisplayDevice = drawingArea;
         windows.push_back(&window);
     }
+    void BringToFront(CFittingWindow& window) override {
+        calls.push_back("front " + window.controls.caption);
+        if (activate) {
+            activate(&window);
+        }
+    }
     void RemoveWindow(CFittingWindow& window) override {
         calls.push_back("remove " + window.controls.caption);
         std::erase(windows, &window);

@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/test_context.h"
+#include "window/export_fitting.h"
+#include "window/saving.h"
 #include "window/views.h"
 
 namespace korvet {
@@ -57,6 +59,32 @@ TEST_F(ExportTest, OffersWhatThePatternShows) {
     EXPECT_TRUE(IsOffered(Shown(*window), DxfOptionsDialog::Dimensions));
     shell.options.PolyMode = 1;
     EXPECT_TRUE(Shown(*window).optPolyMode.IsOn(1));
+}
+
+TEST_F(ExportTest, TellsWhichPieceIsDrawn) {
+    const auto window = shell.OpenSample("Branch", 1);
+    EXPECT_EQ(DrawnPiece(*window), "");
+    for (const auto& [index, piece] : {std::pair{0U, "Trunk"}, {1U, "Branch"}}) {
+        window->SelectPattern(index);
+        window->ClickView(PatternButton);
+        ASSERT_TRUE(window->hasModel);
+        window->SelectPattern(1 - index);  // is drawn with the next build only
+        EXPECT_EQ(Shown(*window).lblExportType, std::string("Exporting unfolded pattern: ") + piece);
+        shell.ui.fileDialogs.clear();
+        (void)ChooseDrawingName(*window);
+        EXPECT_EQ(shell.ui.fileDialogs.at(0).name, std::string("Branch ") + piece + ".DXF");
+    }
+    window->ClickView(0);
+    EXPECT_EQ(Shown(*window).lblExportType, "Exporting wire-frame model");
+    EXPECT_EQ(DrawnPiece(*window), "");
+}
+
+TEST_F(ExportTest, AChoiceOfLayoutIsNoPiece) {
+    const auto window = shell.OpenSample("Segmented Bend", 1);
+    window->SelectPattern(1);
+    window->ClickView(PatternButton);
+    ASSERT_TRUE(window->hasModel);
+    EXPECT_EQ(Shown(*window).lblExportType, "Exporting unfolded pattern");
 }
 
 TEST_F(ExportTest, APlotterTakesNeitherPolylinesNorText) {

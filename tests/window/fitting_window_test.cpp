@@ -324,50 +324,5 @@ TEST_F(FittingWindowTest, RemovingAllDimensionsEmptiesTheList) {
     EXPECT_EQ(window->display.DimensionList, window->dimensions);
 }
 
-TEST_F(FittingWindowTest, ClosingAsksOnlyWithAModel) {
-    const auto empty = Cone();
-    EXPECT_EQ(empty->CloseForm(), Passed);
-    EXPECT_TRUE(shell.ui.messages.empty());
-
-    const auto window = ConeWithView(PatternButton);
-    EXPECT_EQ(window->CloseForm(), Refused);  // the box is answered with Cancel
-    ExpectMessage("Save parameter file for Development 2", YesNoCancelBox, "Korvet Development");
-    EXPECT_FALSE(window->closed);
-    shell.ui.answers = {Answer::No};
-    EXPECT_EQ(window->CloseForm(), Passed);
-    EXPECT_TRUE(shell.files.files.empty());
-}
-
-TEST_F(FittingWindowTest, ClosingWithYesSavesFirst) {
-    const auto window = ConeWithView(PatternButton);
-    shell.ui.answers = {Answer::Yes};
-    shell.ui.files = {"cone.Kvt"};
-    EXPECT_EQ(window->CloseForm(), Passed);
-    EXPECT_EQ(shell.ui.fileDialogs.at(0).title, "SaveAs");
-    EXPECT_EQ(shell.ui.fileDialogs.at(0).filter, "Korvet Development Files (*.Kvt)|*.Kvt");
-    EXPECT_TRUE(shell.files.files.contains("cone.Kvt"));
-}
-
-TEST_F(FittingWindowTest, ClosingStopsWhenTheSaveDoesNotHappen) {
-    const auto window = ConeWithView(PatternButton);
-    shell.ui.answers = {Answer::Yes, Answer::Yes};
-    shell.ui.files = {std::nullopt, "full/cone.Kvt"};
-    EXPECT_EQ(window->CloseForm(), Refused);  // the file dialog was cancelled
-    shell.files.unwritable.insert("full/cone.Kvt");
-    EXPECT_EQ(window->CloseForm(), Refused);
-    EXPECT_EQ(shell.ui.messages.back().text, "full/cone.Kvt: cannot be written");
-    EXPECT_EQ(window->controls.caption, "Development 1");
-    EXPECT_FALSE(window->closed);
-}
-
-TEST_F(FittingWindowTest, ASavedWindowIsSavedUnderItsName) {
-    const auto window = ConeWithView(PatternButton);
-    EXPECT_EQ(window->SaveFile("cone.Kvt"), Passed);
-    EXPECT_EQ(window->controls.caption, "cone.Kvt");
-    shell.ui.answers = {Answer::Yes};
-    EXPECT_EQ(window->CloseForm(), Passed);
-    EXPECT_TRUE(shell.ui.fileDialogs.empty());
-}
-
 }  // namespace
 }  // namespace korvet

@@ -23,6 +23,7 @@ class Boxes final : public MessageBoxes {
 class Files final : public FileStore {
   public:
     [[nodiscard]] bool Exists(const std::string& path) const override { return std::ifstream(path).good(); }
+    [[nodiscard]] bool IsSameFile(const std::string&, const std::string&) const override { return false; }
     [[nodiscard]] std::string Read(const std::string& path, std::size_t) const override {
         std::ifstream file(path, std::ios::binary);
         return {std::istreambuf_iterator<char>(file), {}};

@@ -4,6 +4,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <algorithm>
 
 #include "desktop/bindings.h"
 
@@ -52,6 +53,12 @@ QString WithSuffix(const QString& path, const QString& suffix) {
     return path + (path.endsWith(QLatin1Char('.')) ? QString() : QStringLiteral(".")) + suffix;
 }
 
+/// The first of these folders that there is. The last one has to be there.
+QString FirstThatIsThere(const QStringList& folders) {
+    const auto isThere = [](const QString& folder) { return !folder.isEmpty() && QDir(folder).exists(); };
+    return *std::find_if(folders.begin(), folders.end() - 1, isThere);
+}
+
 /// Whether a file may be written at that path; the box that says why not, or asks.
 bool MayWrite(QWidget& parent, const QString& path) {
     const QFileInfo file(path);
@@ -78,11 +85,11 @@ bool MayWrite(QWidget& parent, const QString& path) {
 
 std::optional<std::string> RunFileDialog(QWidget* parent, const FileChoice& choice, QString& folder) {
     const Filter filter = FilterOf(choice.filter);
-    QString path;
+    QString path = Text(choice.name);
     while (true) {
         QFileDialog dialog(parent);
         SetUp(dialog, choice, filter);
-        dialog.setDirectory(folder.isEmpty() ? QDir::currentPath() : folder);
+        dialog.setDirectory(FirstThatIsThere({folder, Text(choice.folder), QDir::currentPath()}));
         if (!path.isEmpty()) {
             dialog.selectFile(QFileInfo(path).fileName());
         }

@@ -14,6 +14,7 @@ constexpr int ButtonBits = 7;
 constexpr int IconBits = 112;
 constexpr int OkCancelButtons = 1;
 constexpr int YesNoCancelButtons = 3;
+constexpr int YesNoButtons = 4;
 
 QMessageBox::Icon IconOf(BoxStyle style) {
     switch (style & IconBits) {
@@ -38,12 +39,19 @@ void AddButtons(QMessageBox& box, BoxStyle style) {
         case YesNoCancelButtons:
             box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
             break;
+        case YesNoButtons:
+            box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+            box.setDefaultButton(QMessageBox::No);
+            break;
         default:
             box.setStandardButtons(QMessageBox::Ok);
             break;
     }
-    const bool canCancel = (box.standardButtons() & QMessageBox::Cancel) != 0;
-    box.setEscapeButton(canCancel ? QMessageBox::Cancel : QMessageBox::Ok);
+    for (const auto button : {QMessageBox::Ok, QMessageBox::No, QMessageBox::Cancel}) {
+        if ((box.standardButtons() & button) != 0) {
+            box.setEscapeButton(button);  // the last of them that there is
+        }
+    }
 }
 
 Answer AnswerOf(int button) {

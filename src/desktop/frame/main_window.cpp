@@ -222,6 +222,18 @@ void MainWindow::ShowWindow(CFittingWindow& window) {
     frame_.ActivateChild(&window);
 }
 
+void MainWindow::BringToFront(CFittingWindow& window) {
+    ChildWindow* const child = ChildOf(window);
+    if (child == nullptr) {
+        return;
+    }
+    if (child->isMinimized()) {
+        child->showNormal();
+    }
+    area_->setActiveSubWindow(child);
+    frame_.ActivateChild(&window);
+}
+
 void MainWindow::RemoveWindow(CFittingWindow& window) {
     ChildWindow* child = ChildOf(window);
     if (child == nullptr) {
@@ -342,16 +354,29 @@ void MainWindow::TakeInnerSize() {
     frame_.Context().frame.inner = {0, 0, Twips(inner.width()), Twips(inner.height())};
 }
 
-void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-    if (!IsBusy() && !LocalFiles(*event->mimeData()).isEmpty()) {
-        event->acceptProposedAction();
+/// Files are opened, whatever key is held: a sender that took a drop as a move would delete them.
+bool MainWindow::TakeAsCopy(QDropEvent& event) {
+    if (IsBusy() || LocalFiles(*event.mimeData()).isEmpty()) {
+        return false;
     }
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
+    return true;
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    (void)TakeAsCopy(*event);
+}
+
+void MainWindow::dragMoveEvent(QDragMoveEvent* event) {
+    (void)TakeAsCopy(*event);
 }
 
 void MainWindow::dropEvent(QDropEvent* event) {
-    event->acceptProposedAction();
-    // The sender of the drop must not wait for message boxes.
-    QTimer::singleShot(0, this, [this, paths = LocalFiles(*event->mimeData())] { OpenFiles(paths); });
+    if (TakeAsCopy(*event)) {
+        // The sender of the drop must not wait for message boxes.
+        QTimer::singleShot(0, this, [this, paths = LocalFiles(*event->mimeData())] { OpenFiles(paths); });
+    }
 }
 
 void MainWindow::OpenFiles(const QStringList& paths) {

@@ -67,6 +67,7 @@ class MainWindow : public QMainWindow, public FrameDesktop {
     void Start(const QStringList& files);
 
     void ShowWindow(CFittingWindow& window) override;
+    void BringToFront(CFittingWindow& window) override;
     void RemoveWindow(CFittingWindow& window) override;
     void Arrange(Arrangement arrangement) override;
     void Close() override;
@@ -81,9 +82,11 @@ class MainWindow : public QMainWindow, public FrameDesktop {
     void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
   private:
+    static bool TakeAsCopy(QDropEvent& event);
     void OpenFiles(const QStringList& paths);
     void MakeMenus();
     void MakeToolBar();
