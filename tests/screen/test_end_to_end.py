@@ -8,7 +8,7 @@ import unittest
 
 import ezdxf
 
-from korvet_screen import TITLE, ScreenTest
+from korvet_screen import BASE, TITLE, ScreenTest
 
 R, SMALL_R, HEIGHT = 150.0, 60.0, 250.0  # of the cone that is typed
 SLANT = math.hypot(R, HEIGHT * R / (R - SMALL_R))  # of the whole cone, to its apex
@@ -161,8 +161,7 @@ class EndToEnd(ScreenTest):
         self.assertEqual(screen.answer(TITLE), f"DXF successfully saved to: {exported}")
         self.check_drawing_file()
 
-        screen.key("ctrl+w")
-        self.assertEqual(screen.answer(TITLE, "No"), f"Save parameter file for {saved}")
+        screen.key("ctrl+w")  # it is saved: no question
         screen.wait(lambda: screen.children() == [], "empty frame")
 
         screen.click("Open", "push button")
@@ -178,8 +177,9 @@ class EndToEnd(ScreenTest):
         # The thickness first; then, behind seven lines of other things, a lap of 20 along the seam.
         self.assertEqual((settings[0], settings[12:16]), ("3", ["1", "0", "20", "0"]), settings)
 
+        screen.fill(BASE, "310")
         screen.key("alt+f", "x")
-        screen.message(TITLE)
+        self.assertEqual(screen.message(TITLE), f"Save parameter file for {saved}")
         screen.key("alt+n")
         self.assertEqual(screen.wait_end(), 0)
 
