@@ -19,7 +19,7 @@ CKvtFile FileWithDimensions(std::size_t count) {
     return file;
 }
 
-std::string ErrorOfSaving(const CKvtFile& file) {
+std::string ErrorOfSaving(CKvtFile file) {
     MemoryFileStore files;
     try {
         file.SaveFile(files, '.');
