@@ -8,6 +8,7 @@
 #include <sstream>
 #include <system_error>
 
+#include "core/constants.h"
 #include "core/number_text.h"
 #include "core/text_encoding.h"
 #include "platform/growing_file.h"
@@ -285,6 +286,7 @@ std::optional<Arguments> ParseArguments(int argc, const char* const* argv) {
     RawTexts raw;
     CLI::App app("Korvet Development without a screen: parameter files to patterns, DXF, JSON and pictures.",
                  "korvet-batch");
+    app.set_version_flag("--version", "korvet-batch " + std::string(ProgramVersion), "print the version");
     AddOptions(app, arguments, raw);
     try {
         app.parse(argc, argv);

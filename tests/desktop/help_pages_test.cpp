@@ -83,7 +83,7 @@ class HelpPagesTest : public QObject {
     void EachContextOpensItsPage() {
         QFETCH(int, context);
         QFETCH(QString, page);
-        HelpWindow help(HelpWindow::FileBesideProgram());
+        HelpWindow help(HelpWindow::FileOfProgram(QCoreApplication::applicationDirPath()));
         QVERIFY(help.ShowTopic(context));
         QCOMPARE(ShownPage(help), page);
         QVERIFY(help.Window()->isVisible());
@@ -91,7 +91,7 @@ class HelpPagesTest : public QObject {
     }
 
     void EveryFittingHasItsPage() {
-        HelpBook book(HelpWindow::FileBesideProgram());
+        HelpBook book(HelpWindow::FileOfProgram(QCoreApplication::applicationDirPath()));
         for (const CatalogueRow& row : Catalogue) {
             const auto address = PageInIndex(book, row.category);
             QVERIFY2(address.has_value(), row.category.data());
@@ -118,7 +118,7 @@ class HelpPagesTest : public QObject {
         const std::set<QString> paths = MenuPaths();
         QVERIFY(paths.size() > 30);
         std::set<QString> named;
-        const HelpBook book(HelpWindow::FileBesideProgram());
+        const HelpBook book(HelpWindow::FileOfProgram(QCoreApplication::applicationDirPath()));
         for (const QUrl& page : book.PageAddresses()) {
             for (const QString& path : TextsOfClass(book.Data(page), QStringLiteral("menu"))) {
                 QVERIFY2(paths.count(path) == 1, qPrintable(page.fileName() + ": " + path));

@@ -54,26 +54,41 @@ class HelpTest : public QObject {
 
   private slots:
     void FileLiesBesideTheProgram() {
-        const HelpWindow help(HelpWindow::FileBesideProgram());
+        const HelpWindow help(HelpWindow::FileOfProgram(QCoreApplication::applicationDirPath()));
         QVERIFY(help.HasHelp());
         QVERIFY2(help.Window() == nullptr, "nothing is made before help is asked for");
     }
 
+    void InstalledFileLiesInTheShareFolder() {
+        const QTemporaryDir prefix;
+        const QString bin = prefix.filePath(QStringLiteral("bin"));
+        const QString share = prefix.filePath(QStringLiteral("share/korvet"));
+        QVERIFY(QDir().mkpath(bin) && QDir().mkpath(share));
+        const QString inShare = share + QStringLiteral("/korvet.qch");
+        QCOMPARE(HelpWindow::FileOfProgram(bin), inShare);
+        const QString built = HelpWindow::FileOfProgram(QCoreApplication::applicationDirPath());
+        QVERIFY(QFile::copy(built, inShare));
+        QVERIFY(HelpWindow(HelpWindow::FileOfProgram(bin)).HasHelp());
+        QVERIFY(QFile::copy(built, bin + QStringLiteral("/korvet.qch")));
+        QCOMPARE(HelpWindow::FileOfProgram(bin), bin + QStringLiteral("/korvet.qch"));
+    }
+
     void PathMayBeRelative() {
-        HelpWindow help(QDir().relativeFilePath(HelpWindow::FileBesideProgram()));
+        HelpWindow help(
+            QDir().relativeFilePath(HelpWindow::FileOfProgram(QCoreApplication::applicationDirPath())));
         QVERIFY(help.ShowTopic(2020));
         QVERIFY(Part<QTextBrowser>(help, "txtHelp").toPlainText().contains(QStringLiteral("thickness")));
     }
 
     void UnknownContextShowsNothing() {
-        HelpWindow help(HelpWindow::FileBesideProgram());
+        HelpWindow help(HelpWindow::FileOfProgram(QCoreApplication::applicationDirPath()));
         QVERIFY(!help.ShowTopic(0));
         QVERIFY(!help.ShowTopic(2021));
         QVERIFY(help.Window() == nullptr);
     }
 
     void ContentsLeadToThePages() {
-        HelpWindow help(HelpWindow::FileBesideProgram());
+        HelpWindow help(HelpWindow::FileOfProgram(QCoreApplication::applicationDirPath()));
         help.ShowContents();
         QCOMPARE(ShownPage(help), QStringLiteral("index.html"));
         QCOMPARE(Part<QTabWidget>(help, "tabHelp").currentIndex(), 0);
@@ -88,7 +103,7 @@ class HelpTest : public QObject {
     }
 
     void ContentsFollowThePage() {
-        HelpWindow help(HelpWindow::FileBesideProgram());
+        HelpWindow help(HelpWindow::FileOfProgram(QCoreApplication::applicationDirPath()));
         QVERIFY(help.ShowTopic(2936));
         auto& tree = Part<QTreeView>(help, "treeContents");
         QTRY_COMPARE(tree.currentIndex().data().toString(), QStringLiteral("Rotate Pattern"));
@@ -98,7 +113,7 @@ class HelpTest : public QObject {
     }
 
     void IndexFindsWords() {
-        HelpWindow help(HelpWindow::FileBesideProgram());
+        HelpWindow help(HelpWindow::FileOfProgram(QCoreApplication::applicationDirPath()));
         help.ShowContents();
         auto& index = Part<QListWidget>(help, "lstIndex");
         QStringList sorted = Rows(index);
@@ -116,7 +131,7 @@ class HelpTest : public QObject {
     }
 
     void SearchFindsIndexWordsAndText() {
-        HelpWindow help(HelpWindow::FileBesideProgram());
+        HelpWindow help(HelpWindow::FileOfProgram(QCoreApplication::applicationDirPath()));
         help.ShowSearch();
         QCOMPARE(Part<QTabWidget>(help, "tabHelp").currentIndex(), 2);
         auto& words = Part<QLineEdit>(help, "txtSearch");
@@ -139,7 +154,7 @@ class HelpTest : public QObject {
     }
 
     void FindInPageGoesRound() {
-        HelpWindow help(HelpWindow::FileBesideProgram());
+        HelpWindow help(HelpWindow::FileOfProgram(QCoreApplication::applicationDirPath()));
         QVERIFY(help.ShowTopic(2100));
         QVERIFY(QTest::qWaitForWindowActive(help.Window()));
         QTest::keyClick(help.Window(), Qt::Key_F, Qt::ControlModifier);
@@ -162,7 +177,7 @@ class HelpTest : public QObject {
     }
 
     void KeysGoBackAndForward() {
-        HelpWindow help(HelpWindow::FileBesideProgram());
+        HelpWindow help(HelpWindow::FileOfProgram(QCoreApplication::applicationDirPath()));
         QVERIFY(help.ShowTopic(2100));
         QVERIFY(help.ShowTopic(2210));
         QVERIFY(QTest::qWaitForWindowActive(help.Window()));
@@ -176,7 +191,8 @@ class HelpTest : public QObject {
 
     void SketchesAreDrawnByTheProgram() {
         Sketches sketches;
-        HelpWindow help(HelpWindow::FileBesideProgram(), sketches.Function());
+        HelpWindow help(HelpWindow::FileOfProgram(QCoreApplication::applicationDirPath()),
+                        sketches.Function());
         QVERIFY(help.ShowTopic(2100));
         QTRY_COMPARE(sketches.asked.size(), std::size_t{3});
         QVERIFY(sketches.asked.count({QStringLiteral("Right Cone"), 1}) == 1);
@@ -185,7 +201,8 @@ class HelpTest : public QObject {
 
     void SketchesFollowThePalette() {
         Sketches sketches;
-        HelpWindow help(HelpWindow::FileBesideProgram(), sketches.Function());
+        HelpWindow help(HelpWindow::FileOfProgram(QCoreApplication::applicationDirPath()),
+                        sketches.Function());
         QVERIFY(help.ShowTopic(2100));
         sketches.asked.clear();
         QPalette dark = help.Window()->palette();
@@ -198,7 +215,7 @@ class HelpTest : public QObject {
     }
 
     void LinksCanBeReadOnADarkPage() {
-        HelpWindow help(HelpWindow::FileBesideProgram());
+        HelpWindow help(HelpWindow::FileOfProgram(QCoreApplication::applicationDirPath()));
         QVERIFY(help.ShowTopic(2100));
         auto& page = Part<QTextBrowser>(help, "txtHelp");
         QPalette dark = page.palette();
@@ -214,7 +231,7 @@ class HelpTest : public QObject {
     }
 
     void HelpCanBeUsedInsideAModalDialog() {
-        HelpWindow help(HelpWindow::FileBesideProgram());
+        HelpWindow help(HelpWindow::FileOfProgram(QCoreApplication::applicationDirPath()));
         help.ShowContents();
         QDialog dialog;
         QTimer::singleShot(LongestWait, &dialog, &QDialog::reject);
@@ -243,7 +260,7 @@ class HelpTest : public QObject {
     }
 
     void HelpOutlivesTheDialogsItBelongedTo() {
-        HelpWindow help(HelpWindow::FileBesideProgram());
+        HelpWindow help(HelpWindow::FileOfProgram(QCoreApplication::applicationDirPath()));
         auto outer = std::make_unique<QDialog>();
         QTimer::singleShot(LongestWait, outer.get(), &QDialog::reject);
         QTimer::singleShot(0, outer.get(), [&] {
@@ -280,7 +297,7 @@ class HelpTest : public QObject {
     void BrokenFile_data() {
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<bool>("looksLikeHelp");
-        QFile good(HelpWindow::FileBesideProgram());
+        QFile good(HelpWindow::FileOfProgram(QCoreApplication::applicationDirPath()));
         QVERIFY(good.open(QIODevice::ReadOnly));
         const QByteArray whole = good.readAll();
         QByteArray zeroed = whole;
@@ -310,7 +327,7 @@ class HelpTest : public QObject {
     }
 
     void WidgetsHaveNames() {
-        HelpWindow help(HelpWindow::FileBesideProgram());
+        HelpWindow help(HelpWindow::FileOfProgram(QCoreApplication::applicationDirPath()));
         help.ShowContents();
         std::set<QString> names;
         for (const char* name : {"txtHelp", "tabHelp", "treeContents", "txtIndex", "lstIndex", "txtSearch",

@@ -12,8 +12,8 @@ STATUS = "Settings of the active fitting"
 
 
 class Korvet(Screen):
-    def __init__(self, folder, *files, environment=None, pictures=None):
-        super().__init__(os.environ["KORVET"], folder, *files, environment=environment,
+    def __init__(self, folder, *files, environment=None, pictures=None, program=None):
+        super().__init__(program or os.environ["KORVET"], folder, *files, environment=environment,
                          pictures=pictures or os.environ.get("KORVET_PICTURES"))
 
     def pass_splash(self):
@@ -98,16 +98,21 @@ class ScreenTest(unittest.TestCase):
         self.folder = pathlib.Path(temporary.name)
         self.screen = None
 
-    def start(self, *files):
+    def start(self, *files, program=None):
         """A run of the program, in place of the last one."""
         if self.screen is not None:
             self.screen.stop()
-        self.screen = Korvet(self.folder, *files, environment=self.environment)
-        self.addCleanup(self.screen.stop)
+        self.screen = self.another(*files, program=program)
         return self.screen
 
-    def run_to_frame(self, *files):
-        self.start(*files).pass_splash()
+    def another(self, *files, program=None):
+        """A run of the program beside the last one."""
+        screen = Korvet(self.folder, *files, environment=self.environment, program=program)
+        self.addCleanup(screen.stop)
+        return screen
+
+    def run_to_frame(self, *files, program=None):
+        self.start(*files, program=program).pass_splash()
         return self.screen
 
     def tearDown(self):

@@ -30,6 +30,7 @@ class Screen:
         env.update(environment or {})
         self.scale = int(env.get("QT_SCALE_FACTOR", 1))  # the accessibility service counts the pixels before it
         self.errors = open(self.folder / "errors.txt", "ab")
+        self.environment = env
         self.process = subprocess.Popen([program, *map(str, files)], cwd=self.folder, env=env, stderr=self.errors)
 
     # What is there.

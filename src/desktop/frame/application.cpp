@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QFileInfo>
 #include <QStandardPaths>
 #include <QTimer>
 
@@ -57,7 +56,7 @@ struct Application {
     WindowContext context{
         options,   ui,       files,     clock, frame, patternSettingsDialog, printDialog, SystemDecimalMark(),
         &transfer, &plotter, automation};
-    HelpWindow help{HelpWindow::FileBesideProgram(), SketchOfPage};
+    HelpWindow help{HelpWindow::FileOfProgram(QCoreApplication::applicationDirPath()), SketchOfPage};
 };
 
 /// Where programs keep what belongs to their user; empty when it can't be made.
@@ -66,17 +65,16 @@ std::string ConfigurationFolder() {
     return QDir().mkpath(folder) ? folder.toStdString() : std::string();
 }
 
-/// A caption is the file's name for later saves, so it must not hang on the current folder.
-QStringList WholeNames(QStringList files) {
-    for (QString& file : files) {
-        file = QFileInfo(file).absoluteFilePath();
-    }
-    return files;
+/// To the front, that the user sees what comes of his click.
+void BringToFront(MainWindow& window) {
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.raise();
+    window.activateWindow();
 }
 
 }  // namespace
 
-int RunApplication(const QStringList& files) {
+int RunApplication(const QStringList& files, FileRequests& requests) {
     HoldNumericLocale();
     QApplication::setWindowIcon(ApplicationIcon());
     Application application;
@@ -93,7 +91,13 @@ int RunApplication(const QStringList& files) {
     application.ui.showHelp = window.HelpByContext();
     window.Place(application.settings.Get("MainWidth").has_value());
     window.show();
-    QTimer::singleShot(0, &window, [&] { window.Start(WholeNames(files)); });
+    QTimer::singleShot(0, &window, [&] {
+        window.Start(files);
+        requests.Take([&window](const QStringList& asked) {
+            BringToFront(window);
+            window.Start(asked);
+        });
+    });
     return QApplication::exec();
 }
 

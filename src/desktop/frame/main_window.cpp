@@ -333,10 +333,17 @@ void MainWindow::changeEvent(QEvent* event) {
     }
 }
 
+bool MainWindow::event(QEvent* event) {
+    if (event->type() == QEvent::WindowUnblocked) {
+        QTimer::singleShot(0, this, [this] { Start({}); });
+    }
+    return QMainWindow::event(event);
+}
+
 void MainWindow::Start(const QStringList& files) {
     startFiles_ += files;
-    if (starting_) {
-        return;  // the splash is up, and the files come after it
+    if (starting_ || IsBusy()) {
+        return;  // the splash or another dialog is up, and the files come after it
     }
     starting_ = true;
     frame_.Activate();

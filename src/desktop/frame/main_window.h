@@ -63,7 +63,8 @@ class MainWindow : public QMainWindow, public FrameDesktop {
     /// Takes the place where the frame was left, or a comfortable one on its first start.
     void Place(bool remembered);
 
-    /// The splash at the first activation, and after it these files, by their whole names.
+    /// The splash at the first activation, and after it these files, by their whole names. While a dialog is
+    /// open they wait for its end.
     void Start(const QStringList& files);
 
     void ShowWindow(CFittingWindow& window) override;
@@ -78,6 +79,7 @@ class MainWindow : public QMainWindow, public FrameDesktop {
     [[nodiscard]] bool IsFileAlreadyOpen(const std::string& path) const override;
 
   protected:
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

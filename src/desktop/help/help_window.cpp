@@ -1,6 +1,5 @@
 #include "desktop/help/help_window.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <utility>
@@ -15,8 +14,10 @@ HelpWindow::HelpWindow(QString helpFile, SketchPicture sketches)
 
 HelpWindow::~HelpWindow() = default;
 
-QString HelpWindow::FileBesideProgram() {
-    return QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("korvet.qch"));
+QString HelpWindow::FileOfProgram(const QString& folder) {
+    const QString beside = QDir(folder).filePath(QStringLiteral("korvet.qch"));
+    return QFile::exists(beside) ? beside
+                                 : QDir::cleanPath(folder + QStringLiteral("/../share/korvet/korvet.qch"));
 }
 
 bool HelpWindow::HasHelp() const {

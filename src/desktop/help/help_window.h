@@ -23,8 +23,9 @@ class HelpWindow final : public HelpViewer {
     explicit HelpWindow(QString helpFile, SketchPicture sketches = {});
     ~HelpWindow() override;
 
-    /// The help file that lies beside the program.
-    [[nodiscard]] static QString FileBesideProgram();
+    /// The help file of a program in this folder: beside it where it was built, in ../share/korvet where it
+    /// is installed.
+    [[nodiscard]] static QString FileOfProgram(const QString& folder);
 
     [[nodiscard]] bool HasHelp() const override;
     void ShowContents() override;
