@@ -72,7 +72,7 @@ void FileRequests::Greet(QLocalSocket& sender) {
 void FileRequests::Receive(QLocalSocket& sender) {
     sender.deleteLater();
     QStringList files;
-    QDataStream message(sender.isOpen() ? sender.readAll() : QByteArray());  // closed by one that gave up
+    QDataStream message(sender.bytesAvailable() > 0 ? sender.readAll() : QByteArray());
     message >> files;
     if (message.status() != QDataStream::Ok) {
         return;  // the sender ended before it was done

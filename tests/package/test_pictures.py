@@ -19,7 +19,7 @@ class PicturesTest(unittest.TestCase):
         cls.addClassCleanup(temporary.cleanup)
         cls.made = pathlib.Path(temporary.name)
         subprocess.run([ROOT / "scripts/make-pictures", cls.made, os.environ["KORVET_PAGE_PICTURES"]], check=True,
-                       timeout=200)
+                       timeout=900)
 
     def names(self, folder):
         return sorted(path.name for path in (folder / "pictures").iterdir())
