@@ -10,6 +10,7 @@ namespace korvet {
 struct AboutDialog;
 struct CategoryMenuDialog;
 struct DisclaimerDialog;
+struct RecoveryDialog;
 struct SplashDialog;
 
 enum class Arrangement { Cascade, TileHorizontally, TileVertically, ArrangeIcons };
@@ -40,6 +41,7 @@ class FrameDesktop {
     virtual void RunModal(SplashDialog& dialog) = 0;
     virtual void RunModal(AboutDialog& dialog) = 0;
     virtual void RunModal(DisclaimerDialog& dialog) = 0;
+    virtual void RunModal(RecoveryDialog& dialog) = 0;
 
     /// Whether another process holds the file open for itself alone.
     [[nodiscard]] virtual bool IsFileAlreadyOpen(const std::string& path) const = 0;

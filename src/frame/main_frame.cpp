@@ -19,8 +19,12 @@ constexpr int FarthestTwips = 1000000;  // no desktop is that large
 }  // namespace
 
 CMainFrame::CMainFrame(WindowContext& context, FrameDesktop& desktop, HelpViewer& help,
-                       SettingsStore& settings)
-    : context_(context), desktop_(desktop), help_(help), settings_(settings) {}
+                       SettingsStore& settings, RecoveryStore* recovery)
+    : context_(context), desktop_(desktop), help_(help), settings_(settings), recoveryStore_(recovery) {
+    if (recovery != nullptr) {
+        recovery_.emplace(*recovery);
+    }
+}
 
 void CMainFrame::Load() {
     context_.frame.caption = ProductTitle;
@@ -159,6 +163,7 @@ void CMainFrame::Remove(CFittingWindow& window) {
     if (children_.empty()) {
         context_.frame.statusText.clear();
     }
+    (void)KeepCopies();  // its copy goes with it
 }
 
 Outcome CMainFrame::AskAllToClose() {
@@ -178,6 +183,7 @@ void CMainFrame::RemoveAll() {
     }
     active_ = nullptr;
     context_.frame.statusText.clear();
+    (void)KeepCopies();
 }
 
 Outcome CMainFrame::QueryUnload(const Place& last, bool minimised) {

@@ -11,6 +11,7 @@
 
 #include "frame/frame_desktop.h"
 #include "frame/help.h"
+#include "frame/recovery.h"
 #include "frame/settings_store.h"
 #include "window/fitting_window.h"
 
@@ -18,14 +19,22 @@ namespace korvet {
 
 class CMainFrame {
   public:
-    /// Everything must outlive the frame.
-    CMainFrame(WindowContext& context, FrameDesktop& desktop, HelpViewer& help, SettingsStore& settings);
+    /// Everything must outlive the frame. Without a `recovery` no copies are kept.
+    CMainFrame(WindowContext& context, FrameDesktop& desktop, HelpViewer& help, SettingsStore& settings,
+               RecoveryStore* recovery = nullptr);
 
     /// The frame's load: caption, place as it was left, fitting commands disabled.
     void Load();
 
     /// The first activation shows the splash; later ones do nothing.
     void Activate();
+
+    /// Keeps copies of the windows that hold anything unsaved; to be called every few seconds. Refused when
+    /// one could not be written.
+    Outcome KeepCopies();
+
+    /// Offers what an earlier run has left, once.
+    void OfferCopies();
 
     /// Does what the menu entry of that control name does; a name without an action does nothing.
     void RunMenu(std::string_view name);
@@ -70,6 +79,14 @@ class CMainFrame {
     void Remove(CFittingWindow& window);
     void RemoveAll();
     void SavePlace(const Place& last);
+    /// A copy that an earlier run has left; a damaged one has no contents.
+    struct LeftCopy {
+        std::string name;
+        std::optional<RecoveryCopy> contents;
+    };
+    static std::vector<LeftCopy> ReadLeft(const std::vector<std::string>& copies);
+    void Offer(const std::vector<LeftCopy>& left);
+    Outcome Recover(const LeftCopy& copy);
     [[nodiscard]] int StoredTwips(const std::string& key, int otherwise, int lowest) const;
 
     // Commands that do without a fitting window.
@@ -113,6 +130,10 @@ class CMainFrame {
     CFittingWindow* active_ = nullptr;
     std::string pendingCategory_;
     bool splashShown_ = false;
+    RecoveryStore* recoveryStore_;
+    std::optional<Recovery> recovery_;
+    bool copiesOffered_ = false;
+    bool copiesFailed_ = false;  ///< and it has been said
 };
 
 }  // namespace korvet

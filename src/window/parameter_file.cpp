@@ -59,10 +59,8 @@ void FillBox(CFittingWindow& window, std::size_t index, const std::string& text,
         return;
     }
     TextBox& box = window.controls.txtParameter.at(index);
-    if (box.text != text) {
-        box.text = text;
-        box.textColor = Red;
-    }
+    box.text = text;
+    box.textColor = Red;
 }
 
 /// The settings of a file, with the flags that a file does not carry as the window sets them at its start.

@@ -11,7 +11,7 @@ CKvtFile ParameterFileOf(const CFittingWindow& window);
 /// A file with the controls and sections that the window has, to be read into.
 CKvtFile EmptyFileOf(const CFittingWindow& window);
 
-/// How texts get into the boxes: with the message for one that is no number, or as they stand.
+/// How texts get into the boxes: with the message for one that is no number, or as they stand and all red.
 enum class Filling { AsTyped, AsItStands };
 
 /// Fills boxes and option buttons as if the user had typed and clicked.

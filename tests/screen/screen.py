@@ -25,7 +25,8 @@ class Screen:
         runtime = self.folder / "runtime"
         runtime.mkdir(mode=0o700, exist_ok=True)
         env = dict(os.environ, XDG_CONFIG_HOME=str(self.folder / "config"), XDG_RUNTIME_DIR=str(runtime),
-                   XDG_CACHE_HOME=str(self.folder / "cache"), QT_QPA_PLATFORM="xcb", LC_ALL="C.UTF-8",
+                   XDG_CACHE_HOME=str(self.folder / "cache"),
+                   XDG_STATE_HOME=str(self.folder / "state"), QT_QPA_PLATFORM="xcb", LC_ALL="C.UTF-8",
                    CUPS_SERVER=str(runtime / "no-printers"))
         env.update(environment or {})
         self.scale = int(env.get("QT_SCALE_FACTOR", 1))  # the accessibility service counts the pixels before it

@@ -12,6 +12,7 @@
 #include "frame/category_menu.h"
 #include "frame/frame_desktop.h"
 #include "frame/help.h"
+#include "frame/recovery.h"
 #include "frame/settings_store.h"
 
 namespace korvet {
@@ -27,6 +28,7 @@ class RecordingDesktop final : public FrameDesktop {
     /// Tells the frame which window is active after one has gone.
     std::function<void(CFittingWindow*)> activate;
     std::function<void(SplashDialog&)> onSplash;
+    std::function<void(RecoveryDialog&)> onRecovery;
 
     void ShowWindow(CFittingWindow& window) override {
         calls.push_back("show " + window.controls.caption);
@@ -62,6 +64,12 @@ class RecordingDesktop final : public FrameDesktop {
     }
     void RunModal(AboutDialog&) override { calls.emplace_back("about"); }
     void RunModal(DisclaimerDialog&) override { calls.emplace_back("disclaimer"); }
+    void RunModal(RecoveryDialog& dialog) override {
+        calls.emplace_back("recovery");
+        if (onRecovery) {
+            onRecovery(dialog);
+        }
+    }
     [[nodiscard]] bool IsFileAlreadyOpen(const std::string& path) const override {
         return openElsewhere.contains(path);
     }

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QStandardPaths>
 #include <QTimer>
+#include <chrono>
 
 #include "core/constants.h"
 #include "desktop/frame/icons.h"
@@ -15,6 +16,7 @@
 #include "frame/start_up.h"
 #include "platform/com_automation.h"
 #include "platform/disk_files.h"
+#include "platform/recovery_folder.h"
 #include "platform/registry_settings.h"
 #include "platform/serial_plotter.h"
 #include "platform/system_clock.h"
@@ -57,6 +59,7 @@ struct Application {
         options,   ui,       files,     clock, frame, patternSettingsDialog, printDialog, SystemDecimalMark(),
         &transfer, &plotter, automation};
     HelpWindow help{HelpWindow::FileOfProgram(QCoreApplication::applicationDirPath()), SketchOfPage};
+    RecoveryFolder recovery{RecoveryFolder::OfUser()};
 };
 
 /// Where programs keep what belongs to their user; empty when it can't be made.
@@ -72,6 +75,15 @@ void BringToFront(MainWindow& window) {
     window.activateWindow();
 }
 
+/// What was typed longer ago than this, and the time of a save, is not lost with the program. Tests set
+/// another one, in milliseconds.
+std::chrono::milliseconds RecoveryInterval() {
+    constexpr int Usual = 2000;
+    bool isSet = false;
+    const int set = qEnvironmentVariableIntValue("KORVET_RECOVERY_INTERVAL", &isSet);
+    return std::chrono::milliseconds(isSet && set > 0 ? set : Usual);
+}
+
 }  // namespace
 
 int RunApplication(const QStringList& files, FileRequests& requests) {
@@ -85,7 +97,8 @@ int RunApplication(const QStringList& files, FileRequests& requests) {
     if (SetupStartup(application.context, application.settings, ConfigurationFolder)) {
         return 1;
     }
-    MainWindow window(application.context, application.help, application.settings);
+    MainWindow window(application.context, application.help, application.settings, &application.recovery);
+    window.KeepCopiesEvery(RecoveryInterval());
     application.ui.SetParent(&window);
     application.ui.beforeModal = [&window] { window.Project(); };
     application.ui.showHelp = window.HelpByContext();

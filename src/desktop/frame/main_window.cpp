@@ -19,6 +19,7 @@
 
 #include "desktop/bindings.h"
 #include "desktop/dialogs/about_dialogs.h"
+#include "desktop/dialogs/recovery_widgets.h"
 #include "desktop/frame/category_menu_window.h"
 #include "desktop/frame/icons.h"
 #include "platform/file_lock.h"
@@ -107,10 +108,12 @@ void ChildWindow::closeEvent(QCloseEvent* event) {
     event->setAccepted(may);
 }
 
-MainWindow::MainWindow(WindowContext& context, HelpViewer& help, SettingsStore& settings)
-    : frame_(context, *this, help, settings),
+MainWindow::MainWindow(WindowContext& context, HelpViewer& help, SettingsStore& settings,
+                       RecoveryStore* recovery)
+    : frame_(context, *this, help, settings, recovery),
       showHelp_([&context, &help](int contextId) { ShowHelp(context.ui, context.options, help, contextId); }),
-      area_(new QMdiArea(this)) {
+      area_(new QMdiArea(this)),
+      copying_(new QTimer(this)) {
     NameWidget(*this, "frmMain", tr("Main window"));
     setWindowIcon(ApplicationIcon());
     setAcceptDrops(true);
@@ -119,6 +122,7 @@ MainWindow::MainWindow(WindowContext& context, HelpViewer& help, SettingsStore& 
     area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setCentralWidget(area_);
     connect(area_, &QMdiArea::subWindowActivated, this, &MainWindow::TakeActive);
+    connect(copying_, &QTimer::timeout, this, [this] { (void)frame_.KeepCopies(); });
     MakeMenus();
     MakeToolBar();
     MakeStatusBar();
@@ -311,6 +315,10 @@ void MainWindow::RunModal(DisclaimerDialog& dialog) {
     RunDialog(Host(), dialog);
 }
 
+void MainWindow::RunModal(RecoveryDialog& dialog) {
+    RunDialog(Host(), dialog);
+}
+
 bool MainWindow::IsFileAlreadyOpen(const std::string& path) const {
     return korvet::IsFileAlreadyOpen(path);
 }
@@ -340,6 +348,10 @@ bool MainWindow::event(QEvent* event) {
     return QMainWindow::event(event);
 }
 
+void MainWindow::KeepCopiesEvery(std::chrono::milliseconds interval) {
+    copying_->start(interval);
+}
+
 void MainWindow::Start(const QStringList& files) {
     startFiles_ += files;
     if (starting_ || IsBusy()) {
@@ -347,6 +359,8 @@ void MainWindow::Start(const QStringList& files) {
     }
     starting_ = true;
     frame_.Activate();
+    frame_.OfferCopies();
+    Project();
     starting_ = false;
     OpenFiles(std::exchange(startFiles_, {}));
 }

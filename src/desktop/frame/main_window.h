@@ -4,6 +4,7 @@
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <chrono>
 #include <functional>
 #include <map>
 #include <string>
@@ -15,6 +16,7 @@
 class QAction;
 class QLabel;
 class QMenu;
+class QTimer;
 class QToolBar;
 class QToolButton;
 
@@ -49,8 +51,9 @@ QRect OnScreen(QRect place, const QList<QRect>& screens);
 class MainWindow : public QMainWindow, public FrameDesktop {
     Q_OBJECT
   public:
-    /// Builds the frame from its tables. Everything must outlive it.
-    MainWindow(WindowContext& context, HelpViewer& help, SettingsStore& settings);
+    /// Builds the frame from its tables. Everything must outlive it. Without a `recovery` no copies are kept.
+    MainWindow(WindowContext& context, HelpViewer& help, SettingsStore& settings,
+               RecoveryStore* recovery = nullptr);
     ~MainWindow() override;
 
     [[nodiscard]] CMainFrame& Frame() { return frame_; }
@@ -63,8 +66,11 @@ class MainWindow : public QMainWindow, public FrameDesktop {
     /// Takes the place where the frame was left, or a comfortable one on its first start.
     void Place(bool remembered);
 
-    /// The splash at the first activation, and after it these files, by their whole names. While a dialog is
-    /// open they wait for its end.
+    /// Keeps copies of what is unsaved from now on.
+    void KeepCopiesEvery(std::chrono::milliseconds interval);
+
+    /// The splash at the first activation, after it what an earlier run has left, and then these files, by
+    /// their whole names. While a dialog is open they wait for its end.
     void Start(const QStringList& files);
 
     void ShowWindow(CFittingWindow& window) override;
@@ -76,6 +82,7 @@ class MainWindow : public QMainWindow, public FrameDesktop {
     void RunModal(SplashDialog& dialog) override;
     void RunModal(AboutDialog& dialog) override;
     void RunModal(DisclaimerDialog& dialog) override;
+    void RunModal(RecoveryDialog& dialog) override;
     [[nodiscard]] bool IsFileAlreadyOpen(const std::string& path) const override;
 
   protected:
@@ -117,6 +124,7 @@ class MainWindow : public QMainWindow, public FrameDesktop {
     QLabel* statusText_ = nullptr;
     QLabel* date_ = nullptr;
     QLabel* time_ = nullptr;
+    QTimer* copying_;
     QStringList startFiles_;
     bool starting_ = false;  ///< the splash is up
     bool closing_ = false;
