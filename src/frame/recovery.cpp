@@ -18,7 +18,7 @@ void Recovery::Keep(const Windows& windows) {
     for (const auto& window : windows) {
         try {
             KeepOne(*window);
-        } catch (const FileError&) {
+        } catch (const std::exception&) {
             failure = std::current_exception();
         }
     }

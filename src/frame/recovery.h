@@ -38,8 +38,8 @@ class Recovery {
     using Windows = std::vector<std::unique_ptr<CFittingWindow>>;
 
     /// Writes the copies of windows that have changed since their last one, and takes those away that are no
-    /// longer wanted: of windows that were saved, or are not among these any more. Throws FileError after it
-    /// has tried all.
+    /// longer wanted: of windows that were saved, or are not among these any more. Throws the last error
+    /// after it has tried all.
     void Keep(const Windows& windows);
 
   private:

@@ -88,6 +88,7 @@ TEST_F(RecoveryTest, ACopyGoesWhenItsWindowIsSavedPutBackOrClosed) {
     }
     EXPECT_EQ(frame.KeepCopies(), Passed);
     EXPECT_EQ(store.own.size(), 3U);
+    saved.ChangeBox(4, "150");
     saved.ChangeBox(5, "250");
     saved.ClickView(0);
     ASSERT_EQ(saved.SaveFile("cone.Kvt"), Passed);

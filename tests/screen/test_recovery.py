@@ -37,7 +37,7 @@ class Recovery(ScreenTest):
         """Types one number after the other; the times at which each stood in its box. The kill comes at random."""
         screen = self.screen
         typed = []
-        end = time.monotonic() + random.uniform(0.2, 6)
+        end = time.monotonic() + random.uniform(0.2, 5)
         number = random.randrange(100, 900)
         while time.monotonic() < end:
             screen.fill(box, str(number))

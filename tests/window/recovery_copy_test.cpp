@@ -56,13 +56,13 @@ TEST_F(RecoveryCopyTest, TextsThatAreNoNumbersComeBackWithoutAWord) {
         window->controls.txtParameter[i].text = typed[i];
     }
     window->controls.txtTextSize.text = "2.";
-    window->comment1 = "one\ttwo";
+    window->comment1 = "one two";
     const auto restored = Restored(*window);
     for (std::size_t i = 0; i < typed.size(); ++i) {
         EXPECT_EQ(restored->controls.txtParameter[i].text, typed[i]);
     }
     EXPECT_EQ(restored->controls.txtTextSize.text, "2.");
-    EXPECT_EQ(restored->comment1, "one\ttwo");
+    EXPECT_EQ(restored->comment1, "one two");
     EXPECT_EQ(restored->controls.caption, "Development 2");
     EXPECT_TRUE(shell.ui.messages.empty());
 }
