@@ -68,6 +68,7 @@ struct DxfOptionsDialog {
                                              {"Dimensions", false, false},
                                              {"Label", false, false}}};
     CheckBox chkSurfaceMesh{.caption = "Surface mesh"};
+    CheckBox chkComplete{.caption = "Header, layers and units"};  ///< for programs that need them
     bool tellsCheck = true;    ///< the box that tells of the file tells its check too
     bool toPlotter = false;    ///< the drawing goes to a plotter, which takes neither polylines nor text
     bool choosesPort = false;  ///< the two below are there

@@ -124,7 +124,16 @@ std::string CDXF::Text(std::vector<DxfPart>& parts) const {
     if (SurfaceList.Count() > 0) {
         WriteAnnotations(out, *this);
     }
-    return out.Finish();
+    const std::string entities = out.Finish();
+    if (!Heading) {
+        return entities;
+    }
+    const std::string heading = HeadingText(*Heading, out.Extents().value_or(DxfExtents()));
+    for (DxfPart& part : parts) {
+        part.begin += heading.size();
+        part.end += heading.size();
+    }
+    return heading + entities;
 }
 
 void CDXF::WriteDXF(FileStore& files) const {

@@ -10,6 +10,7 @@
 #include "core/file_store.h"
 #include "core/rule_surf.h"
 #include "exchange/cut_drawing.h"
+#include "exchange/dxf_heading.h"
 
 namespace korvet {
 
@@ -19,8 +20,8 @@ enum EdgeMode : std::int16_t {
     PolylineEdges = 1  ///< as POLYLINE entities through all stations
 };
 
-/// Writes surfaces with what was asked for around them as an ASCII drawing file with an ENTITIES section
-/// only; layers come into being by use. Lengths are in the user's unit.
+/// Writes surfaces with what was asked for around them as an ASCII drawing file. It has an ENTITIES section
+/// only, so that layers come into being by use, unless there is a heading. Lengths are in the user's unit.
 struct CDXF {
     bool AcadPolygonMesh = false;        ///< every surface goes out as a polygon mesh too
     bool Pattern = false;                ///< the surfaces are a flat pattern, not a wire model
@@ -41,10 +42,11 @@ struct CDXF {
     bool BendLinesRequested = false;
     bool DimensionsRequested = false;
     bool LabelRequested = false;
-    std::int16_t Decimals = 0;         ///< places of the numbers in texts, 0 to 15
-    std::int16_t PolyMode = ArcEdges;  ///< an EdgeMode; anything but ArcEdges means polylines
-    double TextSize = 0;               ///< height of all texts
-    std::string FileName;              ///< where WriteDXF puts the file
+    std::int16_t Decimals = 0;          ///< places of the numbers in texts, 0 to 15
+    std::int16_t PolyMode = ArcEdges;   ///< an EdgeMode; anything but ArcEdges means polylines
+    double TextSize = 0;                ///< height of all texts
+    std::string FileName;               ///< where WriteDXF puts the file
+    std::optional<DxfHeading> Heading;  ///< what stands before the entities; nothing by default
 
     /// The bytes of the file. Without any surface there is no entity in it. Where List1 and List2 differ in
     /// length the shorter one counts. Throws ArithmeticError when a number is not finite.

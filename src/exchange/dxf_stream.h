@@ -1,29 +1,23 @@
-// The text of a drawing file: group pairs, the form of numbers, and the entities that are made of them.
+// The entities of a drawing file as text.
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "core/points.h"
+#include "exchange/dxf_groups.h"
+#include "exchange/dxf_heading.h"
 
 namespace korvet {
-
-/// Decimal places of coordinates, radii and arc angles in the file.
-inline constexpr int DxfPlaces = 6;
 
 /// Which end of a text stands at its point (group 72).
 enum class TextJustification : int { Left = 0, Centre = 1, Right = 2 };
 
-/// Builds the text of an ASCII drawing file that has an ENTITIES section and nothing else. A group pair is
-/// the code on one line and the value on the next, each ended by CR LF. Numbers are in general form with a
-/// point, a blank in front unless negative, and one blank behind; coordinates, radii and arc angles are
-/// rounded to 6 places, halves to even.
-///
-/// Layer names and texts are given as UTF-8. A file without a header names no character set, so they go out
-/// in ASCII: what is none as \U+XXXX, each unit of its UTF-16 in four capital hexadecimal digits (a character
-/// above U+FFFF so takes two), and a backslash that would itself begin such a sequence as \U+005C. A control
-/// character becomes a blank, since a line break would tear the pair apart.
+/// Builds the text of an ASCII drawing file that has an ENTITIES section and nothing else, of group pairs as
+/// DxfGroups writes them. Coordinates, radii and arc angles are rounded to 6 places, halves to even. Layer
+/// names and texts are given as UTF-8.
 ///
 /// Points are in the user's unit. All operations throw ArithmeticError for a number that is not finite.
 class DxfStream {
@@ -33,7 +27,10 @@ class DxfStream {
     explicit DxfStream(double textSize, std::size_t expectedBytes = 0);
 
     /// The bytes of the text so far.
-    [[nodiscard]] std::size_t Size() const { return text_.size(); }
+    [[nodiscard]] std::size_t Size() const { return groups_.Size(); }
+
+    /// The box about all entities so far, texts by the points they stand at; nothing without any.
+    [[nodiscard]] const std::optional<DxfExtents>& Extents() const { return extents_; }
 
     /// The whole file: closes the section. The stream is empty afterwards.
     [[nodiscard]] std::string Finish();
@@ -56,15 +53,15 @@ class DxfStream {
     void WriteMesh(const C3DPoints& list1, const C3DPoints& list2, std::string_view layer);
 
   private:
-    void WriteWord(int code, std::string_view word);
-    void WriteNumber(int code, double value);
-    void WriteRounded(int code, double value);
     void WritePoint(int xCode, const C3DPoint& point);
     void WriteEntity(std::string_view name, std::string_view layer);
     void WriteVertex(const C3DPoint& point, std::string_view layer);
 
+    void TakeIn(const C3DPoint& point);
+
     double textSize_;
-    std::string text_;
+    DxfGroups groups_;
+    std::optional<DxfExtents> extents_;
 };
 
 }  // namespace korvet

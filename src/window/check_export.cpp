@@ -103,6 +103,9 @@ std::optional<ExportCheck> CheckExport(const CFittingWindow& window, const CDXF&
 }
 
 std::vector<std::string> CheckLines(const ExportCheck& check, char decimalMark) {
+    if (check.cut.pieces == 0) {
+        return {"There is nothing to check: the pattern is empty."};
+    }
     std::vector<std::string> lines = {PiecesLine(check.cut, decimalMark)};
     lines.insert(lines.end(), check.cut.faults.begin(), check.cut.faults.end());
     const std::string onPurpose = OnPurposeLine(check.cut.onPurpose);

@@ -56,6 +56,8 @@ void FillDialog(const CFittingWindow& window, ExportMode mode, DxfOptionsDialog&
         OfferPort(context, dialog);
     }
     step = DialogLoaded;
+    dialog.chkComplete.enabled = mode == ExportMode::Dxf;
+    dialog.chkComplete.checked = dialog.chkComplete.enabled && context.frame.completeDrawings;
     const bool pattern = InPatternView(*window.views);
     step = ViewExamined;
     dialog.chkSurfaceMesh.enabled = !pattern;
@@ -74,6 +76,18 @@ void FillDialog(const CFittingWindow& window, ExportMode mode, DxfOptionsDialog&
     step = DimensionsOffered;
     dialog.Offer(DxfOptionsDialog::Label, !plotter && display.LabelPoint.has_value());
     step = LabelOffered;
+}
+
+/// The layers by their names in the options, as they look on the screen.
+DxfHeading HeadingOf(const WindowContext& context) {
+    const COptions& options = context.options;
+    const DisplayColors& colors = options.Colors;
+    return {context.printDialog.PrintUnits != Millimetres,
+            {{options.DXFCutLayer, colors.DisplayCutColor},
+             {options.DXFFoldLayer, colors.DisplayFoldColor},
+             {options.DXFTextLayer, colors.DisplayTextColor},
+             {options.DXFDimensionLayer, colors.DisplayDimensionColor},
+             {options.DXFBorderLayer, colors.DisplayBorderColor}}};
 }
 
 CDXF DxfOf(const CFittingWindow& window, const DxfOptionsDialog& dialog, const std::string& path) {
@@ -98,6 +112,9 @@ CDXF DxfOf(const CFittingWindow& window, const DxfOptionsDialog& dialog, const s
     dxf.BorderLayer = options.DXFBorderLayer;
     dxf.TextSize = options.DXFTextSize;
     dxf.Decimals = options.Decimals;
+    if (dialog.chkComplete.checked) {
+        dxf.Heading = HeadingOf(window.Context());
+    }
     if (dxf.DimensionsRequested) {
         // Whenever dimensions go out, diagonals follow the display and not their own box.
         dxf.TrueLengthsRequested = display.TrueLengthsRequested;
@@ -157,6 +174,7 @@ Outcome RunExport(CFittingWindow& window, const std::string& path, ExportMode mo
     if (mode == ExportMode::CadLink) {
         return DrawInCad(window, DxfOf(window, dialog, path));
     }
+    context.frame.completeDrawings = dialog.chkComplete.checked;
     const CDXF drawing = DxfOf(window, dialog, path);
     drawing.WriteDXF(context.files);
     context.ui.Show({context.Message(DxfSaved) + path, InformationBox, std::string(ProductTitle),
@@ -189,6 +207,12 @@ Outcome ConfirmExportOfOldSizes(const CFittingWindow& window) {
          .style = YesNoWarningBox,
          .title = std::string(ProductTitle)});
     return RefusedIf(answer != Answer::Yes);
+}
+
+std::optional<ExportCheck> CheckPattern(const CFittingWindow& window, bool polylines) {
+    DxfOptionsDialog dialog;
+    dialog.optPolyMode.selected = polylines ? 1 : 0;
+    return CheckExport(window, DxfOf(window, dialog, {}));
 }
 
 Outcome ExportFitting(CFittingWindow& window, const std::string& path, ExportMode mode) {

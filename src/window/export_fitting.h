@@ -1,8 +1,10 @@
 // What goes out of a fitting window.
 #pragma once
 
+#include <optional>
 #include <string>
 
+#include "window/check_export.h"
 #include "window/fitting_window.h"
 
 namespace korvet {
@@ -16,5 +18,9 @@ Outcome ConfirmExportOfOldSizes(const CFittingWindow& window);
 
 /// Asks what goes out and writes it. Refused when no file was written, after Cancel too.
 Outcome ExportFitting(CFittingWindow& window, const std::string& path, ExportMode mode);
+
+/// The check of what an export of the shown pattern writes, with its edges as arcs or as polylines. Nothing
+/// when a model is shown. Throws ArithmeticError as CheckExport.
+std::optional<ExportCheck> CheckPattern(const CFittingWindow& window, bool polylines);
 
 }  // namespace korvet

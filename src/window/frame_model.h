@@ -21,6 +21,7 @@ struct FrameModel {
     bool toolBarVisible = true;               ///< tbToolBar, and the tick of mnuViewToolbar
     bool statusBarVisible = true;             ///< sbStatusBar, and the tick of mnuViewStatusBar
     std::string statusText;                   ///< panel 1 of the status bar
+    bool completeDrawings = false;            ///< chkComplete, as the last export to a file left it
     int documentCounter = 0;                  ///< fitting windows made so far
     Place inner;                              ///< the area that child windows fill, in twips
 };

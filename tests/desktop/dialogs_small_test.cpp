@@ -151,11 +151,13 @@ class SmallDialogs : public QObject {
         Run(dialog, [](QDialog& window) {
             Press(window, "optPolyMode_1");
             Press(window, "chkSurfaceMesh");
+            Press(window, "chkComplete");
             QVERIFY(!Child<QRadioButton>(window, "optPolyMode_0").isChecked());
             Press(window, "btnOK");
         });
         QVERIFY(dialog.optPolyMode.IsOn(1));
         QVERIFY(dialog.chkSurfaceMesh.checked);
+        QVERIFY(dialog.chkComplete.checked);
     }
 
     void ADrawingFileHasNoPlotterPort() {

@@ -103,6 +103,31 @@ TEST_F(ExportTest, APlotterTakesNeitherPolylinesNorText) {
     }
 }
 
+TEST_F(ExportTest, HeaderLayersAndUnitsAreForFilesAndOffAtTheStart) {
+    const auto window = shell.OpenSample("Right Cone", 2);
+    window->ClickView(PatternButton);
+    EXPECT_TRUE(Shown(*window).chkComplete.enabled);
+    EXPECT_FALSE(Shown(*window).chkComplete.checked);
+    EXPECT_FALSE(Shown(*window, ExportMode::Plotter).chkComplete.enabled);
+    ASSERT_EQ(window->Export("plain.dxf", ExportMode::Dxf), Passed);
+    shell.ui.onDxfOptions = [](DxfOptionsDialog& dialog) {
+        dialog.chkComplete.checked = true;
+        dialog.lblStatus = "OK";
+    };
+    shell.options.DXFFoldLayer = "FOLDS";
+    shell.options.Colors.DisplayFoldColor = Magenta;
+    shell.printDialog.PrintUnits = Inches;
+    ASSERT_EQ(window->Export("complete.dxf", ExportMode::Dxf), Passed);
+    AcceptExports(shell.ui);
+    const std::string& text = shell.files.files["complete.dxf"];
+    EXPECT_NE(text.find("$INSUNITS\r\n70\r\n1\r\n"), std::string::npos);
+    EXPECT_NE(text.find("2\r\nFOLDS\r\n70\r\n0\r\n62\r\n6\r\n"), std::string::npos);
+    // It stays for as long as the program runs, and a plot in between does not change that.
+    EXPECT_FALSE(Shown(*window, ExportMode::Plotter).chkComplete.checked);
+    EXPECT_TRUE(Shown(*window).chkComplete.checked);
+    EXPECT_EQ(shell.files.files["plain.dxf"].find("$ACADVER"), std::string::npos);
+}
+
 TEST_F(ExportTest, OffersAMeshForAModel) {
     const auto window = shell.OpenSample("Right Cone", 2);
     window->ClickView(0);
