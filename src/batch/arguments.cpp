@@ -8,9 +8,11 @@
 #include <sstream>
 #include <system_error>
 
+#include "batch/fittings_list.h"
 #include "core/constants.h"
 #include "core/number_text.h"
 #include "core/text_encoding.h"
+#include "platform/disk_files.h"
 #include "platform/growing_file.h"
 #include "printing/printers.h"
 
@@ -18,6 +20,7 @@ namespace korvet::batch {
 namespace {
 
 constexpr int LargestPicture = 20000;
+constexpr std::size_t LargestList = std::size_t{1} << 26U;
 constexpr std::int64_t MostPixels = 200'000'000;
 constexpr int MostSurfaces = 32767;
 constexpr int MostPoints = 1'000'000'000;
@@ -159,12 +162,18 @@ void CheckOutputs(const Arguments& arguments) {
         claims.Claim(input, "the parameter file of " + input, Claims::Reader);
     }
     std::size_t number = 0;
-    for (const std::string& input : InputsOf(arguments)) {
+    if (!arguments.fittings.empty()) {
+        claims.Claim(arguments.fittings, "the list of fittings", Claims::Reader);
+    }
+    for (const BatchInput& input : InputsOf(arguments)) {
         ++number;
-        const std::string of = " of " + (input.empty() ? arguments.newCategory : input);
+        if (!input.fault.empty()) {
+            continue;  // nothing is written for it but its entry in the JSON
+        }
+        const std::string of = " of " + input.label;
         const auto claim = [&](const std::string& pattern, const std::string& owner, std::size_t forInput) {
             if (!pattern.empty()) {
-                claims.Claim(OutputPath(pattern, InputName(arguments, input)), owner, forInput);
+                claims.Claim(OutputPath(pattern, input.name), owner, forInput);
             }
         };
         claim(arguments.save, "the parameter file" + of, number);
@@ -185,6 +194,14 @@ void CheckOutputs(const Arguments& arguments) {
 
 void CheckTogether(const Arguments& arguments) {
     if (arguments.list) {
+        return;
+    }
+    if (!arguments.fittings.empty()) {
+        if (!arguments.inputs.empty() || !arguments.newCategory.empty() || arguments.type != 0 ||
+            !arguments.meshFile.empty()) {
+            throw UsageError("--fittings takes no parameter file, and no --new, --type and --mesh-file");
+        }
+        CheckOutputs(arguments);
         return;
     }
     if (arguments.inputs.empty() == arguments.newCategory.empty()) {
@@ -231,8 +248,7 @@ void AddPaperOptions(CLI::App& app, Arguments& arguments, RawTexts& raw, const C
         ->needs(pdf)
         ->excludes(fit)
         ->check(notEmpty);
-    app.add_option("--units", raw.units, "PDF: mm or inch; the default is what the settings say")
-        ->needs(pdf)
+    app.add_option("--units", raw.units, "PDF, --complete: mm or inch; the default is what the settings say")
         ->check(CLI::IsMember({"mm", "inch"}));
 }
 
@@ -241,6 +257,11 @@ void AddOptions(CLI::App& app, Arguments& arguments, RawTexts& raw) {
     const CLI::Validator notEmpty([](const std::string& text) { return text.empty() ? "it is empty" : ""; },
                                   "");
     app.add_option("FILE", arguments.inputs, "parameter files (*.Kvt)")->check(notEmpty);
+    app.add_option("--fittings", arguments.fittings,
+                   "CSV list of fittings instead: name, fitting, type, then NAME=VALUE cells")
+        ->check(notEmpty);
+    app.add_option("--jobs", arguments.jobs, "inputs that are worked on at the same time, 1 by default")
+        ->check(CLI::Range(1, 256));
     app.add_option("--new", arguments.newCategory, "a new window of this category instead of a file")
         ->check(notEmpty);
     app.add_option("--type", arguments.type, "its type, from 1")->check(CLI::Range(1, 99));
@@ -261,6 +282,9 @@ void AddOptions(CLI::App& app, Arguments& arguments, RawTexts& raw) {
     app.add_option("--json", arguments.json, "surfaces, text block and messages; - is standard output")
         ->check(notEmpty);
     app.add_option("--dxf", arguments.dxf, "DXF of the view")->check(notEmpty);
+    app.add_flag("--check", arguments.check,
+                 "check the cut file of the pattern: outlines, doubled lines, holes, lengths, accuracy");
+    app.add_flag("--complete", arguments.complete, "DXF: with header, layers and units")->needs("--dxf");
     app.add_flag("--polylines", arguments.polylines, "DXF: edges as polylines instead of arcs");
     app.add_flag("--mesh", arguments.mesh, "DXF: surfaces as a mesh");
     AddTick(app, "diagonals", arguments.diagonals, "diagonals");
@@ -275,7 +299,7 @@ void AddOptions(CLI::App& app, Arguments& arguments, RawTexts& raw) {
     AddPaperOptions(app, arguments, raw, notEmpty);
     app.add_option("--hpgl", arguments.hpgl, "plot file of the view, for a pen plotter")->check(notEmpty);
     app.footer(
-        "{name} in the name of an output stands for the name of the input.\n"
+        "{name} in the name of an output stands for the name of the input, or of the row.\n"
         "Exit status: 0 done, 1 an input was refused or failed, 2 wrong usage.");
 }
 
@@ -310,12 +334,39 @@ std::optional<Arguments> ParseArguments(int argc, const char* const* argv) {
     arguments.sheets = ParseSheets(raw.sheets);
     arguments.inches = raw.units == "inch";
     arguments.millimetres = raw.units == "mm";
+    if (!raw.units.empty() && arguments.pdf.empty() && !arguments.complete) {
+        throw UsageError("--units requires --pdf or --complete");
+    }
+    if (!arguments.fittings.empty()) {
+        arguments.rows =
+            ReadFittingsList(DiskFiles().Read(arguments.fittings, LargestList), arguments.fittings);
+    }
     CheckTogether(arguments);
     return arguments;
 }
 
-std::vector<std::string> InputsOf(const Arguments& arguments) {
-    return arguments.newCategory.empty() ? arguments.inputs : std::vector<std::string>{""};
+std::vector<BatchInput> InputsOf(const Arguments& arguments) {
+    std::vector<BatchInput> inputs = arguments.rows;
+    for (const std::string& file : arguments.inputs) {
+        inputs.push_back({.label = file,
+                          .name = std::filesystem::path(file).stem().string(),
+                          .file = file,
+                          .category = {},
+                          .sets = {}});
+    }
+    if (!arguments.newCategory.empty()) {
+        inputs.push_back({.label = arguments.newCategory,
+                          .name = arguments.newCategory,
+                          .file = {},
+                          .category = arguments.newCategory,
+                          .type = arguments.type,
+                          .sets = {}});
+    }
+    for (BatchInput& input : inputs) {
+        input.select = input.select != 0 ? input.select : arguments.select;
+        input.sets.insert(input.sets.begin(), arguments.sets.begin(), arguments.sets.end());
+    }
+    return inputs;
 }
 
 std::string OutputPath(const std::string& pattern, const std::string& name) {
@@ -325,11 +376,6 @@ std::string OutputPath(const std::string& pattern, const std::string& name) {
         path.replace(at, Mark.size(), name);
     }
     return path;
-}
-
-std::string InputName(const Arguments& arguments, const std::string& input) {
-    return arguments.newCategory.empty() ? std::filesystem::path(input).stem().string()
-                                         : arguments.newCategory;
 }
 
 }  // namespace korvet::batch

@@ -25,8 +25,24 @@ struct PictureSize {
     int height = 600;
 };
 
+/// One thing to work on: a parameter file, a new window, or a row of a list of fittings.
+struct BatchInput {
+    std::string label;     ///< what messages call it
+    std::string name;      ///< what {name} stands for
+    std::string file;      ///< the parameter file; empty for a new window
+    std::string category;  ///< of a new window
+    int type = 0;          ///< of a new window, from 1; 0 is the type it opens with
+    int select = 0;        ///< pattern option, from 1; 0 leaves it
+    std::vector<std::pair<std::string, std::string>> sets;  ///< names and values, in their order
+    bool isRow = false;                                     ///< what is wrong with it is no wrong usage
+    std::string fault = {};                                 ///< why a row can't be worked on; empty if it can
+};
+
 struct Arguments {
     std::vector<std::string> inputs;  ///< parameter files
+    std::string fittings;             ///< list of fittings instead
+    std::vector<BatchInput> rows;     ///< of that list
+    int jobs = 1;                     ///< inputs that are worked on at the same time
     std::string newCategory;          ///< a new window instead of a file
     int type = 0;                     ///< of the new window, from 1; 0 is the type it opens with
     bool sample = false;              ///< fill the new window with the sample sizes of its type
@@ -56,7 +72,9 @@ struct Arguments {
 
     std::vector<CDimension> dimensionLines;  ///< to add to the pattern, in their order
 
-    bool polylines = false;  ///< boxes of the export dialog to tick
+    bool check = false;     ///< the cut file of the pattern
+    bool complete = false;  ///< boxes of the export dialog to tick
+    bool polylines = false;
     bool mesh = false;
     std::optional<bool> diagonals;  ///< to tick or to clear; absent they are as the dialog has them
     std::optional<bool> dimensions;
@@ -67,13 +85,10 @@ struct Arguments {
 /// UsageError.
 std::optional<Arguments> ParseArguments(int argc, const char* const* argv);
 
-/// What there is to work on: the parameter files, or an empty name for the new window.
-std::vector<std::string> InputsOf(const Arguments& arguments);
+/// What there is to work on, with what the command line sets for all of it.
+std::vector<BatchInput> InputsOf(const Arguments& arguments);
 
 /// The path of an output for one input: `pattern` with each {name} replaced.
 std::string OutputPath(const std::string& pattern, const std::string& name);
-
-/// The name that {name} stands for: the file's name without folder and suffix, or the new window's category.
-std::string InputName(const Arguments& arguments, const std::string& input);
 
 }  // namespace korvet::batch

@@ -1,11 +1,9 @@
 #include "batch/batch_ui.h"
 
 #include <algorithm>
-#include <iostream>
 
 #include "core/number_text.h"
 #include "core/text_encoding.h"
-#include "platform/terminal.h"
 
 namespace korvet::batch {
 namespace {
@@ -22,25 +20,6 @@ void BatchUi::BeginInput(const std::string& name) {
     messages_.clear();
     leaveOutRepeats_ = false;
     lacksSomethingAsked_ = false;
-}
-
-void BatchUi::ClearProgress() {
-    if (progressShown_) {
-        std::cerr << "\r\033[K" << std::flush;
-        progressShown_ = false;
-    }
-}
-
-void BatchUi::PrintLine(const std::string& text) {
-    ClearProgress();
-    std::cerr << text << '\n';
-}
-
-void BatchUi::ShowProgress(std::size_t number, std::size_t count, const std::string& name) {
-    if (count > 1 && IsStandardErrorATerminal()) {
-        std::cerr << "\r\033[K" << number << " of " << count << "  " << name << std::flush;
-        progressShown_ = true;
-    }
 }
 
 /// What a message says below its text, without the name of the input that the line begins with.
@@ -75,6 +54,8 @@ Answer BatchUi::Show(const MessageBox& message) {
 void BatchUi::RunModal(DxfOptionsDialog& dialog) {
     Tick(dialog.chkDXFOutput[DxfOptionsDialog::Diagonals], arguments_.diagonals);
     dialog.lblStatus = "OK";
+    dialog.tellsCheck = false;  // --check tells it where it is asked for
+    dialog.chkComplete.checked = dialog.chkComplete.enabled && arguments_.complete;
     if (dialog.toPlotter) {
         return;  // what a plotter can't take is asked for of the drawing file beside its plot
     }

@@ -1,7 +1,8 @@
-// The user interface of a program without a screen: messages go to the standard error and into a record,
+// The user interface of a program without a screen: messages go to a stream and into a record,
 // dialogs are answered from the command line.
 #pragma once
 
+#include <iostream>
 #include <string>
 #include <vector>
 
@@ -13,7 +14,9 @@ namespace korvet::batch {
 
 class BatchUi : public UserInterface {
   public:
-    explicit BatchUi(const Arguments& arguments) : arguments_(arguments) {}
+    /// Messages go to `errors`.
+    explicit BatchUi(const Arguments& arguments, std::ostream& errors = std::cerr)
+        : arguments_(arguments), errors_(errors) {}
 
     /// Starts the record of one input, by the name that its messages carry.
     void BeginInput(const std::string& name);
@@ -28,14 +31,11 @@ class BatchUi : public UserInterface {
     /// Whether the command line has asked the export of this input for something that its view has not.
     [[nodiscard]] bool LacksSomethingAsked() const { return lacksSomethingAsked_; }
 
-    /// Rubs out the progress line and writes one line to the standard error.
-    void PrintLine(const std::string& text);
+    /// Writes one line among the messages.
+    void PrintLine(const std::string& text) { errors_ << text << '\n'; }
 
-    /// Shows how far the work is, when the standard error is a terminal and there is more than one input.
-    void ShowProgress(std::size_t number, std::size_t count, const std::string& name);
-
-    /// Takes the progress line away at the end.
-    void ClearProgress();
+    /// Writes one line about the input.
+    void PrintAbout(const std::string& text) { PrintLine(name_ + ": " + text); }
 
     Answer Show(const MessageBox& message) override;
     std::optional<std::string> ChooseFile(const FileChoice&) override { return std::nullopt; }
@@ -57,11 +57,11 @@ class BatchUi : public UserInterface {
     void Tick(CheckBox& box, std::optional<bool> wanted);
 
     const Arguments& arguments_;
+    std::ostream& errors_;
     std::string name_;
     std::vector<MessageBox> messages_;
     bool leaveOutRepeats_ = false;
     bool lacksSomethingAsked_ = false;
-    bool progressShown_ = false;
 };
 
 }  // namespace korvet::batch

@@ -10,18 +10,22 @@
 
 namespace korvet::batch {
 
-InputRun::InputRun(const Arguments& arguments, WindowContext& context, BatchUi& ui, std::string input)
+InputRun::InputRun(const Arguments& arguments, WindowContext& context, BatchUi& ui, BatchInput input)
     : arguments_(arguments), context_(context), ui_(ui), input_(std::move(input)) {}
 
 void InputRun::Run() {
     try {
-        if (OpenWindow() || SetValues()) {
+        if (RequireSound() || OpenWindow() || SetValues()) {
             return;
         }
-        outputs_.emplace(arguments_, ui_, *window_, InputName(arguments_, input_));
+        outputs_.emplace(arguments_, ui_, *window_, input_.name);
         succeeded_ = outputs_->Write() == Passed;
-    } catch (const UsageError&) {
-        throw;
+    } catch (const UsageError& error) {
+        if (!input_.isRow) {
+            throw;
+        }
+        outputs_.reset();
+        ShowPlain(ui_, error.what());
     } catch (const std::bad_alloc&) {
         outputs_.reset();
         ShowPlain(ui_, "There is not enough memory for this");
@@ -32,20 +36,39 @@ void InputRun::Run() {
 }
 
 InputReport InputRun::Report() const {
-    InputReport report = {input_, category_, window_.get(), {}, ui_.Messages(), true, nullptr};
+    InputReport report = {input_.file,
+                          input_.isRow ? input_.name : std::string(),
+                          category_,
+                          window_.get(),
+                          {},
+                          ui_.Messages(),
+                          true,
+                          nullptr,
+                          arguments_.check,
+                          nullptr};
     if (outputs_) {
         report.labels = outputs_->Labels();
         report.refused = !outputs_->Taken();
         report.surfaces = outputs_->Surfaces();
+        report.check = outputs_->Check();
     }
     return report;
 }
 
+/// Says what is wrong with a row that can't be worked on.
+Outcome InputRun::RequireSound() {
+    if (input_.fault.empty()) {
+        return Passed;
+    }
+    ShowPlain(ui_, input_.fault);
+    return Refused;
+}
+
 /// The window of a parameter file, filled from it, or a new one.
 Outcome InputRun::OpenWindow() {
-    const bool isFile = !input_.empty();
+    const bool isFile = !input_.file.empty();
     if (!isFile) {
-        category_ = arguments_.newCategory;
+        category_ = input_.category;
         if (FindCategory(category_) == nullptr) {
             throw UsageError("there is no fitting \"" + category_ + "\"; --list prints the catalogue");
         }
@@ -56,7 +79,7 @@ Outcome InputRun::OpenWindow() {
     if (!window_) {
         return Refused;
     }
-    return RefusedIf((isFile ? window_->FillFromFile(input_) : PrepareNewWindow()) || RequireMesh());
+    return RefusedIf((isFile ? window_->FillFromFile(input_.file) : PrepareNewWindow()) || RequireMesh());
 }
 
 /// A window that has no mesh to show says so as a file does that is opened without one.
@@ -71,19 +94,19 @@ Outcome InputRun::RequireMesh() {
 /// Takes the category from the header of the file. Refuses, with a message, when there is no such fitting.
 Outcome InputRun::ReadCategory() {
     CKvtFile file;
-    file.FileName = input_;
+    file.FileName = input_.file;
     try {
         file.ReadHeader(context_.files);
     } catch (const ForeignProductError& error) {
         // No window is opened for it, so nothing fails to load.
-        ShowForeignProduct(context_, input_, error);
+        ShowForeignProduct(context_, input_.file, error);
         return Refused;
     } catch (const std::exception& error) {
-        ShowLoadError(context_, input_, error);
+        ShowLoadError(context_, input_.file, error);
         return Refused;
     }
     category_ = file.Category;
-    return RequireFitting(context_, input_, category_);
+    return RequireFitting(context_, input_.file, category_);
 }
 
 /// Steps to the type asked for, and fills the window as the command line says. Refused, which has then been
@@ -91,11 +114,11 @@ Outcome InputRun::ReadCategory() {
 Outcome InputRun::PrepareNewWindow() {
     const WindowTable& table = window_->Table();
     const int types = static_cast<int>(table.pages.size());
-    if (arguments_.type > types) {
+    if (input_.type > types) {
         throw UsageError(category_ + " has " + std::to_string(types) + " types");
     }
-    while (arguments_.type != 0 && window_->dtype != arguments_.type - 1) {
-        window_->ClickPoint(window_->dtype < arguments_.type - 1 ? 0 : 1);
+    while (input_.type != 0 && window_->dtype != input_.type - 1) {
+        window_->ClickPoint(window_->dtype < input_.type - 1 ? 0 : 1);
     }
     if (arguments_.sample) {
         FillWithSample();
@@ -124,10 +147,10 @@ void InputRun::FillWithSample() {
 }
 
 Outcome InputRun::SetValues() {
-    if (arguments_.select != 0) {
-        const auto index = static_cast<std::size_t>(arguments_.select - 1);
+    if (input_.select != 0) {
+        const auto index = static_cast<std::size_t>(input_.select - 1);
         if (index >= window_->controls.options.optPatternSelect.captions.size()) {
-            throw UsageError(category_ + " has no pattern option " + std::to_string(arguments_.select));
+            throw UsageError(category_ + " has no pattern option " + std::to_string(input_.select));
         }
         window_->SelectPattern(index);
     }
@@ -135,7 +158,7 @@ Outcome InputRun::SetValues() {
         window_->dimensions->Add(dimension);
     }
     bool refused = false;
-    for (const auto& [name, value] : arguments_.sets) {
+    for (const auto& [name, value] : input_.sets) {
         refused = SetValue(*window_, name, value) || refused;
     }
     return RefusedIf(refused);

@@ -15,12 +15,11 @@ namespace korvet::batch {
 
 class InputRun {
   public:
-    /// `input` is the path of a parameter file, empty for the new window of the command line.
-    InputRun(const Arguments& arguments, WindowContext& context, BatchUi& ui, std::string input);
+    InputRun(const Arguments& arguments, WindowContext& context, BatchUi& ui, BatchInput input);
 
     /// Does everything that the command line asks for, short of the JSON. Nothing goes further than a
     /// refusal, which has then been said. Throws UsageError when the window lacks what the command line
-    /// names.
+    /// names; what a row names and its window lacks is a refusal.
     void Run();
 
     /// What is told of the input after Run.
@@ -30,6 +29,7 @@ class InputRun {
     [[nodiscard]] bool Succeeded() const { return succeeded_; }
 
   private:
+    Outcome RequireSound();
     Outcome OpenWindow();
     Outcome ReadCategory();
     Outcome PrepareNewWindow();
@@ -40,7 +40,7 @@ class InputRun {
     const Arguments& arguments_;
     WindowContext& context_;
     BatchUi& ui_;
-    std::string input_;
+    BatchInput input_;
     std::string category_;
     std::unique_ptr<CFittingWindow> window_;
     std::optional<Outputs> outputs_;  ///< once the window is filled

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
+#include <utility>
 
 #include "core/checked.h"
 #include "core/number_text.h"
@@ -119,6 +121,49 @@ std::string MessageJson(const MessageBox& message) {
            ", \"box\": " + (message.box ? std::to_string(*message.box) : "null") + "}";
 }
 
+std::string CountsJson(const std::vector<std::pair<std::string_view, std::size_t>>& counts) {
+    std::string text;
+    for (const auto& [name, count] : counts) {
+        text += (text.empty() ? "" : ", ") + Quoted(name) + ": " + std::to_string(count);
+    }
+    return text;
+}
+
+std::string NumberJson(std::string_view name, const std::optional<double>& value) {
+    return ", " + Quoted(name) + ": " + (value ? ShortestText(*value) : "null");
+}
+
+void PutCheck(Gathered& text, const ExportCheck& check) {
+    const CutCheck& cut = check.cut;
+    const CutOnPurpose& meant = cut.onPurpose;
+    text.Put("{\"passed\": ");
+    text.Put(BooleanText(cut.faults.empty()));
+    text.Put(", " + CountsJson({{"pieces", cut.pieces},
+                                {"bends", cut.bends},
+                                {"holes", cut.holes},
+                                {"lapFolds", cut.lapFolds}}));
+    text.Put(NumberJson("cutLength", cut.cutLength) + NumberJson("area", cut.area) +
+             NumberJson("lapFoldLength", cut.lapFoldLength) + NumberJson("widestGap", cut.widestGap) +
+             ",\n ");
+    text.Put(CountsJson({{"openOutlines", cut.openOutlines},
+                         {"openHoles", cut.openHoles},
+                         {"holesOutside", cut.holesOutside},
+                         {"doubled", cut.doubled},
+                         {"zeroLength", cut.zeroLength}}));
+    text.Put(",\n \"onPurpose\": {" + CountsJson({{"foldsOnEdges", meant.foldsOnEdges},
+                                                  {"repeatedFolds", meant.repeatedFolds},
+                                                  {"lastSegments", meant.lastSegments},
+                                                  {"sharedCuts", meant.sharedCuts},
+                                                  {"seams", meant.seams},
+                                                  {"points", meant.points},
+                                                  {"openLines", meant.openLines}}));
+    text.Put("},\n " + CountsJson({{"finerSegs", static_cast<std::size_t>(check.finerSegs)}}) +
+             NumberJson("fromPoints", cut.fromPoints) + NumberJson("fromFiner", check.fromFiner) +
+             ", \"faults\": ");
+    PutList(text, cut.faults, ", ", [&text](const std::string& fault) { text.Put(Quoted(fault)); });
+    text.Put("}");
+}
+
 }  // namespace
 
 void RequireFinite(const CRuleSurfs& surfaces) {
@@ -144,6 +189,9 @@ void WriteReport(const InputReport& report, const TextSink& sink) {
     const ModelAndPattern* surfaces = report.surfaces;
     Gathered text(sink);
     text.Put("{\"file\": " + QuotedOrNull(DecodeText(report.file)));
+    if (!report.row.empty()) {
+        text.Put(",\n\"name\": " + Quoted(report.row));
+    }
     text.Put(",\n\"category\": " + QuotedOrNull(report.category));
     text.Put(",\n\"window\": " + (window != nullptr ? Quoted(window->Row().window) : "null"));
     text.Put(",\n\"type\": " + (window != nullptr ? std::to_string(window->dtype + 1) : "null"));
@@ -159,6 +207,14 @@ void WriteReport(const InputReport& report, const TextSink& sink) {
     PutSurfaces(text, surfaces != nullptr ? &surfaces->model : nullptr);
     text.Put(",\n\"pattern\": ");
     PutSurfaces(text, surfaces != nullptr ? &surfaces->pattern : nullptr);
+    if (report.tellsCheck) {
+        text.Put(",\n\"check\": ");
+        if (report.check != nullptr) {
+            PutCheck(text, *report.check);
+        } else {
+            text.Put("null");
+        }
+    }
     text.Put("}");
     text.HandOver();
 }

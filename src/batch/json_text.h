@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "form/message_boxes.h"
+#include "window/check_export.h"
 #include "window/fitting_window.h"
 
 namespace korvet::batch {
@@ -15,12 +16,15 @@ namespace korvet::batch {
 /// What is told of one input. `window` may be null when none could be opened.
 struct InputReport {
     std::string file;      ///< empty for a new window
+    std::string row;       ///< the name of a row of a list of fittings; empty when it is none
     std::string category;  ///< empty when not known
     const CFittingWindow* window = nullptr;
     std::shared_ptr<const CLabels> labels;  ///< text block of the build that model and pattern come from
     std::vector<MessageBox> messages;
     bool refused = false;
     const ModelAndPattern* surfaces = nullptr;  ///< null when refused
+    bool tellsCheck = false;                    ///< the check of the cut file was asked for
+    const ExportCheck* check = nullptr;         ///< null when there was nothing to check
 };
 
 /// Takes a text piece by piece.

@@ -33,7 +33,7 @@ bool Outputs::IsOfView() const {
 /// do table and full-size sheets that nothing else is to be shown beside.
 void Outputs::ChooseView() {
     const bool hasView = window_.views->Count() > 0;
-    const bool ofPattern = !arguments_.table.empty() || !arguments_.pdf.empty();
+    const bool ofPattern = !arguments_.table.empty() || !arguments_.pdf.empty() || arguments_.check;
     const bool patternAlone = ofPattern && arguments_.json.empty() && !IsOfView();
     const bool asSaved = arguments_.view == ViewChoice::AsSaved && !patternAlone;
     const bool wantsPattern = arguments_.view == ViewChoice::Pattern || (asSaved && !hasView) || patternAlone;
@@ -81,6 +81,9 @@ Outcome Outputs::WriteFiles() {
         refused = WritePdf(OutputPath(arguments_.pdf, name_)) || refused;
     }
     // The last, since they may turn to the pattern.
+    if (arguments_.check) {
+        refused = CheckCutFile() || refused;
+    }
     if (!arguments_.table.empty()) {
         refused = WriteTable(OutputPath(arguments_.table, name_)) || refused;
     }
@@ -122,6 +125,25 @@ Outcome Outputs::ShowPattern() {
         Show();
     }
     return RefusedIf(!shown_);
+}
+
+/// Refused when the check finds a fault.
+Outcome Outputs::CheckCutFile() {
+    if (ShowPattern()) {
+        return Refused;
+    }
+    try {
+        const WindowContext& context = window_.Context();
+        check_ = CheckPattern(window_, arguments_.polylines || context.options.PolyMode == PolylineEdges);
+        for (const std::string& line :
+             check_ ? CheckLines(*check_, context.decimalMark) : std::vector<std::string>()) {
+            ui_.PrintAbout(line);
+        }
+        return RefusedIf(!check_ || !check_->cut.faults.empty());
+    } catch (const std::exception& error) {
+        ShowPlain(ui_, error.what());
+        return Refused;
+    }
 }
 
 Outcome Outputs::WriteTable(const std::string& path) {

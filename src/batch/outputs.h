@@ -8,6 +8,7 @@
 #include "batch/arguments.h"
 #include "batch/batch_ui.h"
 #include "platform/picture_device.h"
+#include "window/export_fitting.h"
 #include "window/fitting_window.h"
 
 namespace korvet::batch {
@@ -35,6 +36,9 @@ class Outputs {
     /// Model and pattern that the JSON tells of; null without JSON and when the window was refused.
     [[nodiscard]] const ModelAndPattern* Surfaces() const { return taken_ && made_ ? &*made_ : nullptr; }
 
+    /// What the check of the cut file has found; null when none was asked for or made.
+    [[nodiscard]] const ExportCheck* Check() const { return check_ ? &*check_ : nullptr; }
+
   private:
     Outcome MakeJson();
     [[nodiscard]] bool IsOfView() const;
@@ -46,6 +50,7 @@ class Outputs {
     Outcome WriteTable(const std::string& path);
     Outcome WritePdf(const std::string& path);
     Outcome ShowPattern();
+    Outcome CheckCutFile();
 
     const Arguments& arguments_;
     BatchUi& ui_;
@@ -53,6 +58,7 @@ class Outputs {
     std::string name_;
     std::shared_ptr<const CLabels> labels_;
     std::optional<ModelAndPattern> made_;
+    std::optional<ExportCheck> check_;
     bool taken_ = false;
     bool shown_ = false;  ///< the display holds the current view
 };
