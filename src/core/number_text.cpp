@@ -84,6 +84,14 @@ std::optional<double> ParseNumber(std::string_view text, char decimalMark) {
     return error == std::errc() ? std::optional<double>(value) : std::nullopt;
 }
 
+bool IsNumberUnderWay(std::string_view text, char decimalMark) {
+    if (ParseNumber(text, decimalMark)) {
+        return true;
+    }
+    // A digit is all that is missing.
+    return !Trimmed(text).empty() && ParseNumber(std::string(text) + '0', decimalMark);
+}
+
 std::optional<double> ParseFileNumber(std::string_view text) {
     return ParseNumber(text, ',');
 }

@@ -25,6 +25,9 @@ std::string ShortestText(double value, char decimalMark = '.');
 /// an exponent is allowed, group separators are not. Nothing when it is no number, or not a finite one.
 std::optional<double> ParseNumber(std::string_view text, char decimalMark = '.');
 
+/// Whether a text is a number (ParseNumber), or what one has begun with while it is typed: "-", ".", "1e-".
+bool IsNumberUnderWay(std::string_view text, char decimalMark = '.');
+
 /// The number on a line of a file, which may have been written in any country: a point or a comma is its
 /// decimal mark. Nothing when it is no number, or not a finite one.
 std::optional<double> ParseFileNumber(std::string_view text);

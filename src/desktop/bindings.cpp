@@ -75,7 +75,9 @@ void NameWidget(QWidget& widget, const std::string& controlName, const QString& 
 void ShowBox(QLineEdit& edit, const TextBox& box) {
     const QSignalBlocker silent(edit);
     if (edit.text() != Text(box.text)) {
+        const auto behindCursor = edit.text().size() - edit.cursorPosition();
         edit.setText(Text(box.text));
+        edit.setCursorPosition(static_cast<int>(edit.text().size() - behindCursor));
     }
     edit.setEnabled(box.enabled);
     for (QLabel* label :

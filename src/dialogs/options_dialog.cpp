@@ -69,7 +69,7 @@ FieldContext OptionsDialog::Fields() {
 }
 
 void OptionsDialog::ChangeNumber(TextBox& box, const std::string& text) {
-    box.text = text;
+    box.text = WithoutPastedBlanks(box.text, text);
     CheckFieldChange(Fields(), box);
 }
 

@@ -162,7 +162,7 @@ void PatternSettingsDialog::SetJoinAngleList() {
 }
 
 void PatternSettingsDialog::Change(TextBox& box, const std::string& text) {
-    box.text = text;
+    box.text = WithoutPastedBlanks(box.text, text);
     const bool free = &box == &cboSegs.edit || &box == &cboJoinAngle.edit || &box == &txtKerfSpacing;
     if (!free) {
         CheckFieldChange(Fields(), box);

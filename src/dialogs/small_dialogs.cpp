@@ -88,7 +88,7 @@ FieldContext RotateDialog::Fields() {
 }
 
 void RotateDialog::Change(const std::string& text) {
-    txtAngle[1].text = text;
+    txtAngle[1].text = WithoutPastedBlanks(txtAngle[1].text, text);
 }
 
 void RotateDialog::ClickOK() {

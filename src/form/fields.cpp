@@ -1,6 +1,9 @@
 #include "form/fields.h"
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
+#include <string_view>
 #include <utility>
 
 #include "core/checked.h"
@@ -65,11 +68,24 @@ void SelectFieldText(TextBox& box) {
 }
 
 void CheckFieldChange(const FieldContext& context, TextBox& box) {
-    const bool underWay = box.text.empty() || box.text == "-" || box.text == "." || box.text == ",";
-    if (!underWay && !ParseNumber(box.text, context.decimalMark)) {
+    const bool underWay =
+        box.text.empty() || box.text == "," || IsNumberUnderWay(box.text, context.decimalMark);
+    if (!underWay) {
         ShowAbout(context, box, NotANumber(context));
         SelectFieldText(box);
     }
+}
+
+std::string WithoutPastedBlanks(const std::string& before, const std::string& after) {
+    const auto [cut, start] = std::mismatch(before.begin(), before.end(), after.begin(), after.end());
+    const auto behind = std::mismatch(before.rbegin(), std::make_reverse_iterator(cut), after.rbegin(),
+                                      std::make_reverse_iterator(start));
+    const auto end = behind.second.base();
+    const std::string_view came(start, end);
+    if (came == " ") {
+        return after;  // typed
+    }
+    return std::string(after.begin(), start).append(Trimmed(came)).append(end, after.end());
 }
 
 Outcome CheckNumber(const FieldContext& context, TextBox& box) {

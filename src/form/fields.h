@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include "form/controls.h"
 #include "form/message_boxes.h"
@@ -25,8 +26,13 @@ struct FieldContext {
 /// Selects all the text of a box.
 void SelectFieldText(TextBox& box);
 
-/// The test while typing: message 9 unless the text is a number, empty, or a lone "-", "." or ",".
+/// The test while typing: message 9 unless the text is a number or the beginning of one (IsNumberUnderWay),
+/// empty, or a lone ",".
 void CheckFieldChange(const FieldContext& context, TextBox& box);
+
+/// The text that an edit from `before` to `after` leaves in a number box: what came in at once has been
+/// pasted, and stands there without the blanks, tabs and line ends around it.
+std::string WithoutPastedBlanks(const std::string& before, const std::string& after);
 
 /// The strict test: refuses a text that is no number with message 9, focus and selection on the box.
 Outcome CheckNumber(const FieldContext& context, TextBox& box);

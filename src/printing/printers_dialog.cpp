@@ -97,7 +97,7 @@ FieldContext PrintersDialog::Fields() {
 }
 
 void PrintersDialog::ChangeUserScale(const std::string& text) {
-    txtUserScale.text = text;
+    txtUserScale.text = WithoutPastedBlanks(txtUserScale.text, text);
     CheckFieldChange(Fields(), txtUserScale);
 }
 

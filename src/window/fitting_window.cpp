@@ -93,6 +93,22 @@ void CFittingWindow::ChangeTextSize(const std::string& text) {
     controls.txtTextSize.textColor = Red;
 }
 
+void CFittingWindow::EditBox(std::size_t index, const std::string& text) {
+    ChangeBox(index, WithoutPastedBlanks(controls.txtParameter.at(index).text, text));
+}
+
+void CFittingWindow::EditTextSize(const std::string& text) {
+    ChangeTextSize(WithoutPastedBlanks(controls.txtTextSize.text, text));
+}
+
+std::string CFittingWindow::Hint() const {
+    if (views->Count() > 0) {
+        return {};
+    }
+    const std::string first = Table().sampleMesh != nullptr ? "Import a mesh" : "Type the sizes";
+    return first + ", then press the pattern button.";
+}
+
 void CFittingWindow::ClickView(int button) {
     if (RequireMesh()) {
         return;

@@ -133,6 +133,10 @@ class CFittingWindow {
     void ChangeBox(std::size_t index, const std::string& text);
     void FocusBox(std::size_t index);
     void ChangeTextSize(const std::string& text);
+
+    /// ChangeBox and ChangeTextSize by the user's own keys and pastes (WithoutPastedBlanks).
+    void EditBox(std::size_t index, const std::string& text);
+    void EditTextSize(const std::string& text);
     void ClickView(int button);
     void ClickPoint(std::size_t index);
     void ClickMore(std::size_t page);
@@ -182,6 +186,9 @@ class CFittingWindow {
     std::optional<ModelAndPattern> MakeModelAndPattern();
 
     void CancelMouseModes();
+
+    /// What an empty drawing area says: what to do for a first view. Empty from the first view on.
+    [[nodiscard]] std::string Hint() const;
 
     [[nodiscard]] const CatalogueRow& Row() const { return *row_; }
     [[nodiscard]] const WindowTable& Table() const { return *row_->table; }

@@ -65,7 +65,6 @@ class FittingViewTest : public QObject {
     void typesBuildsRefusesAndMends() {
         Desk desk;
         CFittingWindow& window = desk.New();
-        QCOMPARE(Ink(Drawing(desk)), 0);
         Type(Box(desk, 3), "300");
         QVERIFY(IsRed(Box(desk, 3)));
         QVERIFY(!IsRed(Box(desk, 4)));

@@ -50,7 +50,8 @@ TEST_F(Fields, SelectFieldTextSelectsAll) {
 }
 
 TEST_F(Fields, WhileTypingABeginningIsTolerated) {
-    for (const char* text : {"", "-", ".", ",", "1", "1.", "-.5", " 7 "}) {
+    for (const char* text :
+         {"", "-", "+", ".", ",", "-.", "1", "1.", "-.5", " 7 ", "1e", "-2.5E", "1e-", "1e+"}) {
         TextBox box = Box(text);
         CheckFieldChange(context, box);
         EXPECT_TRUE(ui.messages.empty()) << text;
@@ -59,7 +60,7 @@ TEST_F(Fields, WhileTypingABeginningIsTolerated) {
 }
 
 TEST_F(Fields, WhileTypingAWordIsToldAtOnceAndTheFocusStays) {
-    for (const char* text : {"x", "--", "-.", "1,2", "..", "+", " ", "1 2"}) {
+    for (const char* text : {"x", "--", "e", ".e", "1,2", "..", " ", "1 2", "1e-e", "1e400", "in"}) {
         ui.messages.clear();
         TextBox box = Box(text);
         CheckFieldChange(context, box);
@@ -70,6 +71,35 @@ TEST_F(Fields, WhileTypingAWordIsToldAtOnceAndTheFocusStays) {
         EXPECT_EQ(box.selectionLength, box.text.size());
         EXPECT_EQ(focus, "before");
     }
+}
+
+TEST_F(Fields, TheLocalesMarkIsABeginningToo) {
+    context.decimalMark = ',';
+    for (const char* text : {",", "-,", "1,e", "3,5e-"}) {
+        TextBox box = Box(text);
+        CheckFieldChange(context, box);
+        EXPECT_TRUE(ui.messages.empty()) << text;
+    }
+}
+
+TEST_F(Fields, WhatIsPastedComesWithoutTheBlanksAroundIt) {
+    EXPECT_EQ(WithoutPastedBlanks("0", "\t300\r\n"), "300");
+    EXPECT_EQ(WithoutPastedBlanks("", "  12.5 \n"), "12.5");
+    EXPECT_EQ(WithoutPastedBlanks("15", "1 2\t5"), "125") << "pasted in the middle";
+    EXPECT_EQ(WithoutPastedBlanks("15", "15\n"), "15");
+    EXPECT_EQ(WithoutPastedBlanks("15", "15 mm "), "15mm");
+    EXPECT_EQ(WithoutPastedBlanks("0", "1 2"), "1 2") << "blanks within are the user's";
+    EXPECT_EQ(WithoutPastedBlanks("12", "\xc2\xa0"), "\xc2\xa0");
+}
+
+TEST_F(Fields, WhatIsTypedStaysAsItIs) {
+    EXPECT_EQ(WithoutPastedBlanks("12", "12 "), "12 ");
+    EXPECT_EQ(WithoutPastedBlanks("12", " 12"), " 12");
+    EXPECT_EQ(WithoutPastedBlanks("12 ", "12 5"), "12 5");
+    EXPECT_EQ(WithoutPastedBlanks("12", "1"), "1");
+    EXPECT_EQ(WithoutPastedBlanks(" 12", "12"), "12");
+    EXPECT_EQ(WithoutPastedBlanks("12", ""), "");
+    EXPECT_EQ(WithoutPastedBlanks("11", "111"), "111");
 }
 
 TEST_F(Fields, TheLocalesMarkIsPartOfANumber) {
@@ -84,7 +114,7 @@ TEST_F(Fields, TheLocalesMarkIsPartOfANumber) {
 }
 
 TEST_F(Fields, TheStrictTestTakesNoBeginnings) {
-    for (const char* text : {"", "-", ".", ",", "abc", "inf"}) {
+    for (const char* text : {"", "-", ".", ",", "abc", "inf", "1e", "1e-", "-."}) {
         ui.messages.clear();
         focus = "before";
         TextBox box = Box(text);

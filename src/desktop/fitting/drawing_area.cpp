@@ -35,6 +35,8 @@ Qt::CursorShape ShapeOf(Cursor cursor) {
 /// A notch of a common wheel, in the toolkit's eighths of a degree.
 constexpr double AngleOfTurn = QWheelEvent::DefaultDeltasPerStep;
 
+constexpr int HintMargin = 10;
+
 /// Keys that end a mouse mode: those that write something, and Esc. Function keys and arrows do not.
 bool IsCharacter(const QKeyEvent& event) {
     return event.key() == Qt::Key_Escape || !event.text().isEmpty();
@@ -115,6 +117,18 @@ void DrawingArea::PaintBand(QPainter& painter, const DrawnBand& band, const QPen
     }
 }
 
+/// In one line where there is room for it, grey on any ground.
+void DrawingArea::PaintHint(QPainter& painter) const {
+    const std::string hint = window_->Hint();
+    if (hint.empty()) {
+        return;
+    }
+    const QColor back = ColorOf(window_->controls.pboxGraphicWindow.backColor);
+    painter.setPen(back.lightness() < 128 ? QColor(160, 160, 160) : QColor(90, 90, 90));
+    painter.drawText(rect().adjusted(HintMargin, 0, -HintMargin, 0), Qt::AlignCenter | Qt::TextWordWrap,
+                     Text(hint));
+}
+
 void DrawingArea::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const Color back = window_ != nullptr ? window_->controls.pboxGraphicWindow.backColor : Black;
@@ -123,6 +137,7 @@ void DrawingArea::paintEvent(QPaintEvent* /*event*/) {
     if (window_ == nullptr) {
         return;
     }
+    PaintHint(painter);
     const korvet::DrawingArea& model = window_->controls.pboxGraphicWindow;
     if (model.rubberBand) {
         // Inverted against the ground, so that it shows on every colour.

@@ -45,6 +45,7 @@ class DrawingArea : public QWidget {
 
   private:
     void PaintBand(QPainter& painter, const DrawnBand& band, const QPen& pen) const;
+    void PaintHint(QPainter& painter) const;
     [[nodiscard]] QString Description() const;
 
     CFittingWindow* window_;

@@ -80,7 +80,9 @@ SketchPage* FittingView::MakeSketch(std::size_t index) {
         const auto box = static_cast<std::size_t>(entry.index);
         boxes_.push_back({page->Box(entry.index), box});
         Connect(boxes_.back().edit, window_->controls.txtParameter.at(box),
-                [box](CFittingWindow& window, const std::string& text) { window.ChangeBox(box, text); });
+                [box](CFittingWindow& window, const std::string& text) { window.EditBox(box, text); });
+        connect(boxes_.back().edit, &QLineEdit::returnPressed, this,
+                [this] { viewButtons_[PatternButton]->click(); });
     }
     pages_.push_back(page);
     return page;
@@ -129,7 +131,7 @@ QWidget* FittingView::MakeTextSize(QWidget* parent) {
     layout->addWidget(textSize_);
     layout->addStretch(1);
     Connect(textSize_, window_->controls.txtTextSize,
-            [](CFittingWindow& window, const std::string& text) { window.ChangeTextSize(text); });
+            [](CFittingWindow& window, const std::string& text) { window.EditTextSize(text); });
     return frame;
 }
 
