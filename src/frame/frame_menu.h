@@ -1,9 +1,12 @@
 // Menus and tool bar of the main frame as data, in their order.
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+
+#include "window/armed_modes.h"
 
 namespace korvet {
 
@@ -27,7 +30,8 @@ struct ToolButton {
     std::string_view toolTip;  ///< key of a string resource, or the text itself
     std::string_view menu;     ///< control name of the menu entry that does the same; empty: none does
     bool checkable = false;
-    std::string_view shortcut = {};  ///< of a button that no menu entry stands for; empty: none
+    std::string_view shortcut = {};      ///< of a button that no menu entry stands for; empty: none
+    std::optional<MouseMode> mode = {};  ///< that it arms, and while which it stays pressed
 };
 
 std::span<const ToolButton> FrameToolBar();

@@ -57,6 +57,10 @@ class CMainFrame {
     /// when the frame stays. `place` in twips and `minimised` are the frame's, to be remembered.
     Outcome QueryUnload(const Place& place, bool minimised);
 
+    /// Whether the tool button at that position stays pressed: a mode that is armed in the active window, or
+    /// print frames that are shown.
+    [[nodiscard]] bool IsToolPressed(int position) const;
+
     [[nodiscard]] CFittingWindow* ActiveChild() const { return active_; }
     [[nodiscard]] const std::vector<std::unique_ptr<CFittingWindow>>& Children() const { return children_; }
     [[nodiscard]] WindowContext& Context() const { return context_; }

@@ -10,6 +10,7 @@
 #include "frame/main_frame.h"
 #include "frame/new_fitting.h"
 #include "frame/start_up.h"
+#include "window/armed_modes.h"
 #include "window/auto_cad.h"
 #include "window/export_fitting.h"
 #include "window/saving.h"
@@ -98,6 +99,17 @@ void CMainFrame::ClickTool(int position) {
             RunMenu(button.menu.empty() ? button.key : button.menu);
         }
     }
+}
+
+bool CMainFrame::IsToolPressed(int position) const {
+    const auto tools = FrameToolBar();
+    const auto tool = std::find_if(tools.begin(), tools.end(),
+                                   [&](const ToolButton& entry) { return entry.position == position; });
+    if (tool == tools.end()) {
+        return false;
+    }
+    return tool->mode ? active_ != nullptr && IsArmed(*active_, *tool->mode)
+                      : tool->checkable && IsTicked(context_.frame, tool->menu);
 }
 
 void CMainFrame::RunCommand(std::string_view name) {

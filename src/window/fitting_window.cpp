@@ -174,6 +174,13 @@ void CFittingWindow::PressKeyInDrawing() {
     UpdateFitting();
 }
 
+void CFittingWindow::PressEscape() {
+    CancelMouseModes();
+    if (removeDimensionMode) {
+        EndRemoval();
+    }
+}
+
 void CFittingWindow::Resize(const Place& scale) {
     controls.scale = scale;
     ShareWindowState(*this);

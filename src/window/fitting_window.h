@@ -149,11 +149,17 @@ class CFittingWindow {
     void ClickImportMesh(std::size_t source);
     void PressKeyInDrawing();
 
+    /// Ends whatever mode is armed, the removal of a dimension too, wherever the focus is. Nothing is built.
+    void PressEscape();
+
     /// The mouse over the drawing area, at a point of the drawing plane. MouseDown gives true when the View
     /// menu is to pop up.
     [[nodiscard]] bool MouseDown(MouseButton button, float x, float y);
     void MouseMove(MouseButton button, float x, float y);
     void MouseUp(MouseButton button, float x, float y);
+
+    /// The mouse has left the drawing area.
+    void MouseLeave();
 
     /// Zooms by turns of the wheel, parts of one allowed and above 0 inwards, about a point of the drawing
     /// plane. Turns that follow each other within half a second of `milliseconds`, on any clock, make one
@@ -216,6 +222,7 @@ class CFittingWindow {
     bool diagonalsAllowed = true;
     MouseModes modes;
     bool removeDimensionMode = false;
+    std::optional<WorldPoint> pointer;  ///< where the mouse is over the drawing plane
     bool labelSeen = false;
     bool closed = false;
     bool keepsInSight = false;  ///< in a window that is looked at, until its user's first zoom or pan: a view
@@ -269,6 +276,7 @@ class CFittingWindow {
     bool FinishMouseOperation(float x, float y);
     void FinishDrag();
     bool RemoveDimensionAt(float x, float y);
+    void EndRemoval();
     void PanByRubberBand();
     void PanTo(float x, float y);
     void ShowMoved(MovedView::By by, bool sameRun, const std::function<CViewPoint()>& makeView);

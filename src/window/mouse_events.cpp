@@ -113,7 +113,12 @@ void CFittingWindow::BeginMouseOperation(float x, float y) {
     }
 }
 
+void CFittingWindow::MouseLeave() {
+    pointer.reset();
+}
+
 void CFittingWindow::MouseMove(MouseButton button, float x, float y) {
+    pointer = {x, y};
     if (button == MouseButton::Middle) {
         PanTo(x, y);
     }
@@ -184,10 +189,14 @@ bool CFittingWindow::RemoveDimensionAt(float x, float y) {
     if (!removeDimensionMode) {
         return false;
     }
+    EndRemoval();
+    return dimensions->Count() > 0 && display.DimRemove(x, y);
+}
+
+void CFittingWindow::EndRemoval() {
     removeDimensionMode = false;
     controls.pboxGraphicWindow.mousePointer = Cursor::Cross;
     controls.pboxGraphicWindow.toolTip.clear();
-    return dimensions->Count() > 0 && display.DimRemove(x, y);
 }
 
 void CFittingWindow::PanByRubberBand() {

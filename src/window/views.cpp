@@ -1,6 +1,7 @@
 #include "window/views.h"
 
 #include <array>
+#include <cmath>
 
 #include "core/math_module.h"
 #include "form/messages.h"
@@ -12,6 +13,11 @@ struct PresetAngles {
     double fromXY;
     double aroundZ;
 };
+
+bool IsSameAngle(double a, double b) {
+    constexpr double Close = 1e-8;
+    return std::fabs(std::remainder(a - b, 2 * PI)) < Close;
+}
 
 PresetAngles AnglesOfButton(int button) {
     const double slant = DegToRad(35);
@@ -54,6 +60,24 @@ void AddPresetView(int button, CViewList& views) {
     view.AroundZ = angles.aroundZ;
     view.Patternview = button == PatternButton;
     views.Add(view);
+}
+
+std::optional<int> ShownButton(const CViewList& views) {
+    if (views.Count() == 0) {
+        return std::nullopt;
+    }
+    const CViewPoint& view = views.Last();
+    if (view.Patternview) {
+        return PatternButton;
+    }
+    for (int button = 0; button < PatternButton; ++button) {
+        const auto [fromXY, aroundZ] = AnglesOfButton(button);
+        const bool fromAbove = fromXY == QuarterTurn;  // whatever is turned about the line of sight
+        if (IsSameAngle(view.FromXY, fromXY) && (fromAbove || IsSameAngle(view.AroundZ, aroundZ))) {
+            return button;
+        }
+    }
+    return std::nullopt;
 }
 
 CViewPoint CopyCurrentView(const CViewList& views) {

@@ -1,6 +1,8 @@
 // The commands that manage the view history of a window.
 #pragma once
 
+#include <optional>
+
 #include "display/view_point.h"
 #include "form/message_boxes.h"
 #include "form/options.h"
@@ -20,6 +22,11 @@ bool IsWithinZoomLimits(double zoomFactor);
 /// Appends the view of button 0 to 9: a copy of the last view (pan and zoom kept), or the default view when
 /// there is none, with the button's angles. Throws ListError for another number.
 void AddPresetView(int button, CViewList& views);
+
+/// The button whose view the last one is, in pan and zoom as it may be; nothing for another view or none.
+/// Angles of a file, which has fewer digits and whole turns of its own, are told apart by a millionth of a
+/// degree.
+std::optional<int> ShownButton(const CViewList& views);
 
 /// A copy of the last view. Throws ListError when there is none.
 CViewPoint CopyCurrentView(const CViewList& views);

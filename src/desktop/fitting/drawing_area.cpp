@@ -47,6 +47,7 @@ bool IsCharacter(const QKeyEvent& event) {
 DrawingArea::DrawingArea(CFittingWindow& window, QWidget* parent) : QWidget(parent), window_(&window) {
     NameWidget(*this, "pboxGraphicWindow", tr("Drawing"));
     setFocusPolicy(Qt::ClickFocus);
+    setMouseTracking(true);  // the place of the pointer is told without a button held
     setAttribute(Qt::WA_OpaquePaintEvent);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     device_.size = [this] { return QWidget::size(); };
@@ -169,7 +170,17 @@ void DrawingArea::mouseMoveEvent(QMouseEvent* event) {
     }
     const WorldPoint point = ToDrawing(event->position());
     window_->MouseMove(ButtonOf(event->buttons()), point.x, point.y);
-    update();
+    if (event->buttons() != Qt::NoButton) {
+        update();  // a rubber band may have come along
+    }
+    pointerMoved();
+}
+
+void DrawingArea::leaveEvent(QEvent* /*event*/) {
+    if (window_ != nullptr) {
+        window_->MouseLeave();
+        pointerMoved();
+    }
 }
 
 void DrawingArea::mouseReleaseEvent(QMouseEvent* event) {
@@ -196,6 +207,9 @@ void DrawingArea::keyPressEvent(QKeyEvent* event) {
     if (window_ == nullptr || !IsCharacter(*event)) {
         QWidget::keyPressEvent(event);
         return;
+    }
+    if (event->key() == Qt::Key_Escape) {
+        window_->PressEscape();
     }
     window_->PressKeyInDrawing();
     afterEvent();

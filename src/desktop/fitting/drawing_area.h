@@ -32,6 +32,7 @@ class DrawingArea : public QWidget {
     [[nodiscard]] QPointF ToWidget(double x, double y) const;
 
     std::function<void()> afterEvent;              ///< something may have changed in the models
+    std::function<void()> pointerMoved;            ///< over the drawing, or away from it
     std::function<void(const QPoint&)> popUpMenu;  ///< the View menu, at a global position
 
   protected:
@@ -40,6 +41,7 @@ class DrawingArea : public QWidget {
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void leaveEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     [[nodiscard]] QSize minimumSizeHint() const override { return {120, 120}; }
 

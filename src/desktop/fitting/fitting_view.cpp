@@ -38,6 +38,11 @@ FittingView::FittingView(CFittingWindow& window, QWidget* parent) : QWidget(pare
     NameWidget(*this, std::string(window.Row().window), Text(std::string(window.Row().category)));
     drawing_ = new DrawingArea(window, this);
     drawing_->afterEvent = [this] { After(); };
+    drawing_->pointerMoved = [this] {
+        if (pointerMoved) {
+            pointerMoved();
+        }
+    };
     drawing_->installEventFilter(this);
     drawing_->popUpMenu = [this](const QPoint& position) { popUpMenu(position); };
     auto* layout = new QHBoxLayout(this);
@@ -122,6 +127,15 @@ bool FittingView::eventFilter(QObject* watched, QEvent* event) {
         shownFocus_ = window_->controls.focus;
     }
     return QWidget::eventFilter(watched, event);
+}
+
+/// What no box or button has taken.
+void FittingView::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Escape) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    Do([](CFittingWindow& window) { window.PressEscape(); });
 }
 
 void FittingView::resizeEvent(QResizeEvent* event) {
@@ -210,9 +224,7 @@ void FittingView::Project() {
         ShowBox(*box.edit, model.txtParameter.at(box.index));
     }
     ShowBox(*textSize_, model.txtTextSize);
-    for (std::size_t i = 0; i < viewButtons_.size(); ++i) {
-        ShowControl(*viewButtons_.at(i), model.btnView.at(i));
-    }
+    ProjectViewButtons();
     for (std::size_t i = 0; i < typeButtons_.size(); ++i) {
         ShowControl(*typeButtons_.at(i), model.btnPoint.at(i));
     }
@@ -227,6 +239,17 @@ void FittingView::Project() {
     drawing_->Project();
     ProjectFocus();
     RevealBox();
+}
+
+/// The button of the view that is shown stays pressed.
+void FittingView::ProjectViewButtons() {
+    const std::optional<int> shown = ShownButton(*window_->views);
+    for (int i = 0; i <= PatternButton; ++i) {
+        QToolButton& button = *viewButtons_.at(static_cast<std::size_t>(i));
+        ShowControl(button, window_->controls.btnView.at(static_cast<std::size_t>(i)));
+        button.setCheckable(true);
+        button.setChecked(shown == i);
+    }
 }
 
 /// A message about a box scrolls to it before it comes up; afterwards the user scrolls as he likes.

@@ -54,12 +54,14 @@ class FittingView : public QWidget {
     /// What a click on the button of a group of options does.
     using SelectButton = std::function<void(CFittingWindow&, std::size_t button)>;
 
-    std::function<void()> afterEvent;  ///< a command or an edit has run
+    std::function<void()> afterEvent;    ///< a command or an edit has run
+    std::function<void()> pointerMoved;  ///< the place of the pointer on the drawing is another
     std::function<void()> closeWindow;
     std::function<void(const QPoint&)> popUpMenu;
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
 
@@ -90,6 +92,7 @@ class FittingView : public QWidget {
     void ShowIcons();
     void ShowPointer();
     void ProjectFocus();
+    void ProjectViewButtons();
     void RevealBox();
     void ProjectOptions();
     [[nodiscard]] SketchPage& ShownPage() const;

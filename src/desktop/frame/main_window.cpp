@@ -165,7 +165,7 @@ void MainWindow::Project() {
     if (!windowTitle().startsWith(title)) {  // the area adds the name of a maximised window
         setWindowTitle(title);
     }
-    ShowPanel(*statusText_, Text(model.statusText));
+    ProjectStatusBar();
     toolBar_->setVisible(model.toolBarVisible);
     statusBar()->setVisible(model.statusBarVisible);
     for (QMdiSubWindow* child : area_->subWindowList()) {
@@ -212,6 +212,7 @@ void MainWindow::ShowWindow(CFittingWindow& window) {
         return closed;
     };
     child->View().afterEvent = [this] { Project(); };
+    child->View().pointerMoved = [this] { ShowPointerPlace(); };
     child->View().popUpMenu = [this](const QPoint& position) { viewMenu_->popup(position); };
     area_->addSubWindow(child);
     child->Project();
@@ -270,7 +271,8 @@ void MainWindow::TakeActive(QMdiSubWindow* child) {
     CFittingWindow* window = child != nullptr ? static_cast<ChildWindow*>(child)->View().Window() : nullptr;
     frame_.ActivateChild(window);
     if (statusText_ != nullptr) {
-        ShowPanel(*statusText_, Text(frame_.Context().frame.statusText));
+        ProjectStatusBar();
+        ProjectToolBar();
     }
     SpeakWindows();
 }

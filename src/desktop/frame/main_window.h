@@ -101,12 +101,14 @@ class MainWindow : public QMainWindow, public FrameDesktop {
     void MakeToolBar();
     void MakeStatusBar();
     void ShowClock();
+    void ShowPointerPlace();
     static void ShowPanel(QLabel& panel, const QString& text);
     void TakeActive(QMdiSubWindow* child);
     void TakeInnerSize();
     void SpeakWindows();
     void ProjectMenus();
     void ProjectToolBar();
+    void ProjectStatusBar();
     void TileWindows(bool sideBySide);
     void ArrangeIcons();
     [[nodiscard]] ChildWindow* ChildOf(const CFittingWindow& window) const;
@@ -122,6 +124,8 @@ class MainWindow : public QMainWindow, public FrameDesktop {
     std::map<std::string, QAction*> actions_;  ///< entries and top menus by control name
     std::map<int, QToolButton*> tools_;        ///< by position
     QLabel* statusText_ = nullptr;
+    QLabel* prompt_ = nullptr;
+    QLabel* pointer_ = nullptr;
     QLabel* date_ = nullptr;
     QLabel* time_ = nullptr;
     QTimer* copying_;

@@ -23,6 +23,7 @@ namespace {
 
 constexpr int ToolIconSize = 24;
 constexpr int ClockTick = 1000;  // milliseconds
+constexpr int PromptIndent = 20;
 
 /// A caption without its mnemonic, as a screen reader says it.
 QString Spoken(const QString& caption) {
@@ -100,16 +101,22 @@ void MainWindow::MakeToolBar() {
 
 void MainWindow::MakeStatusBar() {
     NameWidget(*statusBar(), "sbStatusBar", tr("Status bar"));
-    const auto panel = [this](int number, const QString& name) {
+    const auto panel = [this](const std::string& number, const QString& name) {
         auto* label = new QLabel(statusBar());
-        NameWidget(*label, "sbStatusBar_" + std::to_string(number), name);
+        NameWidget(*label, "sbStatusBar_" + number, name);
         label->setTextFormat(Qt::PlainText);
         return label;
     };
-    statusText_ = panel(1, tr("Settings of the active fitting"));
-    date_ = panel(2, tr("Date"));
-    time_ = panel(3, tr("Time"));
-    statusBar()->addWidget(statusText_, 1);
+    statusText_ = panel("1", tr("Settings of the active fitting"));
+    prompt_ = panel("Prompt", tr("What the mouse is to do"));
+    pointer_ = panel("Pointer", tr("Place of the pointer on the pattern"));
+    date_ = panel("2", tr("Date"));
+    time_ = panel("3", tr("Time"));
+    statusBar()->addWidget(statusText_);
+    statusBar()->addWidget(prompt_, 1);
+    prompt_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // a prompt widens no window
+    prompt_->setIndent(PromptIndent);
+    statusBar()->addPermanentWidget(pointer_);
     statusBar()->addPermanentWidget(date_);
     statusBar()->addPermanentWidget(time_);
     auto* tick = new QTimer(this);
@@ -122,6 +129,19 @@ void MainWindow::MakeStatusBar() {
 void MainWindow::ShowPanel(QLabel& panel, const QString& text) {
     panel.setText(text);
     panel.setAccessibleDescription(text);
+}
+
+/// The settings of the active window, and what its armed mode asks for.
+void MainWindow::ProjectStatusBar() {
+    const CFittingWindow* const child = frame_.ActiveChild();
+    ShowPanel(*statusText_, Text(frame_.Context().frame.statusText));
+    ShowPanel(*prompt_, child == nullptr ? QString() : Text(Prompt(*child)));
+    ShowPointerPlace();
+}
+
+void MainWindow::ShowPointerPlace() {
+    const CFittingWindow* const child = frame_.ActiveChild();
+    ShowPanel(*pointer_, child == nullptr ? QString() : Text(PointerText(*child)));
 }
 
 void MainWindow::ShowClock() {
@@ -151,7 +171,7 @@ void MainWindow::ProjectToolBar() {
         const auto found = model.toolEnabled.find(position);
         button->setEnabled(found == model.toolEnabled.end() || found->second);
         if (button->isCheckable()) {
-            button->setChecked(model.printFramesTicked);
+            button->setChecked(frame_.IsToolPressed(position));
         }
     }
 }
