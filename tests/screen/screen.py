@@ -104,6 +104,10 @@ class Screen:
     def wait_focus(self, name, role="text"):
         return self.wait(lambda: has(self.search(name, role), pyatspi.STATE_FOCUSED), f"focus in {name!r}")
 
+    def has_focus(self, name, role=None):
+        node = self.search(name, role)
+        return node is not None and has(node, pyatspi.STATE_FOCUSED)
+
     def wait_end(self):
         """The program's exit code, once it has ended by itself."""
         return self.process.wait(PATIENCE)
@@ -167,13 +171,13 @@ class Screen:
         self.xdotool("mousemove", *place, "click", button)
         self.settle()
 
-    def drag(self, start, end):
+    def drag(self, start, end, button=1):
         self.xdotool("mousemove", *start)
-        self.xdotool("mousedown", 1)
+        self.xdotool("mousedown", button)
         for part in (1, 2, 3, 4):
             self.xdotool("mousemove", *(start[i] + (end[i] - start[i]) * part // 4 for i in (0, 1)))
             self.settle(0.03)
-        self.xdotool("mouseup", 1)
+        self.xdotool("mouseup", button)
 
     def fill(self, name, text):
         """Clicks a box and types over what stands in it."""

@@ -56,7 +56,7 @@ class DrawnPattern:
 class EndToEnd(ScreenTest):
     def measure(self, start, end):
         """Drags between two places on the screen, and returns the distance that the box tells."""
-        self.screen.click("Measure distance", "push button")
+        self.screen.click("Measure distance", "check box")
         self.screen.drag(start, end)
         said = self.screen.answer(TITLE)
         return float(re.match(r"Distance = ([\d.]+)\n", said).group(1))
@@ -66,10 +66,10 @@ class EndToEnd(ScreenTest):
         screen.new_cone()
         screen.fill_cone("300", "120", "250")
         screen.picture("typed")
-        screen.click("View Model 1, slanted", "push button")
+        screen.click("View Model 1, slanted", "check box")
         screen.wait_drawing("Model")
         screen.picture("model")
-        screen.click("Create or update pattern", "push button")
+        screen.click("Create or update pattern", "check box")
         screen.wait_drawing("Flat pattern")
         screen.click("Zoom Extents", "push button")
 
@@ -85,7 +85,7 @@ class EndToEnd(ScreenTest):
         self.assertAlmostEqual(self.measure(pattern.pixel(FOOT), pattern.pixel(END_FOOT)),
                                math.dist(FOOT, END_FOOT), delta=READ)
 
-        screen.click("Zoom Window", "push button")
+        screen.click("Zoom Window", "check box")
         screen.drag(pattern.pixel((HEAD[0] - 20, 60)), pattern.pixel((FOOT[0] + 20, -20)))
         screen.wait(lambda: screen.drawing_pixels() != whole, "zoomed drawing")
         screen.picture("zoomed")
