@@ -158,7 +158,9 @@ class EndToEnd(ScreenTest):
         screen.wait_active(f"Exporting {exported}")
         screen.picture("export")
         screen.key("Return")
-        self.assertEqual(screen.answer(TITLE), f"DXF successfully saved to: {exported}")
+        said = screen.answer(TITLE).split("\n")
+        self.assertEqual(said[0], f"DXF successfully saved to: {exported}")
+        self.assertTrue(said[1].startswith("Check passed: 1 piece, "), said)
         self.check_drawing_file()
 
         screen.key("ctrl+w")  # it is saved: no question
