@@ -85,6 +85,9 @@ class Keyboard(ScreenTest):
         screen.key("ctrl+0")
         screen.wait_drawing("Flat pattern")
         before = screen.drawing_pixels()
+        screen.key("alt+v", "Up", "Up", "Up", "Return")  # the third entry from below: Zoom Out
+        screen.wait(lambda: screen.drawing_pixels() != before, "smaller pattern")
+        before = screen.drawing_pixels()
         screen.key("alt+v", "Up", "Up", "Return")  # the last but one entry: Zoom Extents
         screen.wait(lambda: screen.drawing_pixels() != before, "pattern at its extents")
         extents = screen.drawing_pixels()
