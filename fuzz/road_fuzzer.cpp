@@ -6,79 +6,15 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <iostream>
-#include <iterator>
 #include <nlohmann/json.hpp>
 #include <sstream>
 #include <string>
-#include <vector>
 
-#include "batch/batch.h"
+#include "fuzz/road.h"
 
 namespace {
 
-namespace fs = std::filesystem;
-
-[[noreturn]] void Complain(const std::string& what) {
-    std::cerr << "the road ends: " << what << std::endl;
-    std::abort();
-}
-
-void Require(bool holds, const char* what) {
-    if (!holds) {
-        Complain(what);
-    }
-}
-
-/// A folder of this process, which goes away with it.
-class Folder {
-  public:
-    Folder() {
-        std::string name = (fs::temp_directory_path() / "korvet-road-XXXXXX").string();
-        path_ = ::mkdtemp(name.data());
-    }
-    ~Folder() {
-        std::error_code ignored;
-        fs::remove_all(path_, ignored);
-    }
-    Folder(const Folder&) = delete;
-    Folder& operator=(const Folder&) = delete;
-
-    [[nodiscard]] std::string File(const std::string& name) const { return (path_ / name).string(); }
-
-    /// The bytes of a file, which then goes away; nothing when there is none.
-    [[nodiscard]] std::string Take(const std::string& name) const {
-        std::ifstream file(path_ / name, std::ios::binary);
-        const std::string bytes{std::istreambuf_iterator<char>(file), {}};
-        std::error_code ignored;
-        fs::remove(path_ / name, ignored);
-        return bytes;
-    }
-
-    void Put(const std::string& name, const std::string& bytes) const {
-        std::ofstream(path_ / name, std::ios::binary) << bytes;
-    }
-
-  private:
-    fs::path path_;
-};
-
-/// Runs a command line in silence; its exit status.
-int RunInSilence(const std::vector<std::string>& words) {
-    std::vector<const char*> arguments = {"korvet-batch"};
-    for (const std::string& word : words) {
-        arguments.push_back(word.c_str());
-    }
-    std::ostringstream said;
-    std::streambuf* const before = std::cerr.rdbuf(said.rdbuf());
-    const int status = korvet::batch::RunCommandLine(static_cast<int>(arguments.size()), arguments.data());
-    std::cerr.rdbuf(before);
-    Require(status == korvet::batch::Done || status == korvet::batch::Failed, "another exit status");
-    Require(status == korvet::batch::Done || !said.str().empty(), "refused without a word");
-    return status;
-}
+using namespace korvet::fuzz;
 
 /// Groups of a code and a value, a line each; every number among them is finite.
 void CheckDrawing(const std::string& bytes) {

@@ -1,12 +1,11 @@
 // The JSON that tells of one input.
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <string>
-#include <string_view>
 #include <vector>
 
+#include "core/file_store.h"
 #include "form/message_boxes.h"
 #include "window/check_export.h"
 #include "window/fitting_window.h"
@@ -26,9 +25,6 @@ struct InputReport {
     bool tellsCheck = false;                    ///< the check of the cut file was asked for
     const ExportCheck* check = nullptr;         ///< null when there was nothing to check
 };
-
-/// Takes a text piece by piece.
-using TextSink = std::function<void(std::string_view)>;
 
 /// Throws ArithmeticError when a coordinate is not finite: JSON has no word for it.
 void RequireFinite(const CRuleSurfs& surfaces);

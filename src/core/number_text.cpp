@@ -51,6 +51,11 @@ double RoundPlaces(double value, int places) {
 }
 
 std::string NumberText(double value, char decimalMark) {
+    // Heights of a pattern and steps of a plotter are whole numbers: half of the millions in a large drawing.
+    constexpr double FirstOfSixteenDigits = 1e15;
+    if (std::fabs(value) < FirstOfSixteenDigits && value == std::trunc(value)) {
+        return std::to_string(static_cast<long long>(value));
+    }
     std::string text = CharsOf(value, std::chars_format::general, SignificantDigits);
     std::replace(text.begin(), text.end(), '.', decimalMark);
     return text;
@@ -67,8 +72,13 @@ std::string ShortestText(double value, char decimalMark) {
 }
 
 std::optional<double> ParseNumber(std::string_view text, char decimalMark) {
-    std::string digits{Trimmed(text)};
-    std::replace(digits.begin(), digits.end(), decimalMark, '.');
+    std::string_view digits = Trimmed(text);
+    std::string withPoint;
+    if (decimalMark != '.') {
+        withPoint = digits;
+        std::replace(withPoint.begin(), withPoint.end(), decimalMark, '.');
+        digits = withPoint;
+    }
     const bool plus = digits.size() > 1 && digits[0] == '+' && digits[1] != '-';
     const char* first = digits.data() + (plus ? 1 : 0);
     const char* last = digits.data() + digits.size();

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "core/math_module.h"
+#include "core/work_watch.h"
 
 namespace korvet {
 namespace {
@@ -103,6 +104,7 @@ void CRuleSurf::RotateList(int listNumber, Axis axis, const C3DPoint& centre, do
 }
 
 CRuleSurf& CRuleSurfs::Add(const CRuleSurf& surface) {
+    WorkWatch::Look();
     CRuleSurf& stored = surfaces_.Add(surface);
     stored.DimensionList = nullptr;
     return stored;

@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "core/math_module.h"
+#include "core/work_watch.h"
 
 namespace korvet {
 namespace {
@@ -18,11 +19,13 @@ void DrawingRecord::Clear() {
 }
 
 void DrawingRecord::Polyline(const Pen& pen, std::span<const PixelPoint> points) {
+    WorkWatch::Look();
     calls_.emplace_back(Line{pen, points.size()});
     points_.insert(points_.end(), points.begin(), points.end());
 }
 
 void DrawingRecord::TextOut(const std::string& text, PixelPoint corner, const TextFont& font, Color color) {
+    WorkWatch::Look();
     calls_.emplace_back(Text{text, corner, font, color});
 }
 

@@ -11,7 +11,7 @@ namespace korvet {
 namespace {
 
 /// About the room that the outlines and bend lines of a station take in the file.
-constexpr std::size_t BytesPerStation = 200;
+constexpr std::size_t BytesPerStation = 300;
 constexpr std::size_t BytesOfTheRest = 4096;
 
 std::size_t ExpectedBytes(const CRuleSurfs& surfaces) {
@@ -109,35 +109,59 @@ void WriteSurface(DxfStream& out, const CDXF& dxf, const CRuleSurf& surface, Par
     }
 }
 
+/// The entities, of which the stream then knows the extents.
+void WriteEntities(DxfStream& out, const CDXF& dxf, std::vector<DxfPart>& parts) {
+    for (std::size_t i = 1; i <= dxf.SurfaceList.Count(); ++i) {
+        WriteSurface(out, dxf, dxf.SurfaceList.Item(i), PartNotes(out, parts, i));
+    }
+    if (dxf.SurfaceList.Count() > 0) {
+        WriteAnnotations(out, dxf);
+    }
+}
+
+/// What goes before the entities. It tells of their extents, so that they are made once more for it.
+std::string HeadingOf(const CDXF& dxf) {
+    if (!dxf.Heading) {
+        return {};
+    }
+    std::vector<DxfPart> parts;
+    DxfStream measured(dxf.TextSize, [](std::string_view) {});
+    WriteEntities(measured, dxf, parts);
+    return HeadingText(*dxf.Heading, measured.Extents().value_or(DxfExtents()));
+}
+
 }  // namespace
+
+void CDXF::WriteTo(const TextSink& sink, std::vector<DxfPart>& parts) const {
+    const std::string heading = HeadingOf(*this);
+    sink(heading);
+    DxfStream out(TextSize, sink);
+    WriteEntities(out, *this, parts);
+    sink(out.Finish());
+    for (DxfPart& part : parts) {
+        part.begin += heading.size();
+        part.end += heading.size();
+    }
+}
+
+std::string CDXF::Text(std::vector<DxfPart>& parts) const {
+    std::string text;
+    text.reserve(ExpectedBytes(SurfaceList));
+    WriteTo([&text](std::string_view piece) { text += piece; }, parts);
+    return text;
+}
 
 std::string CDXF::Text() const {
     std::vector<DxfPart> parts;
     return Text(parts);
 }
 
-std::string CDXF::Text(std::vector<DxfPart>& parts) const {
-    DxfStream out(TextSize, ExpectedBytes(SurfaceList));
-    for (std::size_t i = 1; i <= SurfaceList.Count(); ++i) {
-        WriteSurface(out, *this, SurfaceList.Item(i), PartNotes(out, parts, i));
-    }
-    if (SurfaceList.Count() > 0) {
-        WriteAnnotations(out, *this);
-    }
-    const std::string entities = out.Finish();
-    if (!Heading) {
-        return entities;
-    }
-    const std::string heading = HeadingText(*Heading, out.Extents().value_or(DxfExtents()));
-    for (DxfPart& part : parts) {
-        part.begin += heading.size();
-        part.end += heading.size();
-    }
-    return heading + entities;
-}
-
 void CDXF::WriteDXF(FileStore& files) const {
-    files.Write(FileName, Text(), Flush::No);
+    const auto pieces = [this](const TextSink& sink) {
+        std::vector<DxfPart> parts;
+        WriteTo(sink, parts);
+    };
+    files.WritePieces(FileName, pieces, Flush::No);
 }
 
 }  // namespace korvet

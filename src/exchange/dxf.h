@@ -55,7 +55,10 @@ struct CDXF {
     /// The same, and where in it the outlines and folds of each surface stand.
     [[nodiscard]] std::string Text(std::vector<DxfPart>& parts) const;
 
-    /// Writes Text() to FileName in one step, so that a failed export leaves the old file whole or none.
+    /// Hands the same bytes to a sink as they are made: of the largest fittings they are half a gigabyte.
+    void WriteTo(const TextSink& sink, std::vector<DxfPart>& parts) const;
+
+    /// Writes them to FileName in one step, so that a failed export leaves the old file whole or none.
     /// Throws ArithmeticError and FileError.
     void WriteDXF(FileStore& files) const;
 };

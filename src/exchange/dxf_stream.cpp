@@ -4,10 +4,13 @@
 
 #include "core/constants.h"
 #include "core/math_module.h"
+#include "core/work_watch.h"
 #include "exchange/cut_curve.h"
 
 namespace korvet {
 namespace {
+
+constexpr std::size_t PieceBytes = std::size_t{1} << 18U;  // what a sink takes at a time, or a little more
 
 // Group codes. The y and z of a point follow its x by 10 and 20.
 constexpr int EntityCode = 0;
@@ -27,8 +30,7 @@ constexpr int JustificationCode = 72;
 
 }  // namespace
 
-DxfStream::DxfStream(double textSize, std::size_t expectedBytes) : textSize_(textSize) {
-    groups_.Reserve(expectedBytes);
+DxfStream::DxfStream(double textSize, TextSink sink) : textSize_(textSize), sink_(std::move(sink)) {
     groups_.WriteWord(EntityCode, "SECTION");
     groups_.WriteWord(NameCode, "ENTITIES");
 }
@@ -108,6 +110,12 @@ void DxfStream::WritePoint(int xCode, const C3DPoint& point) {
 }
 
 void DxfStream::WriteEntity(std::string_view name, std::string_view layer) {
+    WorkWatch::Look();
+    if (sink_ && groups_.Size() >= PieceBytes) {
+        const std::string piece = groups_.Take();
+        sink_(piece);
+        taken_ += piece.size();
+    }
     groups_.WriteWord(EntityCode, name);
     groups_.WriteWord(LayerCode, layer);
 }

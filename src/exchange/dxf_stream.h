@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/file_store.h"
 #include "core/points.h"
 #include "exchange/dxf_groups.h"
 #include "exchange/dxf_heading.h"
@@ -23,16 +24,17 @@ enum class TextJustification : int { Left = 0, Centre = 1, Right = 2 };
 class DxfStream {
   public:
     /// A text without any entity. `textSize` is the height of every TEXT, in the user's unit, and goes out
-    /// unrounded; `expectedBytes` only makes room.
-    explicit DxfStream(double textSize, std::size_t expectedBytes = 0);
+    /// unrounded. The sink, if there is one, takes the text in large pieces as it grows.
+    explicit DxfStream(double textSize, TextSink sink = {});
 
-    /// The bytes of the text so far.
-    [[nodiscard]] std::size_t Size() const { return groups_.Size(); }
+    /// The bytes of the text so far, those that the sink has taken too.
+    [[nodiscard]] std::size_t Size() const { return taken_ + groups_.Size(); }
 
     /// The box about all entities so far, texts by the points they stand at; nothing without any.
     [[nodiscard]] const std::optional<DxfExtents>& Extents() const { return extents_; }
 
-    /// The whole file: closes the section. The stream is empty afterwards.
+    /// Closes the section and gives what no sink has taken: without one, the whole file. The stream is empty
+    /// afterwards.
     [[nodiscard]] std::string Finish();
 
     /// LINE from a to b.
@@ -60,6 +62,8 @@ class DxfStream {
     void TakeIn(const C3DPoint& point);
 
     double textSize_;
+    TextSink sink_;
+    std::size_t taken_ = 0;  ///< bytes that the sink has
     DxfGroups groups_;
     std::optional<DxfExtents> extents_;
 };

@@ -52,15 +52,16 @@ std::string SweepText(double degrees) {
 /// A plot under way.
 class PlotText {
   public:
-    PlotText(double stepsPerUnit, const C3DPoint& offset) : steps_(stepsPerUnit), offset_(offset) {
+    PlotText(double stepsPerUnit, const C3DPoint& offset, const TextSink& sink)
+        : steps_(stepsPerUnit), offset_(offset), sink_(sink) {
         Add("IN");
         Add("SP1");
     }
 
-    std::string Finish() {
+    void Finish() {
         Add("PU");
         Add("SP0");
-        return std::move(plot_);
+        sink_(plot_);
     }
 
     void Draw(const TransferLine& line) { PlotLine(line.a, line.b); }
@@ -105,11 +106,19 @@ class PlotText {
                RoundedText((point.y + offset_.y) * steps_, 0);
     }
 
-    void Add(const std::string& instruction) { plot_.append(instruction).append(";\r\n"); }
+    void Add(const std::string& instruction) {
+        constexpr std::size_t PieceBytes = std::size_t{1} << 18U;
+        plot_.append(instruction).append(";\r\n");
+        if (plot_.size() >= PieceBytes) {
+            sink_(plot_);
+            plot_.clear();
+        }
+    }
 
     double steps_;
     C3DPoint offset_;
-    std::string plot_;
+    const TextSink& sink_;
+    std::string plot_;  ///< what the sink has not taken yet
 };
 
 /// What brings the lower left corner of the drawing to the plotter's origin.
@@ -120,19 +129,31 @@ C3DPoint OffsetOf(const CRuleSurfs& surfaces) {
 
 }  // namespace
 
+void CHPGL::PlotTo(const TextSink& sink, std::string_view drawing) const {
+    const double steps = PrintUnits == PrintMillimetres ? StepsPerMillimetre : StepsPerInch;
+    PlotText plot(steps, OffsetOf(SurfaceList), sink);
+    ReadTransferFile(drawing, [&plot](const TransferEntity& entity) {
+        std::visit([&plot](const auto& shape) { plot.Draw(shape); }, entity.shape);
+    });
+    plot.Finish();
+}
+
 std::string CHPGL::Plot(std::string_view drawing) const {
-    PlotText plot(PrintUnits == PrintMillimetres ? StepsPerMillimetre : StepsPerInch, OffsetOf(SurfaceList));
-    for (const TransferEntity& entity : ReadTransferFile(drawing)) {
-        std::visit([&](const auto& shape) { plot.Draw(shape); }, entity.shape);
-    }
-    return plot.Finish();
+    std::string plot;
+    PlotTo([&plot](std::string_view piece) { plot += piece; }, drawing);
+    return plot;
+}
+
+void CHPGL::WritePlot(FileStore& files, std::string_view drawing) const {
+    files.WritePieces(
+        FileName, [&](const TextSink& sink) { PlotTo(sink, drawing); }, Flush::No);
 }
 
 bool CHPGL::TransferTempFile(FileStore& files, const std::string& transferFile) const {
     if (!files.Exists(transferFile)) {
         return false;
     }
-    files.Write(FileName, Plot(files.Read(transferFile, LargestDrawing)), Flush::No);
+    WritePlot(files, files.Read(transferFile, LargestDrawing));
     return true;
 }
 

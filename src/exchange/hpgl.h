@@ -31,6 +31,12 @@ struct CHPGL {
     /// ArithmeticError.
     [[nodiscard]] std::string Plot(std::string_view drawing) const;
 
+    /// Hands the same plot to a sink as it is made. What a fault leaves of it is of no use.
+    void PlotTo(const TextSink& sink, std::string_view drawing) const;
+
+    /// Writes the plot of a drawing to FileName in one step. Throws as Plot does, and FileError.
+    void WritePlot(FileStore& files, std::string_view drawing) const;
+
     /// Reads the drawing back from the transfer file and writes its plot to FileName in one step. False, and
     /// nothing is done, when there is no transfer file. Throws as Plot does, and FileError.
     bool TransferTempFile(FileStore& files, const std::string& transferFile) const;

@@ -166,26 +166,30 @@ TransferPolyline ReadPolyline(TransferGroups& groups) {
 
 }  // namespace
 
-std::vector<TransferEntity> ReadTransferFile(std::string_view text) {
+void ReadTransferFile(std::string_view text, const std::function<void(TransferEntity)>& take) {
     constexpr int Opening = 5;  // "SECTION" and "ENTITIES" with their codes, and the code of what follows
     TransferGroups groups(text);
-    std::vector<TransferEntity> entities;
     groups.Skip(Opening);
     for (std::string_view word = groups.Line(); word != "EOF"; word = groups.Line()) {
         if (word == "LINE") {
             std::string layer = groups.Word();
-            entities.push_back({std::move(layer), ReadLine(groups)});
+            take({std::move(layer), ReadLine(groups)});
         } else if (word == "ARC") {
             std::string layer = groups.Word();
-            entities.push_back({std::move(layer), ReadArc(groups)});
+            take({std::move(layer), ReadArc(groups)});
         } else if (word == "TEXT") {
             std::string layer = groups.Word();
-            entities.push_back({std::move(layer), ReadText(groups)});
+            take({std::move(layer), ReadText(groups)});
         } else if (word == "POLYLINE") {
             std::string layer = groups.Word();
-            entities.push_back({std::move(layer), ReadPolyline(groups)});
+            take({std::move(layer), ReadPolyline(groups)});
         }
     }
+}
+
+std::vector<TransferEntity> ReadTransferFile(std::string_view text) {
+    std::vector<TransferEntity> entities;
+    ReadTransferFile(text, [&entities](TransferEntity entity) { entities.push_back(std::move(entity)); });
     return entities;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -56,5 +57,9 @@ struct TransferEntity {
 /// over. Escaped letters of layers and texts are letters again. Coordinates are in the user's unit. Throws
 /// TransferError for a value that is no number and for a text that ends before its last line, "EOF".
 std::vector<TransferEntity> ReadTransferFile(std::string_view text);
+
+/// Hands the same entities to `take`, one after the other; those before a fault have been handed over when it
+/// throws.
+void ReadTransferFile(std::string_view text, const std::function<void(TransferEntity)>& take);
 
 }  // namespace korvet

@@ -19,19 +19,11 @@ constexpr std::size_t Portion = 65536;  // bytes asked for at a time
     RefuseFile(path, "cannot be read: " + reason.message());
 }
 
-/// Writes to what is open already and closes it. Gives the reason when a step fails.
-std::error_code WriteAndClose(OpenFile file, const std::string& contents, Flush flush) {
-    std::error_code error = WriteWhole(file.get(), contents);
-    if (!error && flush == Flush::Yes) {
-        error = FlushToDisk(file.get());
-    }
-    return error ? error : CloseFile(std::move(file));
-}
-
-/// The rest of a file, up to one byte more than `limit`: that shows a file that is too large. `error` tells
-/// why it broke off.
-std::string ReadUpTo(std::FILE* file, std::size_t limit, std::error_code& error) {
+/// The rest of a file, up to one byte more than `limit`: that shows a file that is too large. Room is made
+/// for as much as is expected. `error` tells why it broke off.
+std::string ReadUpTo(std::FILE* file, std::size_t expected, std::size_t limit, std::error_code& error) {
     std::string contents;
+    contents.reserve(expected < limit ? expected + 1 : limit + 1);
     while (contents.size() <= limit && std::feof(file) == 0) {
         const std::size_t before = contents.size();
         const std::size_t left = limit - before;
@@ -47,6 +39,10 @@ std::string ReadUpTo(std::FILE* file, std::size_t limit, std::error_code& error)
         }
     }
     return contents;
+}
+
+TextPieces InOnePiece(const std::string& contents) {
+    return [&contents](const TextSink& sink) { sink(contents); };
 }
 
 }  // namespace
@@ -85,7 +81,10 @@ std::string DiskFiles::Read(const std::string& path, std::size_t limit) const {
     if (!file) {
         CannotRead(path, LastError());
     }
-    std::string contents = ReadUpTo(file.get(), limit, error);
+    const std::uintmax_t size = fs::file_size(path, error);
+    const auto expected = error ? std::size_t{0} : static_cast<std::size_t>(size);
+    error.clear();
+    std::string contents = ReadUpTo(file.get(), expected, limit, error);
     if (error) {
         CannotRead(path, error);
     }
@@ -95,11 +94,11 @@ std::string DiskFiles::Read(const std::string& path, std::size_t limit) const {
     return contents;
 }
 
-void DiskFiles::Write(const std::string& path, const std::string& contents, Flush flush) {
+void DiskFiles::WritePieces(const std::string& path, const TextPieces& pieces, Flush flush) {
     RequireFileName(path);
     const fs::file_status old = StatusToWrite(path);
     if (fs::exists(old) && !fs::is_regular_file(old)) {
-        WriteThrough(path, contents);
+        WriteThrough(path, pieces);
         return;
     }
     if (fs::exists(old)) {
@@ -112,7 +111,7 @@ void DiskFiles::Write(const std::string& path, const std::string& contents, Flus
     }
     std::error_code ignored;
     const bool hasFurtherNames = fs::exists(old) && fs::hard_link_count(target, ignored) > 1 && !ignored;
-    if (const auto error = TemporaryFile(path, folder).Replace(target, fs::exists(old), contents, flush)) {
+    if (const auto error = TemporaryFile(path, folder).Replace(target, fs::exists(old), pieces, flush)) {
         CannotWrite(path, error);
     }
     if (hasFurtherNames && onPartedNames) {
@@ -120,12 +119,12 @@ void DiskFiles::Write(const std::string& path, const std::string& contents, Flus
     }
 }
 
-void DiskFiles::WriteThrough(const std::string& path, const std::string& contents) {
+void DiskFiles::WriteThrough(const std::string& path, const TextPieces& pieces) {
     OpenFile file = OpenStream(path, "wb");
     if (!file) {
         CannotWrite(path, LastError());
     }
-    if (const auto error = WriteAndClose(std::move(file), contents, Flush::No)) {
+    if (const auto error = WriteAndClose(std::move(file), pieces, Flush::No)) {
         CannotWrite(path, error);
     }
 }
@@ -137,7 +136,7 @@ bool DiskFiles::Create(const std::string& path, const std::string& contents) {
         return false;
     }
     bool isNew = true;
-    error = TemporaryFile(path, fs::path(path).parent_path()).TakeName(path, contents, isNew);
+    error = TemporaryFile(path, fs::path(path).parent_path()).TakeName(path, InOnePiece(contents), isNew);
     if (error == std::errc::operation_not_permitted || error == std::errc::operation_not_supported ||
         error == std::errc::function_not_supported) {
         return CreateInPlace(path, contents);
@@ -157,7 +156,7 @@ bool DiskFiles::CreateInPlace(const std::string& path, const std::string& conten
     if (!file) {
         CannotMakeFileIn(path, fs::path(path).parent_path(), LastError());
     }
-    if (const auto error = WriteAndClose(std::move(file), contents, Flush::Yes)) {
+    if (const auto error = WriteAndClose(std::move(file), InOnePiece(contents), Flush::Yes)) {
         std::error_code ignored;
         fs::remove(path, ignored);
         CannotWrite(path, error);

@@ -31,17 +31,17 @@ class DiskFiles final : public FileStore {
     /// exists and is no regular file (a device, a pipe) is written straight through. With Flush::Yes file and
     /// folder are flushed to the disk. The first file written to a folder takes old temporary files away that
     /// killed programs have left there.
-    void Write(const std::string& path, const std::string& contents, Flush flush) override;
+    void WritePieces(const std::string& path, const TextPieces& pieces, Flush flush) override;
 
     bool Create(const std::string& path, const std::string& contents) override;
 
-    /// Called behind a Write of a file that had further names (hard links): they stay with what it held
+    /// Called behind a write of a file that had further names (hard links): they stay with what it held
     /// before.
     std::function<void(const std::string& path)> onPartedNames;
 
   private:
     static bool CreateInPlace(const std::string& path, const std::string& contents);
-    static void WriteThrough(const std::string& path, const std::string& contents);
+    static void WriteThrough(const std::string& path, const TextPieces& pieces);
 
     std::set<std::filesystem::path> swept_;  ///< folders without left temporary files
 };

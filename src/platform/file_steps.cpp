@@ -150,6 +150,20 @@ std::error_code WriteWhole(std::FILE* file, std::string_view text) {
     return {};
 }
 
+std::error_code WriteAndClose(OpenFile file, const TextPieces& pieces, Flush flush) {
+    try {
+        pieces([&file](std::string_view piece) {
+            if (const std::error_code error = WriteWhole(file.get(), piece)) {
+                throw std::system_error(error);  // ends what makes the pieces
+            }
+        });
+    } catch (const std::system_error& error) {
+        return error.code();
+    }
+    const std::error_code error = flush == Flush::Yes ? FlushToDisk(file.get()) : std::error_code();
+    return error ? error : CloseFile(std::move(file));
+}
+
 std::error_code FlushToDisk(std::FILE* file) {
 #ifdef _WIN32
     const bool done = _commit(_fileno(file)) == 0;

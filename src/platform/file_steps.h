@@ -56,6 +56,10 @@ void RequireWritable(const std::string& path);
 /// Hands the text to the system whole, also after calls that a signal broke off.
 std::error_code WriteWhole(std::FILE* file, std::string_view text);
 
+/// Hands a text to the system piece by piece, flushes it if asked for, and closes the file. The first step
+/// that fails is the last. Throws what `pieces` throws.
+std::error_code WriteAndClose(OpenFile file, const TextPieces& pieces, Flush flush);
+
 /// Waits until the file is on the disk itself. A file system that knows no such thing is as good as done.
 std::error_code FlushToDisk(std::FILE* file);
 

@@ -85,6 +85,9 @@ class PictureDevice::Canvas {
 
 PictureDevice::PictureDevice(PictureFormat format, int width, int height)
     : canvas_(std::make_unique<Canvas>(format, width, height)) {
+    if (format == PictureFormat::Svg) {
+        lines_.emplace();
+    }
     canvas_->Clear(Black);
 }
 
@@ -92,6 +95,16 @@ PictureDevice::~PictureDevice() = default;
 
 void PictureDevice::Cls(Color backColor) {
     canvas_->Clear(backColor);
+    if (lines_) {
+        lines_.emplace();
+    }
+}
+
+void PictureDevice::Polyline(const Pen& pen, std::span<const PixelPoint> points) {
+    const std::span<const PixelPoint> drawn = lines_ ? lines_->Take(pen, points) : points;
+    if (!drawn.empty()) {
+        PainterDevice::Polyline(pen, drawn);
+    }
 }
 
 PixelSize PictureDevice::ScaleSize() const {

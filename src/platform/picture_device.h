@@ -2,9 +2,11 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "core/file_store.h"
+#include "platform/lines_once.h"
 #include "platform/painter_device.h"
 
 namespace korvet {
@@ -21,6 +23,9 @@ class PictureDevice final : public PainterDevice {
     ~PictureDevice() override;
 
     void Cls(Color backColor) override;
+
+    /// A vector file holds lines that lie on one another once.
+    void Polyline(const Pen& pen, std::span<const PixelPoint> points) override;
     [[nodiscard]] PixelSize ScaleSize() const override;
 
     /// The picture as the bytes of a file. That ends it: drawing goes on with the next Cls. Throws FileError
@@ -36,6 +41,7 @@ class PictureDevice final : public PainterDevice {
   private:
     class Canvas;
     std::unique_ptr<Canvas> canvas_;
+    std::optional<LinesOnce> lines_;  ///< of a vector file
 };
 
 }  // namespace korvet

@@ -94,12 +94,12 @@ TemporaryFile::~TemporaryFile() {
     }
 }
 
-std::error_code TemporaryFile::Replace(const fs::path& target, bool keep, const std::string& contents,
+std::error_code TemporaryFile::Replace(const fs::path& target, bool keep, const TextPieces& pieces,
                                        Flush flush) {
     if (keep) {
         KeepAttributes(target, file_.get());
     }
-    std::error_code error = Fill(contents, flush);
+    std::error_code error = WriteAndClose(std::move(file_), pieces, flush);
     if (!error) {
         fs::rename(name_, target, error);
     }
@@ -110,16 +110,8 @@ std::error_code TemporaryFile::Replace(const fs::path& target, bool keep, const 
     return error;
 }
 
-std::error_code TemporaryFile::Fill(const std::string& contents, Flush flush) {
-    std::error_code error = WriteWhole(file_.get(), contents);
-    if (!error && flush == Flush::Yes) {
-        error = FlushToDisk(file_.get());
-    }
-    return error ? error : CloseFile(std::move(file_));
-}
-
-std::error_code TemporaryFile::TakeName(const fs::path& target, const std::string& contents, bool& isNew) {
-    std::error_code error = Fill(contents, Flush::Yes);
+std::error_code TemporaryFile::TakeName(const fs::path& target, const TextPieces& pieces, bool& isNew) {
+    std::error_code error = WriteAndClose(std::move(file_), pieces, Flush::Yes);
     if (!error) {
         fs::create_hard_link(name_, target, error);
         isNew = error != std::errc::file_exists;

@@ -20,16 +20,14 @@ class TemporaryFile {
 
     /// Fills it and puts it in the place of `target`, each step only after the one before has succeeded. With
     /// `keep` it takes over the attributes of the file that is there.
-    std::error_code Replace(const std::filesystem::path& target, bool keep, const std::string& contents,
+    std::error_code Replace(const std::filesystem::path& target, bool keep, const TextPieces& pieces,
                             Flush flush);
 
     /// The same under a name that nothing has yet. Nothing is done and `isNew` is false when something has
     /// it.
-    std::error_code TakeName(const std::filesystem::path& target, const std::string& contents, bool& isNew);
+    std::error_code TakeName(const std::filesystem::path& target, const TextPieces& pieces, bool& isNew);
 
   private:
-    std::error_code Fill(const std::string& contents, Flush flush);
-
     std::filesystem::path name_;
     OpenFile file_;
     bool placed_ = false;

@@ -1,7 +1,9 @@
 // What all fitting windows of a run share.
 #pragma once
 
+#include <chrono>
 #include <memory>
+#include <optional>
 
 #include "core/file_store.h"
 #include "dialogs/pattern_settings_dialog.h"
@@ -33,6 +35,9 @@ struct WindowContext {
     PlotterLine* plotter = nullptr;       ///< null: plots go into files
     Automation* automation = nullptr;     ///< null: no other program can be driven here
     std::shared_ptr<CAutoCAD> acad = {};  ///< the link to the drawing program, once it has been asked for
+
+    /// How long work may take before its user sees how it goes on; without one nobody waits for it.
+    std::optional<std::chrono::milliseconds> patience = {};
 
     /// The text of a message in the language of the options.
     [[nodiscard]] std::string Message(int id) const { return GetMessage(id, options.Language); }

@@ -11,6 +11,7 @@
 #include "window/plotting.h"
 #include "window/transfer.h"
 #include "window/views.h"
+#include "window/watched_work.h"
 
 namespace korvet {
 namespace {
@@ -132,6 +133,14 @@ CDXF DxfOf(const CFittingWindow& window, const DxfOptionsDialog& dialog, const s
 
 /// What the check of a drawing that was written tells, a line each; the export stands whatever becomes of it.
 std::string CheckText(const CFittingWindow& window, const CDXF& drawing) {
+    constexpr std::size_t MostChecked = 200'000;  // beyond it the check would take longer than the export
+    std::size_t stations = 0;
+    for (const CRuleSurf& surface : drawing.SurfaceList) {
+        stations += surface.List1 ? surface.List1->Count() : 0;
+    }
+    if (stations > MostChecked) {
+        return "The file is too large to be checked.";
+    }
     std::string text;
     try {
         if (const auto check = CheckExport(window, drawing)) {
@@ -145,6 +154,11 @@ std::string CheckText(const CFittingWindow& window, const CDXF& drawing) {
     return text;
 }
 
+void WriteWatched(WindowContext& context, const CDXF& drawing) {
+    const WatchedWork watched(context);
+    drawing.WriteDXF(context.files);
+}
+
 /// By the link that the command has connected, through the transfer file.
 Outcome DrawInCad(CFittingWindow& window, const CDXF& drawing) {
     WindowContext& context = window.Context();
@@ -152,7 +166,7 @@ Outcome DrawInCad(CFittingWindow& window, const CDXF& drawing) {
     if (!held) {
         return Refused;
     }
-    drawing.WriteDXF(context.files);
+    WriteWatched(context, drawing);
     return TransferToAcad(context);
 }
 
@@ -176,7 +190,7 @@ Outcome RunExport(CFittingWindow& window, const std::string& path, ExportMode mo
     }
     context.frame.completeDrawings = dialog.chkComplete.checked;
     const CDXF drawing = DxfOf(window, dialog, path);
-    drawing.WriteDXF(context.files);
+    WriteWatched(context, drawing);
     context.ui.Show({context.Message(DxfSaved) + path, InformationBox, std::string(ProductTitle),
                      dialog.tellsCheck ? CheckText(window, drawing) : "", std::nullopt});
     return Passed;
@@ -221,6 +235,8 @@ Outcome ExportFitting(CFittingWindow& window, const std::string& path, ExportMod
     ExportStep step = AtStart;
     try {
         return RunExport(window, path, mode, step);
+    } catch (const WorkCancelled&) {
+        return Refused;  // the old file is whole
     } catch (const std::exception& error) {
         ShowPlain(context.ui, context.Message(DxfProblem) + " " + std::to_string(step), error.what());
         return Refused;

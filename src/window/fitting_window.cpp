@@ -4,6 +4,7 @@
 
 #include "core/constants.h"
 #include "core/number_text.h"
+#include "core/work_watch.h"
 #include "dialogs/branch_additional_dialog.h"
 #include "window/export_fitting.h"
 #include "window/fitting_types.h"
@@ -237,6 +238,10 @@ Outcome CFittingWindow::LoadFile(const std::string& path) {
         }
         CountAsSaved(*this);
         return Passed;
+    } catch (const WorkCancelled&) {
+        hasModel = false;
+        controls.caption = newCaption;
+        return Refused;
     } catch (const std::exception& error) {
         hasModel = false;
         controls.caption = newCaption;

@@ -57,8 +57,7 @@ Outcome ExportHPGL(CFittingWindow& window, const std::string& plotFile) {
 Outcome PlotDrawing(CFittingWindow& window, CDXF drawing, const std::string& plotFile) {
     WindowContext& context = window.Context();
     if (context.transfer == nullptr || context.plotter == nullptr) {
-        const std::string plot = PlotOf(window, plotFile).Plot(drawing.Text());
-        context.files.Write(plotFile, plot, Flush::No);
+        PlotOf(window, plotFile).WritePlot(context.files, drawing.Text());
         return Passed;
     }
     const auto held = HoldTransferPlace(context);

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <new>
 
 #include "core/constants.h"
 #include "core/math_module.h"
@@ -9,6 +10,7 @@
 #include "window/fitting_types.h"
 #include "window/fitting_window.h"
 #include "window/views.h"
+#include "window/watched_work.h"
 #include "window/window_layout.h"
 
 namespace korvet {
@@ -41,13 +43,16 @@ std::vector<FittingWarning> EachOnce(std::vector<FittingWarning> ofModel,
 void CFittingWindow::UpdateFitting() {
     try {
         Rebuild();
+    } catch (const WorkCancelled&) {
+        hasModel = false;  // as after a build that fails, but there is nothing to tell
     } catch (const std::exception& error) {
         RefuseBuild(error);
     }
 }
 
-/// UpdateFitting without its message. Throws when the arithmetic ends.
+/// UpdateFitting without its message. Throws when the arithmetic ends, and when the user has cancelled it.
 void CFittingWindow::Rebuild() {
+    const WatchedWork watched(context_);
     if (views->Count() > 0 && BuildFitting() == Passed) {
         DevelopAndDisplay();
     }
@@ -56,7 +61,8 @@ void CFittingWindow::Rebuild() {
 /// A size so far out that the arithmetic ends: the window stays, with no model to save or print.
 void CFittingWindow::RefuseBuild(const std::exception& error) {
     hasModel = false;
-    context_.ui.Show(NotMakeable(error.what()));
+    const bool noMemory = dynamic_cast<const std::bad_alloc*>(&error) != nullptr;
+    context_.ui.Show(NotMakeable(noMemory ? "there is not enough memory" : error.what()));
 }
 
 Outcome CFittingWindow::BuildFitting() {

@@ -64,8 +64,9 @@ def tasks():
     """From the cheapest to the dearest."""
     built_in = "3.b\r\n"  # its first line: the rest is that of a run in an empty folder
     old_options = "3.a\r\nof an earlier version\r\n"
-    outputs = [("save", "out.Kvt"), ("dxf", "out.dxf"), ("table", "out.txt"), ("json", "out.json")]
-    pictures = [("svg", "out.svg"), ("png", "out.png")]
+    outputs = [("save", "out.Kvt"), ("dxf", "out.dxf"), ("table", "out.txt"), ("json", "out.json"),
+               ("hpgl", "out.plt")]
+    pictures = [("svg", "out.svg", "--size", "200x100"), ("png", "out.png", "--size", "200x100")]
     folder = (("in.Kvt", cone_file()), ("config/keep", ""))
     yield of_batch("json to the standard output", "--json", "-")
     for option, name in outputs:
@@ -78,8 +79,9 @@ def tasks():
                between=(("settings.ini", built_in), ("config/settings.ini", built_in)))
     yield Task("desktop, settings set aside", (DESKTOP, "--set-aside"), (*folder, ("settings.ini", "3.b\r\nspoilt\r\n")),
                between=(("settings.ini", built_in), ("config/settings.ini", built_in)))
-    for option, name in pictures:
-        yield of_batch(option, f"--{option}", f"FOLDER/{name}", "--size", "200x100", old=((name, "what was there"),))
+    for option, name, *words in pictures:
+        yield of_batch(" ".join((option, *words)), f"--{option}", f"FOLDER/{name}", *words,
+                       old=((name, "what was there"),))
 
 
 def contents_of(folder):

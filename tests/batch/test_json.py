@@ -109,7 +109,7 @@ class JsonTest(FolderTest):
     def test_messages_show_little_of_a_file(self):
         for text in (cone_file(category="x" * 5000), cone_file(segs="x" * 5000), cone_file(product="x" * 5000)):
             message = run(self.write("bad.Kvt", text), "--json", "-").json["messages"][0]
-            self.assertLessEqual((message["text"] + message["detail"]).count("x"), 200)
+            self.assertNotIn("x" * 201, message["text"] + message["detail"])
 
     def test_file_name_that_is_no_unicode(self):
         path = self.folder / "x"

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
+#include <cstdio>
 #include <limits>
 
 #include "core/checked.h"
@@ -24,6 +26,17 @@ TEST(NumberText, HasAtMostFifteenDigits) {
     EXPECT_EQ(NumberText(2.0 / 3), "0.666666666666667");
     EXPECT_EQ(NumberText(123456789.123456789), "123456789.123457");
     EXPECT_EQ(NumberText(3.14159265358979), "3.14159265358979");
+}
+
+/// The C library's general form is another maker's.
+TEST(NumberText, WholeNumbersReadAsInGeneralForm) {
+    for (double value = 1; value < 1e17; value *= 3) {
+        for (const double number : {value, -value, value - 1, value + 0.5, std::nextafter(value, 0)}) {
+            std::array<char, 40> general{};
+            std::snprintf(general.data(), general.size(), "%.15g", number);
+            EXPECT_EQ(NumberText(number), general.data());
+        }
+    }
 }
 
 TEST(NumberText, TurnsToExponentsOutsideItsRange) {

@@ -26,6 +26,14 @@ unsigned ColorAt(const QImage& image, int x, int y) {
     return image.pixel(x, y) & 0xFFFFFFU;
 }
 
+std::size_t CountOf(const std::string& text, const std::string& part) {
+    std::size_t count = 0;
+    for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) {
+        ++count;
+    }
+    return count;
+}
+
 /// The rectangle about everything that is brighter than a third of full light.
 QRect InkOf(const QImage& image) {
     QRect ink;
@@ -230,6 +238,26 @@ TEST(Svg, HoldsLinesAndTextsAsSuch) {
     EXPECT_THAT(svg, HasSubstr("matrix(0,-1,1,0,10,20)"));
     EXPECT_THAT(svg, HasSubstr("Korvet Development"));
     EXPECT_THAT(svg, HasSubstr("</svg>"));
+}
+
+TEST(Svg, LinesThatLieOnOneAnotherAreHeldOnce) {
+    PictureDevice device(PictureFormat::Svg, 120, 80);
+    device.Cls(White);
+    const Pen greenPen = {Green, DrawStyle::Solid, 1};
+    const PixelPoint line[] = {{10, 10}, {40, 10}};
+    const PixelPoint detour[] = {{10, 10}, {10, 10}, {40, 10}, {40, 10}, {40, 30}};
+    const PixelPoint dot[] = {{70, 70}, {70, 70}, {70, 70}};
+    for (int i = 0; i < 3; ++i) {
+        device.Polyline(RedPen, line);
+        device.Polyline(RedPen, dot);
+    }
+    device.Polyline(greenPen, line);
+    device.Polyline(RedPen, line);  // above the green one
+    device.Polyline(RedPen, detour);
+    const std::string svg = device.Bytes();
+    EXPECT_EQ(CountOf(svg, "\"10.5,10.5 40.5,10.5 \""), 3U);
+    EXPECT_EQ(CountOf(svg, "\"10.5,10.5 40.5,10.5 40.5,30.5 \""), 1U);
+    EXPECT_EQ(CountOf(svg, "\"70.5,70.5 70.5,70.5 \""), 1U);
 }
 
 TEST(Svg, ClearingForgetsWhatWasDrawn) {

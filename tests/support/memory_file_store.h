@@ -49,7 +49,9 @@ class MemoryFileStore final : public FileStore {
         return file->second;
     }
 
-    void Write(const std::string& path, const std::string& contents, Flush flush) override {
+    void WritePieces(const std::string& path, const TextPieces& pieces, Flush flush) override {
+        std::string contents;
+        pieces([&contents](std::string_view piece) { contents += piece; });
         if (unwritable.contains(path)) {
             throw FileError(path + ": cannot be written");
         }

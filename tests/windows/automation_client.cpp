@@ -28,7 +28,7 @@ class Files final : public FileStore {
         std::ifstream file(path, std::ios::binary);
         return {std::istreambuf_iterator<char>(file), {}};
     }
-    void Write(const std::string&, const std::string&, Flush) override {}
+    void WritePieces(const std::string&, const TextPieces&, Flush) override {}
     bool Create(const std::string&, const std::string&) override { return false; }
 };
 

@@ -83,7 +83,7 @@ std::unique_ptr<QProgressDialog> MakeProgressBox(QWidget* parent, int total) {
     auto box = std::make_unique<QProgressDialog>(QString(), QStringLiteral("Cancel"), 0, total, parent);
     NameWidget(*box, "frmProgress", QStringLiteral("Progress"));
     box->setWindowTitle(QStringLiteral("Progress"));
-    box->setWindowModality(Qt::WindowModal);
+    box->setWindowModality(Qt::ApplicationModal);  // only Cancel takes input
     box->setMinimumDuration(PatienceMilliseconds);
     box->setAutoClose(false);
     box->setAutoReset(false);

@@ -26,6 +26,9 @@
 namespace korvet::desktop {
 namespace {
 
+/// The box with the progress then takes its own time to come up: together about a second.
+constexpr std::chrono::milliseconds ProgressPatience{600};
+
 /// A sketch for the help pages; none for a fitting or page that there isn't.
 QImage SketchOfPage(const QString& category, int page, QSize size, const QPalette& palette) {
     const CatalogueRow* row = FindCategory(category.toStdString());
@@ -91,6 +94,7 @@ int RunApplication(const QStringList& files, FileRequests& requests) {
     QApplication::setWindowIcon(ApplicationIcon());
     Application application;
     application.ui.context = &application.context;
+    application.context.patience = ProgressPatience;
     application.files.onPartedNames = [&application](const std::string& path) {
         ShowPlain(application.ui, PartedNamesText(path));
     };

@@ -1,0 +1,45 @@
+"""The largest fittings, and an input that the memory is too small for."""
+
+import resource
+import subprocess
+import unittest
+
+from batch_program import DONE, PROGRAM, REFUSED, FolderTest, cone_file, environment_of, read_json
+
+# The most stations that a bend can have: pieces by fold lines.
+LARGEST = ("--sample", "--set", "box2=10360", "--set", "segs=96", "--set", "box1=300000")
+MEBIBYTE = 2**20
+SCARCE = 400 * MEBIBYTE  # enough for the program and a small fitting
+
+
+class MemoryTest(FolderTest):
+    def run_within(self, limit, *words):
+        result = subprocess.run([PROGRAM, *words], cwd=self.folder, stdin=subprocess.DEVNULL, capture_output=True,
+                                check=False, timeout=300, env=environment_of(),
+                                preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_AS, (limit, limit)))
+        return result.returncode, result.stderr.decode()
+
+    def test_no_memory_ends_one_input(self):
+        bend = self.folder / "bend.Kvt"
+        self.assertEqual(self.run_within(resource.RLIM_INFINITY, "--new", "Segmented Bend", *LARGEST, "--save", bend),
+                         (DONE, ""))
+        for name in ("first.Kvt", "last.Kvt"):
+            self.write(name, cone_file())
+        status, errors = self.run_within(SCARCE, "first.Kvt", "bend.Kvt", "last.Kvt", "--json", "out.json",
+                                         "--dxf", "{name}.dxf")
+        self.assertEqual(status, REFUSED)
+        self.assertEqual(errors, "bend.Kvt: This fitting cannot be made with these sizes: there is not enough memory\n")
+        reports = read_json((self.folder / "out.json").read_text())
+        self.assertEqual([report["refused"] for report in reports], [False, True, False])
+        self.assertTrue((self.folder / "first.dxf").exists() and (self.folder / "last.dxf").exists())
+        self.assertFalse((self.folder / "bend.dxf").exists())
+
+    def test_the_largest_bend_takes_less_than_a_gigabyte(self):
+        """The limit counts what is only mapped too: the program itself maps a third of a gigabyte."""
+        for option in ("--dxf", "--svg"):
+            self.assertEqual(self.run_within(1300 * MEBIBYTE, "--new", "Segmented Bend", *LARGEST, option, "/dev/null"),
+                             (DONE, ""))
+
+
+if __name__ == "__main__":
+    unittest.main()
