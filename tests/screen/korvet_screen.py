@@ -1,6 +1,7 @@
 """What the tests on a screen share: the program from its start to an empty frame, and the way to a cone."""
 import os
 import pathlib
+import shutil
 import tempfile
 import unittest
 
@@ -98,10 +99,15 @@ class ScreenTest(unittest.TestCase):
         self.folder = pathlib.Path(temporary.name)
         self.screen = None
 
-    def start(self, *files, program=None):
-        """A run of the program, in place of the last one."""
+    def stop(self):
+        """Ends the run, if there is one, in the midst of its work. Returns the folder of the runs."""
         if self.screen is not None:
             self.screen.stop()
+        return self.folder
+
+    def start(self, *files, program=None):
+        """A run of the program, in place of the last one, of which it knows nothing."""
+        shutil.rmtree(self.stop() / "state", ignore_errors=True)
         self.screen = self.another(*files, program=program)
         return self.screen
 

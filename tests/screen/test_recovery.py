@@ -16,13 +16,15 @@ MOST_LOST = 10.0  # seconds of typing
 class Recovery(ScreenTest):
     def begin_again(self):
         """A start after a bad end, up to its offer."""
-        screen = self.start()
-        self.assertEqual(screen.answer(TITLE), "No Printer available")
-        splash = screen.wait_active(TITLE, "dialog")
-        screen.key("Return")
-        screen.wait(lambda: screen.gone(splash), "end of the splash")
+        screen = self.start_again()
         screen.find("What was not saved")
         return screen
+
+    def start_again(self):
+        self.stop()
+        self.screen = self.another()
+        self.screen.pass_splash()
+        return self.screen
 
     def choose(self, button):
         self.screen.click(button, "push button")
@@ -107,7 +109,7 @@ class Recovery(ScreenTest):
         self.assertEqual(self.screen.children(), [])
         self.screen.key("alt+f", "x")
         self.assertEqual(self.screen.wait_end(), 0)
-        self.run_to_frame()
+        self.start_again()
         self.screen.wait_active("Main window")
         kept = self.folder / "state" / TITLE / "recovery"
         self.assertEqual(list(kept.iterdir()), [])
