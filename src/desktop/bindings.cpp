@@ -67,10 +67,14 @@ QColor ReadableRed(const QPalette& palette) {
     return dark ? QColor(255, 110, 110) : QColor(200, 0, 0);
 }
 
+/// The toolkit's own call is content when the cursor of a box can be seen.
 void RevealWidget(QWidget& widget) {
+    constexpr int Around = 10;  // pixels that are to be seen with it
     for (QWidget* parent = widget.parentWidget(); parent != nullptr; parent = parent->parentWidget()) {
         if (auto* scroll = qobject_cast<QScrollArea*>(parent)) {
-            scroll->ensureWidgetVisible(&widget);
+            const QPoint middle = widget.mapTo(scroll->widget(), widget.rect().center());
+            scroll->ensureVisible(middle.x(), middle.y(), widget.width() / 2 + Around,
+                                  widget.height() / 2 + Around);
         }
     }
 }

@@ -50,6 +50,7 @@ FittingView::FittingView(CFittingWindow& window, QWidget* parent) : QWidget(pare
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, Pixels(100), Pixels(50));
     layout->setSpacing(0);
+    layout->setSizeConstraint(QLayout::SetNoConstraint);  // the panel follows the window, not the reverse
     layout->addWidget(MakePanel());
     layout->addWidget(drawing_, 1);
     AddShortcuts();
