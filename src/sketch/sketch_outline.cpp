@@ -66,6 +66,7 @@ std::optional<std::pair<double, double>> Across(const SolidPicture& picture, dou
 /// Points with x and y exchanged.
 std::vector<SketchXY> Exchanged(const std::vector<SketchXY>& points) {
     std::vector<SketchXY> turned;
+    turned.reserve(points.size());
     for (const SketchXY& point : points) {
         turned.push_back({point.y, point.x});
     }
@@ -89,6 +90,7 @@ SolidPicture Exchanged(const SolidPicture& picture) {
 std::vector<SolidBounds> StripsOf(const SolidPicture& picture) {
     const double height = picture.bounds.top - picture.bounds.bottom;
     std::vector<Reach> reaches;
+    reaches.reserve(Strips);
     for (int i = 0; i < Strips; ++i) {
         reaches.push_back(
             {picture.bounds.bottom + height * i / Strips, picture.bounds.bottom + height * (i + 1) / Strips});
