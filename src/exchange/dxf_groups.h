@@ -10,6 +10,10 @@ namespace korvet {
 /// Decimal places of coordinates, radii and arc angles in the file.
 inline constexpr int DxfPlaces = 6;
 
+// Group codes of entities and of the tables before them.
+inline constexpr int NameCode = 2;
+inline constexpr int SizeCode = 40;  ///< the radius of an arc, the height of a text
+
 /// Builds text of group pairs: the code on one line and the value on the next, each ended by CR LF. Numbers
 /// are in general form with a point, a blank in front unless negative, and one blank behind.
 ///

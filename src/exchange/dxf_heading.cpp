@@ -13,11 +13,9 @@ namespace {
 
 // Group codes of header variables and tables.
 constexpr int TextCode = 1;
-constexpr int NameCode = 2;
 constexpr int SecondFileCode = 4;
 constexpr int LineTypeCode = 6;
 constexpr int VariableCode = 9;
-constexpr int SizeCode = 40;
 constexpr int WidthCode = 41;
 constexpr int LastHeightCode = 42;
 constexpr int ObliqueCode = 50;

@@ -15,11 +15,9 @@ constexpr std::size_t PieceBytes = std::size_t{1} << 18U;  // what a sink takes 
 // Group codes. The y and z of a point follow its x by 10 and 20.
 constexpr int EntityCode = 0;
 constexpr int StringCode = 1;
-constexpr int NameCode = 2;
 constexpr int LayerCode = 8;
 constexpr int FirstPointCode = 10;
 constexpr int SecondPointCode = 11;
-constexpr int SizeCode = 40;  // the radius of an arc, the height of a text
 constexpr int StartAngleCode = 50;
 constexpr int EndAngleCode = 51;
 constexpr int VerticesFollowCode = 66;

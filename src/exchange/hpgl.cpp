@@ -107,9 +107,9 @@ class PlotText {
     }
 
     void Add(const std::string& instruction) {
-        constexpr std::size_t PieceBytes = std::size_t{1} << 18U;
+        constexpr std::size_t PlotPieceBytes = std::size_t{1} << 18U;
         plot_.append(instruction).append(";\r\n");
-        if (plot_.size() >= PieceBytes) {
+        if (plot_.size() >= PlotPieceBytes) {
             sink_(plot_);
             plot_.clear();
         }

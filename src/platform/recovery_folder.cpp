@@ -104,7 +104,11 @@ std::vector<std::string> RecoveryFolder::TakeLeft() {
     for (const fs::path& folder : Entries(folder_)) {
         std::error_code ignored;
         if (!fs::exists(folder / HeldName, ignored)) {
-            continue;  // one that is just being made
+            // Of a run that was killed while it was made, or that makes it just now and then takes another.
+            if (fs::is_directory(folder, ignored)) {
+                fs::remove(folder, ignored);  // only if it is empty
+            }
+            continue;
         }
         std::shared_ptr<void> held = HoldFile((folder / HeldName).string());
         if (!held) {

@@ -56,31 +56,32 @@ TEST(FittingsList, ADecimalCommaDoesNotMakeItCommaSeparated) {
 }
 
 TEST(FittingsList, ABadRowHasItsLineAndLeavesTheOthers) {
-    EXPECT_EQ(FaultsOf("name,fitting,type\n"
-                       "a,Elbow,1\n"
-                       "b,Elbo,1\n"
-                       "c,Elbow,9\n"
-                       "d,Elbow,x\n"
-                       "a,Elbow,1\n"
-                       "../e,Elbow,1\n"
-                       ",Elbow,1\n"
-                       "f,Elbow,1,box0\n"
-                       "g,Elbow,1,size=3\n"
-                       "h,Elbow,1,select=0\n"
-                       "i\n"
-                       "\"j\"k,Elbow,1\n"
-                       "l,Elbow,1\n"
-                       "m,Elbow,1,\"box0=3\n"),
-              (std::vector<std::string>{
-                  "l.csv: line 2: ", "l.csv: line 3: there is no fitting \"Elbo\"",
-                  "l.csv: line 4: the type is to be 1 to 3, not \"9\"",
-                  "l.csv: line 5: the type is to be 1 to 3, not \"x\"",
-                  "l.csv: line 6: the name \"a\" stands on line 2 too",
-                  "l.csv: line 7: \"../e\" is no name for a file", "l.csv: line 8: \"\" is no name for a file",
-                  "l.csv: line 9: \"box0\" is not NAME=VALUE", "l.csv: line 10: there is no value size",
-                  "l.csv: line 11: \"0\" is no pattern option", "l.csv: line 12: there is no fitting \"\"",
-                  "l.csv: line 13: a quoted cell is not closed, or text follows it", "l.csv: line 14: ",
-                  "l.csv: line 15: a quoted cell is not closed, or text follows it"}));
+    EXPECT_EQ(
+        FaultsOf("name,fitting,type\n"
+                 "a,Elbow,1\n"
+                 "b,Elbo,1\n"
+                 "c,Elbow,9\n"
+                 "d,Elbow,x\n"
+                 "a,Elbow,1\n"
+                 "../e,Elbow,1\n"
+                 ",Elbow,1\n"
+                 "f,Elbow,1,box0\n"
+                 "g,Elbow,1,size=3\n"
+                 "h,Elbow,1,select=0\n"
+                 "i\n"
+                 "\"j\"k,Elbow,1\n"
+                 "l,Elbow,1\n"
+                 "m,Elbow,1,\"box0=3\n"),
+        (std::vector<std::string>{
+            "l.csv: line 2: ", "l.csv: line 3: there is no fitting \"Elbo\"",
+            "l.csv: line 4: the type is to be 1 to 3, not \"9\"",
+            "l.csv: line 5: the type is to be 1 to 3, not \"x\"",
+            "l.csv: line 6: the name \"a\" stands on line 2 too",
+            "l.csv: line 7: \"../e\" is no name for a file", "l.csv: line 8: \"\" is no name for a file",
+            "l.csv: line 9: \"box0\" is not NAME=VALUE", "l.csv: line 10: there is no value size",
+            "l.csv: line 11: \"0\" is no pattern option", "l.csv: line 12: there is no fitting \"\"",
+            "l.csv: line 13: a quoted cell is not closed, or text follows it",
+            "l.csv: line 14: ", "l.csv: line 15: a quoted cell is not closed, or text follows it"}));
 }
 
 TEST(FittingsList, AnEmptyListHasNoRows) {

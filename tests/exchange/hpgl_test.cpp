@@ -76,13 +76,14 @@ TEST(Hpgl, AnArcIsSweptFromItsStart) {
 
 /// A plotter would take the exponent of a nearly straight arc for the end of its number.
 TEST(Hpgl, ASmallSweepHasNoExponent) {
-    for (const auto& [rise, sweep] :
-         {std::pair{0.872665, "0.000050"}, {0.0174533, "0.000001"}, {2.0, "0.00011"}}) {
-        EXPECT_THAT(Plotted(DrawingOf([&](DxfStream& out) {
-                        out.WriteArc({1e6, 0, 0}, {1e6, rise, 0}, {}, "Cut");
-                    })),
-                    HasSubstr("AA0,0," + std::string(sweep)));
-    }
+    const auto plotted = [](double rise) {
+        return Plotted(DrawingOf([&](DxfStream& out) {
+            out.WriteArc({1e6, 0, 0}, {1e6, rise, 0}, {}, "Cut");
+        }));
+    };
+    EXPECT_THAT(plotted(0.872665), HasSubstr("AA0,0,0.000050"));
+    EXPECT_THAT(plotted(0.0174533), HasSubstr("AA0,0,0.000001"));
+    EXPECT_THAT(plotted(2.0), HasSubstr("AA0,0,0.00011"));
 }
 
 TEST(Hpgl, ATextStandsAtItsPointInItsDirection) {

@@ -133,7 +133,7 @@ void RunDialog(const DialogHost& host, DxfOptionsDialog& dialog) {
             MakeCheck(window, "chkDXFOutput_" + std::to_string(i), dialog.chkDXFOutput.at(i), Letters.at(i)));
     }
     column->addWidget(MakeCheck(window, "chkSurfaceMesh", dialog.chkSurfaceMesh, 's'));
-    column->addWidget(MakeCheck(window, "chkComplete", dialog.chkComplete, 'n'));
+    column->addWidget(MakeCheck(window, "chkComplete", dialog.chkComplete, 'e'));
     window.Body().addWidget(output);
     if (dialog.choosesPort) {
         window.Body().addWidget(MakePlotterPort(window, dialog));
