@@ -1,7 +1,9 @@
 #include "platform/graphics_application.h"
 
+#include <QFontMetrics>
 #include <QGuiApplication>
 #include <iostream>
+#include <memory>
 #include <stdexcept>
 
 #include "platform/system_clock.h"
@@ -29,7 +31,13 @@ void EnsureGraphicsApplication() {
                 std::cerr << "korvet: " << text.toStdString() << std::endl;
             }
         });
-    static const QGuiApplication application(argumentCount, arguments);
+    // Its letters are measured once before it counts as made: what the toolkit keeps for them goes at the end
+    // of the program in reverse order, and the application takes it down.
+    static const auto application = [] {
+        auto made = std::make_unique<QGuiApplication>(argumentCount, arguments);
+        static_cast<void>(QFontMetrics(QFont()).horizontalAdvance(QStringLiteral("0")));
+        return made;
+    }();
     qInstallMessageHandler(handler);
     HoldNumericLocale();
 }

@@ -28,7 +28,7 @@ compile "$folder/client.exe" "$@" ../tests/windows/automation_client.cpp
 compile "$folder/server.exe" core/number_text.cpp core/checked.cpp ../tests/windows/fake_drawing_server.cpp
 for source in $(grep -rl --include='*.cpp' _WIN32 .); do
     $compiler -std=c++20 -fsyntax-only -Wall -Wextra -Werror -I. -isystem "$qt" -isystem "$qt/QtCore" -isystem "$qt/QtGui" \
-        -isystem "$qt/QtSerialPort" -isystem "$qt/QtWidgets" "$source"
+        -isystem "$qt/QtNetwork" -isystem "$qt/QtSerialPort" -isystem "$qt/QtWidgets" "$source"
 done
 cd "$folder"
 
