@@ -24,6 +24,11 @@ void* operator new(std::size_t size) {
     throw std::bad_alloc();
 }
 
+// The other of the library would not go with the deletes below.
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
+    return std::malloc(size > 0 ? size : 1);
+}
+
 void operator delete(void* memory) noexcept {
     std::free(memory);
 }

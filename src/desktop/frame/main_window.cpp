@@ -92,6 +92,11 @@ ChildWindow::ChildWindow(CFittingWindow& window, QWidget* parent)
     view_->closeWindow = [this] { close(); };
 }
 
+/// The toolkit still changes the state of the part that is left while it takes the window down.
+ChildWindow::~ChildWindow() {
+    disconnect(this, &QMdiSubWindow::windowStateChanged, this, nullptr);
+}
+
 void ChildWindow::TakeShape() {
     view_->TakeShape(ShapeOf(windowState()));
 }

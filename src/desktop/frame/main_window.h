@@ -27,6 +27,7 @@ class ChildWindow : public QMdiSubWindow {
     Q_OBJECT
   public:
     ChildWindow(CFittingWindow& window, QWidget* parent);
+    ~ChildWindow() override;
 
     [[nodiscard]] FittingView& View() const { return *view_; }
 
