@@ -88,14 +88,13 @@ PictureDevice::PictureDevice(PictureFormat format, int width, int height)
     if (format == PictureFormat::Svg) {
         lines_.emplace();
     }
-    Cls(Black);
+    canvas_->Clear(Black);
 }
 
 PictureDevice::~PictureDevice() = default;
 
 void PictureDevice::Cls(Color backColor) {
     canvas_->Clear(backColor);
-    RimTexts(backColor);
     if (lines_) {
         lines_.emplace();
     }

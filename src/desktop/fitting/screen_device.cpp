@@ -20,7 +20,6 @@ void ScreenDevice::Cls(Color backColor) {
     PrepareDrawing(painter_);
     painter_.fillRect(image_.rect(), ColorOf(backColor));
     image_.setDevicePixelRatio(ratio);
-    RimTexts(backColor);
     changed();
 }
 

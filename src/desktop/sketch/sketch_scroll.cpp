@@ -14,7 +14,7 @@ constexpr int LowestPage = 2000;
 
 }  // namespace
 
-SketchScroll::SketchScroll(SketchPage* page) : page_(page) {
+SketchScroll::SketchScroll(SketchPage* page) {
     setWidget(page);
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
@@ -23,10 +23,12 @@ SketchScroll::SketchScroll(SketchPage* page) : page_(page) {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
 }
 
-bool SketchScroll::TakeWidth(double boxes) {
-    const bool fits = page_->TakeWidth(boxes);
-    updateGeometry();  // a page that is not shown yet does not tell it
-    return fits;
+void SketchScroll::Reveal(QWidget& widget) {
+    for (QWidget* parent = widget.parentWidget(); parent != nullptr; parent = parent->parentWidget()) {
+        if (auto* scroll = qobject_cast<QScrollArea*>(parent)) {
+            scroll->ensureWidgetVisible(&widget);
+        }
+    }
 }
 
 QSize SketchScroll::minimumSizeHint() const {

@@ -16,17 +16,14 @@ class SketchScroll final : public QScrollArea {
     /// Takes the page over.
     explicit SketchScroll(SketchPage* page);
 
-    /// SketchPage::TakeWidth of its page.
-    bool TakeWidth(double boxes);
+    /// Brings a widget of the page into sight, in every frame that it scrolls in.
+    static void Reveal(QWidget& widget);
 
     [[nodiscard]] QSize minimumSizeHint() const override;
     [[nodiscard]] QSize sizeHint() const override;
 
   protected:
     bool event(QEvent* event) override;
-
-  private:
-    SketchPage* page_;
 };
 
 }  // namespace korvet::desktop
