@@ -8,16 +8,11 @@
 #include <QLineEdit>
 #include <QPalette>
 #include <QRect>
+#include <QScrollArea>
 #include <QSignalBlocker>
 
 namespace korvet::desktop {
 namespace {
-
-/// Red is the text of an edit that is not in the drawing yet; a dark desktop needs a lighter one to be read.
-QColor ReadableRed(const QPalette& palette) {
-    const bool dark = palette.color(QPalette::Base).lightness() < 128;
-    return dark ? QColor(255, 110, 110) : QColor(200, 0, 0);
-}
 
 QStringList Entries(const ComboBox& box) {
     QStringList entries;
@@ -65,6 +60,23 @@ QColor Mixed(const QColor& from, const QColor& to, double share) {
     const auto part = [share](float a, float b) { return a + static_cast<float>(share) * (b - a); };
     return QColor::fromRgbF(part(from.redF(), to.redF()), part(from.greenF(), to.greenF()),
                             part(from.blueF(), to.blueF()));
+}
+
+QColor ReadableRed(const QPalette& palette) {
+    const bool dark = palette.color(QPalette::Base).lightness() < 128;
+    return dark ? QColor(255, 110, 110) : QColor(200, 0, 0);
+}
+
+/// The toolkit's own call is content when the cursor of a box can be seen.
+void RevealWidget(QWidget& widget) {
+    constexpr int Around = 10;  // pixels that are to be seen with it
+    for (QWidget* parent = widget.parentWidget(); parent != nullptr; parent = parent->parentWidget()) {
+        if (auto* scroll = qobject_cast<QScrollArea*>(parent)) {
+            const QPoint middle = widget.mapTo(scroll->widget(), widget.rect().center());
+            scroll->ensureVisible(middle.x(), middle.y(), widget.width() / 2 + Around,
+                                  widget.height() / 2 + Around);
+        }
+    }
 }
 
 void NameWidget(QWidget& widget, const std::string& controlName, const QString& accessibleName) {

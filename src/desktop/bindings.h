@@ -11,6 +11,7 @@ class QAbstractButton;
 class QColor;
 class QComboBox;
 class QLineEdit;
+class QPalette;
 class QRect;
 class QWidget;
 
@@ -40,6 +41,12 @@ Color ColorFrom(const QColor& color);
 
 /// The colour at `share` of the way from one to another, 0 to 1.
 QColor Mixed(const QColor& from, const QColor& to, double share);
+
+/// The red of what is refused or not built yet, readable on the palette's ground.
+QColor ReadableRed(const QPalette& palette);
+
+/// Brings a widget into sight, in every frame that it scrolls in.
+void RevealWidget(QWidget& widget);
 
 /// Gives a widget its control name, by which tests find it, and the name that a screen reader says.
 void NameWidget(QWidget& widget, const std::string& controlName, const QString& accessibleName);

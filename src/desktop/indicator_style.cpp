@@ -1,6 +1,11 @@
 #include "desktop/indicator_style.h"
 
 #include <QStyleOption>
+#include <QWidget>
+#include <algorithm>
+#include <iterator>
+
+#include "desktop/frame/icons.h"
 
 namespace korvet::desktop {
 namespace {
@@ -9,7 +14,65 @@ bool IsDark(const QPalette& palette) {
     return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
 }
 
+/// The drawings that stand for what the toolkit asks of a style.
+struct OwnIcon {
+    QStyle::StandardPixmap asked;
+    const char* drawing;
+};
+
+constexpr OwnIcon OwnIcons[] = {
+    {QStyle::SP_MessageBoxQuestion, "Question"},
+    {QStyle::SP_MessageBoxWarning, "Warning"},
+    {QStyle::SP_MessageBoxInformation, "Information"},
+    {QStyle::SP_MessageBoxCritical, "Critical"},
+    {QStyle::SP_ArrowBack, "Back"},
+    {QStyle::SP_ArrowLeft, "Back"},
+    {QStyle::SP_ArrowForward, "Forward"},
+    {QStyle::SP_ArrowRight, "Forward"},
+    {QStyle::SP_FileDialogBack, "Back"},
+    {QStyle::SP_FileDialogToParent, "Up"},
+    {QStyle::SP_FileDialogNewFolder, "NewFolder"},
+    {QStyle::SP_FileDialogListView, "List"},
+    {QStyle::SP_FileDialogDetailedView, "Details"},
+    {QStyle::SP_FileDialogContentsView, "Find"},
+    {QStyle::SP_DirIcon, "Folder"},
+    {QStyle::SP_DirOpenIcon, "Folder"},
+    {QStyle::SP_DirClosedIcon, "Folder"},
+    {QStyle::SP_DirLinkIcon, "Folder"},
+    {QStyle::SP_DirHomeIcon, "Home"},
+    {QStyle::SP_DesktopIcon, "Computer"},
+    {QStyle::SP_ComputerIcon, "Computer"},
+    {QStyle::SP_DriveHDIcon, "Drive"},
+    {QStyle::SP_FileIcon, "File"},
+    {QStyle::SP_FileLinkIcon, "File"},
+    {QStyle::SP_TitleBarMinButton, "WindowMinimize"},
+    {QStyle::SP_TitleBarMaxButton, "WindowMaximize"},
+    {QStyle::SP_TitleBarNormalButton, "WindowRestore"},
+    {QStyle::SP_TitleBarCloseButton, "WindowClose"},
+};
+
+/// None for what the program has no drawing of.
+QIcon OwnIconOf(QStyle::StandardPixmap asked) {
+    const auto* const own = std::find_if(std::begin(OwnIcons), std::end(OwnIcons),
+                                         [asked](const OwnIcon& icon) { return icon.asked == asked; });
+    return own != std::end(OwnIcons) ? ToolIcon(own->drawing) : QIcon();
+}
+
 }  // namespace
+
+QIcon IndicatorStyle::standardIcon(StandardPixmap standardIcon, const QStyleOption* option,
+                                   const QWidget* widget) const {
+    const QIcon own = OwnIconOf(standardIcon);
+    return own.isNull() ? QProxyStyle::standardIcon(standardIcon, option, widget) : own;
+}
+
+QPixmap IndicatorStyle::standardPixmap(StandardPixmap standardPixmap, const QStyleOption* option,
+                                       const QWidget* widget) const {
+    const QIcon own = OwnIconOf(standardPixmap);
+    const int side = pixelMetric(PM_SmallIconSize, option, widget);
+    return own.isNull() ? QProxyStyle::standardPixmap(standardPixmap, option, widget)
+                        : own.pixmap(QSize(side, side), widget != nullptr ? widget->devicePixelRatioF() : 1);
+}
 
 void IndicatorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                    const QWidget* widget) const {

@@ -1,12 +1,15 @@
-// Tick boxes and radio buttons that can be seen on a dark desktop.
+// The style of the desktop with the program's own icons, and with tick boxes and radio buttons that can be
+// seen.
 #pragma once
 
 #include <QProxyStyle>
 
 namespace korvet::desktop {
 
-/// The style of the desktop, but for the rim of tick boxes and radio buttons. That rim is drawn a shade
-/// darker than the window, which on a dark desktop leaves nothing to see of a box that is not ticked.
+/// The style of the desktop but for two things. Icons of message boxes, file dialogs and windows are of the
+/// program's own drawing, so that all of it has one look, on dark desktops too. And the rim of tick boxes and
+/// radio buttons, which is drawn a shade darker than the window, shows on a dark desktop, where it would
+/// leave nothing to see of a box that is not ticked.
 class IndicatorStyle final : public QProxyStyle {
     Q_OBJECT
 
@@ -15,6 +18,10 @@ class IndicatorStyle final : public QProxyStyle {
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
+    [[nodiscard]] QIcon standardIcon(StandardPixmap standardIcon, const QStyleOption* option,
+                                     const QWidget* widget) const override;
+    [[nodiscard]] QPixmap standardPixmap(StandardPixmap standardPixmap, const QStyleOption* option,
+                                         const QWidget* widget) const override;
 };
 
 }  // namespace korvet::desktop

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QProgressDialog>
 
+#include "desktop/bindings.h"
 #include "desktop/dialogs/branch_dialog.h"
 #include "desktop/dialogs/file_dialog.h"
 #include "desktop/dialogs/message_box.h"
@@ -10,6 +11,7 @@
 #include "desktop/dialogs/options_widgets.h"
 #include "desktop/dialogs/pattern_settings_widgets.h"
 #include "desktop/dialogs/printers_widgets.h"
+#include "desktop/dialogs/refusal_frame.h"
 #include "desktop/dialogs/small_dialogs.h"
 
 namespace korvet::desktop {
@@ -42,6 +44,7 @@ DialogHost QtUi::Host() {
 
 Answer QtUi::Show(const MessageBox& message) {
     Prepare();
+    const RefusalFrame refused(Parent(), Text(message.control));
     return RunMessageBox(Parent(), message);
 }
 

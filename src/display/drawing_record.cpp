@@ -14,31 +14,30 @@ constexpr double PointsPerInch = 72;
 }  // namespace
 
 void DrawingRecord::Clear() {
-    calls_.clear();
+    lines_.clear();
+    texts_.clear();
     points_.clear();
 }
 
 void DrawingRecord::Polyline(const Pen& pen, std::span<const PixelPoint> points) {
     WorkWatch::Look();
-    calls_.emplace_back(Line{pen, points.size()});
+    lines_.push_back({pen, points.size()});
     points_.insert(points_.end(), points.begin(), points.end());
 }
 
 void DrawingRecord::TextOut(const std::string& text, PixelPoint corner, const TextFont& font, Color color) {
     WorkWatch::Look();
-    calls_.emplace_back(Text{text, corner, font, color});
+    texts_.push_back({text, corner, font, color});
 }
 
 void DrawingRecord::PlayOn(DrawingDevice& device) const {
     std::span<const PixelPoint> points = points_;
-    for (const auto& call : calls_) {
-        if (const Line* line = std::get_if<Line>(&call)) {
-            device.Polyline(line->pen, points.first(line->count));
-            points = points.subspan(line->count);
-        } else {
-            const Text& text = std::get<Text>(call);
-            device.TextOut(text.text, text.corner, text.font, text.color);
-        }
+    for (const Line& line : lines_) {
+        device.Polyline(line.pen, points.first(line.count));
+        points = points.subspan(line.count);
+    }
+    for (const Text& text : texts_) {
+        device.TextOut(text.text, text.corner, text.font, text.color);
     }
 }
 
@@ -47,18 +46,14 @@ std::optional<Bounds> DrawingRecord::Extent() const {
     for (const PixelPoint& point : points_) {
         TakeIn(box, point.x, point.y);
     }
-    for (const auto& call : calls_) {
-        const Text* text = std::get_if<Text>(&call);
-        if (text == nullptr) {
-            continue;
-        }
-        const double points = std::abs(text->font.lfHeight) * PointsPerInch / LogicalDpiY();
-        const PixelSize size = TextExtent(text->text, points);
-        const double turn = DegToRad(text->font.lfEscapement / 10.0);
+    for (const Text& text : texts_) {
+        const double points = std::abs(text.font.lfHeight) * PointsPerInch / LogicalDpiY();
+        const PixelSize size = TextExtent(text.text, points);
+        const double turn = DegToRad(text.font.lfEscapement / 10.0);
         for (const auto& [along, down] :
              {std::pair{0.0, 0.0}, {size.width, 0.0}, {0.0, size.height}, {size.width, size.height}}) {
-            TakeIn(box, text->corner.x + along * std::cos(turn) + down * std::sin(turn),
-                   text->corner.y - along * std::sin(turn) + down * std::cos(turn));
+            TakeIn(box, text.corner.x + along * std::cos(turn) + down * std::sin(turn),
+                   text.corner.y - along * std::sin(turn) + down * std::cos(turn));
         }
     }
     return box;

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <optional>
-#include <variant>
 #include <vector>
 
 #include "display/bounds.h"
@@ -17,7 +16,8 @@ class DrawingRecord final : public DrawingDevice {
     /// `device` must outlive the record.
     explicit DrawingRecord(const DrawingDevice& device) : device_(&device) {}
 
-    /// Repeats lines and texts on a device, in their order. Clearing and pages are the caller's matter.
+    /// Repeats on a device all lines in their order, and then all texts, so that no line runs over a text
+    /// that was drawn before it. Clearing and pages are the caller's matter.
     void PlayOn(DrawingDevice& device) const;
 
     /// The box about all lines and the boxes of all texts, in pixels; nothing when there are none.
@@ -49,7 +49,8 @@ class DrawingRecord final : public DrawingDevice {
     };
 
     const DrawingDevice* device_;
-    std::vector<std::variant<Line, Text>> calls_;
+    std::vector<Line> lines_;
+    std::vector<Text> texts_;
     std::vector<PixelPoint> points_;  ///< of all lines, in one block
 };
 

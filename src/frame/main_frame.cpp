@@ -9,6 +9,7 @@
 #include "frame/about.h"
 #include "frame/category_menu.h"
 #include "frame/new_fitting.h"
+#include "window/parameter_file.h"
 #include "window/saving.h"
 
 namespace korvet {
@@ -145,6 +146,7 @@ Outcome CMainFrame::ReadCategory(const std::string& path) {
 Outcome CMainFrame::CloseChild(CFittingWindow& window) {
     Outcome outcome = Refused;
     Guarded([&] {
+        BringAskingToFront(window);
         outcome = window.CloseForm();
         if (outcome == Passed) {
             Remove(window);
@@ -166,9 +168,18 @@ void CMainFrame::Remove(CFittingWindow& window) {
     (void)KeepCopies();  // its copy goes with it
 }
 
+/// A window that is about to ask comes to the front: its user sees what the question is about.
+void CMainFrame::BringAskingToFront(CFittingWindow& window) {
+    if (&window != active_ && HasChanges(window)) {
+        desktop_.BringToFront(window);
+    }
+}
+
 Outcome CMainFrame::AskAllToClose() {
-    return RefusedIf(std::any_of(children_.begin(), children_.end(),
-                                 [](const auto& child) { return ConfirmSave(*child); }));
+    return RefusedIf(std::any_of(children_.begin(), children_.end(), [this](const auto& child) {
+        BringAskingToFront(*child);
+        return ConfirmSave(*child);
+    }));
 }
 
 /// When the user logs off, the desktop closes a dialog together with the frame, and the command that showed

@@ -79,6 +79,7 @@ class CMainFrame {
     CFittingWindow* NewFitting(bool fromFile);
     [[nodiscard]] CFittingWindow* ChildOfFile(const std::string& path) const;
     Outcome ReadCategory(const std::string& path);
+    void BringAskingToFront(CFittingWindow& window);
     Outcome AskAllToClose();
     void Remove(CFittingWindow& window);
     void RemoveAll();

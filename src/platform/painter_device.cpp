@@ -1,8 +1,11 @@
 #include "platform/painter_device.h"
 
 #include <QColor>
+#include <QPaintEngine>
 #include <QPainter>
+#include <QPainterPath>
 #include <QPolygonF>
+#include <QTextLayout>
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
@@ -32,6 +35,9 @@ QPen PenOf(const Pen& pen, double pixelRatio) {
 constexpr std::size_t FontsKept = 4;
 constexpr std::size_t WidthsKept = 5000;
 
+/// Width of the rim of texts: narrower than the space between two digits.
+constexpr double TextRim = 1;  // pixels
+
 /// A line of one pixel along a row or a column of pixels covers them whole: the same picture, but for dots
 /// that stay sharp, is drawn many times faster without smoothing. The leaders of a dimension grid are such
 /// lines.
@@ -57,6 +63,13 @@ QString DrawnText(const std::string& text) {
         }
     }
     return drawn;
+}
+
+void StrokeOutline(QPainter& painter, QPointF start, const QFont& font, const std::string& text, QPen pen) {
+    QPainterPath outline;
+    outline.addText(start, font, DrawnText(text));
+    pen.setJoinStyle(Qt::RoundJoin);
+    painter.strokePath(outline, pen);
 }
 
 }  // namespace
@@ -119,19 +132,61 @@ void PainterDevice::Polyline(const Pen& pen, std::span<const PixelPoint> points)
     }
 }
 
+/// A text set in letters, which takes longer than to draw them.
+const QList<QGlyphRun>& PainterDevice::LettersOf(MeasuredFont& font, const std::string& text) {
+    if (font.letters.size() == WidthsKept) {
+        font.letters.clear();
+    }
+    const auto [letters, isNew] = font.letters.try_emplace(text);
+    if (isNew) {
+        QTextLayout layout(DrawnText(text), font.font);
+        layout.beginLayout();
+        layout.createLine();
+        layout.endLayout();
+        letters->second = layout.glyphRuns();
+    }
+    return letters->second;
+}
+
+/// Letters over the same letters in the colour of the ground, a step aside.
+void PainterDevice::DrawRimmed(QPainter& painter, MeasuredFont& font, const std::string& text, Color color,
+                               Color ground) const {
+    const QList<QGlyphRun>& letters = LettersOf(font, text);
+    const auto draw = [&](QPointF aside) {
+        for (const QGlyphRun& run : letters) {
+            painter.drawGlyphRun(aside * (TextRim * PixelRatio()), run);
+        }
+    };
+    painter.setPen(ColorOf(ground));
+    for (const QPointF corner : {QPointF(-1, -1), QPointF(1, -1), QPointF(-1, 1), QPointF(1, 1)}) {
+        draw(corner);  // strokes of letters are long enough that these four leave no gap
+    }
+    painter.setPen(ColorOf(color));
+    draw({0, 0});
+}
+
 void PainterDevice::TextOut(const std::string& text, PixelPoint corner, const TextFont& font, Color color) {
     QPainter* painter = Painter();
     if (painter == nullptr) {
         return;
     }
-    const MeasuredFont& drawn =
+    MeasuredFont& drawn =
         FontOf(static_cast<int>(std::min(std::labs(font.lfHeight), long{LargestFont})), font.face, font.bold);
+    const QPointF start(0, drawn.metrics.ascent());
     painter->save();
-    painter->setFont(drawn.font);
-    painter->setPen(ColorOf(color));
     painter->translate(corner.x, corner.y);
     painter->rotate(-font.lfEscapement / 10.0);
-    painter->drawText(QPointF(0, drawn.metrics.ascent()), DrawnText(text));
+    if (textRim_ && painter->paintEngine()->type() != QPaintEngine::SVG) {
+        DrawRimmed(*painter, drawn, text, color, *textRim_);
+    } else {
+        if (textRim_) {
+            // The text stays a text, so that a program that opens the picture can find and change it.
+            StrokeOutline(*painter, start, drawn.font, text, QPen(ColorOf(*textRim_), 2 * TextRim));
+        }
+        painter->setFont(drawn.font);
+        painter->setPen(ColorOf(color));
+        painter->drawText(start, DrawnText(text));
+    }
     painter->restore();
 }
 

@@ -3,6 +3,9 @@
 
 #include <QFont>
 #include <QFontMetricsF>
+#include <QGlyphRun>
+#include <QList>
+#include <optional>
 #include <span>
 #include <string>
 #include <unordered_map>
@@ -41,6 +44,10 @@ class PainterDevice : public DrawingDevice {
     /// Pixels of the device to a logical pixel.
     [[nodiscard]] virtual double PixelRatio() const { return 1; }
 
+    /// From now on every text has a thin rim of this colour under its letters, so that a number that stands
+    /// on a line can be read. Without it, as on paper, letters alone are drawn.
+    void RimTexts(Color ground) { textRim_ = ground; }
+
   private:
     /// A font with its metrics and the widths of texts measured in it: to measure takes as long as to draw,
     /// every text is measured several times, and most numbers of a pattern come again.
@@ -53,11 +60,17 @@ class PainterDevice : public DrawingDevice {
         QFont font;
         QFontMetricsF metrics;
         std::unordered_map<std::string, double> widths;
+        std::unordered_map<std::string, QList<QGlyphRun>> letters;  ///< of texts that have a rim, set
     };
 
     [[nodiscard]] MeasuredFont& FontOf(int pixels, FontFace face = FontFace::Arial, bool bold = false) const;
 
+    static const QList<QGlyphRun>& LettersOf(MeasuredFont& font, const std::string& text);
+    void DrawRimmed(QPainter& painter, MeasuredFont& font, const std::string& text, Color color,
+                    Color ground) const;
+
     mutable std::vector<MeasuredFont> fonts_;  ///< those used last
+    std::optional<Color> textRim_;
 };
 
 }  // namespace korvet

@@ -88,13 +88,14 @@ PictureDevice::PictureDevice(PictureFormat format, int width, int height)
     if (format == PictureFormat::Svg) {
         lines_.emplace();
     }
-    canvas_->Clear(Black);
+    Cls(Black);
 }
 
 PictureDevice::~PictureDevice() = default;
 
 void PictureDevice::Cls(Color backColor) {
     canvas_->Clear(backColor);
+    RimTexts(backColor);
     if (lines_) {
         lines_.emplace();
     }

@@ -1,10 +1,13 @@
 #include "sketch/sketch_layout.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <optional>
+#include <utility>
 
 #include "sketch/sketch_place.h"
+#include "sketch/sketch_plane.h"
 
 namespace korvet {
 namespace {
@@ -13,7 +16,10 @@ constexpr double SmallestShape = 130;       ///< side of the square that the sma
 constexpr double SmallestShapeInBoxes = 6;  ///< the same in heights of a box, for large fonts
 /// What a shape larger by the factor e is worth, in pixels of detours of its dimensions.
 constexpr double WorthOfSize = 300;
-constexpr SketchXY AnyRoom = {1e9, 1e9};
+constexpr double AnyLength = 1e9;
+/// What is left of the size that is easy to read, on pages that have to be low. A smaller shape has to keep
+/// all of its lines.
+constexpr std::array Shrunken = {1.0, 0.9, 0.8};
 constexpr double CentreLineEnd = 10;  ///< of an axis beyond its ends
 
 SketchXY OnPage(SketchXY point, double scale) {
@@ -63,7 +69,16 @@ struct ArrangedView {
 struct Arranged {
     SketchLayout layout;
     double cost = 0;
+    bool whole = true;  ///< no arrow head and no end of a leader had to give way to a text
 };
+
+std::ptrdiff_t ArrowHeads(const std::vector<SketchLine>& lines) {
+    std::ptrdiff_t heads = 0;
+    for (const SketchLine& line : lines) {
+        heads += (line.arrowAtStart ? 1 : 0) + (line.arrowAtEnd ? 1 : 0);
+    }
+    return heads;
+}
 
 SketchLine ConstructionLine(const PageSketch::Construction& construction, double scale) {
     const SketchXY a = OnPage(construction.a, scale);
@@ -144,6 +159,22 @@ void AddLines(SketchLayout& layout, std::vector<SketchLine>& lines, SketchXY by)
     }
 }
 
+/// Whether every box, or the label next to it, has kept the line that it belongs to.
+bool BoxesTouchLines(const SketchLayout& layout, const PageSketch& sketch, double gap) {
+    const auto touches = [&](const SketchRect& text) {
+        return std::any_of(layout.lines.begin(), layout.lines.end(), [&](const SketchLine& line) {
+            return line.kind != SketchLineKind::Centre && RunsThrough(line, Inflated(text, gap + 1));
+        });
+    };
+    for (std::size_t i = 0; i < layout.boxes.size(); ++i) {
+        const bool hasLine = sketch.dimensions[i].kind != DimensionKind::Note;
+        if (hasLine && !touches(layout.boxes[i]) && !touches(layout.labels[i])) {
+            return false;
+        }
+    }
+    return true;
+}
+
 /// All views at a scale, one above the other with the model's origin on one upright line; width and height
 /// are those that it needs. The pictures of the shape are left out. Nothing when the room is too small.
 std::optional<Arranged> Arrange(const PageSketch& sketch, const SketchMetrics& metrics, double scale,
@@ -178,9 +209,12 @@ std::optional<Arranged> Arrange(const PageSketch& sketch, const SketchMetrics& m
         origins.push_back(origin);
         top += views[view].bounds.height + (view + 1 < views.size() ? 2 * metrics.gap : margin);
     }
+    std::ptrdiff_t heads = 0;
     for (std::size_t view = 0; view < views.size(); ++view) {
+        heads += ArrowHeads(views[view].lines);
         AddLines(layout, views[view].lines, origins[view]);
     }
+    arranged.whole = ArrowHeads(layout.lines) == heads && BoxesTouchLines(layout, sketch, metrics.gap);
     layout.width = left + right + 2 * margin;
     layout.height = top;
     return layout.width <= room.x && layout.height <= room.y ? std::optional(std::move(arranged))
@@ -239,8 +273,54 @@ void CentreOn(SketchLayout& layout, double width, double height) {
     layout.height = height;
 }
 
+/// The smallest page of SmallestSketch.
 Arranged ArrangeSmallest(const PageSketch& sketch, const SketchMetrics& metrics) {
-    return *Arrange(sketch, metrics, SmallestScale(sketch, metrics), AnyRoom);
+    const double scale = SmallestScale(sketch, metrics);
+    const auto least = [&](double mostWidth, double SketchLayout::*size) {
+        std::optional<Arranged> best;
+        for (const double share : Shrunken) {
+            auto arranged = Arrange(sketch, metrics, scale * share, {mostWidth, AnyLength});
+            if (arranged && (arranged->whole || share == 1) &&
+                (!best || arranged->layout.*size < best->layout.*size)) {
+                best = std::move(arranged);
+            }
+        }
+        return best;
+    };
+    auto lowest = least(metrics.mostWidth, &SketchLayout::height);
+    return lowest ? std::move(*lowest) : std::move(*least(AnyLength, &SketchLayout::width));
+}
+
+/// The best of the scales at which the sketch is easy to read; nothing where the page has no room for any.
+std::optional<Arranged> ArrangeLarge(const PageSketch& sketch, const SketchMetrics& metrics, SketchXY room) {
+    constexpr int Tries = 24;
+    const double smallest = SmallestScale(sketch, metrics);
+    const double largest = std::max(smallest, LargestScale(sketch, room.x, room.y));
+    // Texts do not grow with the shape: a larger shape may need less room than a smaller one, and the largest
+    // that fits at all may leave its boxes poor places.
+    std::optional<Arranged> best;
+    for (int i = 0; i <= Tries; ++i) {
+        const double growth = std::log(largest / smallest) * i / Tries;
+        auto arranged = Arrange(sketch, metrics, smallest * std::exp(growth), room);
+        if (arranged && arranged->whole) {
+            arranged->cost -= growth * WorthOfSize;
+            if (!best || arranged->cost < best->cost) {
+                best = std::move(arranged);
+            }
+        }
+    }
+    return best;
+}
+
+/// In a page that is too low for that, the largest shape of those that have room.
+Arranged ArrangeShrunken(const PageSketch& sketch, const SketchMetrics& metrics, SketchXY room) {
+    for (const double share : Shrunken) {
+        auto arranged = Arrange(sketch, metrics, SmallestScale(sketch, metrics) * share, room);
+        if (arranged && arranged->whole) {
+            return std::move(*arranged);
+        }
+    }
+    return ArrangeSmallest(sketch, metrics);
 }
 
 }  // namespace
@@ -252,22 +332,8 @@ SketchXY SmallestSketch(const PageSketch& sketch, const SketchMetrics& metrics) 
 
 SketchLayout LayoutSketch(const PageSketch& sketch, const SketchMetrics& metrics, double width,
                           double height) {
-    constexpr int Tries = 24;
-    const double smallest = SmallestScale(sketch, metrics);
-    const double largest = std::max(smallest, LargestScale(sketch, width, height));
-    // Texts do not grow with the shape: a larger shape may need less room than a smaller one, and the largest
-    // that fits at all may leave its boxes poor places.
-    Arranged best = ArrangeSmallest(sketch, metrics);
-    for (int i = 1; i <= Tries; ++i) {
-        const double growth = std::log(largest / smallest) * i / Tries;
-        auto larger = Arrange(sketch, metrics, smallest * std::exp(growth), {width, height});
-        if (larger) {
-            larger->cost -= growth * WorthOfSize;
-            if (larger->cost < best.cost) {
-                best = std::move(*larger);
-            }
-        }
-    }
+    auto large = ArrangeLarge(sketch, metrics, {width, height});
+    Arranged best = large ? std::move(*large) : ArrangeShrunken(sketch, metrics, {width, height});
     SketchLayout layout = std::move(best.layout);
     for (std::size_t view = 0; view < sketch.pictures.size(); ++view) {
         layout.solids[view].picture = sketch.pictures[view];

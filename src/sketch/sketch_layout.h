@@ -21,6 +21,7 @@ struct SketchRect {
 struct SketchMetrics {
     SketchXY box;                  ///< width and height of a text box
     std::vector<SketchXY> labels;  ///< of each label, in the order of the page's boxes
+    double mostWidth = 1e9;        ///< of the smallest page, as long as the sketch has room in it at all
     double gap = 6;                ///< between neighbours
     double arrow = 8;              ///< length of an arrow head
 };
@@ -87,12 +88,13 @@ std::size_t ShownOffSurface(const WindowTable& table, const OptionGroup& optPatt
 /// refused and ListError for a dimension on a line that the model does not have.
 PageSketch MakePageSketch(const WindowTable& table, std::size_t page, std::size_t shownOff = 0);
 
-/// Width and height of the smallest page on which the sketch is easy to read and nothing lies over anything
-/// else.
+/// Width and height of the smallest page on which the sketch can be read and nothing lies over anything else:
+/// the lowest of those that are not wider than the metrics ask for, or else the narrowest there is. The shape
+/// has at least four fifths of the size that is easy to read.
 SketchXY SmallestSketch(const PageSketch& sketch, const SketchMetrics& metrics);
 
 /// The sketch in a page of width by height pixels, at least SmallestSketch: the shape as large as its boxes
-/// leave room for.
+/// leave room for, and smaller than is easy to read only where it has to be.
 SketchLayout LayoutSketch(const PageSketch& sketch, const SketchMetrics& metrics, double width,
                           double height);
 

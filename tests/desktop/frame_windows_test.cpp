@@ -104,6 +104,79 @@ class FrameWindowsTest : public QObject {
         QVERIFY(children[0]->pos() != children[1]->pos());
     }
 
+    void fourWindowsArrangedLeaveADrawingInEach() {
+        Desk desk;
+        desk.window.resize(1440, 870);
+        for (const int tile : {0, 8, 16, 37}) {
+            desk.New(tile == 37 ? 12 : tile);
+        }
+        for (const char* arrange : {"mnuWindowCascade", "mnuWindowTileVertical", "mnuWindowTileHorizontal"}) {
+            desk.window.findChild<QAction*>(arrange)->trigger();
+            QApplication::processEvents();
+            for (QMdiSubWindow* child : desk.window.Area().subWindowList()) {
+                const auto* drawing = child->findChild<QWidget*>("pboxGraphicWindow");
+                const QString name =
+                    QString("%1 %2x%3").arg(arrange).arg(drawing->width()).arg(drawing->height());
+                QVERIFY2(drawing->width() >= 150 && drawing->height() >= 100, qPrintable(name));
+                QVERIFY2(drawing->visibleRegion().boundingRect().width() > 0 ||
+                             child != desk.window.Area().activeSubWindow(),
+                         qPrintable(name));
+                QVERIFY2(desk.window.Area().viewport()->rect().contains(child->geometry()), qPrintable(name));
+            }
+        }
+    }
+
+    void aWindowThatIsNotMaximisedHasTwoThirdsOfTheArea() {
+        Desk desk;
+        desk.New(0);
+        desk.ActiveView().showNormal();
+        desk.New(8);
+        const QSize area = desk.window.Area().viewport()->size();
+        QCOMPARE(desk.ActiveView().size(), area * 2 / 3);
+        QVERIFY(desk.window.Area().viewport()->rect().contains(desk.ActiveView().geometry()));
+    }
+
+    void theTileOfAFittingIsTheIconOfItsWindow() {
+        Desk desk;
+        QList<QImage> icons;
+        for (const int tile : {0, 16, 9}) {
+            desk.New(tile);
+            for (const int side : {16, 32}) {
+                const QImage icon = desk.ActiveView().windowIcon().pixmap(QSize(side, side)).toImage();
+                QVERIFY(!icons.contains(icon));
+                icons.append(icon);
+                int painted = 0;
+                for (int y = 0; y < icon.height(); ++y) {
+                    for (int x = 0; x < icon.width(); ++x) {
+                        painted += icon.pixelColor(x, y).alpha() > 200 ? 1 : 0;
+                    }
+                }
+                QVERIFY(painted > icon.width() * icon.height() / 6);
+            }
+        }
+    }
+
+    void ctrlTabGoesByTheLastUse() {
+        Desk desk;
+        for (const int tile : {0, 8, 16}) {
+            desk.New(tile);
+        }
+        const QList<QMdiSubWindow*> made = desk.window.Area().subWindowList();
+        desk.window.Area().setActiveSubWindow(made[0]);  // used last: 0, before it 2, before that 1
+        const auto press = [&] {
+            QWidget* const focus = QApplication::focusWidget();
+            QTest::keyPress(focus, Qt::Key_Control);
+            QTest::keyPress(focus, Qt::Key_Tab, Qt::ControlModifier);
+            QTest::keyRelease(focus, Qt::Key_Tab, Qt::ControlModifier);
+            QTest::keyRelease(focus, Qt::Key_Control);
+            QApplication::processEvents();
+        };
+        press();
+        QCOMPARE(desk.window.Area().activeSubWindow(), made[2]);
+        press();
+        QCOMPARE(desk.window.Area().activeSubWindow(), made[0]);
+    }
+
     void theFirstWindowOpensMaximisedAndTheNextAsTheLastOneStood() {
         Desk desk;
         desk.New(0);

@@ -5,6 +5,8 @@
 #include <QImage>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QRegularExpression>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
@@ -146,11 +148,37 @@ class HelpTest : public QObject {
         QTest::keyClicks(&words, "ridge");
         QCOMPARE(found.item(0)->text(), QString::fromUtf8("Ridge – Prism"));
         words.clear();
+        QTest::keyClicks(&words, "pipe to cone");  // the page of that name, before pages that speak of it
+        QCOMPARE(found.item(0)->text(), QStringLiteral("Pipe to Cone"));
+        QVERIFY(Rows(found).size() > 5);
+        words.clear();
+        QTest::keyClicks(&words, "cone");
+        QStringList titles = Rows(found);
+        const auto first =
+            titles.indexOf(QRegularExpression("^(?!.*cone).*$", QRegularExpression::CaseInsensitiveOption));
+        QVERIFY(first > 5);  // all titles with the word stand together before the first without it
+        for (qsizetype i = first; i < titles.size(); ++i) {
+            QVERIFY2(titles[i].contains(QString::fromUtf8(" – ")) ||
+                         !titles[i].contains("cone", Qt::CaseInsensitive),
+                     qPrintable(titles[i]));
+        }
+        words.clear();
         QTest::keyClicks(&words, "ridge nonsense");
         QCOMPARE(found.count(), 0);
         words.clear();
         QTest::keyClicks(&words, "  ");
         QCOMPARE(found.count(), 0);
+    }
+
+    void TheTabOfTheSearchHasTheFocusInItsLine() {
+        HelpWindow help(HelpWindow::FileOfProgram(QCoreApplication::applicationDirPath()));
+        help.ShowContents();
+        QVERIFY(QTest::qWaitForWindowActive(help.Window()));
+        auto& tabs = Part<QTabWidget>(help, "tabHelp");
+        QTest::mouseClick(tabs.tabBar(), Qt::LeftButton, {}, tabs.tabBar()->tabRect(2).center());
+        QVERIFY(Part<QLineEdit>(help, "txtSearch").hasFocus());
+        QTest::mouseClick(tabs.tabBar(), Qt::LeftButton, {}, tabs.tabBar()->tabRect(1).center());
+        QVERIFY(Part<QLineEdit>(help, "txtIndex").hasFocus());
     }
 
     void FindInPageGoesRound() {

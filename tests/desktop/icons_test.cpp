@@ -43,7 +43,12 @@ constexpr std::array<const char*, 22> ToolBarKeys = {"New",
                                                      "Redraw",
                                                      "Properties",
                                                      "Help"};
-constexpr std::array<const char*, 4> FurtherKeys = {"ExportDxf", "Close", "NextType", "PreviousType"};
+constexpr std::array<const char*, 24> FurtherKeys = {
+    "ExportDxf",      "Close",          "NextType",      "PreviousType", "Question",
+    "Warning",        "Information",    "Critical",      "Up",           "Home",
+    "Find",           "Folder",         "File",          "List",         "Details",
+    "NewFolder",      "Computer",       "Drive",         "Back",         "Forward",
+    "WindowMinimize", "WindowMaximize", "WindowRestore", "WindowClose"};
 
 std::vector<std::string> AllKeys() {
     std::vector<std::string> keys(ToolBarKeys.begin(), ToolBarKeys.end());

@@ -1,13 +1,16 @@
 #include "desktop/indicator_style.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QImage>
 #include <QRadioButton>
 #include <QTest>
 #include <algorithm>
 
+#include "desktop/bindings.h"
 #include "tests/desktop/contrast.h"
 #include "tests/desktop/desktop_test.h"
+#include "tests/desktop/palettes.h"
 
 namespace korvet::desktop {
 namespace {
@@ -43,6 +46,40 @@ class IndicatorStyleTest : public QObject {
         IndicatorStyle style(QStringLiteral("Fusion"));
         QVERIFY(ContrastOf<QRadioButton>(style, dark) >= 3);
         QVERIFY(ContrastOf<QCheckBox>(style, dark) >= 3);
+    }
+
+    void iconsOfTheToolkitAreTheProgramsOwn() {
+        const QPalette usual = QApplication::palette();
+        IndicatorStyle style(QStringLiteral("Fusion"));
+        for (const QPalette& palette : {LightPalette(), DarkPalette()}) {
+            QApplication::setPalette(palette);
+            for (const auto asked : {QStyle::SP_MessageBoxQuestion, QStyle::SP_MessageBoxWarning,
+                                     QStyle::SP_MessageBoxInformation, QStyle::SP_MessageBoxCritical,
+                                     QStyle::SP_FileDialogNewFolder, QStyle::SP_FileDialogToParent,
+                                     QStyle::SP_FileDialogListView, QStyle::SP_FileDialogDetailedView,
+                                     QStyle::SP_DirIcon, QStyle::SP_FileIcon, QStyle::SP_ArrowBack,
+                                     QStyle::SP_TitleBarCloseButton, QStyle::SP_TitleBarMaxButton,
+                                     QStyle::SP_TitleBarMinButton, QStyle::SP_TitleBarNormalButton}) {
+                for (const QImage& picture :
+                     {style.standardIcon(asked, nullptr, nullptr).pixmap(32).toImage(),
+                      style.standardPixmap(asked, nullptr, nullptr).toImage()}) {
+                    double greatest = 1;
+                    for (int y = 0; y < picture.height(); ++y) {
+                        for (int x = 0; x < picture.width(); ++x) {
+                            const QColor window = palette.color(QPalette::Window);
+                            const QColor color = picture.pixelColor(x, y);
+                            const QColor seen = Mixed(window, color, color.alphaF());
+                            greatest = std::max(greatest, Contrast(seen, window));
+                        }
+                    }
+                    QVERIFY2(greatest >= 3, qPrintable(QString::number(asked)));
+                }
+            }
+        }
+        QApplication::setPalette(usual);
+        const QProxyStyle plain(QStringLiteral("Fusion"));
+        QCOMPARE(style.standardIcon(QStyle::SP_MediaPlay, nullptr, nullptr).isNull(),
+                 plain.standardIcon(QStyle::SP_MediaPlay, nullptr, nullptr).isNull());
     }
 
     void onALightWindowTheDesktopsStyleStays() {

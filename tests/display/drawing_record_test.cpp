@@ -14,26 +14,28 @@ using Kind = RecordingDevice::Kind;
 
 constexpr std::array Path = {PixelPoint{10, 20}, PixelPoint{-5, 30}, PixelPoint{7, 7}};
 
-TEST(DrawingRecord, PlaysLinesAndTextsInTheirOrder) {
+TEST(DrawingRecord, PlaysLinesInTheirOrderAndThenTexts) {
     RecordingDevice device;
     DrawingRecord record(device);
-    record.Polyline({1, DrawStyle::Solid, 3}, Path);
     record.TextOut("one", {4, 5}, {-12, 900}, 77);
+    record.Polyline({1, DrawStyle::Solid, 3}, Path);
     record.Polyline({2, DrawStyle::Dotted, 1}, {});
+    record.TextOut("two", {6, 7}, {-13, 0}, 78);
     record.Polyline({3, DrawStyle::Dotted, 1}, std::span(Path).first(2));
     EXPECT_TRUE(device.calls.empty());
     record.PlayOn(device);
-    ASSERT_EQ(device.calls.size(), 4U);
+    ASSERT_EQ(device.calls.size(), 5U);
     EXPECT_EQ(device.calls[0].pen, (Pen{1, DrawStyle::Solid, 3}));
     EXPECT_THAT(device.calls[0].points, testing::ElementsAreArray(Path));
-    EXPECT_EQ(device.calls[1].text, "one");
-    EXPECT_EQ(device.calls[1].points.at(0), (PixelPoint{4, 5}));
-    EXPECT_EQ(device.calls[1].font, (TextFont{-12, 900}));
-    EXPECT_EQ(device.calls[1].color, 77);
-    EXPECT_EQ(device.calls[2].kind, Kind::Polyline);
-    EXPECT_TRUE(device.calls[2].points.empty());
-    EXPECT_EQ(device.calls[3].points.size(), 2U);
-    EXPECT_EQ(device.calls[3].pen, (Pen{3, DrawStyle::Dotted, 1}));
+    EXPECT_EQ(device.calls[1].kind, Kind::Polyline);
+    EXPECT_TRUE(device.calls[1].points.empty());
+    EXPECT_EQ(device.calls[2].points.size(), 2U);
+    EXPECT_EQ(device.calls[2].pen, (Pen{3, DrawStyle::Dotted, 1}));
+    EXPECT_EQ(device.calls[3].text, "one");
+    EXPECT_EQ(device.calls[3].points.at(0), (PixelPoint{4, 5}));
+    EXPECT_EQ(device.calls[3].font, (TextFont{-12, 900}));
+    EXPECT_EQ(device.calls[3].color, 77);
+    EXPECT_EQ(device.calls[4].text, "two");
 }
 
 TEST(DrawingRecord, IsAsLargeAsTheNextPicture) {

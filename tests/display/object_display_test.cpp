@@ -46,40 +46,27 @@ TEST_F(ObjectDisplay, WholeOrderOfAPattern) {
     expected.insert(expected.end(), SheetLines.begin(), SheetLines.end());
     const Log annotations = {"mark 200,100 230,100 230,60 200,60 200,100",  // grid
                              "dotted 200,60 200,60",
-                             "text   40  ",
                              "dotted 200,60 200,60",
-                             "text   0  ",  //
                              "dotted 230,60 230,60",
-                             "text   40  ",
                              "dotted 230,60 230,60",
-                             "text   30  ",  //
                              "dotted 200,100 200,100",
-                             "text   0  ",
                              "dotted 200,100 200,100",
-                             "text   0  ",  //
                              "dotted 230,100 230,100",
-                             "text   0  ",
                              "dotted 230,100 230,100",
-                             "text   30  ",  //
-                             "mark 200,60 230,100",
-                             "text 50",  // dimension
-                             "text 30",
-                             "text 30",
-                             "text 40",
-                             "text 40",  // true lengths
-                             "dotted 200,60 230,100",
-                             "text 50",  // diagonal
-                             "text A1",
-                             "text B1",
-                             "text A2",
-                             "text B2",  // coordinates
-                             "mark 200,100 230,100 230,60 200,60 200,100",
-                             "text 30",
-                             "text 40",
-                             "text Area = 1200"};
+                             "mark 200,60 230,100",                          // dimension
+                             "dotted 200,60 230,100",                        // diagonal
+                             "mark 200,100 230,100 230,60 200,60 200,100"};  // frame
     expected.insert(expected.end(), annotations.begin(), annotations.end());
     expected.insert(expected.end(), SheetLines.begin(), SheetLines.end());
-    expected.emplace_back("text note");
+    const Log texts = {"text   40  ", "text   0  ", "text   40  ",      "text   30  ",  // grid
+                       "text   0  ",  "text   0  ", "text   0  ",       "text   30  ",
+                       "text 50",                                                   // dimension
+                       "text 30",     "text 30",    "text 40",          "text 40",  // true lengths
+                       "text 50",                                                   // diagonal
+                       "text A1",     "text B1",    "text A2",          "text B2",  // coordinates
+                       "text 30",     "text 40",    "text Area = 1200",             // frame
+                       "text note"};
+    expected.insert(expected.end(), texts.begin(), texts.end());
     EXPECT_EQ(LogOf(screen), expected);
 }
 

@@ -48,6 +48,19 @@ TEST_F(MainFrameClosingTest, YesThatSavesNothingKeepsTheWindow) {
     EXPECT_EQ(rig.Open(), (Captions{"Development 1"}));
 }
 
+TEST_F(MainFrameClosingTest, TheWindowThatAQuestionIsAboutComesToTheFront) {
+    CFittingWindow& first = rig.OpenDrawnCone();
+    CFittingWindow& second = rig.OpenDrawnCone();
+    rig.OpenNewCone();  // has nothing to ask, and stays behind
+    std::vector<CFittingWindow*> inFront;
+    rig.shell.ui.onShow = [&](const MessageBox&) { inFront.push_back(rig.frame.ActiveChild()); };
+    rig.shell.ui.answers = {Answer::No, Answer::Cancel, Answer::Cancel};
+    EXPECT_EQ(Quit(), Refused);
+    EXPECT_EQ(inFront, (std::vector<CFittingWindow*>{&first, &second}));
+    EXPECT_EQ(rig.frame.CloseChild(first), Refused);  // by the button of a window behind
+    EXPECT_EQ(inFront.back(), &first);
+}
+
 TEST_F(MainFrameClosingTest, TheDesktopTellsWhichWindowComesNext) {
     CFittingWindow& first = rig.OpenNewCone();
     CFittingWindow& second = rig.OpenNewCone();
@@ -98,14 +111,15 @@ TEST_F(MainFrameClosingTest, TheFrameAsksForEveryChangedWindowAndThenClosesAll) 
     EXPECT_EQ(rig.Said(),
               "35 Save parameter file for Development 1 / 35 Save parameter file for Development 3");
     EXPECT_TRUE(rig.shell.files.files.contains("a.Kvt"));
-    EXPECT_EQ(rig.desktop.calls, (Captions{"remove Development 3", "remove Development 2", "remove a.Kvt"}));
+    EXPECT_EQ(rig.desktop.calls, (Captions{"front Development 1", "front Development 3",
+                                           "remove Development 3", "remove Development 2", "remove a.Kvt"}));
     EXPECT_TRUE(rig.frame.Children().empty());
     EXPECT_EQ(rig.frame.ActiveChild(), nullptr);
 }
 
 TEST_F(MainFrameClosingTest, CancelInTheMiddleKeepsAllWindowsAndWhatWasSavedBeforeIt) {
     rig.OpenDrawnCone();
-    rig.OpenDrawnCone();
+    CFittingWindow& second = rig.OpenDrawnCone();
     CFittingWindow& third = rig.OpenDrawnCone();
     rig.shell.ui.answers = {Answer::Yes, Answer::Cancel, Answer::No};
     rig.shell.ui.files = {"a.Kvt"};
@@ -114,8 +128,8 @@ TEST_F(MainFrameClosingTest, CancelInTheMiddleKeepsAllWindowsAndWhatWasSavedBefo
     EXPECT_EQ(rig.shell.ui.messages.size(), 2U);  // the third was not asked for
     EXPECT_EQ(rig.Open(), (Captions{"a.Kvt", "Development 2", "Development 3"}));
     EXPECT_TRUE(rig.shell.files.files.contains("a.Kvt"));
-    EXPECT_EQ(rig.frame.ActiveChild(), &third);
-    EXPECT_TRUE(rig.desktop.calls.empty());
+    EXPECT_EQ(rig.frame.ActiveChild(), &second);  // whose question was answered with Cancel
+    EXPECT_EQ(rig.desktop.calls, (Captions{"front Development 1", "front Development 2"}));
     EXPECT_TRUE(rig.store.values.empty());
     third.ChangeBox(3, "350");
     EXPECT_EQ(third.controls.txtParameter[3].text, "350");

@@ -2,11 +2,13 @@
 #include <gtest/gtest.h>
 
 #include <QImage>
+#include <QPainter>
 #include <QRect>
 #include <algorithm>
 #include <string>
 
 #include "platform/line_clip.h"
+#include "platform/paper_device.h"
 #include "platform/picture_device.h"
 #include "tests/support/memory_file_store.h"
 
@@ -48,6 +50,7 @@ QRect InkOf(const QImage& image) {
 }
 
 constexpr Color White = 0xFFFFFF;
+constexpr Color BluePaint = 0xFF0000;
 constexpr Pen RedPen = {Red, DrawStyle::Solid, 1};
 
 TEST(Png, HasTheSizeAndTheBackColour) {
@@ -201,6 +204,62 @@ TEST(PngText, HasItsColour) {
     EXPECT_EQ(ColorAt(image, ink.left() + 4, ink.center().y() + 30), 0x00FF00U);
 }
 
+/// How many pixels next to the letters of a red text are white, on a device that is white all over.
+int WhiteBesideLetters(const QImage& image) {
+    const auto isRed = [&](int x, int y) {
+        const QColor color = image.pixelColor(x, y);
+        return color.red() > 200 && color.green() < 60;
+    };
+    int white = 0;
+    for (int y = 1; y + 1 < image.height(); ++y) {
+        for (int x = 1; x + 1 < image.width(); ++x) {
+            for (const auto& [dx, dy] : {std::pair{-1, 0}, {1, 0}, {0, -1}, {0, 1}}) {
+                white += isRed(x, y) && qGray(image.pixel(x + dx, y + dy)) > 200 ? 1 : 0;
+            }
+        }
+    }
+    return white;
+}
+
+void CoverWithLines(PainterDevice& device, int side) {
+    for (int y = 0; y < side; ++y) {
+        const PixelPoint line[] = {{0, y}, {side, y}};
+        device.Polyline({White, DrawStyle::Solid, 1}, line);
+    }
+}
+
+TEST(PngText, HasARimOfTheGroundOverLines) {
+    for (const int turn : {0, 300, 900}) {
+        PictureDevice device(PictureFormat::Png, 200, 200);
+        device.Cls(BluePaint);
+        CoverWithLines(device, 200);
+        device.TextOut("40.25", {60, 100}, {-22, turn}, Red);
+        const QImage image = ImageOf(device);
+        EXPECT_LE(WhiteBesideLetters(image), 2) << turn;
+        EXPECT_EQ(ColorAt(image, 5, 5), 0xFFFFFFU);  // the rim is thin
+        int ground = 0;
+        for (int y = 0; y < 200; ++y) {
+            for (int x = 0; x < 200; ++x) {
+                const QColor color = image.pixelColor(x, y);
+                ground += color.blue() > 180 && color.red() < 128 ? 1 : 0;
+            }
+        }
+        EXPECT_GT(ground, 60) << turn;
+        EXPECT_LT(ground, 60 * 22) << turn;
+    }
+}
+
+TEST(PaperText, HasNoRim) {
+    QImage sheet(200, 200, QImage::Format_RGB32);
+    sheet.fill(Qt::blue);
+    QPainter painter(&sheet);
+    PaperDevice paper(&painter, {200, 200});
+    paper.Cls(BluePaint);
+    CoverWithLines(paper, 200);
+    paper.TextOut("40.25", {40, 100}, {-40, 0}, Red);
+    EXPECT_GT(WhiteBesideLetters(sheet), 100);
+}
+
 TEST(PngText, ExtentIsThatOfTheFontAsDrawn) {
     const PictureDevice device(PictureFormat::Png, 10, 10);
     // 30 points are 40 pixels. A digit of Arial is 0.556 wide; ascent and descent are 0.905 and 0.212.
@@ -258,6 +317,16 @@ TEST(Svg, LinesThatLieOnOneAnotherAreHeldOnce) {
     EXPECT_EQ(CountOf(svg, "\"10.5,10.5 40.5,10.5 \""), 3U);
     EXPECT_EQ(CountOf(svg, "\"10.5,10.5 40.5,10.5 40.5,30.5 \""), 1U);
     EXPECT_EQ(CountOf(svg, "\"70.5,70.5 70.5,70.5 \""), 1U);
+}
+
+TEST(Svg, TextsHaveARimUnderThem) {
+    PictureDevice device(PictureFormat::Svg, 120, 80);
+    device.Cls(BluePaint);
+    device.TextOut("40", {10, 20}, {-13, 0}, Green);
+    const std::string svg = device.Bytes();
+    const std::size_t rim = svg.find("stroke=\"#0000ff\"");
+    ASSERT_NE(rim, std::string::npos);
+    EXPECT_LT(rim, svg.find(">40</text>"));
 }
 
 TEST(Svg, ClearingForgetsWhatWasDrawn) {

@@ -23,6 +23,8 @@
 namespace korvet::desktop {
 namespace {
 
+constexpr int SmallestDrawing = 1000;  ///< twips, each way
+
 /// At once, before the next key comes; a click takes the selection away again, so there it waits for its end.
 void SelectOnEntry(QLineEdit& box, Qt::FocusReason reason) {
     if (reason == Qt::MouseFocusReason) {
@@ -48,6 +50,7 @@ FittingView::FittingView(CFittingWindow& window, QWidget* parent) : QWidget(pare
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, Pixels(100), Pixels(50));
     layout->setSpacing(0);
+    layout->setSizeConstraint(QLayout::SetNoConstraint);  // the panel follows the window, not the reverse
     layout->addWidget(MakePanel());
     layout->addWidget(drawing_, 1);
     AddShortcuts();
@@ -147,13 +150,17 @@ void FittingView::resizeEvent(QResizeEvent* event) {
     }
 }
 
-/// As wide as it needs, with its bar; where the window is narrower than that, the panel scrolls. The drawing
-/// has what is left at once: a file that is opened next is fitted into it.
+/// As wide as it needs, with its bar where it has one; of a narrow window the panel has half, and scrolls.
+/// The drawing has what is left at once: a file that is opened next is fitted into it.
 void FittingView::FitPanel() {
-    const int whole =
-        panel_->widget()->minimumSizeHint().width() + panel_->verticalScrollBar()->sizeHint().width();
-    panel_->setFixedWidth(std::min(whole, width()));
+    const QSize content = panel_->widget()->minimumSizeHint();
+    const int bar = content.height() > height() ? panel_->verticalScrollBar()->sizeHint().width() : 0;
+    panel_->setFixedWidth(std::min(content.width() + bar, width() / 2));
     layout()->activate();
+}
+
+QSize FittingView::minimumSizeHint() const {
+    return {2 * Pixels(SmallestDrawing), Pixels(SmallestDrawing)};
 }
 
 void FittingView::changeEvent(QEvent* event) {
@@ -203,7 +210,7 @@ void FittingView::FocusFirstBox() {
     QWidget* const instead = firstControl_ != nullptr ? firstControl_ : drawing_;
     QWidget* const first = boxes.empty() ? instead : boxes.front();
     first->setFocus(Qt::OtherFocusReason);
-    SketchScroll::Reveal(*first);
+    RevealWidget(*first);
 }
 
 SketchPage& FittingView::ShownPage() const {
@@ -258,11 +265,11 @@ void FittingView::RevealBox() {
     for (const BoundBox& box : boxes_) {
         if (window_->controls.txtParameter.at(box.index).name == name &&
             ShownPage().Box(static_cast<int>(box.index)) == box.edit) {
-            SketchScroll::Reveal(*box.edit);
+            RevealWidget(*box.edit);
         }
     }
     if (window_->controls.txtTextSize.name == name) {
-        SketchScroll::Reveal(*textSize_);
+        RevealWidget(*textSize_);
     }
 }
 

@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <array>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "desktop/fitting/drawing_area.h"
@@ -26,6 +27,8 @@ class QToolButton;
 
 namespace korvet::desktop {
 
+class SketchScroll;
+
 class FittingView : public QWidget {
     Q_OBJECT
   public:
@@ -37,6 +40,9 @@ class FittingView : public QWidget {
     void Detach();
 
     [[nodiscard]] CFittingWindow* Window() const { return window_; }
+
+    /// No more than its drawing needs: what the panel has no room for, it scrolls.
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
     /// Shows what the model says, focus and selection included.
     void Project();
@@ -73,9 +79,12 @@ class FittingView : public QWidget {
     QGroupBox* MakeOptions(const std::string& name, const QString& title, OptionGroup FittingOptions::*group,
                            const SelectButton& select, int room = 0);
     QWidget* MakeAngleOptions();
-    QLayout* MakeSteps(std::size_t page);
-    QToolButton* MakeStep(const std::string& name, std::size_t page, const Control& model,
-                          const QString& spoken, void (CFittingWindow::*click)(std::size_t));
+    QLayout* MakeTypes(QWidget* parent);
+    QLayout* MakeSteps(QWidget* parent, const std::string& name, const std::vector<Control>& models,
+                       void (CFittingWindow::*click)(std::size_t));
+    QLayout* MakeCommands(QWidget* parent);
+    void ChooseWidth();
+    bool TakeWidth(double boxes);
     void AddWindowOptions(QBoxLayout& column);
     QPushButton* MakeWideButton(const std::string& name, const Control& model,
                                 const std::function<void(CFittingWindow&)>& click);
@@ -113,12 +122,14 @@ class FittingView : public QWidget {
     struct Shown {
         QWidget* widget;
         const Control* control;
+        std::optional<std::size_t> page = {};  ///< the only page beside which it stands
     };
 
     CFittingWindow* window_;
     DrawingArea* drawing_ = nullptr;
     QScrollArea* panel_ = nullptr;
     std::vector<SketchPage*> pages_;
+    std::vector<SketchScroll*> scrolls_;  ///< of the pages
     std::vector<BoundBox> boxes_;
     QStackedLayout* pageStack_ = nullptr;
     std::vector<Options> options_;
@@ -132,7 +143,6 @@ class FittingView : public QWidget {
     QToolButton* redraw_ = nullptr;
     QToolButton* settings_ = nullptr;
     QToolButton* close_ = nullptr;
-    QGroupBox* patternFrame_ = nullptr;
     std::string shownFocus_;
     QString spokenWindow_;
 };

@@ -1,9 +1,11 @@
 // What only some fitting windows have: options, the steps between their pages, and further options.
 #include <QButtonGroup>
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStackedLayout>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -14,6 +16,8 @@
 
 namespace korvet::desktop {
 namespace {
+
+constexpr int OptionMargin = 6;  // pixels; what it takes, the sketch above has not
 
 FittingView::SelectButton SelectIn(OptionGroup FittingOptions::*group) {
     return [group](CFittingWindow& window, std::size_t button) { window.SelectOption(group, button); };
@@ -43,6 +47,8 @@ QGroupBox* FittingView::MakeOptions(const std::string& name, const QString& titl
     auto* frame = new QGroupBox(title);
     NameWidget(*frame, "fra" + name.substr(3), title);
     auto* layout = new QVBoxLayout(frame);
+    layout->setContentsMargins(OptionMargin, 0, OptionMargin, OptionMargin);
+    layout->setSpacing(0);
     int width = 0;
     auto* exclusive = new QButtonGroup(frame);
     Options& made = options_.emplace_back(Options{group, {}});
@@ -80,29 +86,27 @@ QWidget* FittingView::MakeAngleOptions() {
     return holder;
 }
 
-QToolButton* FittingView::MakeStep(const std::string& name, std::size_t page, const Control& model,
-                                   const QString& spoken, void (CFittingWindow::*click)(std::size_t)) {
-    QToolButton* button = MakeButton(name + "_" + std::to_string(page),
-                                     Text(model.caption) + QStringLiteral(", ") + spoken, nullptr);
-    button->setText(Text(model.caption));
-    connect(button, &QToolButton::clicked, this, [this, page, click] {
-        Do([page, click](CFittingWindow& window) { (window.*click)(page); });
-        FocusFirstBox();
-    });
-    shown_.push_back({button, &model});
-    return button;
-}
-
-/// On to the next page and back to the one before, at the sides that they lead to.
-QLayout* FittingView::MakeSteps(std::size_t page) {
-    const WindowModel& model = window_->controls;
-    auto* row = new QHBoxLayout;
-    row->addWidget(MakeStep("btnBack", page, model.btnBack.at(page), tr("to type %1").arg(page),
-                            &CFittingWindow::ClickBack));
-    row->addStretch(1);
-    row->addWidget(MakeStep("btnMore", page, model.btnMore.at(page), tr("to type %1").arg(page + 2),
-                            &CFittingWindow::ClickMore));
-    return row;
+/// The steps of all pages, in one place: that of the page which is shown is seen.
+QLayout* FittingView::MakeSteps(QWidget* parent, const std::string& name, const std::vector<Control>& models,
+                                void (CFittingWindow::*click)(std::size_t)) {
+    auto* place = new QGridLayout;
+    const bool onward = click == &CFittingWindow::ClickMore;
+    for (std::size_t page = 0; page < models.size(); ++page) {
+        const QString caption = Text(models[page].caption);
+        const QString spoken = tr("%1, to type %2").arg(caption).arg(onward ? page + 2 : page);
+        QToolButton* button = MakeButton(name + "_" + std::to_string(page), spoken, parent);
+        button->setText(caption);
+        QSizePolicy policy = button->sizePolicy();
+        policy.setRetainSizeWhenHidden(true);  // nothing moves where there is none
+        button->setSizePolicy(policy);
+        connect(button, &QToolButton::clicked, this, [this, page, click] {
+            Do([page, click](CFittingWindow& window) { (window.*click)(page); });
+            FocusFirstBox();
+        });
+        place->addWidget(button, 0, 0);
+        shown_.push_back({button, &models[page], page});
+    }
+    return place;
 }
 
 /// A page with what stands below its sketch.
@@ -110,12 +114,10 @@ QWidget* FittingView::MakePage(std::size_t index) {
     auto* holder = new QWidget;
     auto* column = new QVBoxLayout(holder);
     column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(new SketchScroll(MakeSketch(index)), 1);
+    scrolls_.push_back(new SketchScroll(MakeSketch(index)));
+    column->addWidget(scrolls_.back(), 1);
     if (window_->Table().pages[index].angleOptions) {
         column->addWidget(MakeAngleOptions());
-    }
-    if (index < window_->controls.btnMore.size()) {
-        column->addLayout(MakeSteps(index));
     }
     return holder;
 }
@@ -170,8 +172,11 @@ void FittingView::ProjectOptions() {
         }
         StopTabOnce(group.buttons);
     }
-    for (const auto& [widget, control] : shown_) {
-        ShowControl(*widget, *control);
+    for (const Shown& shown : shown_) {
+        Control control = *shown.control;
+        const bool onOtherPage = shown.page && static_cast<int>(*shown.page) != pageStack_->currentIndex();
+        control.visible = control.visible && !onOtherPage;
+        ShowControl(*shown.widget, control);
     }
     // The other pages follow when they are shown.
     ShownPage().ShowOff(ShownOffSurface(window_->Table(), options.optPatternSelect));

@@ -9,16 +9,26 @@
 #include <QStackedLayout>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <array>
 
 #include "desktop/bindings.h"
 #include "desktop/fitting/fitting_view.h"
+#include "desktop/sketch/sketch_scroll.h"
 #include "window/views.h"
 
 namespace korvet::desktop {
 namespace {
 
 constexpr int ViewIconSize = 30;
-constexpr int PatternIconSize = 44;
+constexpr int PatternIconSize = 36;
+
+/// Margins of the panel and of the frames in it, in pixels: what they take, the sketch has not.
+constexpr int PanelMargin = 5;
+
+/// All panels are of one of these two widths, in text boxes: most pages go into the first. Of a window as
+/// narrow as a small screen the second is still less than half.
+constexpr std::array PanelWidths = {4.4, 6.33};
 
 /// A button that is never too small for its icon or its text.
 class PanelButton final : public QToolButton {
@@ -48,12 +58,17 @@ QWidget* FittingView::MakePanel() {
     auto* content = new QWidget;
     NameWidget(*content, "fraControls1", tr("Sizes and views"));
     auto* layout = new QVBoxLayout(content);
-    layout->setContentsMargins(Pixels(100), Pixels(100), Pixels(100), Pixels(100));
+    layout->setContentsMargins(PanelMargin, PanelMargin, PanelMargin, PanelMargin);
+    layout->setSpacing(PanelMargin);
     layout->addWidget(MakePages());
+    ChooseWidth();
     layout->addWidget(MakeControls());
     AddWindowOptions(*layout);
     layout->addWidget(MakePatternControls());
     layout->addStretch(1);
+    if (layout->minimumSize().width() > scrolls_.front()->minimumSizeHint().width() + 2 * PanelMargin) {
+        (void)TakeWidth(PanelWidths.back());  // for what stands below the sketch
+    }
     panel_ = new QScrollArea(this);
     panel_->setWidget(content);
     content->installEventFilter(this);  // what it needs changes with the font
@@ -71,6 +86,22 @@ QWidget* FittingView::MakePages() {
         pageStack_->addWidget(MakePage(i));
     }
     return holder;
+}
+
+/// Whether all pages have room in a width, which they all take.
+bool FittingView::TakeWidth(double boxes) {
+    bool fits = true;
+    for (SketchScroll* scroll : scrolls_) {
+        fits = scroll->TakeWidth(boxes) && fits;
+    }
+    return fits;
+}
+
+/// The narrower width where the sketches of all pages have room in it, so that no step of the type moves the
+/// drawing.
+void FittingView::ChooseWidth() {
+    (void)std::any_of(PanelWidths.begin(), PanelWidths.end(),
+                      [this](double boxes) { return TakeWidth(boxes); });
 }
 
 SketchPage* FittingView::MakeSketch(std::size_t index) {
@@ -135,61 +166,76 @@ QWidget* FittingView::MakeTextSize(QWidget* parent) {
     return frame;
 }
 
-QWidget* FittingView::MakeControls() {
-    auto* frame = new QGroupBox;
-    NameWidget(*frame, "fraControls", tr("Type, views and commands"));
-    auto* layout = new QHBoxLayout(frame);
-    layout->addLayout(MakeViewButtons(frame));
-    auto* right = new QVBoxLayout;
-    typeLabel_ = new QLabel(frame);
+/// The type between the buttons that change it: the arrows, and outside of them those with words, where the
+/// window has them.
+QLayout* FittingView::MakeTypes(QWidget* parent) {
+    typeLabel_ = new QLabel(parent);
     NameWidget(*typeLabel_, "lblDtype", tr("Type of the fitting"));
-    auto* types = new QHBoxLayout;
     for (const std::size_t i : {std::size_t{1}, std::size_t{0}}) {
         typeButtons_.at(i) = MakeButton("btnPoint_" + std::to_string(i),
-                                        i == 0 ? tr("Next type") : tr("Previous type"), frame);
+                                        i == 0 ? tr("Next type") : tr("Previous type"), parent);
         connect(typeButtons_.at(i), &QToolButton::clicked, this, [this, i] {
             Do([i](CFittingWindow& window) { window.ClickPoint(i); });
             FocusFirstBox();
         });
     }
+    const WindowModel& model = window_->controls;
+    auto* types = new QHBoxLayout;
+    types->setSpacing(2);
+    types->addLayout(MakeSteps(parent, "btnBack", model.btnBack, &CFittingWindow::ClickBack));
     types->addWidget(typeButtons_[1]);
     types->addWidget(typeLabel_, 1, Qt::AlignCenter);
     types->addWidget(typeButtons_[0]);
-    right->addLayout(types);
-    right->addWidget(MakeTextSize(frame));
-    redraw_ = MakeButton("btnRedraw", tr("Redraw this fitting"), frame);
+    types->addLayout(MakeSteps(parent, "btnMore", model.btnMore, &CFittingWindow::ClickMore));
+    return types;
+}
+
+QLayout* FittingView::MakeCommands(QWidget* parent) {
+    redraw_ = MakeButton("btnRedraw", tr("Redraw this fitting"), parent);
     redraw_->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    redraw_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     connect(redraw_, &QToolButton::clicked, this,
             [this] { Do([](CFittingWindow& window) { window.Redraw(); }); });
-    settings_ = MakeButton("btnSettings", tr("Pattern settings of this fitting"), frame);
+    settings_ = MakeButton("btnSettings", tr("Pattern settings of this fitting"), parent);
     connect(settings_, &QToolButton::clicked, this,
             [this] { Do([](CFittingWindow& window) { window.Settings(); }); });
-    close_ = MakeButton("btnClose", tr("Close this fitting"), frame);
+    close_ = MakeButton("btnClose", tr("Close this fitting"), parent);
     connect(close_, &QToolButton::clicked, this, [this] { closeWindow(); });
     auto* commands = new QHBoxLayout;
-    commands->addWidget(redraw_, 1);
+    commands->addWidget(redraw_);
+    commands->addStretch(1);
     commands->addWidget(settings_);
     commands->addWidget(close_);
-    right->addLayout(commands);
-    layout->addSpacing(Pixels(80));
+    return commands;
+}
+
+QWidget* FittingView::MakeControls() {
+    auto* frame = new QGroupBox;
+    NameWidget(*frame, "fraControls", tr("Type, views and commands"));
+    auto* layout = new QHBoxLayout(frame);
+    layout->setContentsMargins(PanelMargin, PanelMargin, PanelMargin, PanelMargin);
+    layout->addLayout(MakeViewButtons(frame));
+    auto* right = new QVBoxLayout;
+    right->addLayout(MakeTypes(frame));
+    right->addWidget(MakeTextSize(frame));
+    right->addLayout(MakeCommands(frame));
+    layout->addSpacing(PanelMargin);
     layout->addLayout(right, 1);
     return frame;
 }
 
+/// The button that all the work leads to: as wide as the panel, and saying what it does.
 QWidget* FittingView::MakePatternControls() {
-    patternFrame_ = new QGroupBox;
-    NameWidget(*patternFrame_, "fraControls2", tr("Pattern"));
-    auto* layout = new QHBoxLayout(patternFrame_);
-    auto* caption = new QLabel(Text(window_->controls.fraControls2.caption), patternFrame_);
-    // Not wrapped: a panel whose height went by its width would not let the sketch shrink.
-    NameWidget(*caption, "lblPattern", caption->text());
-    QToolButton* pattern = MakeViewButton(PatternButton, patternFrame_);
+    auto* frame = new QWidget;
+    NameWidget(*frame, "fraControls2", tr("Pattern"));
+    auto* layout = new QHBoxLayout(frame);
+    layout->setContentsMargins(0, 0, 0, 0);
+    QToolButton* pattern = MakeViewButton(PatternButton, frame);
     pattern->setIconSize({PatternIconSize, PatternIconSize});
-    pattern->setMinimumSize(Pixels(550), Pixels(550));
-    layout->addWidget(caption, 1);
+    pattern->setText(Text(window_->controls.fraControls2.caption));
+    pattern->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    pattern->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     layout->addWidget(pattern);
-    return patternFrame_;
+    return frame;
 }
 
 /// What the tab key does not reach has a shortcut, valid while the focus is in this window.

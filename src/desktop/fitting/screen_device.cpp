@@ -20,6 +20,7 @@ void ScreenDevice::Cls(Color backColor) {
     PrepareDrawing(painter_);
     painter_.fillRect(image_.rect(), ColorOf(backColor));
     image_.setDevicePixelRatio(ratio);
+    RimTexts(backColor);
     changed();
 }
 

@@ -22,6 +22,7 @@
 #include "desktop/dialogs/recovery_widgets.h"
 #include "desktop/frame/category_menu_window.h"
 #include "desktop/frame/icons.h"
+#include "desktop/frame/tile_picture.h"
 #include "platform/file_lock.h"
 
 namespace korvet::desktop {
@@ -82,7 +83,7 @@ QRect OnScreen(QRect place, const QList<QRect>& screens) {
 ChildWindow::ChildWindow(CFittingWindow& window, QWidget* parent)
     : QMdiSubWindow(parent), view_(new FittingView(window, this)) {
     setWidget(view_);
-    setWindowIcon(ApplicationIcon());
+    setWindowIcon(FittingIcon(window.Row()));
     setAttribute(Qt::WA_DeleteOnClose, false);
     for (QAction* action : systemMenu()->actions()) {
         action->setShortcut({});  // File > Close has it
@@ -98,6 +99,10 @@ ChildWindow::~ChildWindow() {
 
 void ChildWindow::TakeShape() {
     view_->TakeShape(ShapeOf(windowState()));
+}
+
+QSize ChildWindow::sizeHint() const {
+    return mdiArea() != nullptr ? mdiArea()->viewport()->size() * 2 / 3 : QMdiSubWindow::sizeHint();
 }
 
 void ChildWindow::Project() {
@@ -125,6 +130,7 @@ MainWindow::MainWindow(WindowContext& context, HelpViewer& help, SettingsStore& 
     NameWidget(*area_, "mdiArea", tr("Fitting windows"));
     area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    area_->setActivationOrder(QMdiArea::ActivationHistoryOrder);  // Ctrl+Tab goes by the last use
     setCentralWidget(area_);
     connect(area_, &QMdiArea::subWindowActivated, this, &MainWindow::TakeActive);
     connect(copying_, &QTimer::timeout, this, [this] { (void)frame_.KeepCopies(); });
@@ -224,8 +230,7 @@ void MainWindow::ShowWindow(CFittingWindow& window) {
     if (window.controls.state == MaximisedWindow) {
         child->showMaximized();
     } else {
-        child->setGeometry(0, 0, area_->viewport()->width(), area_->viewport()->height());
-        child->showNormal();
+        child->showNormal();  // where the area has found room for it
     }
     area_->setActiveSubWindow(child);
     child->View().FocusFirstBox();

@@ -3,7 +3,9 @@
 #include <QCryptographicHash>
 #include <QDataStream>
 #include <QFontMetricsF>
+#include <QGuiApplication>
 #include <QIODevice>
+#include <QIconEngine>
 #include <QPainter>
 #include <QPixmapCache>
 #include <algorithm>
@@ -21,6 +23,7 @@ namespace {
 constexpr SketchView TileView = {35, 25};
 
 constexpr double Margin = 3;
+constexpr double TileLine = 1.3;       ///< width of its outlines, in pixels
 constexpr double TextShare = 0.9;      ///< size of the category, of the font
 constexpr int MostLines = 2;           ///< of text, in a tile of TileSide
 constexpr double PictureShare = 0.55;  ///< of the tile, at least
@@ -56,7 +59,8 @@ QRectF DrawCategory(QPainter& painter, const CatalogueRow& row, const QRectF& ti
     return tile.adjusted(0, 0, 0, -height - Margin);
 }
 
-void DrawFitting(QPainter& painter, const CatalogueRow& row, const QRectF& area, const QPalette& palette) {
+void DrawFitting(QPainter& painter, const CatalogueRow& row, const QRectF& area, const QPalette& palette,
+                 double lineWidth = TileLine) {
     const SolidPicture picture =
         DrawSolid(SampleModel(*row.table, static_cast<std::size_t>(row.table->firstDtype)), TileView);
     const SolidBounds& bounds = picture.bounds;
@@ -68,7 +72,7 @@ void DrawFitting(QPainter& painter, const CatalogueRow& row, const QRectF& area,
     const double scale = std::min(area.width() / width, area.height() / height);
     const QPointF origin =
         area.center() - QPointF(bounds.left + bounds.right, -bounds.bottom - bounds.top) * (scale / 2);
-    PaintSolid(painter, picture, scale, origin, SolidColorsOf(palette), 1.3);
+    PaintSolid(painter, picture, scale, origin, SolidColorsOf(palette), lineWidth);
 }
 
 QPixmap DrawTile(const CatalogueRow& row, const QSize& size, qreal devicePixelRatio, const QPalette& palette,
@@ -88,28 +92,68 @@ QPixmap DrawTile(const CatalogueRow& row, const QSize& size, qreal devicePixelRa
     return picture;
 }
 
-/// Everything that a tile's picture goes by.
-QString TileKey(const CatalogueRow& row, const QSize& size, qreal devicePixelRatio, const QPalette& palette,
-                const QFont& font) {
+/// Everything that a picture goes by.
+QString PictureKey(const char* kind, const CatalogueRow& row, const QSize& size, qreal devicePixelRatio,
+                   const QPalette& palette, const QFont& font) {
     QByteArray look;
     QDataStream stream(&look, QIODevice::WriteOnly);
     stream << CategoryOf(row) << size << devicePixelRatio << palette << font;
-    return QStringLiteral("tile ") +
+    return QLatin1String(kind) +
            QString::fromLatin1(QCryptographicHash::hash(look, QCryptographicHash::Sha1).toHex());
 }
+
+/// Drawn when it is asked for, at the size of the device, and kept with the tiles: several windows may show
+/// the same fitting.
+class FittingIconEngine final : public QIconEngine {
+  public:
+    explicit FittingIconEngine(const CatalogueRow& row) : row_(row) {}
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
+        const qreal ratio = painter->device()->devicePixelRatioF();
+        QPixmap picture = pixmap((QSizeF(rect.size()) * ratio).toSize(), mode, state);
+        picture.setDevicePixelRatio(ratio);
+        painter->drawPixmap(rect.topLeft(), picture);
+    }
+
+    /// The size is in pixels of the device.
+    QPixmap pixmap(const QSize& size, QIcon::Mode, QIcon::State) override {
+        const QPalette palette = QGuiApplication::palette();
+        const QString key = PictureKey("icon ", row_, size, 1, palette, {});
+        QPixmap picture;
+        if (!QPixmapCache::find(key, &picture)) {
+            picture = QPixmap(size);
+            picture.fill(Qt::transparent);
+            QPainter painter(&picture);
+            const QRectF inner = QRectF(QPointF(0, 0), size).adjusted(1, 1, -1, -1);
+            DrawFitting(painter, row_, inner, palette, std::max(1.0, size.width() / 24.0));
+            painter.end();
+            QPixmapCache::insert(key, picture);
+        }
+        return picture;
+    }
+
+    [[nodiscard]] QIconEngine* clone() const override { return new FittingIconEngine(row_); }
+
+  private:
+    const CatalogueRow& row_;
+};
 
 }  // namespace
 
 /// The menu is opened many times and looks the same each time, so the pictures are kept.
 QPixmap TilePicture(const CatalogueRow& row, const QSize& size, qreal devicePixelRatio,
                     const QPalette& palette, const QFont& font) {
-    const QString key = TileKey(row, size, devicePixelRatio, palette, font);
+    const QString key = PictureKey("tile ", row, size, devicePixelRatio, palette, font);
     QPixmap picture;
     if (!QPixmapCache::find(key, &picture)) {
         picture = DrawTile(row, size, devicePixelRatio, palette, font);
         QPixmapCache::insert(key, picture);
     }
     return picture;
+}
+
+QIcon FittingIcon(const CatalogueRow& row) {
+    return QIcon(new FittingIconEngine(row));
 }
 
 int TileSide(const QFont& font, int smallest) {

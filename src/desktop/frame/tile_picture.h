@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QFont>
+#include <QIcon>
 #include <QPalette>
 #include <QPixmap>
 #include <QSize>
@@ -20,5 +21,9 @@ QPixmap TilePicture(const CatalogueRow& row, const QSize& size, qreal devicePixe
 /// lines below a picture of more than half the tile; at least `smallest`. The category is set in a small cut
 /// of the font.
 int TileSide(const QFont& font, int smallest);
+
+/// The picture of a fitting's tile alone, as an icon. It goes by the palette that the program has when it is
+/// drawn.
+QIcon FittingIcon(const CatalogueRow& row);
 
 }  // namespace korvet::desktop

@@ -11,6 +11,7 @@
 #include <QStandardPaths>
 #include <QTextDocument>
 #include <algorithm>
+#include <iterator>
 
 namespace korvet::desktop {
 namespace {
@@ -131,20 +132,26 @@ std::vector<HelpHit> HelpBook::Search(const QString& text) {
     if (wanted.isEmpty()) {
         return hits;
     }
-    for (const HelpHit& entry : Index()) {
-        if (entry.word.contains(wanted, Qt::CaseInsensitive)) {
-            hits.push_back(entry);
-        }
-    }
-    const auto firstPage = static_cast<std::ptrdiff_t>(hits.size());
     const QStringList words = wanted.split(QLatin1Char(' '));
+    const auto inTitle = [&](const HelpHit& hit) {
+        const QString title = hit.title.toLower();
+        const auto found = std::count_if(words.begin(), words.end(),
+                                         [&](const QString& word) { return title.contains(word); });
+        return found + (title.contains(wanted) ? words.size() : 0);  // as one phrase it counts twice
+    };
     for (const Page& page : Pages()) {
         if (HoldsAll(page.text, words)) {
             hits.push_back({QString(), page.title, page.address});
         }
     }
-    std::stable_partition(hits.begin() + firstPage, hits.end(),
-                          [&](const HelpHit& hit) { return HoldsAll(hit.title.toLower(), words); });
+    std::stable_sort(hits.begin(), hits.end(),
+                     [&](const HelpHit& a, const HelpHit& b) { return inTitle(a) > inTitle(b); });
+    const auto others =
+        std::find_if(hits.begin(), hits.end(), [&](const HelpHit& hit) { return inTitle(hit) == 0; });
+    std::vector<HelpHit> entries;
+    std::copy_if(Index().begin(), Index().end(), std::back_inserter(entries),
+                 [&](const HelpHit& entry) { return entry.word.contains(wanted, Qt::CaseInsensitive); });
+    hits.insert(others, entries.begin(), entries.end());
     return hits;
 }
 

@@ -56,8 +56,9 @@ class HelpBook {
     /// All index words with their pages, in the order of the alphabet.
     [[nodiscard]] const std::vector<HelpHit>& Index();
 
-    /// Index words that hold the text, and then all pages on which every word of it stands, those with a word
-    /// in the title first. Case does not matter. Nothing for an empty text.
+    /// The pages on which every word of the text stands: first those that have words of it in their title,
+    /// the more the better; then index words that hold the text; then all other pages. Case does not matter.
+    /// Nothing for an empty text.
     [[nodiscard]] std::vector<HelpHit> Search(const QString& text);
 
   private:

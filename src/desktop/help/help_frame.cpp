@@ -11,7 +11,6 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
-#include <QStyle>
 #include <QTabWidget>
 #include <QTimer>
 #include <QToolBar>
@@ -21,6 +20,7 @@
 #include <utility>
 
 #include "desktop/bindings.h"
+#include "desktop/frame/icons.h"
 #include "desktop/help/help_book.h"
 
 namespace korvet::desktop {
@@ -93,6 +93,7 @@ HelpFrame::HelpFrame(HelpBook& book, SketchPicture sketches)
     tabHelp_->insertTab(ContentsTab, MakeContents(), QStringLiteral("&Contents"));
     tabHelp_->insertTab(IndexTab, MakeIndex(), QStringLiteral("&Index"));
     tabHelp_->insertTab(SearchTab, MakeSearch(), QStringLiteral("&Search"));
+    connect(tabHelp_, &QTabWidget::currentChanged, this, &HelpFrame::FocusLine);
     auto* splitter = new QSplitter;
     splitter->addWidget(tabHelp_);
     splitter->addWidget(MakePagePane());
@@ -116,9 +117,9 @@ void HelpFrame::MakeTools() {
     bar->setMovable(false);
     bar->setContextMenuPolicy(Qt::PreventContextMenu);
     bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    const auto add = [&](const char* name, const QString& text, QStyle::StandardPixmap icon,
-                         const QKeySequence& keys, auto&& run) {
-        QAction* action = bar->addAction(style()->standardIcon(icon), text);
+    const auto add = [&](const char* name, const QString& text, const char* icon, const QKeySequence& keys,
+                         auto&& run) {
+        QAction* action = bar->addAction(ToolIcon(icon), text);
         action->setShortcut(keys);
         action->setToolTip(action->iconText() + QStringLiteral(" (") +
                            keys.toString(QKeySequence::NativeText) + QLatin1Char(')'));
@@ -126,15 +127,14 @@ void HelpFrame::MakeTools() {
         connect(action, &QAction::triggered, this, run);
         return action;
     };
-    QAction* back = add("btnBack", QStringLiteral("Back"), QStyle::SP_ArrowBack, QKeySequence::Back,
-                        [this] { txtHelp_->backward(); });
-    QAction* forward = add("btnForward", QStringLiteral("Forward"), QStyle::SP_ArrowForward,
-                           QKeySequence::Forward, [this] { txtHelp_->forward(); });
-    add("btnHome", QStringLiteral("Home"), QStyle::SP_DirHomeIcon, QKeySequence(Qt::ALT | Qt::Key_Home),
+    QAction* back =
+        add("btnBack", QStringLiteral("Back"), "Back", QKeySequence::Back, [this] { txtHelp_->backward(); });
+    QAction* forward = add("btnForward", QStringLiteral("Forward"), "Forward", QKeySequence::Forward,
+                           [this] { txtHelp_->forward(); });
+    add("btnHome", QStringLiteral("Home"), "Home", QKeySequence(Qt::ALT | Qt::Key_Home),
         [this] { txtHelp_->setSource(book_.FirstPage()); });
     bar->addSeparator();
-    add("btnFind", QStringLiteral("Find in page"), QStyle::SP_FileDialogContentsView, QKeySequence::Find,
-        [this] { OpenFindBar(); });
+    add("btnFind", QStringLiteral("Find in page"), "Find", QKeySequence::Find, [this] { OpenFindBar(); });
     back->setEnabled(false);
     forward->setEnabled(false);
     connect(txtHelp_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
@@ -243,6 +243,13 @@ void HelpFrame::MakeShortcuts() {
     });
 }
 
+/// Who turns to the index or the search wants to type; who goes through the tabs by their arrow keys goes on.
+void HelpFrame::FocusLine(int tab) {
+    if (!tabHelp_->tabBar()->hasFocus() && tab != ContentsTab) {
+        (tab == SearchTab ? txtSearch_ : txtIndex_)->setFocus();
+    }
+}
+
 void HelpFrame::ShowContents() {
     tabHelp_->setCurrentIndex(ContentsTab);
     ShowFirstPage();
@@ -255,9 +262,9 @@ void HelpFrame::ShowSearch() {
     if (!txtHelp_->source().isValid()) {
         ShowFirstPage();
     }
-    txtSearch_->selectAll();
-    txtSearch_->setFocus();
     Present();
+    txtSearch_->selectAll();
+    txtSearch_->setFocus();  // when the window is in front: one that comes up takes its own
 }
 
 void HelpFrame::ShowPage(const QUrl& page) {

@@ -42,6 +42,7 @@ class HelpFrame final : public QMainWindow {
     void AttachToDialog();
 
     void ShowFirstPage();
+    void FocusLine(int tab);
     void FilterIndex(const QString& text);
     void RunSearch(const QString& text);
     void FindInPage(bool backward);

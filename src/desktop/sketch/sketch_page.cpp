@@ -14,7 +14,10 @@
 namespace korvet::desktop {
 namespace {
 
-constexpr int SmallestPage = 275;
+constexpr int LeastSide = 275;  // of a page
+
+/// A page is as high as its sketch needs, and half as much again where the window has room for it.
+constexpr double ComfortableHeight = 1.5;
 
 /// A layout's rectangle on whole pixels, of the size that was measured.
 QRect PixelRect(const SketchRect& rect) {
@@ -73,12 +76,28 @@ void SketchPage::ShowOff(std::size_t surface) {
     update();
 }
 
+bool SketchPage::TakeWidth(double boxes) {
+    widthInBoxes_ = boxes;
+    MeasureTexts();
+    return Smallest().width() <= metrics_.mostWidth;
+}
+
+const QSize& SketchPage::Smallest() const {
+    if (!smallest_) {
+        const SketchXY smallest = SmallestSketch(sketch_, metrics_);
+        smallest_ = QSizeF(std::ceil(smallest.x), std::ceil(smallest.y)).toSize();
+    }
+    return *smallest_;
+}
+
 QSize SketchPage::minimumSizeHint() const {
-    return smallest_;
+    const int width = widthInBoxes_ > 0 ? static_cast<int>(metrics_.mostWidth) : LeastSide;
+    return Smallest().expandedTo({width, LeastSide});
 }
 
 QSize SketchPage::sizeHint() const {
-    return smallest_ * 1.2;
+    const QSize smallest = minimumSizeHint();
+    return {smallest.width(), static_cast<int>(smallest.height() * ComfortableHeight)};
 }
 
 void SketchPage::MeasureTexts() {
@@ -93,10 +112,10 @@ void SketchPage::MeasureTexts() {
         const QSize hint = labels_[i]->sizeHint();
         metrics_.labels[i] = {static_cast<double>(hint.width()), static_cast<double>(hint.height())};
     }
-    const SketchXY smallest = SmallestSketch(sketch_, metrics_);
-    smallest_ = QSizeF(std::ceil(smallest.x), std::ceil(smallest.y))
-                    .toSize()
-                    .expandedTo({SmallestPage, SmallestPage});
+    if (widthInBoxes_ > 0) {
+        metrics_.mostWidth = std::floor(widthInBoxes_ * metrics_.box.x);
+    }
+    smallest_.reset();
     updateGeometry();
 }
 

@@ -28,6 +28,10 @@ class SketchPage : public QWidget {
     /// In the order of the page.
     [[nodiscard]] const std::vector<QLineEdit*>& Boxes() const { return boxes_; }
 
+    /// The width that the page has from now on, in text boxes. Whether its sketch has room in it; where it
+    /// has not, the page is as wide as it needs.
+    bool TakeWidth(double boxes);
+
     /// Draws all surfaces of the shape but this one (from 1) pale; 0: none of them.
     void ShowOff(std::size_t surface);
 
@@ -43,6 +47,7 @@ class SketchPage : public QWidget {
     void MakeBox(const BoxEntry& entry);
     void MeasureTexts();
     void LayOut();
+    [[nodiscard]] const QSize& Smallest() const;
 
     const WindowTable& table_;
     std::size_t page_;
@@ -50,7 +55,8 @@ class SketchPage : public QWidget {
     std::size_t shownOff_ = 0;
     PageSketch sketch_;
     SketchMetrics metrics_;
-    QSize smallest_;
+    double widthInBoxes_ = 0;                ///< 0 until the owner has one in mind
+    mutable std::optional<QSize> smallest_;  ///< of the sketch, once it was asked for
     SketchLayout layout_;
     std::vector<QLineEdit*> boxes_;
     std::vector<QLabel*> labels_;

@@ -14,7 +14,7 @@ constexpr int LowestPage = 2000;
 
 }  // namespace
 
-SketchScroll::SketchScroll(SketchPage* page) {
+SketchScroll::SketchScroll(SketchPage* page) : page_(page) {
     setWidget(page);
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
@@ -23,12 +23,10 @@ SketchScroll::SketchScroll(SketchPage* page) {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
 }
 
-void SketchScroll::Reveal(QWidget& widget) {
-    for (QWidget* parent = widget.parentWidget(); parent != nullptr; parent = parent->parentWidget()) {
-        if (auto* scroll = qobject_cast<QScrollArea*>(parent)) {
-            scroll->ensureWidgetVisible(&widget);
-        }
-    }
+bool SketchScroll::TakeWidth(double boxes) {
+    const bool fits = page_->TakeWidth(boxes);
+    updateGeometry();  // a page that is not shown yet does not tell it
+    return fits;
 }
 
 QSize SketchScroll::minimumSizeHint() const {

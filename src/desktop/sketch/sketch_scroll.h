@@ -16,14 +16,17 @@ class SketchScroll final : public QScrollArea {
     /// Takes the page over.
     explicit SketchScroll(SketchPage* page);
 
-    /// Brings a widget of the page into sight, in every frame that it scrolls in.
-    static void Reveal(QWidget& widget);
+    /// SketchPage::TakeWidth of its page.
+    bool TakeWidth(double boxes);
 
     [[nodiscard]] QSize minimumSizeHint() const override;
     [[nodiscard]] QSize sizeHint() const override;
 
   protected:
     bool event(QEvent* event) override;
+
+  private:
+    SketchPage* page_;
 };
 
 }  // namespace korvet::desktop
