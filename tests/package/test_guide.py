@@ -66,8 +66,11 @@ class SpreadsheetTest(GuideTest):
         self.assertEqual(self.run_block("python", 1), self.said["python"])
         self.assertEqual({name: (self.folder / "out" / name).read_bytes() for name in self.made}, first)
 
+    def test_list(self):
+        self.assertEqual(self.run_block("list", 1), self.said["list"])
+        self.assertEqual(self.outputs(), ["hopper-1.dxf", "pipe.dxf"])
 
-@unittest.skipUnless(shutil.which("parallel"), "GNU Parallel is not installed")
+
 class ManyMachinesTest(GuideTest):
     page = "many-machines.md"
 
