@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <string>
 
+#include "platform/graphics_application.h"
 #include "platform/line_clip.h"
 #include "platform/paper_device.h"
 #include "platform/picture_device.h"
@@ -250,6 +251,7 @@ TEST(PngText, HasARimOfTheGroundOverLines) {
 }
 
 TEST(PaperText, HasNoRim) {
+    EnsureGraphicsApplication();
     QImage sheet(200, 200, QImage::Format_RGB32);
     sheet.fill(Qt::blue);
     QPainter painter(&sheet);
