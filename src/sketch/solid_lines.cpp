@@ -7,6 +7,7 @@
 #include <map>
 #include <optional>
 
+#include "sketch/sketch_plane.h"
 #include "sketch/solid_mesh.h"
 #include "sketch/solid_places.h"
 
@@ -19,11 +20,16 @@ namespace {
 constexpr double HidesFrom = 5e-4;
 constexpr double TouchesUpTo = 1e-7;
 
+/// A wall that is not flat is crinkled where it turns away from the eye: its faces turn to and fro there,
+/// each a contour of its own. Only that one is a line beyond which the wall does not go on within this share
+/// of the size.
+constexpr double Crinkle = 0.05;
+
 /// Lengths below this share of the size are no line on the picture.
 constexpr double NoLength = 1e-6;
 
 double Span(const SketchXY& a, const SketchXY& b) {
-    return std::sqrt((b.x - a.x) * (b.x - a.x) + (b.y - a.y) * (b.y - a.y));
+    return Length(b - a);
 }
 
 /// Where along a line a face lies before it.
@@ -73,22 +79,62 @@ class Cover {
         }
     }
 
-    /// The visible shares of a line between two vertices, in order.
-    [[nodiscard]] std::vector<Stretch> VisibleParts(const Ray& ray) const {
+    /// The visible shares of an edge, in order.
+    [[nodiscard]] std::vector<Stretch> VisibleParts(const MeshEdge& edge, EdgeLook look) const {
+        const Ray ray = {mesh_.vertices[edge.from], mesh_.vertices[edge.to]};
+        std::vector<Stretch> hidden = Hidden(Before(ray, [](const MeshFace&) { return true; }));
+        const auto beyond = look == EdgeLook::Contour ? Beyond(edge, ray) : std::nullopt;
+        if (beyond) {
+            const std::size_t surface = mesh_.faces[edge.faces.front()].surface;
+            for (Stretch stretch :
+                 Before(*beyond, [&](const MeshFace& face) { return face.surface == surface; })) {
+                stretch.hides = true;
+                hidden.push_back(stretch);
+            }
+            hidden = Hidden(std::move(hidden));
+        }
+        return Free(hidden);
+    }
+
+  private:
+    /// The line just outside a contour, as far back as the wall would go on; nothing when both its walls
+    /// stand on edge.
+    [[nodiscard]] std::optional<Ray> Beyond(const MeshEdge& edge, const Ray& ray) const {
+        const auto seen =
+            std::ranges::find_if(edge.faces, [&](std::size_t face) { return !mesh_.faces[face].OnEdge(); });
+        if (seen == edge.faces.end()) {
+            return std::nullopt;
+        }
+        const SketchXY along = ray.At(1) - ray.At(0);
+        double left = 0;  // on which the face lies
+        for (const std::size_t corner : mesh_.faces[*seen].corners) {
+            const SketchXY aside = OnPicture(mesh_.vertices[corner]) - ray.At(0);
+            left += along.x * aside.y - along.y * aside.x;
+        }
+        const double step = (left > 0 ? 1 : -1) * NoLength * mesh_.size / Length(along);
+        const auto moved = [&](const EyePoint& p) {
+            return EyePoint{p.x + along.y * step, p.y - along.x * step, p.depth - Crinkle * mesh_.size};
+        };
+        return Ray{moved(ray.from), moved(ray.to)};
+    }
+
+    /// Where faces that `counts` lie before a line.
+    template <typename Counts>
+    [[nodiscard]] std::vector<Stretch> Before(const Ray& ray, Counts counts) const {
         SolidPlace place = SolidPlace::About({ray.At(0), ray.At(1)});
         place.halfLength += NoLength * mesh_.size;
         place.halfWidth += NoLength * mesh_.size;
         const double deepest = std::min(ray.from.depth, ray.to.depth);
         std::vector<Stretch> covered;
         for (const std::size_t i : seen_.Tree().Meeting(place).numbers) {
-            if (nearest_[i] > deepest) {
-                AddStretch(mesh_.faces[seen_.Numbers()[i]], ray, covered);
+            const MeshFace& face = mesh_.faces[seen_.Numbers()[i]];
+            if (nearest_[i] > deepest && counts(face)) {
+                AddStretch(face, ray, covered);
             }
         }
-        return Uncovered(covered);
+        return covered;
     }
 
-  private:
     void AddStretch(const MeshFace& face, const Ray& ray, std::vector<Stretch>& covered) const {
         double low = 0;
         double high = 1;
@@ -117,9 +163,8 @@ class Cover {
         }
     }
 
-    /// What connected stretches leave over of 0 to 1, leaving out those of which none really hides.
-    static std::vector<Stretch> Uncovered(std::vector<Stretch>& covered) {
-        constexpr double Joint = 1e-6;
+    /// Connected stretches as one, leaving out those of which none really hides.
+    static std::vector<Stretch> Hidden(std::vector<Stretch> covered) {
         std::sort(covered.begin(), covered.end(),
                   [](const Stretch& a, const Stretch& b) { return a.from < b.from; });
         std::vector<Stretch> merged;
@@ -131,21 +176,27 @@ class Cover {
                 merged.push_back(stretch);
             }
         }
+        std::erase_if(merged, [](const Stretch& stretch) { return !stretch.hides; });
+        return merged;
+    }
+
+    /// What hidden stretches leave over of 0 to 1.
+    static std::vector<Stretch> Free(const std::vector<Stretch>& hidden) {
         std::vector<Stretch> free;
         double at = 0;
-        for (const Stretch& stretch : merged) {
-            if (stretch.hides) {
-                if (stretch.from - at > Joint) {
-                    free.push_back({at, stretch.from});
-                }
-                at = stretch.to;
+        for (const Stretch& stretch : hidden) {
+            if (stretch.from - at > Joint) {
+                free.push_back({at, stretch.from});
             }
+            at = stretch.to;
         }
         if (1 - at > Joint) {
             free.push_back({at, 1});
         }
         return free;
     }
+
+    static constexpr double Joint = 1e-6;
 
     const SolidMesh& mesh_;
     const SeenFaces& seen_;
@@ -169,12 +220,13 @@ bool IsPaleEdge(const SolidMesh& mesh, const MeshEdge& edge, std::size_t shownOf
 }
 
 /// What is seen of an edge.
-void AddPieces(const SolidMesh& mesh, const Cover& cover, const MeshEdge& edge, std::vector<Piece>& pieces) {
+void AddPieces(const SolidMesh& mesh, const Cover& cover, const MeshEdge& edge, EdgeLook look,
+               std::vector<Piece>& pieces) {
     const Ray ray = {mesh.vertices[edge.from], mesh.vertices[edge.to]};
     if (Span(ray.At(0), ray.At(1)) <= NoLength * mesh.size) {
         return;
     }
-    for (const Stretch& part : cover.VisibleParts(ray)) {
+    for (const Stretch& part : cover.VisibleParts(edge, look)) {
         Piece piece{ray.At(part.from), ray.At(part.to), {}, {}};
         if (part.from <= 0) {
             piece.from = OnPicture(ray.from);
@@ -299,8 +351,8 @@ std::vector<SolidEdge> VisibleEdges(const SolidMesh& mesh, const SeenFaces& seen
         const EdgeLook look = LookOf(mesh, edge);
         if (look != EdgeLook::None) {
             const std::size_t layer =
-                (look == EdgeLook::Outline ? 2U : 0U) + (IsPaleEdge(mesh, edge, shownOff) ? 0U : 1U);
-            AddPieces(mesh, cover, edge, layers.at(layer).pieces);
+                (look == EdgeLook::BendLine ? 0U : 2U) + (IsPaleEdge(mesh, edge, shownOff) ? 0U : 1U);
+            AddPieces(mesh, cover, edge, look, layers.at(layer).pieces);
         }
     }
     std::vector<SolidEdge> edges;

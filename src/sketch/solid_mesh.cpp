@@ -364,10 +364,13 @@ EdgeLook LookOf(const SolidMesh& mesh, const MeshEdge& edge) {
     // Two faces that run through their common line in the same direction have their normals on opposite
     // sides of the wall.
     const double sense = RunsAlong(face, edge) == RunsAlong(other, edge) ? -1 : 1;
-    const bool contour = Facing(face.wallNormal.depth) != Facing(sense * other.wallNormal.depth);
     const double bend = sense * Dot(face.wallNormal, other.wallNormal);
-    if (contour || (bend < std::cos(DegToRad(20)) && !edge.diagonal)) {
+    if (bend < std::cos(DegToRad(20)) && !edge.diagonal) {
         return EdgeLook::Outline;
+    }
+    // By the faces themselves: a line of the wall that lies before or behind them would not end the picture.
+    if (Facing(face.normal.depth) != Facing(sense * other.normal.depth)) {
+        return EdgeLook::Contour;
     }
     const bool flatFacesMeet = face.pivot != other.pivot && bend < std::cos(DegToRad(0.1));
     return flatFacesMeet && !edge.diagonal ? EdgeLook::BendLine : EdgeLook::None;

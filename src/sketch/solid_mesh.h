@@ -56,8 +56,8 @@ EyePoint SeenFrom(const SketchView& view, const C3DPoint& point);
 /// of the size are one vertex, and strips and lines without extent are left out.
 SolidMesh MakeSolidMesh(const CRuleSurfs& model, const SketchView& view);
 
-/// How an edge is drawn if nothing hides it.
-enum class EdgeLook { None, BendLine, Outline };
+/// How an edge is drawn if nothing hides it. A contour is where a smooth wall turns away from the eye.
+enum class EdgeLook { None, BendLine, Contour, Outline };
 EdgeLook LookOf(const SolidMesh& mesh, const MeshEdge& edge);
 
 /// A vertex on the picture.
