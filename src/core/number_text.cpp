@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
 
 #include "core/checked.h"
@@ -43,16 +44,58 @@ bool IsTooSmall(std::string_view number) {
     return static_cast<double>(point) - static_cast<double>(first) + *power < 0;
 }
 
+constexpr double FirstOfSixteenDigits = 1e15;
+
+/// A value as a whole number of units of the last place that is to be kept, halves to even.
+double UnitsOf(double value, int places) {
+    return std::nearbyint(
+        Finite(value * PowersOfTen.at(static_cast<std::size_t>(places)), "a rounded number"));
+}
+
+/// Whether a number of so many units has no more digits than a double holds, and no exponent in its text.
+bool IsPlain(double units, int places) {
+    constexpr int PlacesWithoutExponent = 4;
+    const double least =
+        PowersOfTen.at(static_cast<std::size_t>(std::max(places - PlacesWithoutExponent, 0)));
+    const double size = std::fabs(units);
+    return size < FirstOfSixteenDigits && (size >= least || size == 0);
+}
+
+/// The text of a number of units that is plain.
+std::string TextOfUnits(long long units, int places, char decimalMark) {
+    std::array<char, 24> buffer{};
+    char* const end = buffer.data() + buffer.size();
+    char* begin = end;
+    long long rest = std::llabs(units);
+    for (; places > 0 && rest % 10 == 0; --places) {
+        rest /= 10;
+    }
+    const auto putDigit = [&] {
+        *--begin = static_cast<char>('0' + rest % 10);
+        rest /= 10;
+    };
+    if (places > 0) {
+        for (; places > 0; --places) {
+            putDigit();
+        }
+        *--begin = decimalMark;
+    }
+    do {
+        putDigit();
+    } while (rest > 0);
+    if (units < 0) {
+        *--begin = '-';
+    }
+    return {begin, end};
+}
+
 }  // namespace
 
 double RoundPlaces(double value, int places) {
-    const double power = PowersOfTen.at(static_cast<std::size_t>(places));
-    return std::nearbyint(Finite(value * power, "a rounded number")) / power;
+    return UnitsOf(value, places) / PowersOfTen.at(static_cast<std::size_t>(places));
 }
 
 std::string NumberText(double value, char decimalMark) {
-    // Heights of a pattern and steps of a plotter are whole numbers: half of the millions in a large drawing.
-    constexpr double FirstOfSixteenDigits = 1e15;
     if (std::fabs(value) < FirstOfSixteenDigits && value == std::trunc(value)) {
         return std::to_string(static_cast<long long>(value));
     }
@@ -62,7 +105,10 @@ std::string NumberText(double value, char decimalMark) {
 }
 
 std::string RoundedText(double value, int places, char decimalMark) {
-    return NumberText(RoundPlaces(value, places), decimalMark);
+    // A large drawing has coordinates by the million.
+    const double units = UnitsOf(value, places);
+    return IsPlain(units, places) ? TextOfUnits(static_cast<long long>(units), places, decimalMark)
+                                  : NumberText(RoundPlaces(value, places), decimalMark);
 }
 
 std::string ShortestText(double value, char decimalMark) {

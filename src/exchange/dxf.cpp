@@ -144,6 +144,12 @@ void CDXF::WriteTo(const TextSink& sink, std::vector<DxfPart>& parts) const {
     }
 }
 
+void CDXF::EntitiesTo(const EntitySink& take) const {
+    std::vector<DxfPart> parts;
+    DxfStream out(TextSize, take);
+    WriteEntities(out, *this, parts);
+}
+
 std::string CDXF::Text(std::vector<DxfPart>& parts) const {
     std::string text;
     text.reserve(ExpectedBytes(SurfaceList));

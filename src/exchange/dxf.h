@@ -11,6 +11,7 @@
 #include "core/rule_surf.h"
 #include "exchange/cut_drawing.h"
 #include "exchange/dxf_heading.h"
+#include "exchange/transfer_file.h"
 
 namespace korvet {
 
@@ -57,6 +58,9 @@ struct CDXF {
 
     /// Hands the same bytes to a sink as they are made: of the largest fittings they are half a gigabyte.
     void WriteTo(const TextSink& sink, std::vector<DxfPart>& parts) const;
+
+    /// Hands out the entities that ReadTransferFile would find in those bytes, which are not made.
+    void EntitiesTo(const EntitySink& take) const;
 
     /// Writes them to FileName in one step, so that a failed export leaves the old file whole or none.
     /// Throws ArithmeticError and FileError.

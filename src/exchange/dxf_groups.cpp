@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
+#include <optional>
 #include <utility>
 
 #include "core/number_text.h"
@@ -63,7 +65,58 @@ void AppendCode(std::string& text, int code) {
     text += LineEnd;
 }
 
+/// What a drawing has for a letter outside ASCII: \U+ and four hexadecimal digits, for a letter above U+FFFF
+/// twice.
+constexpr std::size_t EscapeLength = 7;
+
+std::optional<char16_t> EscapedUnit(std::u16string_view text) {
+    constexpr std::u16string_view Digits = u"0123456789ABCDEF";
+    if (text.size() < EscapeLength || !text.starts_with(u"\\U+")) {
+        return std::nullopt;
+    }
+    std::size_t unit = 0;
+    for (const char16_t digit : text.substr(3, 4)) {
+        const std::size_t value = Digits.find(digit);
+        if (value == Digits.npos) {
+            return std::nullopt;
+        }
+        unit = unit * Digits.size() + value;
+    }
+    return static_cast<char16_t>(unit);
+}
+
 }  // namespace
+
+double WrittenNumber(double value) {
+    return ParseNumber(NumberText(value)).value();
+}
+
+double WrittenRounded(double value) {
+    // Up to here the digits of the text are all that a double has, so that they give the same one.
+    constexpr double DigitsSuffice = 1e9;
+    const double rounded = RoundPlaces(value, DxfPlaces);
+    return std::fabs(rounded) < DigitsSuffice ? rounded + 0.0 : WrittenNumber(rounded);  // no negative zero
+}
+
+std::string Unescaped(std::string_view word) {
+    if (word.find('\\') == word.npos) {
+        return std::string(word);
+    }
+    const std::u16string units = Utf16Units(word);
+    std::u16string letters;
+    for (std::u16string_view rest = units; !rest.empty();) {
+        const auto escaped = EscapedUnit(rest);
+        letters += escaped.value_or(rest.front());
+        rest.remove_prefix(escaped ? EscapeLength : 1);
+    }
+    return Utf8Of(letters);
+}
+
+std::string WrittenWord(std::string_view word) {
+    std::string text;
+    AppendAscii(text, word);
+    return Unescaped(text);
+}
 
 std::string DxfGroups::Take() {
     return std::exchange(text_, {});
@@ -76,7 +129,14 @@ void DxfGroups::WriteWord(int code, std::string_view word) {
 }
 
 void DxfGroups::WriteNumber(int code, double value) {
-    const std::string number = NumberText(value);
+    WriteNumberText(code, NumberText(value));
+}
+
+void DxfGroups::WriteRounded(int code, double value) {
+    WriteNumberText(code, RoundedText(value, DxfPlaces));
+}
+
+void DxfGroups::WriteNumberText(int code, std::string_view number) {
     AppendCode(text_, code);
     if (number.front() != '-') {
         text_ += ' ';
@@ -84,10 +144,6 @@ void DxfGroups::WriteNumber(int code, double value) {
     text_ += number;
     text_ += ' ';
     text_ += LineEnd;
-}
-
-void DxfGroups::WriteRounded(int code, double value) {
-    WriteNumber(code, RoundPlaces(value, DxfPlaces));
 }
 
 }  // namespace korvet

@@ -14,6 +14,19 @@ inline constexpr int DxfPlaces = 6;
 inline constexpr int NameCode = 2;
 inline constexpr int SizeCode = 40;  ///< the radius of an arc, the height of a text
 
+/// The number that a reader of a drawing finds where WriteRounded has written one. Throws ArithmeticError for
+/// one that is not finite.
+double WrittenRounded(double value);
+
+/// The same for WriteNumber.
+double WrittenNumber(double value);
+
+/// A word that a drawing has in ASCII, as UTF-8: escaped letters are letters again.
+std::string Unescaped(std::string_view word);
+
+/// The same for a word that WriteWord has written: control characters have become blanks.
+std::string WrittenWord(std::string_view word);
+
 /// Builds text of group pairs: the code on one line and the value on the next, each ended by CR LF. Numbers
 /// are in general form with a point, a blank in front unless negative, and one blank behind.
 ///
@@ -25,11 +38,11 @@ inline constexpr int SizeCode = 40;  ///< the radius of an arc, the height of a 
 /// Throws ArithmeticError for a number that is not finite.
 class DxfGroups {
   public:
-    /// Makes room for so many bytes.
-    void Reserve(std::size_t bytes) { text_.reserve(bytes); }
+    /// The text so far.
+    [[nodiscard]] std::string_view Text() const { return text_; }
 
-    /// The bytes of the text so far.
-    [[nodiscard]] std::size_t Size() const { return text_.size(); }
+    /// Forgets the text, but not the room that it took.
+    void Clear() { text_.clear(); }
 
     /// The whole text, which is empty afterwards.
     [[nodiscard]] std::string Take();
@@ -41,6 +54,8 @@ class DxfGroups {
     void WriteRounded(int code, double value);
 
   private:
+    void WriteNumberText(int code, std::string_view number);
+
     std::string text_;
 };
 

@@ -26,12 +26,24 @@ constexpr int MeshRowsCode = 71;
 constexpr int MeshColumnsCode = 72;
 constexpr int JustificationCode = 72;
 
+C3DPoint Written(const C3DPoint& point) {
+    return {WrittenRounded(point.x), WrittenRounded(point.y), WrittenRounded(point.z), PlainStation};
+}
+
+void AddWritten(C3DPoints& written, const C3DPoints& list, std::size_t count) {
+    for (std::size_t i = 1; i <= count; ++i) {
+        written.Add(Written(list.Item(i)));
+    }
+}
+
 }  // namespace
 
 DxfStream::DxfStream(double textSize, TextSink sink) : textSize_(textSize), sink_(std::move(sink)) {
     groups_.WriteWord(EntityCode, "SECTION");
     groups_.WriteWord(NameCode, "ENTITIES");
 }
+
+DxfStream::DxfStream(double textSize, EntitySink take) : textSize_(textSize), take_(std::move(take)) {}
 
 std::string DxfStream::Finish() {
     groups_.WriteWord(EntityCode, "ENDSEC");
@@ -40,6 +52,10 @@ std::string DxfStream::Finish() {
 }
 
 void DxfStream::WriteLine(const C3DPoint& a, const C3DPoint& b, std::string_view layer) {
+    if (take_) {
+        HandOut(layer, TransferLine{Written(a), Written(b)});
+        return;
+    }
     WriteEntity("LINE", layer);
     WritePoint(FirstPointCode, a);
     WritePoint(SecondPointCode, b);
@@ -49,21 +65,32 @@ void DxfStream::WriteLine(const C3DPoint& a, const C3DPoint& b, std::string_view
 
 void DxfStream::WriteArc(const C3DPoint& start, const C3DPoint& end, const C3DPoint& centre,
                          std::string_view layer) {
+    const double radius = Distance3D(centre, start);
+    const double from = PlanAngle(centre, start);
+    const double to = PlanAngle(centre, end);
+    if (take_) {
+        HandOut(layer, TransferArc{Written(centre), WrittenRounded(radius), WrittenRounded(RadToDeg(from)),
+                                   WrittenRounded(RadToDeg(to))});
+        return;
+    }
     WriteEntity("ARC", layer);
     WritePoint(FirstPointCode, centre);
-    groups_.WriteRounded(SizeCode, Distance3D(centre, start));
-    groups_.WriteRounded(StartAngleCode, RadToDeg(PlanAngle(centre, start)));
-    groups_.WriteRounded(EndAngleCode, RadToDeg(PlanAngle(centre, end)));
-    const double from = PlanAngle(centre, start);
-    const double sweep = PlanAngle(centre, end) - from;
-    const Bounds box =
-        BoundsOf(ArcCurve(centre, Distance3D(centre, start), from, sweep > 0 ? sweep : sweep + FullTurn));
+    groups_.WriteRounded(SizeCode, radius);
+    groups_.WriteRounded(StartAngleCode, RadToDeg(from));
+    groups_.WriteRounded(EndAngleCode, RadToDeg(to));
+    const double sweep = to - from;
+    const Bounds box = BoundsOf(ArcCurve(centre, radius, from, sweep > 0 ? sweep : sweep + FullTurn));
     TakeIn({box.minX, box.minY, centre.z});
     TakeIn({box.maxX, box.maxY, centre.z});
 }
 
 void DxfStream::WriteText(std::string_view text, const C3DPoint& point, double angle, std::string_view layer,
                           TextJustification justification) {
+    if (take_) {
+        HandOut(layer, TransferText{Written(point), WrittenNumber(textSize_), static_cast<int>(justification),
+                                    WrittenWord(text), WrittenNumber(RadToDeg(angle))});
+        return;
+    }
     WriteEntity("TEXT", layer);
     WritePoint(FirstPointCode, point);
     groups_.WriteNumber(SizeCode, textSize_);
@@ -75,6 +102,12 @@ void DxfStream::WriteText(std::string_view text, const C3DPoint& point, double a
 }
 
 void DxfStream::WritePolyline(const C3DPoints& list, std::string_view layer) {
+    if (take_) {
+        TransferPolyline polyline;
+        AddWritten(polyline.points, list, list.Count());
+        HandOut(layer, std::move(polyline));
+        return;
+    }
     WriteEntity("POLYLINE", layer);
     groups_.WriteWord(VerticesFollowCode, "1");
     WritePoint(FirstPointCode, {});
@@ -85,7 +118,15 @@ void DxfStream::WritePolyline(const C3DPoints& list, std::string_view layer) {
 }
 
 void DxfStream::WriteMesh(const C3DPoints& list1, const C3DPoints& list2, std::string_view layer) {
+    constexpr std::size_t Rows = 2;
     const std::size_t columns = std::min(list1.Count(), list2.Count());
+    if (take_) {
+        TransferPolyline mesh{{}, Rows, columns};
+        AddWritten(mesh.points, list1, columns);
+        AddWritten(mesh.points, list2, columns);
+        HandOut(layer, std::move(mesh));
+        return;
+    }
     WriteEntity("POLYLINE", layer);
     groups_.WriteWord(VerticesFollowCode, "1");
     WritePoint(FirstPointCode, {});
@@ -101,6 +142,12 @@ void DxfStream::WriteMesh(const C3DPoints& list1, const C3DPoints& list2, std::s
     WriteEntity("SEQEND", layer);
 }
 
+template <typename Shape>
+void DxfStream::HandOut(std::string_view layer, Shape shape) {
+    WorkWatch::Look();
+    take_({WrittenWord(layer), std::move(shape)});
+}
+
 void DxfStream::WritePoint(int xCode, const C3DPoint& point) {
     groups_.WriteRounded(xCode, point.x);
     groups_.WriteRounded(xCode + 10, point.y);
@@ -109,10 +156,10 @@ void DxfStream::WritePoint(int xCode, const C3DPoint& point) {
 
 void DxfStream::WriteEntity(std::string_view name, std::string_view layer) {
     WorkWatch::Look();
-    if (sink_ && groups_.Size() >= PieceBytes) {
-        const std::string piece = groups_.Take();
-        sink_(piece);
-        taken_ += piece.size();
+    if (sink_ && groups_.Text().size() >= PieceBytes) {
+        sink_(groups_.Text());
+        taken_ += groups_.Text().size();
+        groups_.Clear();
     }
     groups_.WriteWord(EntityCode, name);
     groups_.WriteWord(LayerCode, layer);

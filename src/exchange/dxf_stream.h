@@ -10,6 +10,7 @@
 #include "core/points.h"
 #include "exchange/dxf_groups.h"
 #include "exchange/dxf_heading.h"
+#include "exchange/transfer_file.h"
 
 namespace korvet {
 
@@ -27,10 +28,14 @@ class DxfStream {
     /// unrounded. The sink, if there is one, takes the text in large pieces as it grows.
     explicit DxfStream(double textSize, TextSink sink = {});
 
-    /// The bytes of the text so far, those that the sink has taken too.
-    [[nodiscard]] std::size_t Size() const { return taken_ + groups_.Size(); }
+    /// A stream without text: each entity is handed out as ReadTransferFile would find it in the text.
+    DxfStream(double textSize, EntitySink take);
 
-    /// The box about all entities so far, texts by the points they stand at; nothing without any.
+    /// The bytes of the text so far, those that the sink has taken too.
+    [[nodiscard]] std::size_t Size() const { return taken_ + groups_.Text().size(); }
+
+    /// The box about all entities so far, texts by the points they stand at; nothing without
+    /// any, or without text.
     [[nodiscard]] const std::optional<DxfExtents>& Extents() const { return extents_; }
 
     /// Closes the section and gives what no sink has taken: without one, the whole file. The stream is empty
@@ -61,8 +66,12 @@ class DxfStream {
 
     void TakeIn(const C3DPoint& point);
 
+    template <typename Shape>
+    void HandOut(std::string_view layer, Shape shape);
+
     double textSize_;
     TextSink sink_;
+    EntitySink take_;
     std::size_t taken_ = 0;  ///< bytes that the sink has
     DxfGroups groups_;
     std::optional<DxfExtents> extents_;

@@ -3,6 +3,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <initializer_list>
 
 #include "core/math_module.h"
 #include "core/number_text.h"
@@ -18,14 +19,14 @@ constexpr double StepsPerInch = 1016;
 constexpr double FullCircle = 360;      // degrees
 constexpr double DirectionScale = 100;  // of a text's run and rise
 constexpr int DirectionPlaces = 3;
-constexpr char TextEnd = '#';
+constexpr std::string_view TextEnd = "#";
 
 /// The letters of a text that the plotter can draw.
 std::string PlotterText(std::string_view text) {
     std::string plotted;
     for (const char letter : text) {
         const auto byte = static_cast<unsigned char>(letter);
-        if (letter == TextEnd) {
+        if (letter == TextEnd.front()) {
             plotted += ' ';
         } else if (byte >= 0xC0) {
             plotted += '?';  // the first byte of a letter outside ASCII; the others follow
@@ -54,13 +55,13 @@ class PlotText {
   public:
     PlotText(double stepsPerUnit, const C3DPoint& offset, const TextSink& sink)
         : steps_(stepsPerUnit), offset_(offset), sink_(sink) {
-        Add("IN");
-        Add("SP1");
+        Add({"IN"});
+        Add({"SP1"});
     }
 
     void Finish() {
-        Add("PU");
-        Add("SP0");
+        Add({"PU"});
+        Add({"SP0"});
         sink_(plot_);
     }
 
@@ -69,17 +70,17 @@ class PlotText {
     void Draw(const TransferArc& arc) {
         const double end = arc.end < arc.start ? arc.end + FullCircle : arc.end;
         MoveTo(PolarPoint(arc.centre, DegToRad(arc.start), arc.radius));
-        Add("PD");
-        Add("AA" + Position(arc.centre) + "," + SweepText(end - arc.start) + ",1");
+        Add({"PD"});
+        Add({"AA", X(arc.centre), ",", Y(arc.centre), ",", SweepText(end - arc.start), ",1"});
     }
 
     void Draw(const TransferText& text) {
         const double angle = DegToRad(text.angle);
         MoveTo(text.point);
-        Add("DI" + RoundedText(std::cos(angle) * DirectionScale, DirectionPlaces) + "," +
-            RoundedText(std::sin(angle) * DirectionScale, DirectionPlaces));
-        Add(std::string("DT") + TextEnd);
-        Add("LB" + PlotterText(text.text) + TextEnd);
+        Add({"DI", RoundedText(std::cos(angle) * DirectionScale, DirectionPlaces), ",",
+             RoundedText(std::sin(angle) * DirectionScale, DirectionPlaces)});
+        Add({"DT", TextEnd});
+        Add({"LB", PlotterText(text.text), TextEnd});
     }
 
     /// An edge of two points comes as a polyline; longer ones don't come at all in a drawing made of arcs.
@@ -92,23 +93,30 @@ class PlotText {
   private:
     void PlotLine(const C3DPoint& a, const C3DPoint& b) {
         MoveTo(a);
-        Add("PD");
-        Add("PA" + Position(b));
+        Add({"PD"});
+        Add({"PA", X(b), ",", Y(b)});
     }
 
     void MoveTo(const C3DPoint& point) {
-        Add("PU");
-        Add("PA" + Position(point));
+        Add({"PU"});
+        Add({"PA", X(point), ",", Y(point)});
     }
 
-    [[nodiscard]] std::string Position(const C3DPoint& point) const {
-        return RoundedText((point.x + offset_.x) * steps_, 0) + "," +
-               RoundedText((point.y + offset_.y) * steps_, 0);
+    [[nodiscard]] std::string X(const C3DPoint& point) const {
+        return RoundedText((point.x + offset_.x) * steps_, 0);
     }
 
-    void Add(const std::string& instruction) {
+    [[nodiscard]] std::string Y(const C3DPoint& point) const {
+        return RoundedText((point.y + offset_.y) * steps_, 0);
+    }
+
+    /// An instruction, in the parts that it is put together of.
+    void Add(std::initializer_list<std::string_view> instruction) {
         constexpr std::size_t PlotPieceBytes = std::size_t{1} << 18U;
-        plot_.append(instruction).append(";\r\n");
+        for (const std::string_view part : instruction) {
+            plot_ += part;
+        }
+        plot_ += ";\r\n";
         if (plot_.size() >= PlotPieceBytes) {
             sink_(plot_);
             plot_.clear();
@@ -127,12 +135,17 @@ C3DPoint OffsetOf(const CRuleSurfs& surfaces) {
     return frame ? C3DPoint{-frame->front().x, -frame->front().y, 0, PlainStation} : C3DPoint();
 }
 
+/// The text must outlive the source.
+EntitySource EntitiesOf(std::string_view drawing) {
+    return [drawing](const EntitySink& take) { ReadTransferFile(drawing, take); };
+}
+
 }  // namespace
 
-void CHPGL::PlotTo(const TextSink& sink, std::string_view drawing) const {
+void CHPGL::PlotTo(const TextSink& sink, const EntitySource& drawing) const {
     const double steps = PrintUnits == PrintMillimetres ? StepsPerMillimetre : StepsPerInch;
     PlotText plot(steps, OffsetOf(SurfaceList), sink);
-    ReadTransferFile(drawing, [&plot](const TransferEntity& entity) {
+    drawing([&plot](const TransferEntity& entity) {
         std::visit([&plot](const auto& shape) { plot.Draw(shape); }, entity.shape);
     });
     plot.Finish();
@@ -140,11 +153,11 @@ void CHPGL::PlotTo(const TextSink& sink, std::string_view drawing) const {
 
 std::string CHPGL::Plot(std::string_view drawing) const {
     std::string plot;
-    PlotTo([&plot](std::string_view piece) { plot += piece; }, drawing);
+    PlotTo([&plot](std::string_view piece) { plot += piece; }, EntitiesOf(drawing));
     return plot;
 }
 
-void CHPGL::WritePlot(FileStore& files, std::string_view drawing) const {
+void CHPGL::WritePlot(FileStore& files, const EntitySource& drawing) const {
     files.WritePieces(
         FileName, [&](const TextSink& sink) { PlotTo(sink, drawing); }, Flush::No);
 }
@@ -153,7 +166,8 @@ bool CHPGL::TransferTempFile(FileStore& files, const std::string& transferFile) 
     if (!files.Exists(transferFile)) {
         return false;
     }
-    WritePlot(files, files.Read(transferFile, LargestDrawing));
+    const std::string drawing = files.Read(transferFile, LargestDrawing);
+    WritePlot(files, EntitiesOf(drawing));
     return true;
 }
 

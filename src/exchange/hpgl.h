@@ -7,14 +7,15 @@
 
 #include "core/file_store.h"
 #include "core/rule_surf.h"
+#include "exchange/transfer_file.h"
 
 namespace korvet {
 
 /// What a drawing of another unit than millimetres is taken as by the plotter: inches.
 inline constexpr std::int16_t PrintMillimetres = 6;
 
-/// Turns an exported drawing into a plot. It starts from the drawing and not from the surfaces, which only
-/// tell where the drawing lies.
+/// Turns an exported drawing into a plot. It starts from the entities of the drawing and not from the
+/// surfaces, which only tell where the drawing lies.
 struct CHPGL {
     CRuleSurfs SurfaceList;                      ///< of the drawing
     std::int16_t PrintUnits = PrintMillimetres;  ///< of the drawing: PrintMillimetres, or else inches
@@ -31,11 +32,12 @@ struct CHPGL {
     /// ArithmeticError.
     [[nodiscard]] std::string Plot(std::string_view drawing) const;
 
-    /// Hands the same plot to a sink as it is made. What a fault leaves of it is of no use.
-    void PlotTo(const TextSink& sink, std::string_view drawing) const;
+    /// Hands the plot of a drawing's entities to a sink as it is made. What a fault leaves of it is of no
+    /// use.
+    void PlotTo(const TextSink& sink, const EntitySource& drawing) const;
 
-    /// Writes the plot of a drawing to FileName in one step. Throws as Plot does, and FileError.
-    void WritePlot(FileStore& files, std::string_view drawing) const;
+    /// Writes that plot to FileName in one step. Throws as Plot does, and FileError.
+    void WritePlot(FileStore& files, const EntitySource& drawing) const;
 
     /// Reads the drawing back from the transfer file and writes its plot to FileName in one step. False, and
     /// nothing is done, when there is no transfer file. Throws as Plot does, and FileError.

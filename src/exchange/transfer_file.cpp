@@ -1,45 +1,10 @@
 #include "exchange/transfer_file.h"
 
-#include "core/text_encoding.h"
+#include "exchange/dxf_groups.h"
 #include "exchange/dxf_lines.h"
 
 namespace korvet {
 namespace {
-
-/// What a drawing has for a letter outside ASCII: \U+ and four hexadecimal digits, for a letter above U+FFFF
-/// twice.
-constexpr std::size_t EscapeLength = 7;
-
-std::optional<char16_t> EscapedUnit(std::u16string_view text) {
-    constexpr std::u16string_view Digits = u"0123456789ABCDEF";
-    if (text.size() < EscapeLength || !text.starts_with(u"\\U+")) {
-        return std::nullopt;
-    }
-    std::size_t unit = 0;
-    for (const char16_t digit : text.substr(3, 4)) {
-        const std::size_t value = Digits.find(digit);
-        if (value == Digits.npos) {
-            return std::nullopt;
-        }
-        unit = unit * Digits.size() + value;
-    }
-    return static_cast<char16_t>(unit);
-}
-
-/// The text with its escaped letters as letters again.
-std::string Unescaped(std::string_view text) {
-    if (text.find('\\') == text.npos) {
-        return std::string(text);
-    }
-    const std::u16string units = Utf16Units(text);
-    std::u16string letters;
-    for (std::u16string_view rest = units; !rest.empty();) {
-        const auto escaped = EscapedUnit(rest);
-        letters += escaped.value_or(rest.front());
-        rest.remove_prefix(escaped ? EscapeLength : 1);
-    }
-    return Utf8Of(letters);
-}
 
 /// The groups of the file one after the other: a line with the code and one with the value.
 class TransferGroups {
@@ -166,7 +131,7 @@ TransferPolyline ReadPolyline(TransferGroups& groups) {
 
 }  // namespace
 
-void ReadTransferFile(std::string_view text, const std::function<void(TransferEntity)>& take) {
+void ReadTransferFile(std::string_view text, const EntitySink& take) {
     constexpr int Opening = 5;  // "SECTION" and "ENTITIES" with their codes, and the code of what follows
     TransferGroups groups(text);
     groups.Skip(Opening);

@@ -52,6 +52,12 @@ struct TransferEntity {
     std::variant<TransferLine, TransferArc, TransferText, TransferPolyline> shape;
 };
 
+/// Takes the entities of a drawing one after the other.
+using EntitySink = std::function<void(TransferEntity)>;
+
+/// Hands the entities of a drawing to a sink.
+using EntitySource = std::function<void(const EntitySink&)>;
+
 /// The entities of a drawing that CDXF has written, in their order. Their groups are taken by position, as
 /// CDXF puts them, so that no name of a layer and no text is mistaken for a code; other entities are passed
 /// over. Escaped letters of layers and texts are letters again. Coordinates are in the user's unit. Throws
@@ -60,6 +66,6 @@ std::vector<TransferEntity> ReadTransferFile(std::string_view text);
 
 /// Hands the same entities to `take`, one after the other; those before a fault have been handed over when it
 /// throws.
-void ReadTransferFile(std::string_view text, const std::function<void(TransferEntity)>& take);
+void ReadTransferFile(std::string_view text, const EntitySink& take);
 
 }  // namespace korvet

@@ -57,7 +57,9 @@ Outcome ExportHPGL(CFittingWindow& window, const std::string& plotFile) {
 Outcome PlotDrawing(CFittingWindow& window, CDXF drawing, const std::string& plotFile) {
     WindowContext& context = window.Context();
     if (context.transfer == nullptr || context.plotter == nullptr) {
-        PlotOf(window, plotFile).WritePlot(context.files, drawing.Text());
+        PlotOf(window, plotFile).WritePlot(context.files, [&drawing](const EntitySink& take) {
+            drawing.EntitiesTo(take);
+        });
         return Passed;
     }
     const auto held = HoldTransferPlace(context);

@@ -6,6 +6,8 @@
 #include <cmath>
 #include <cstdio>
 #include <limits>
+#include <random>
+#include <vector>
 
 #include "core/checked.h"
 
@@ -60,6 +62,24 @@ TEST(NumberText, WritesTheLocalesMark) {
     EXPECT_EQ(NumberText(1.5e-05, ','), "1,5e-05");
     EXPECT_EQ(NumberText(1234567.5, ','), "1234567,5");
     EXPECT_EQ(RoundedText(2.25, 1, ','), "2,2");
+}
+
+TEST(NumberText, ARoundedTextIsTheTextOfTheRoundedNumber) {
+    std::vector<double> values = {0,      -0.0000004, 0.0001, 0.00009999995,     0.00009,  1e-15, 0.5,
+                                  0.9995, 99.9999995, 1e9,    999999999.9999994, 1e15 - 1, 1e15,  1e17};
+    std::mt19937 random(20260);
+    std::uniform_real_distribution<double> digits(-1, 1);
+    std::uniform_real_distribution<double> power(-8, 17);
+    for (int i = 0; i < 2000; ++i) {
+        values.push_back(digits(random) * std::pow(10, power(random)));
+    }
+    for (const double value : values) {
+        for (int places = 0; places <= 15; ++places) {
+            std::array<char, 40> text{};
+            (void)std::snprintf(text.data(), text.size(), "%.15g", RoundPlaces(value, places) + 0.0);
+            EXPECT_EQ(RoundedText(value, places), text.data()) << value << " to " << places;
+        }
+    }
 }
 
 TEST(NumberText, WhatIsNotFiniteHasNone) {

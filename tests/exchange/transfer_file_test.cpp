@@ -3,12 +3,89 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+#include <random>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "core/checked.h"
+#include "core/number_text.h"
 #include "exchange/dxf_stream.h"
 #include "tests/support/near.h"
 #include "tests/support/point_lists.h"
 
 namespace korvet {
 namespace {
+
+/// All of an entity, its numbers to the last bit.
+std::string Described(const TransferEntity& entity) {
+    std::string text = entity.layer;
+    const auto number = [&text](double value) {
+        text += (std::signbit(value) ? " -" : " ") + ShortestText(std::fabs(value));
+    };
+    const auto point = [&number](const C3DPoint& at) {
+        for (const double value : {at.x, at.y, at.z, static_cast<double>(at.Flag)}) {
+            number(value);
+        }
+    };
+    if (const auto* line = std::get_if<TransferLine>(&entity.shape)) {
+        point(line->a);
+        point(line->b);
+    } else if (const auto* arc = std::get_if<TransferArc>(&entity.shape)) {
+        point(arc->centre);
+        for (const double value : {arc->radius, arc->start, arc->end}) {
+            number(value);
+        }
+    } else if (const auto* words = std::get_if<TransferText>(&entity.shape)) {
+        point(words->point);
+        for (const double value : {words->size, static_cast<double>(words->justification), words->angle}) {
+            number(value);
+        }
+        text += words->text;
+    } else {
+        const auto& polyline = std::get<TransferPolyline>(entity.shape);
+        text += " " + std::to_string(polyline.rows) + " by " + std::to_string(polyline.columns);
+        std::for_each(polyline.points.begin(), polyline.points.end(), point);
+    }
+    return text;
+}
+
+/// All kinds of entities, with coordinates near and far.
+void WriteAll(DxfStream& out) {
+    std::mt19937 random(20261);
+    std::uniform_real_distribution<double> digits(-1, 1);
+    std::uniform_real_distribution<double> power(-8, 14);
+    const auto any = [&] { return digits(random) * std::pow(10, power(random)); };
+    const auto anywhere = [&] { return C3DPoint{any(), any(), any(), RuleStation}; };
+    out.WriteLine({-0.0000001, 1e9, 999999999.9999994}, {1e15, -1e9 + 1e-6, 0.0000014}, "");
+    for (int i = 0; i < 300; ++i) {
+        const C3DPoint a = anywhere();
+        const C3DPoint b = anywhere();
+        const C3DPoint c = anywhere();
+        out.WriteLine(a, b, "Cut");
+        out.WriteArc(a, b, c, " M\u00e4nner\n\xff ");
+        out.WriteText(" \t\\U+00FC \u00d8 \\M+N ", a, any(), "Text", TextJustification::Centre);
+        out.WritePolyline(PointsOf({a, b, c}), "Cut");
+        out.WriteMesh(PointsOf({a, b}), PointsOf({c, a, b}), "Fold");
+    }
+}
+
+TEST(TransferFile, HoldsTheEntitiesThatAreHandedOutWithoutIt) {
+    constexpr double TextSize = 1.0 / 3;
+    std::vector<std::string> found;
+    const EntitySink note = [&found](const TransferEntity& entity) { found.push_back(Described(entity)); };
+    DxfStream written(TextSize);
+    WriteAll(written);
+    ReadTransferFile(written.Finish(), note);
+    const std::vector<std::string> read = std::exchange(found, {});
+    DxfStream without(TextSize, note);
+    WriteAll(without);
+    EXPECT_EQ(found, read);
+    EXPECT_EQ(read.size(), 1501U);
+    EXPECT_THROW(without.WriteLine({std::nan(""), 0, 0}, {}, "Cut"), ArithmeticError);
+}
 
 TEST(TransferFile, HoldsWhatWasWritten) {
     DxfStream out(2.5);
