@@ -29,6 +29,7 @@ void Redraw(benchmark::State& state, int viewButton, bool markedOut) {
     window->settings.segs = static_cast<int>(state.range(0));
     DrawingArea area(*window, nullptr);
     area.resize(AreaSize);
+    area.show();  // only what is shown knows its screen at once
     CObjectDisplay& display = window->display;
     display.TrueLengthsRequested = display.DiagonalsRequested = display.CoordGridRequested = markedOut;
     display.CoordTableRequested = display.FrameRequested = markedOut;

@@ -6,6 +6,7 @@
 #include <QPainterPath>
 #include <QPolygonF>
 #include <QTextLayout>
+#include <QTransform>
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
@@ -148,13 +149,19 @@ const QList<QGlyphRun>& PainterDevice::LettersOf(MeasuredFont& font, const std::
     return letters->second;
 }
 
-/// Letters over the same letters in the colour of the ground, a step aside.
+/// Letters over the same letters in the colour of the ground, a step aside. The steps are along the rows and
+/// columns of the picture however the text is turned: a letter that moves by whole pixels is drawn once and
+/// used again.
 void PainterDevice::DrawRimmed(QPainter& painter, MeasuredFont& font, const std::string& text, Color color,
                                Color ground) const {
     const QList<QGlyphRun>& letters = LettersOf(font, text);
+    const QTransform turned = painter.worldTransform();
+    const QTransform back =
+        QTransform(turned.m11(), turned.m12(), turned.m21(), turned.m22(), 0, 0).inverted();
+    const double step = std::round(TextRim * PixelRatio());
     const auto draw = [&](QPointF aside) {
         for (const QGlyphRun& run : letters) {
-            painter.drawGlyphRun(aside * (TextRim * PixelRatio()), run);
+            painter.drawGlyphRun(back.map(aside * step), run);
         }
     };
     painter.setPen(ColorOf(ground));

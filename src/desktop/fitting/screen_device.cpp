@@ -29,7 +29,8 @@ PixelSize ScreenDevice::ScaleSize() const {
 }
 
 PixelSize ScreenDevice::NextSize() const {
-    return {static_cast<double>(NextPixels().width()), static_cast<double>(NextPixels().height())};
+    const QSize pixels = NextPixels();
+    return {static_cast<double>(pixels.width()), static_cast<double>(pixels.height())};
 }
 
 QPainter* ScreenDevice::Painter() {
