@@ -55,6 +55,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string report = folder.Take("out.json");
     const std::string drawing = folder.Take("out.dxf");
     const std::string saved = folder.Take("out.Kvt");
+    Require((text + report).find("bad_alloc") == std::string::npos, "an error in no words of ours");
     Require(report.empty() || report.ends_with("}\n"), "half a report");
     Require(drawing.empty() || drawing.ends_with("EOF\r\n"), "half a drawing");
     Require(status != korvet::batch::Done || !(report.empty() || drawing.empty() || saved.empty()),

@@ -14,6 +14,7 @@
 #include "batch/progress_line.h"
 #include "batch/report_output.h"
 #include "batch/set_values.h"
+#include "core/reason.h"
 #include "dialogs/options_file.h"
 #include "platform/disk_files.h"
 #include "platform/graphics_application.h"
@@ -60,7 +61,7 @@ class InputWork {
             ui_.PrintLine((input_.file.empty() ? "korvet-batch" : input_.label) + ": " + error.what());
             status_ = WrongUsage;
         } catch (const std::exception& error) {
-            ui_.PrintAbout(error.what());
+            ui_.PrintAbout(ReasonOf(error));
             status_ = Failed;
         }
         files_.onPartedNames = nullptr;
@@ -153,7 +154,7 @@ class BatchRun {
             ReadOptionsFile(shared_.options, files, ui);
             return true;
         } catch (const std::exception& error) {
-            Say(error.what());
+            Say(ReasonOf(error));
             return false;
         }
     }
@@ -185,7 +186,7 @@ class BatchRun {
                 step(*report_);
             }
         } catch (const std::exception& error) {
-            Say(error.what());
+            Say(ReasonOf(error));
             TakeStatus(Failed);
         }
     }
@@ -229,7 +230,7 @@ int RunCommandLine(int argc, const char* const* argv) {
         std::cerr << "korvet-batch: " << error.what() << "\nkorvet-batch --help tells the options.\n";
         return WrongUsage;
     } catch (const std::exception& error) {
-        std::cerr << "korvet-batch: " << error.what() << '\n';
+        std::cerr << "korvet-batch: " << ReasonOf(error) << '\n';
         return Failed;
     }
 }

@@ -1,8 +1,7 @@
 #include "batch/input_run.h"
 
-#include <new>
-
 #include "batch/set_values.h"
+#include "core/reason.h"
 #include "frame/catalogue.h"
 #include "frame/new_fitting.h"
 #include "window/import_mesh.h"
@@ -26,12 +25,9 @@ void InputRun::Run() {
         }
         outputs_.reset();
         ShowPlain(ui_, error.what());
-    } catch (const std::bad_alloc&) {
-        outputs_.reset();
-        ShowPlain(ui_, "There is not enough memory for this");
     } catch (const std::exception& error) {
         outputs_.reset();
-        ShowPlain(ui_, error.what());
+        ShowPlain(ui_, ReasonOf(error));
     }
 }
 

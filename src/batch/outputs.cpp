@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "batch/json_text.h"
+#include "core/reason.h"
 #include "window/saving.h"
 #include "window/views.h"
 
@@ -110,7 +111,7 @@ Outcome Outputs::WritePicture(const std::string& path, PictureFormat format) {
         picture.Save(path, window_.Context().files);
         return Passed;
     } catch (const std::exception& error) {
-        ShowPlain(ui_, error.what());
+        ShowPlain(ui_, ReasonOf(error));
         return Refused;
     }
 }
@@ -141,7 +142,7 @@ Outcome Outputs::CheckCutFile() {
         }
         return RefusedIf(!check_ || !check_->cut.faults.empty());
     } catch (const std::exception& error) {
-        ShowPlain(ui_, error.what());
+        ShowPlain(ui_, ReasonOf(error));
         return Refused;
     }
 }

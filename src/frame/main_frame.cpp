@@ -6,6 +6,7 @@
 
 #include "core/constants.h"
 #include "core/number_text.h"
+#include "core/reason.h"
 #include "frame/about.h"
 #include "frame/category_menu.h"
 #include "frame/new_fitting.h"
@@ -65,7 +66,7 @@ void CMainFrame::Guarded(const std::function<void()>& work) {
     try {
         work();
     } catch (const std::exception& error) {
-        ShowPlain(context_.ui, error.what());
+        ShowPlain(context_.ui, ReasonOf(error));
     }
 }
 

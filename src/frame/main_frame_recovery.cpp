@@ -1,5 +1,6 @@
 // What the main frame does about recovery copies.
 #include "core/constants.h"
+#include "core/reason.h"
 #include "frame/main_frame.h"
 #include "window/saving.h"
 
@@ -17,7 +18,7 @@ Outcome CMainFrame::KeepCopies() {
         if (!copiesFailed_) {
             copiesFailed_ = true;
             ShowPlain(context_.ui, "What is typed cannot be kept for the case that the program ends badly",
-                      error.what());
+                      ReasonOf(error));
         }
         return Refused;
     }

@@ -4,6 +4,7 @@
 #include <system_error>
 
 #include "core/constants.h"
+#include "core/reason.h"
 #include "dialogs/options_file.h"
 
 namespace korvet {
@@ -82,7 +83,7 @@ Outcome SetupStartup(WindowContext& context, const SettingsStore& settings,
             return Refused;
         }
     } catch (const std::exception& error) {
-        ShowPlain(context.ui, error.what());
+        ShowPlain(context.ui, ReasonOf(error));
         return Refused;
     }
     CPrintDialog& printer = context.printDialog;

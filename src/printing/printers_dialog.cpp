@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/number_text.h"
+#include "core/reason.h"
 #include "form/messages.h"
 
 namespace korvet {
@@ -151,7 +152,7 @@ bool PrintersDialog::IsChosen(Action action) const {
 }
 
 void ShowPrintError(MessageBoxes& boxes, const COptions& options, const std::exception& error) {
-    ShowPlain(boxes, GetMessage(PrinterProblem, options.Language) + " " + error.what());
+    ShowPlain(boxes, GetMessage(PrinterProblem, options.Language) + " " + ReasonOf(error));
 }
 
 }  // namespace korvet

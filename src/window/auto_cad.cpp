@@ -5,6 +5,7 @@
 #include "core/constants.h"
 #include "core/math_module.h"
 #include "core/number_text.h"
+#include "core/reason.h"
 #include "core/text_encoding.h"
 #include "exchange/mesh_dxf.h"
 #include "window/transfer.h"
@@ -279,7 +280,7 @@ Outcome TransferToAcad(WindowContext& context) {
         return context.acad->TransferTempFile(TransferFile(context));
     } catch (const std::exception& error) {
         ShowPlain(context.ui, "The transfer to AutoCAD has come to an end before all was drawn",
-                  Printable(error.what()));
+                  Printable(ReasonOf(error)));
         return Refused;
     }
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/constants.h"
+#include "core/reason.h"
 #include "dialogs/small_dialogs.h"
 #include "exchange/dxf.h"
 #include "window/auto_cad.h"
@@ -149,7 +150,7 @@ std::string CheckText(const CFittingWindow& window, const CDXF& drawing) {
             }
         }
     } catch (const std::exception& error) {
-        text = std::string("The file could not be checked: ") + error.what();
+        text = std::string("The file could not be checked: ") + ReasonOf(error);
     }
     return text;
 }
@@ -238,7 +239,7 @@ Outcome ExportFitting(CFittingWindow& window, const std::string& path, ExportMod
     } catch (const WorkCancelled&) {
         return Refused;  // the old file is whole
     } catch (const std::exception& error) {
-        ShowPlain(context.ui, context.Message(DxfProblem) + " " + std::to_string(step), error.what());
+        ShowPlain(context.ui, context.Message(DxfProblem) + " " + std::to_string(step), ReasonOf(error));
         return Refused;
     }
 }

@@ -4,6 +4,7 @@
 
 #include "core/constants.h"
 #include "core/number_text.h"
+#include "core/reason.h"
 #include "core/work_watch.h"
 #include "dialogs/branch_additional_dialog.h"
 #include "window/export_fitting.h"
@@ -276,7 +277,7 @@ Outcome CFittingWindow::WriteTable(const std::string& path) {
         display.PrintCoordinateTable(context_.files, path);
         return Passed;
     } catch (const std::exception& error) {
-        ShowPlain(context_.ui, "Error in COptions:WriteTableFile", error.what());
+        ShowPlain(context_.ui, "Error in COptions:WriteTableFile", ReasonOf(error));
         return Refused;
     }
 }

@@ -5,6 +5,7 @@
 
 #include "core/checked.h"
 #include "core/math_module.h"
+#include "core/reason.h"
 #include "dialogs/small_dialogs.h"
 #include "window/fitting_window.h"
 #include "window/measure.h"
@@ -66,7 +67,7 @@ bool CFittingWindow::RunMouseStep(Step step) {
         return step();
     } catch (const std::exception& error) {
         EndRubberBand();
-        ShowPlain(context_.ui, context_.Message(NotAtThisTime), error.what());
+        ShowPlain(context_.ui, context_.Message(NotAtThisTime), ReasonOf(error));
         return false;
     }
 }

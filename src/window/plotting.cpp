@@ -1,5 +1,6 @@
 #include "window/plotting.h"
 
+#include "core/reason.h"
 #include "core/text_encoding.h"
 #include "exchange/hpgl.h"
 #include "exchange/mesh_dxf.h"
@@ -47,7 +48,7 @@ Outcome ExportHPGL(CFittingWindow& window, const std::string& plotFile) {
             return Refused;
         }
     } catch (const std::exception& error) {
-        ShowPlain(context.ui, "Error in ExportHPGL " + Printable(error.what()));
+        ShowPlain(context.ui, "Error in ExportHPGL " + Printable(ReasonOf(error)));
         return Refused;
     }
     ShowPlain(context.ui, "File sent");

@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "core/constants.h"
+#include "core/reason.h"
 #include "core/text_encoding.h"
 #include "window/export_fitting.h"
 #include "window/parameter_file.h"
@@ -13,7 +14,7 @@ namespace {
 /// What is wrong with a file, behind its name; the errors of the disk name it themselves.
 std::string FaultOf(const std::string& path, const std::exception& error) {
     const std::string name = path + ": ";
-    const std::string fault = error.what();
+    const std::string fault = ReasonOf(error);
     return Printable(fault.starts_with(name) ? fault : name + fault);
 }
 
@@ -57,7 +58,7 @@ void ShowForeignProduct(WindowContext& context, const std::string& path, const s
 }
 
 void ShowHeaderError(MessageBoxes& boxes, const std::string& path, const std::exception& error) {
-    ShowPlain(boxes, "Error in CKVTFile:ReadHeader  " + Printable(error.what()), Printable(path));
+    ShowPlain(boxes, "Error in CKVTFile:ReadHeader  " + Printable(ReasonOf(error)), Printable(path));
 }
 
 void ShowLoadError(WindowContext& context, const std::string& path, const std::exception& error) {
@@ -94,7 +95,7 @@ Outcome SaveFitting(CFittingWindow& window, const std::string& path) {
     try {
         file.SaveFile(context.files, context.decimalMark);
     } catch (const std::exception& error) {
-        ShowPlain(context.ui, error.what());
+        ShowPlain(context.ui, ReasonOf(error));
         return Refused;
     }
     window.controls.caption = path;

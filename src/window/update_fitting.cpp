@@ -2,11 +2,11 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <new>
 
 #include "core/constants.h"
 #include "core/math_module.h"
 #include "core/number_text.h"
+#include "core/reason.h"
 #include "window/fitting_types.h"
 #include "window/fitting_window.h"
 #include "window/views.h"
@@ -61,8 +61,7 @@ void CFittingWindow::Rebuild() {
 /// A size so far out that the arithmetic ends: the window stays, with no model to save or print.
 void CFittingWindow::RefuseBuild(const std::exception& error) {
     hasModel = false;
-    const bool noMemory = dynamic_cast<const std::bad_alloc*>(&error) != nullptr;
-    context_.ui.Show(NotMakeable(noMemory ? "there is not enough memory" : error.what()));
+    context_.ui.Show(NotMakeable(ReasonOf(error)));
 }
 
 Outcome CFittingWindow::BuildFitting() {

@@ -1,5 +1,6 @@
 // The commands that the main frame forwards to the active fitting window.
 #include "core/constants.h"
+#include "core/reason.h"
 #include "dialogs/small_dialogs.h"
 #include "window/fitting_window.h"
 #include "window/views.h"
@@ -107,7 +108,7 @@ void CFittingWindow::ZoomExtents() {
             return;
         }
     } catch (const std::exception& error) {
-        ShowPlain(context_.ui, context_.Message(NoExtents), error.what());
+        ShowPlain(context_.ui, context_.Message(NoExtents), ReasonOf(error));
         return;
     }
     UpdateFitting();

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "core/number_text.h"
+#include "core/reason.h"
 #include "display/page_clip.h"
 #include "printing/print_scale.h"
 #include "printing/printers_dialog.h"
@@ -322,7 +323,7 @@ void CFittingWindow::PrintTable() {
             PrintLines(job, context_.files.Read(TableFile, TableLimit));
             return true;
         } catch (const std::exception& error) {
-            ShowPlain(context_.ui, "Error in CObjectDisplay:SendTableToPrinter", error.what());
+            ShowPlain(context_.ui, "Error in CObjectDisplay:SendTableToPrinter", ReasonOf(error));
             return false;
         }
     });

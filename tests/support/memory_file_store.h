@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <functional>
 #include <map>
+#include <new>
 #include <set>
 #include <string>
 #include <vector>
@@ -23,6 +24,7 @@ class MemoryFileStore final : public FileStore {
     std::map<std::string, std::string> files;  ///< the bytes by path; a test may put files here itself
     std::set<std::string> unreadable;          ///< paths at which Read throws though the file exists
     std::set<std::string> unwritable;          ///< paths at which Write and Create throw and change nothing
+    std::set<std::string> exhausting;          ///< paths at which Read and Write run out of memory
     std::map<std::string, std::string> links;  ///< other paths of files
     std::vector<Written> writes;               ///< successful writes, in their order
 
@@ -40,6 +42,7 @@ class MemoryFileStore final : public FileStore {
         if (file == files.end()) {
             throw FileError(path + ": no such file");
         }
+        RequireMemory(path);
         if (unreadable.contains(path)) {
             throw FileError(path + ": cannot be read");
         }
@@ -50,6 +53,7 @@ class MemoryFileStore final : public FileStore {
     }
 
     void WritePieces(const std::string& path, const TextPieces& pieces, Flush flush) override {
+        RequireMemory(path);
         std::string contents;
         pieces([&contents](std::string_view piece) { contents += piece; });
         if (unwritable.contains(path)) {
@@ -71,6 +75,12 @@ class MemoryFileStore final : public FileStore {
     }
 
   private:
+    void RequireMemory(const std::string& path) const {
+        if (exhausting.contains(path)) {
+            throw std::bad_alloc();
+        }
+    }
+
     [[nodiscard]] std::string Target(const std::string& path) const {
         const auto link = links.find(path);
         return link == links.end() ? path : link->second;

@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/reason.h"
 #include "desktop/bindings.h"
 #include "desktop/fitting/view_icons.h"
 #include "desktop/frame/icons.h"
@@ -86,7 +87,7 @@ void FittingView::Do(const std::function<void(CFittingWindow&)>& action) {
     try {
         action(*window_);
     } catch (const std::exception& error) {
-        ShowPlain(ui, error.what());
+        ShowPlain(ui, ReasonOf(error));
     }
     After();
 }
