@@ -93,7 +93,7 @@ class InputWork {
     DiskFiles& files_;
     FrameModel frame_;
     PatternSettingsDialog patternSettingsDialog_;
-    SystemPrinters printers_;
+    SystemPrinters printers_{files_};
     CPrintDialog printDialog_{printers_};
     WindowContext context_ = {
         options_,           ui_, files_, shared_.clock, frame_, patternSettingsDialog_, printDialog_,
@@ -119,6 +119,7 @@ class BatchRun {
         }
         if (!arguments_.json.empty()) {
             report_.emplace(arguments_.json, inputs_.size() + (arguments_.fittings.empty() ? 0U : 2U));
+            report_->onPartedNames = [this](const std::string& path) { Say(PartedNamesText(path)); };
         }
         if (!arguments_.png.empty() || !arguments_.svg.empty() || !arguments_.pdf.empty()) {
             EnsureGraphicsApplication();  // in this thread, and not in the one that draws first

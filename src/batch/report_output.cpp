@@ -26,10 +26,18 @@ void ReportOutput::Add(const std::string& name, const InputReport& report) {
 }
 
 void ReportOutput::AddFile(const std::string& name, const InputReport& report) const {
-    GrowingFile file(OutputPath(pattern_, name));
+    const std::string path = OutputPath(pattern_, name);
+    GrowingFile file(path);
     WriteReport(report, [&file](std::string_view text) { file.Append(text); });
     file.Append("\n");
+    Place(file, path);
+}
+
+void ReportOutput::Place(GrowingFile& file, const std::string& path) const {
     file.Place();
+    if (file.PartsNames() && onPartedNames) {
+        onPartedNames(path);
+    }
 }
 
 void ReportOutput::AddEntry(const InputReport& report) {
@@ -65,7 +73,7 @@ void ReportOutput::Finish() {
     Put(several_ ? "]\n" : "\n");
     Flush();
     if (file_) {
-        file_->Place();
+        Place(*file_, pattern_);
     }
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -24,8 +25,12 @@ class ReportOutput {
     /// Ends what has been begun; a file takes its place only now. Throws FileError.
     void Finish();
 
+    /// Called behind the replacement of a file that had further names (hard links).
+    std::function<void(const std::string& path)> onPartedNames;
+
   private:
     void AddFile(const std::string& name, const InputReport& report) const;
+    void Place(GrowingFile& file, const std::string& path) const;
     void AddEntry(const InputReport& report);
     void Put(std::string_view text);
     void Flush();

@@ -41,10 +41,6 @@ std::string ReadUpTo(std::FILE* file, std::size_t expected, std::size_t limit, s
     return contents;
 }
 
-TextPieces InOnePiece(const std::string& contents) {
-    return [&contents](const TextSink& sink) { sink(contents); };
-}
-
 }  // namespace
 
 std::string PartedNamesText(const std::string& path) {
@@ -95,38 +91,25 @@ std::string DiskFiles::Read(const std::string& path, std::size_t limit) const {
 }
 
 void DiskFiles::WritePieces(const std::string& path, const TextPieces& pieces, Flush flush) {
-    RequireFileName(path);
-    const fs::file_status old = StatusToWrite(path);
-    if (fs::exists(old) && !fs::is_regular_file(old)) {
-        WriteThrough(path, pieces);
-        return;
-    }
-    if (fs::exists(old)) {
-        RequireWritable(path);
-    }
-    const fs::path target = FollowLinks(path);
-    const fs::path folder = target.parent_path();
-    if (swept_.insert(folder).second) {
-        RemoveLeftTemporaryFiles(folder);
-    }
-    std::error_code ignored;
-    const bool hasFurtherNames = fs::exists(old) && fs::hard_link_count(target, ignored) > 1 && !ignored;
-    if (const auto error = TemporaryFile(path, folder).Replace(target, fs::exists(old), pieces, flush)) {
-        CannotWrite(path, error);
-    }
-    if (hasFurtherNames && onPartedNames) {
-        onPartedNames(path);
-    }
+    ReplacingFile file = Begin(path);
+    pieces([&file](std::string_view piece) { file.Append(piece); });
+    file.Place(flush);
 }
 
-void DiskFiles::WriteThrough(const std::string& path, const TextPieces& pieces) {
-    OpenFile file = OpenStream(path, "wb");
-    if (!file) {
-        CannotWrite(path, LastError());
-    }
-    if (const auto error = WriteAndClose(std::move(file), pieces, Flush::No)) {
-        CannotWrite(path, error);
-    }
+ReplacingFile DiskFiles::Begin(const std::string& path) {
+    return {path,
+            {.onFolder =
+                 [this](const fs::path& folder) {
+                     if (swept_.insert(folder).second) {
+                         RemoveLeftTemporaryFiles(folder);
+                     }
+                 },
+             .onPartedNames =
+                 [this](const std::string& parted) {
+                     if (onPartedNames) {
+                         onPartedNames(parted);
+                     }
+                 }}};
 }
 
 bool DiskFiles::Create(const std::string& path, const std::string& contents) {
@@ -136,7 +119,11 @@ bool DiskFiles::Create(const std::string& path, const std::string& contents) {
         return false;
     }
     bool isNew = true;
-    error = TemporaryFile(path, fs::path(path).parent_path()).TakeName(path, InOnePiece(contents), isNew);
+    TemporaryFile file(path, fs::path(path).parent_path());
+    error = WriteWhole(file.Stream(), contents);
+    if (!error) {
+        error = file.TakeName(path, isNew);
+    }
     if (error == std::errc::operation_not_permitted || error == std::errc::operation_not_supported ||
         error == std::errc::function_not_supported) {
         return CreateInPlace(path, contents);
@@ -156,7 +143,12 @@ bool DiskFiles::CreateInPlace(const std::string& path, const std::string& conten
     if (!file) {
         CannotMakeFileIn(path, fs::path(path).parent_path(), LastError());
     }
-    if (const auto error = WriteAndClose(std::move(file), InOnePiece(contents), Flush::Yes)) {
+    std::error_code error = WriteWhole(file.get(), contents);
+    if (!error) {
+        error = FlushAndClose(std::move(file), Flush::Yes);
+    }
+    if (error) {
+        file.reset();
         std::error_code ignored;
         fs::remove(path, ignored);
         CannotWrite(path, error);

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "core/file_store.h"
+#include "platform/replacing_file.h"
 
 namespace korvet {
 
@@ -25,13 +26,13 @@ class DiskFiles final : public FileStore {
 
     [[nodiscard]] std::string Read(const std::string& path, std::size_t limit) const override;
 
-    /// Writes a temporary file in the same folder and renames it. The new file keeps owner, group,
-    /// permissions and extended attributes of the old one as far as the system lets it, and a file that may
-    /// not be written is not replaced; where the path is a symbolic link, the file it leads to is. What
-    /// exists and is no regular file (a device, a pipe) is written straight through. With Flush::Yes file and
-    /// folder are flushed to the disk. The first file written to a folder takes old temporary files away that
-    /// killed programs have left there.
+    /// By a ReplacingFile.
     void WritePieces(const std::string& path, const TextPieces& pieces, Flush flush) override;
+
+    /// Begins a file for a caller that has its pieces one by one. The first file begun in a folder takes old
+    /// temporary files away that killed programs have left there. The store outlives the file. Throws
+    /// FileError.
+    [[nodiscard]] ReplacingFile Begin(const std::string& path);
 
     bool Create(const std::string& path, const std::string& contents) override;
 
@@ -41,7 +42,6 @@ class DiskFiles final : public FileStore {
 
   private:
     static bool CreateInPlace(const std::string& path, const std::string& contents);
-    static void WriteThrough(const std::string& path, const TextPieces& pieces);
 
     std::set<std::filesystem::path> swept_;  ///< folders without left temporary files
 };

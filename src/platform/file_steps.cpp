@@ -61,6 +61,28 @@ void KeepExtendedAttributes(const fs::path& old, int file) {
 }
 #endif
 
+/// What there is at the end of a path, through symbolic links. Throws FileError when the system does not tell
+/// and for a folder, which no file can be written to.
+fs::file_status StatusToWrite(const std::string& path) {
+    std::error_code error;
+    const fs::file_status status = fs::status(path, error);
+    if (error && status.type() != fs::file_type::not_found) {
+        CannotWrite(path, error);
+    }
+    if (fs::is_directory(status)) {
+        RefuseFile(path, "is a folder");
+    }
+    return status;
+}
+
+/// Refuses a file that is there and may not be written, though its folder would let it be replaced. Throws
+/// FileError.
+void RequireWritable(const std::string& path) {
+    if (!OpenStream(path, "r+b")) {
+        CannotWrite(path, LastError());
+    }
+}
+
 }  // namespace
 
 OpenFile OpenStream(const fs::path& path, const char* mode) {
@@ -105,18 +127,6 @@ void RequireFileName(const std::string& path) {
     }
 }
 
-fs::file_status StatusToWrite(const std::string& path) {
-    std::error_code error;
-    const fs::file_status status = fs::status(path, error);
-    if (error && status.type() != fs::file_type::not_found) {
-        CannotWrite(path, error);
-    }
-    if (fs::is_directory(status)) {
-        RefuseFile(path, "is a folder");
-    }
-    return status;
-}
-
 fs::path FollowLinks(const std::string& path) {
     fs::path target(path);
     std::error_code error;
@@ -130,10 +140,31 @@ fs::path FollowLinks(const std::string& path) {
     return target;
 }
 
-void RequireWritable(const std::string& path) {
-    if (!OpenStream(path, "r+b")) {
+WriteTarget TargetOf(const std::string& path) {
+    RequireFileName(path);
+    const fs::file_status old = StatusToWrite(path);
+    WriteTarget target;
+    target.exists = fs::exists(old);
+    target.isStraight = target.exists && !fs::is_regular_file(old);
+    if (target.isStraight) {
+        target.file = path;
+        return target;
+    }
+    if (target.exists) {
+        RequireWritable(path);
+    }
+    target.file = FollowLinks(path);
+    std::error_code error;
+    target.hasFurtherNames = target.exists && fs::hard_link_count(target.file, error) > 1 && !error;
+    return target;
+}
+
+OpenFile OpenStraight(const std::string& path) {
+    OpenFile file = OpenStream(path, "wb");
+    if (!file) {
         CannotWrite(path, LastError());
     }
+    return file;
 }
 
 std::error_code WriteWhole(std::FILE* file, std::string_view text) {
@@ -150,16 +181,7 @@ std::error_code WriteWhole(std::FILE* file, std::string_view text) {
     return {};
 }
 
-std::error_code WriteAndClose(OpenFile file, const TextPieces& pieces, Flush flush) {
-    try {
-        pieces([&file](std::string_view piece) {
-            if (const std::error_code error = WriteWhole(file.get(), piece)) {
-                throw std::system_error(error);  // ends what makes the pieces
-            }
-        });
-    } catch (const std::system_error& error) {
-        return error.code();
-    }
+std::error_code FlushAndClose(OpenFile file, Flush flush) {
     const std::error_code error = flush == Flush::Yes ? FlushToDisk(file.get()) : std::error_code();
     return error ? error : CloseFile(std::move(file));
 }

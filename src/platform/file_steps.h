@@ -42,23 +42,29 @@ std::error_code LastError();
 /// Refuses a name that the system would cut short at a zero byte, and an empty one. Throws FileError.
 void RequireFileName(const std::string& path);
 
-/// What there is at the end of a path, through symbolic links. Throws FileError when the system does not tell
-/// and for a folder, which no file can be written to.
-std::filesystem::file_status StatusToWrite(const std::string& path);
-
 /// The file that a path leads to through symbolic links, there or not. Throws FileError.
 std::filesystem::path FollowLinks(const std::string& path);
 
-/// Refuses a file that is there and may not be written, though its folder would let it be replaced. Throws
-/// FileError.
-void RequireWritable(const std::string& path);
+/// Where a file is written.
+struct WriteTarget {
+    std::filesystem::path file;    ///< what the path leads to through symbolic links
+    bool exists = false;           ///< it is there, and is to be replaced
+    bool isStraight = false;       ///< no regular file (a device, a pipe): it is written straight through
+    bool hasFurtherNames = false;  ///< hard links, which stay with the old contents
+};
+
+/// Throws FileError for what is no file name, a folder, a file that may not be written though its folder
+/// would let it be replaced, and when the system does not tell.
+WriteTarget TargetOf(const std::string& path);
+
+/// Opens what is written straight through. Throws FileError.
+OpenFile OpenStraight(const std::string& path);
 
 /// Hands the text to the system whole, also after calls that a signal broke off.
 std::error_code WriteWhole(std::FILE* file, std::string_view text);
 
-/// Hands a text to the system piece by piece, flushes it if asked for, and closes the file. The first step
-/// that fails is the last. Throws what `pieces` throws.
-std::error_code WriteAndClose(OpenFile file, const TextPieces& pieces, Flush flush);
+/// Flushes the file if asked for, and closes it. The first step that fails is the last.
+std::error_code FlushAndClose(OpenFile file, Flush flush);
 
 /// Waits until the file is on the disk itself. A file system that knows no such thing is as good as done.
 std::error_code FlushToDisk(std::FILE* file);

@@ -86,24 +86,15 @@ void LetGo(int held) {
 
 #endif
 
-GrowingFile::GrowingFile(std::string path) : path_(std::move(path)) {
-    RequireFileName(path_);
-    const fs::file_status old = StatusToWrite(path_);
-    if (fs::exists(old) && !fs::is_regular_file(old)) {
-        file_ = OpenStream(path_, "wb");
-        if (!file_) {
-            CannotWrite(path_, LastError());
-        }
+GrowingFile::GrowingFile(std::string path) : path_(std::move(path)), target_(TargetOf(path_)) {
+    if (target_.isStraight) {
+        file_ = OpenStraight(path_);
         return;
     }
-    if (fs::exists(old)) {
-        RequireWritable(path_);
-    }
-    target_ = FollowLinks(path_);
-    part_ = PartOf(target_.string());
+    part_ = PartOf(target_.file.string());
     file_ = OpenPart(path_, part_, held_);
-    if (fs::exists(old)) {
-        KeepAttributes(target_, file_.get());
+    if (target_.exists) {
+        KeepAttributes(target_.file, file_.get());
     }
 }
 
@@ -124,7 +115,7 @@ void GrowingFile::Append(std::string_view text) {
 void GrowingFile::Place() {
     std::error_code error = CloseFile(std::move(file_));
     if (!error && !part_.empty()) {
-        fs::rename(part_, target_, error);
+        fs::rename(part_, target_.file, error);
     }
     if (error) {
         CannotWrite(path_, error);

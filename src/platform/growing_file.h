@@ -27,12 +27,15 @@ class GrowingFile {
     /// Closes the file and puts it in the place of the other one. Throws FileError.
     void Place();
 
+    /// Whether the file that was there had further names (hard links): they stay with what it held.
+    [[nodiscard]] bool PartsNames() const { return target_.hasFurtherNames; }
+
     /// Where a file at `path` grows.
     static std::string PartOf(const std::string& path) { return path + ".part"; }
 
   private:
     std::string path_;
-    std::filesystem::path target_;
+    WriteTarget target_;
     std::filesystem::path part_;  ///< empty while it writes straight through
     OpenFile file_;
     int held_ = -1;  ///< keeps other runs from the part until it has its place

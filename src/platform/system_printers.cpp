@@ -90,7 +90,7 @@ PrintableArea SystemPrinters::AreaOf(const SheetSetup& setup) const {
 
 std::unique_ptr<PrintJob> SystemPrinters::StartDoc(const SheetSetup& setup, const std::string& title,
                                                    const std::string& path) {
-    return setup.printer == PdfPrinter ? StartPdf(setup, title, path) : StartQueueJob(setup, title);
+    return setup.printer == PdfPrinter ? StartPdf(setup, title, path, files_) : StartQueueJob(setup, title);
 }
 
 }  // namespace korvet

@@ -94,12 +94,8 @@ TemporaryFile::~TemporaryFile() {
     }
 }
 
-std::error_code TemporaryFile::Replace(const fs::path& target, bool keep, const TextPieces& pieces,
-                                       Flush flush) {
-    if (keep) {
-        KeepAttributes(target, file_.get());
-    }
-    std::error_code error = WriteAndClose(std::move(file_), pieces, flush);
+std::error_code TemporaryFile::Replace(const fs::path& target, Flush flush) {
+    std::error_code error = FlushAndClose(std::move(file_), flush);
     if (!error) {
         fs::rename(name_, target, error);
     }
@@ -110,8 +106,8 @@ std::error_code TemporaryFile::Replace(const fs::path& target, bool keep, const 
     return error;
 }
 
-std::error_code TemporaryFile::TakeName(const fs::path& target, const TextPieces& pieces, bool& isNew) {
-    std::error_code error = WriteAndClose(std::move(file_), pieces, Flush::Yes);
+std::error_code TemporaryFile::TakeName(const fs::path& target, bool& isNew) {
+    std::error_code error = FlushAndClose(std::move(file_), Flush::Yes);
     if (!error) {
         fs::create_hard_link(name_, target, error);
         isNew = error != std::errc::file_exists;

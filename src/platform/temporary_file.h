@@ -18,14 +18,15 @@ class TemporaryFile {
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;
 
-    /// Fills it and puts it in the place of `target`, each step only after the one before has succeeded. With
-    /// `keep` it takes over the attributes of the file that is there.
-    std::error_code Replace(const std::filesystem::path& target, bool keep, const TextPieces& pieces,
-                            Flush flush);
+    /// What it is filled through, until it has its place.
+    [[nodiscard]] std::FILE* Stream() const { return file_.get(); }
+
+    /// Closes it and puts it in the place of `target`, each step only after the one before has succeeded.
+    std::error_code Replace(const std::filesystem::path& target, Flush flush);
 
     /// The same under a name that nothing has yet. Nothing is done and `isNew` is false when something has
     /// it.
-    std::error_code TakeName(const std::filesystem::path& target, const TextPieces& pieces, bool& isNew);
+    std::error_code TakeName(const std::filesystem::path& target, bool& isNew);
 
   private:
     std::filesystem::path name_;

@@ -66,7 +66,8 @@ def tasks():
     old_options = "3.a\r\nof an earlier version\r\n"
     outputs = [("save", "out.Kvt"), ("dxf", "out.dxf"), ("table", "out.txt"), ("json", "out.json"),
                ("hpgl", "out.plt")]
-    pictures = [("svg", "out.svg", "--size", "200x100"), ("png", "out.png", "--size", "200x100")]
+    pictures = [("svg", "out.svg", "--size", "200x100"), ("png", "out.png", "--size", "200x100"),
+                ("pdf", "out.pdf", "--fit")]
     folder = (("in.Kvt", cone_file()), ("config/keep", ""))
     yield of_batch("json to the standard output", "--json", "-")
     for option, name in outputs:
@@ -85,7 +86,9 @@ def tasks():
 
 
 def contents_of(folder):
-    return {str(path.relative_to(folder)): path.read_bytes().replace(str(folder).encode(), b"FOLDER")
+    """The files of a folder, but for its name and the time at which a PDF was made."""
+    return {str(path.relative_to(folder)): re.sub(rb"(?<=/CreationDate \(D:)\d{14}", b"TIME", path.read_bytes()).replace(
+                str(folder).encode(), b"FOLDER")
             for path in sorted(folder.rglob("*")) if path.is_file()}
 
 

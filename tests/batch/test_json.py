@@ -68,6 +68,16 @@ class JsonTest(FolderTest):
         self.assertEqual([report["refused"] for report in reports], [False, True, True])
         self.assertEqual([report["file"] for report in reports], [str(path) for path in paths])
 
+    def test_further_names_part_and_are_told_of(self):
+        for pattern, name in (("one.json", "one.json"), ("{name}.json", "Right Cone.json")):
+            old = self.write(name, "old")
+            os.link(old, self.folder / f"other of {name}")
+            result = run(*CONE, "--json", self.folder / pattern)
+            self.assertEqual((result.status, result.errors),
+                             (DONE, f"korvet-batch: {old} had further names (hard links): under those the file stays as it was\n"))
+            self.assertEqual((self.folder / f"other of {name}").read_text("ascii"), "old")
+            read_json(old.read_text("utf-8"))
+
     def test_name_of_a_new_window(self):
         self.assertEqual(run(*CONE, "--json", "{name}.json", "--dxf", "{name}.dxf", cwd=self.folder).status, DONE)
         self.assertEqual(self.names(), ["Right Cone.dxf", "Right Cone.json"])

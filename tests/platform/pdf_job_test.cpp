@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -66,7 +67,8 @@ class PdfJobTest : public testing::Test {
 
     fs::path folder;
     std::string path;
-    SystemPrinters printers;
+    DiskFiles files;
+    SystemPrinters printers{files};
     SheetSetup setup = {PdfPrinter, PdfPapers().front(), Portrait};
 };
 
@@ -122,13 +124,30 @@ TEST_F(PdfJobTest, ItTakesThePlaceOfTheOldFile) {
     EXPECT_EQ(Entries(), 1);
 }
 
+TEST_F(PdfJobTest, ItIsMadeInAFileThatNamesTheProgramAndTellsOfPartedNames) {
+    std::vector<std::string> told;
+    files.onPartedNames = [&told](const std::string& parted) { told.push_back(parted); };
+    std::ofstream(path, std::ios::binary) << "old";
+    fs::create_hard_link(path, folder / "other");
+    const auto job = Start();
+    const auto isOurs = [](const fs::path& file) {
+        return file.filename().string().starts_with("korvet-") && file.extension() == ".tmp";
+    };
+    EXPECT_EQ(std::count_if(fs::directory_iterator(folder), fs::directory_iterator(), isOurs), 1);
+    Draw(job->NewPage());
+    EXPECT_EQ(EndOf(*job), "");
+    EXPECT_EQ(Entries(), 2);
+    EXPECT_EQ(told, std::vector<std::string>{path});
+}
+
 TEST_F(PdfJobTest, AFolderThatIsNotThereIsToldOf) {
     path = (folder / "none" / "sheets.pdf").string();
     try {
         (void)Start();
         FAIL();
     } catch (const PrintError& error) {
-        EXPECT_THAT(error.what(), HasSubstr("none/sheets.pdf: "));
+        EXPECT_THAT(error.what(),
+                    HasSubstr("none/sheets.pdf cannot be written: no file can be made in the folder "));
     }
 }
 
@@ -139,7 +158,7 @@ TEST_F(PdfJobTest, AFullDiskIsToldOfAndADeviceStaysADevice) {
     for (int i = 0; i < 20; ++i) {
         Draw(job->NewPage());
     }
-    EXPECT_THAT(EndOf(*job), HasSubstr("/dev/full: No space left on device"));
+    EXPECT_THAT(EndOf(*job), HasSubstr("/dev/full cannot be written: No space left on device"));
     EXPECT_TRUE(fs::is_character_file(path));
 }
 #endif

@@ -35,7 +35,7 @@ int Print(const std::vector<std::string>& arguments) {
     SystemClock clock;
     FrameModel frame;
     PatternSettingsDialog settings;
-    SystemPrinters printers;
+    SystemPrinters printers{files};
     CPrintDialog printer(printers);
     printer.SetDefaultPapersize(options, ui);
     WindowContext context = {options, ui, files, clock, frame, settings, printer};

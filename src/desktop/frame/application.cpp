@@ -48,7 +48,7 @@ struct Application {
     PatternSettingsDialog patternSettingsDialog;
     RegistrySettings settings;
     QtUi ui{nullptr};
-    SystemPrinters printers;
+    SystemPrinters printers{files};
     CPrintDialog printDialog{printers};
     TransferFolder transfer = TransferFolder::OfProgram();
     SerialPlotter plotter{settings};
