@@ -15,6 +15,7 @@
 #include "core/pattern_settings.h"
 #include "core/points.h"
 #include "display/view_point.h"
+#include "exchange/mesh_dxf.h"
 
 namespace korvet {
 
@@ -48,6 +49,10 @@ struct KvtControls {
 
 /// More dimensions than anybody sets. A file that holds more is refused.
 inline constexpr std::size_t MostDimensions = 10000;
+
+/// No parameter file comes near this; what does is none. Any mesh that can be imported can be saved and
+/// opened again: it takes no more room in a parameter file than in a drawing.
+inline constexpr std::size_t LargestParameterFile = LargestDrawing + (16U << 20U);
 
 struct CKvtFile {
     std::string Comment1;

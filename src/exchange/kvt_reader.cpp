@@ -1,167 +1,13 @@
 #include <algorithm>
-#include <cmath>
 #include <limits>
 
 #include "core/constants.h"
-#include "core/number_text.h"
 #include "core/text_encoding.h"
 #include "exchange/kvt_file.h"
-#include "exchange/mesh_dxf.h"
+#include "exchange/kvt_lines.h"
 
 namespace korvet {
 namespace {
-
-/// No parameter file comes near this; what does is none. Any mesh that can be imported can be saved and
-/// opened again: it takes no more room in a parameter file than in a drawing.
-constexpr std::size_t LargestFile = LargestDrawing + (16U << 20U);
-
-/// A line of the file as messages quote it.
-std::string Quoted(std::string_view line) {
-    constexpr std::size_t LongestQuote = 60;
-    return '"' + std::string(Beginning(line, LongestQuote)) + '"';
-}
-
-/// A number whose 15 digits are those of one of the program's angles is that angle, to the last bit: a plan
-/// view is still a plan view after loading.
-double Snapped(double value) {
-    for (const double literal : AngleLiterals) {
-        for (const double angle : {literal, -literal}) {
-            // Most numbers are nowhere near, and are spared the comparison of texts.
-            if (std::fabs(value - angle) < 1e-12 && NumberText(value) == NumberText(angle)) {
-                return angle;
-            }
-        }
-    }
-    return value;
-}
-
-/// The lines of a parameter file, with the number of the last one for messages.
-class KvtLines {
-  public:
-    explicit KvtLines(std::string_view text) : rest_(text) {}
-
-    /// The next line without the blanks around it; an empty one at the end of the file.
-    std::string_view ReadLine() {
-        if (rest_.empty()) {
-            ended_ = true;
-            return {};
-        }
-        ++number_;
-        const std::size_t end = std::min(rest_.find('\n'), rest_.size());
-        const std::string_view line = rest_.substr(0, end);
-        rest_.remove_prefix(std::min(end + 1, rest_.size()));
-        return Trimmed(line);
-    }
-
-    /// Drops lines up to and with `marker`. False when the file ends before it.
-    bool SkipTo(std::string_view marker) {
-        while (!rest_.empty()) {
-            if (ReadLine() == marker) {
-                return true;
-            }
-        }
-        return false;
-    }
-
-    /// Drops empty lines. False at the end of the file.
-    bool SkipBlank() {
-        while (!rest_.empty() && Trimmed(rest_.substr(0, rest_.find('\n'))).empty()) {
-            ReadLine();
-        }
-        return !rest_.empty();
-    }
-
-    /// Reads a line that must be `text`.
-    void Expect(std::string_view text) {
-        const std::string_view line = ReadLine();
-        if (line != text) {
-            Refuse<void>(line, "\"" + std::string(text) + "\"");
-        }
-    }
-
-    double ReadNumber() { return Number(ReadLine()); }
-
-    /// A number just as it stands.
-    double ReadExactly() {
-        const std::string_view line = ReadLine();
-        const auto value = ParseFileNumber(line);
-        return value ? *value : Refuse<double>(line, "a number");
-    }
-
-    [[nodiscard]] std::size_t BytesLeft() const { return rest_.size(); }
-
-    /// The number in a line that has been read.
-    double Number(std::string_view line) {
-        const auto value = ParseFileNumber(line);
-        return value ? Snapped(*value) : Refuse<double>(line, "a number");
-    }
-
-    int ReadInteger(int lowest, int highest) { return Integer(ReadLine(), lowest, highest); }
-
-    int Integer(std::string_view line, int lowest, int highest) {
-        const auto value = ParseWholeNumber(line, lowest, highest);
-        return value ? *value
-                     : Refuse<int>(line, "a whole number from " + std::to_string(lowest) + " to " +
-                                             std::to_string(highest));
-    }
-
-    std::int16_t ReadShort(int lowest = -32768, int highest = 32767) {
-        return static_cast<std::int16_t>(ReadInteger(lowest, highest));
-    }
-
-    bool ReadBoolean() {
-        const std::string_view line = ReadLine();
-        const auto value = Boolean(line);
-        if (value) {
-            return *value;
-        }
-        // Some files hold the numbers behind the words.
-        const auto number = ParseWholeNumber(line, -1, 0);
-        return number ? *number != 0 : Refuse<bool>(line, "True or False");
-    }
-
-    /// True or False in any case, or nothing.
-    static std::optional<bool> Boolean(std::string_view line) {
-        if (EqualIgnoringCase(line, "True")) {
-            return true;
-        }
-        return EqualIgnoringCase(line, "False") ? std::optional<bool>(false) : std::nullopt;
-    }
-
-    C3DPoint ReadPoint() {
-        C3DPoint point;
-        point.x = ReadNumber();
-        point.y = ReadNumber();
-        point.z = ReadNumber();
-        return point;
-    }
-
-    static bool IsNumber(std::string_view line) { return ParseFileNumber(line).has_value(); }
-
-    [[noreturn]] void RefuseEnd(std::string_view missing) const {
-        throw ParameterFileError("line " + std::to_string(number_ + 1) + ": the file ends before \"" +
-                                 std::string(missing) + "\"");
-    }
-
-    /// Refuses the line that was read last.
-    [[noreturn]] void RefuseLine(const std::string& why) const {
-        throw ParameterFileError("line " + std::to_string(number_) + ": " + why);
-    }
-
-  private:
-    template <typename T>
-    [[noreturn]] T Refuse(std::string_view line, const std::string& wanted) const {
-        if (ended_) {
-            throw ParameterFileError("line " + std::to_string(number_ + 1) + ": the file ends where " +
-                                     wanted + " should stand");
-        }
-        RefuseLine(Quoted(line) + " is not " + wanted);
-    }
-
-    std::string_view rest_;
-    int number_ = 0;
-    bool ended_ = false;
-};
 
 /// The digit at a position of the version, 0 when there is none.
 int VersionDigit(const std::string& version, std::size_t position) {
@@ -179,7 +25,7 @@ void ReadHeader(KvtLines& lines, CKvtFile& file) {
     file.SubVersion = VersionDigit(file.Version, 2);
     file.SubVersionIndex = VersionDigit(file.Version, 4);
     if (file.Product != ProductTitle) {
-        throw ForeignProductError("line 1: " + Quoted(line) + " is not " + Quoted(ProductTitle) +
+        throw ForeignProductError("line 1: " + QuotedLine(line) + " is not " + QuotedLine(ProductTitle) +
                                   " with a version behind it");
     }
     file.Category = lines.ReadLine();
@@ -368,7 +214,7 @@ void CKvtFile::ParseHeader(const std::string& text) {
 }
 
 void CKvtFile::ReadHeader(const FileStore& files) {
-    ParseHeader(DecodeText(files.Read(FileName, LargestFile)));
+    ParseHeader(DecodeText(files.Read(FileName, LargestParameterFile)));
 }
 
 void CKvtFile::Parse(const std::string& text, int defaultSegs) {
@@ -397,8 +243,8 @@ void CKvtFile::Parse(const std::string& text, int defaultSegs) {
 void CKvtFile::RequireReadable(const std::string& bytes) const {
     CKvtFile again = *this;
     try {
-        if (bytes.size() > LargestFile) {
-            throw ParameterFileError("it is larger than " + std::to_string(LargestFile) + " bytes");
+        if (bytes.size() > LargestParameterFile) {
+            throw ParameterFileError("it is larger than " + std::to_string(LargestParameterFile) + " bytes");
         }
         again.Parse(DecodeText(bytes), MinSegs);
     } catch (const ParameterFileError& error) {
@@ -415,7 +261,7 @@ bool CKvtFile::IsOfLaterVersion() const {
 }
 
 void CKvtFile::LoadFile(const FileStore& files, int defaultSegs) {
-    const std::string bytes = files.Read(FileName, LargestFile);
+    const std::string bytes = files.Read(FileName, LargestParameterFile);
     Fingerprint = FingerprintOf(bytes);
     Parse(DecodeText(bytes), defaultSegs);
 }
@@ -431,7 +277,7 @@ std::uint64_t FingerprintOf(std::string_view bytes) {
 
 std::optional<std::uint64_t> FingerprintOfFile(const FileStore& files, const std::string& path) {
     try {
-        return FingerprintOf(files.Read(path, LargestFile));
+        return FingerprintOf(files.Read(path, LargestParameterFile));
     } catch (const FileError&) {
         return std::nullopt;
     }

@@ -8,6 +8,9 @@
 
 namespace korvet {
 
+// The copy of every window that can be saved can be read again, with a million views.
+static_assert(LargestCopy > LargestParameterFile + (std::size_t{128} << 20U));
+
 std::string NameOfCopy(const RecoveryCopy& copy) {
     return Printable(copy.path.empty() ? copy.Category() + " (without a file)" : copy.path);
 }

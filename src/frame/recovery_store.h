@@ -7,6 +7,9 @@
 
 namespace korvet {
 
+/// What is larger is no recovery copy: it holds a parameter file and views.
+inline constexpr std::size_t LargestCopy = std::size_t{512} << 20U;
+
 class RecoveryStore {
   public:
     RecoveryStore() = default;

@@ -18,9 +18,6 @@ namespace fs = std::filesystem;
 constexpr const char* HeldName = "running";
 constexpr const char* CopyEnding = ".recovery";
 
-/// Larger than any copy: the largest parameter file, and views.
-constexpr std::size_t LargestCopy = std::size_t{256} << 20U;
-
 /// Takes an empty folder of a run away, and stays silent about one that is not.
 void RemoveIfEmpty(const fs::path& folder) {
     std::error_code error;
