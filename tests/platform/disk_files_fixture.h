@@ -6,15 +6,14 @@
 #include <unistd.h>
 #endif
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <limits>
 #include <string>
-#include <system_error>
 
 #include "platform/disk_files.h"
+#include "tests/platform/temporary_folder.h"
 
 namespace korvet {
 
@@ -33,21 +32,9 @@ inline void Put(const fs::path& path, const std::string& contents) {
 
 class DiskFilesTest : public testing::Test {
   protected:
-    DiskFilesTest() {
-        std::string name = (fs::temp_directory_path() / "disk_files_XXXXXX").string();
-        folder = ::mkdtemp(name.data());
-    }
-    ~DiskFilesTest() override {
-        std::error_code ignored;
-        fs::remove_all(folder, ignored);
-    }
-
     [[nodiscard]] std::string Path(const std::string& name) const { return (folder / name).string(); }
 
-    /// How many things there are in the folder.
-    [[nodiscard]] std::ptrdiff_t Entries() const {
-        return std::distance(fs::directory_iterator(folder), fs::directory_iterator());
-    }
+    [[nodiscard]] std::ptrdiff_t Entries() const { return place.Entries(); }
 
     [[nodiscard]] std::string ReadError(const std::string& path, std::size_t limit = NoLimit) const {
         try {
@@ -68,7 +55,8 @@ class DiskFilesTest : public testing::Test {
     }
 
     DiskFiles files;
-    fs::path folder;
+    const TemporaryFolder place;
+    const fs::path& folder = place.Path();
 };
 
 #ifndef _WIN32

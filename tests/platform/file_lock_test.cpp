@@ -12,6 +12,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "tests/platform/temporary_folder.h"
+
 namespace korvet {
 namespace {
 
@@ -19,19 +21,11 @@ namespace fs = std::filesystem;
 
 class FileLockTest : public testing::Test {
   protected:
-    FileLockTest() {
-        std::string name = (fs::temp_directory_path() / "file_lock_XXXXXX").string();
-        folder = ::mkdtemp(name.data());
-        path = (folder / "part.dxf").string();
-        std::ofstream(path) << "contents";
-    }
-    ~FileLockTest() override {
-        std::error_code ignored;
-        fs::remove_all(folder, ignored);
-    }
+    FileLockTest() { std::ofstream(path) << "contents"; }
 
-    fs::path folder;
-    std::string path;
+    const TemporaryFolder place;
+    const fs::path& folder = place.Path();
+    const std::string path = (folder / "part.dxf").string();
 };
 
 TEST_F(FileLockTest, AFileThatNobodyHoldsIsFreeAndStaysAsItWas) {

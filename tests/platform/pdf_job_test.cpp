@@ -9,10 +9,10 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <system_error>
 
 #include "platform/paper_device.h"
 #include "platform/system_printers.h"
+#include "tests/platform/temporary_folder.h"
 
 namespace korvet {
 namespace {
@@ -22,16 +22,6 @@ using testing::HasSubstr;
 
 class PdfJobTest : public testing::Test {
   protected:
-    PdfJobTest() {
-        std::string name = (fs::temp_directory_path() / "pdf_job_XXXXXX").string();
-        folder = ::mkdtemp(name.data());
-        path = (folder / "sheets.pdf").string();
-    }
-    ~PdfJobTest() override {
-        std::error_code ignored;
-        fs::remove_all(folder, ignored);
-    }
-
     [[nodiscard]] std::unique_ptr<PrintJob> Start() { return printers.StartDoc(setup, "Cone", path); }
 
     static void Draw(DrawingDevice& sheet) {
@@ -51,10 +41,6 @@ class PdfJobTest : public testing::Test {
         return at == std::string::npos ? 0 : std::atoi(contents.c_str() + at + 7);
     }
 
-    [[nodiscard]] std::ptrdiff_t Entries() const {
-        return std::distance(fs::directory_iterator(folder), fs::directory_iterator());
-    }
-
     /// What ending the document says; empty when it ends well.
     static std::string EndOf(PrintJob& job) {
         try {
@@ -65,8 +51,9 @@ class PdfJobTest : public testing::Test {
         }
     }
 
-    fs::path folder;
-    std::string path;
+    const TemporaryFolder place;
+    const fs::path& folder = place.Path();
+    std::string path = (folder / "sheets.pdf").string();
     DiskFiles files;
     SystemPrinters printers{files};
     SheetSetup setup = {PdfPrinter, PdfPapers().front(), Portrait};
@@ -80,7 +67,7 @@ TEST_F(PdfJobTest, EverySheetIsAPage) {
     EXPECT_FALSE(fs::exists(path));  // not before it is whole
     EXPECT_EQ(EndOf(*job), "");
     EXPECT_EQ(Pages(), 3);
-    EXPECT_EQ(Entries(), 1);
+    EXPECT_EQ(place.Entries(), 1);
 }
 
 TEST_F(PdfJobTest, ASheetIsThePaperInFineDots) {
@@ -104,7 +91,7 @@ TEST_F(PdfJobTest, GivenUpItLeavesTheOldFileAndNothingElse) {
         Draw(job->NewPage());
     }
     EXPECT_EQ(Contents(), "old");
-    EXPECT_EQ(Entries(), 1);
+    EXPECT_EQ(place.Entries(), 1);
     (void)Start();  // given up before its first sheet
     EXPECT_EQ(Contents(), "old");
 }
@@ -121,7 +108,7 @@ TEST_F(PdfJobTest, ItTakesThePlaceOfTheOldFile) {
     Draw(job->NewPage());
     EXPECT_EQ(EndOf(*job), "");
     EXPECT_EQ(Contents().substr(0, 5), "%PDF-");
-    EXPECT_EQ(Entries(), 1);
+    EXPECT_EQ(place.Entries(), 1);
 }
 
 TEST_F(PdfJobTest, ItIsMadeInAFileThatNamesTheProgramAndTellsOfPartedNames) {
@@ -136,7 +123,7 @@ TEST_F(PdfJobTest, ItIsMadeInAFileThatNamesTheProgramAndTellsOfPartedNames) {
     EXPECT_EQ(std::count_if(fs::directory_iterator(folder), fs::directory_iterator(), isOurs), 1);
     Draw(job->NewPage());
     EXPECT_EQ(EndOf(*job), "");
-    EXPECT_EQ(Entries(), 2);
+    EXPECT_EQ(place.Entries(), 2);
     EXPECT_EQ(told, std::vector<std::string>{path});
 }
 

@@ -15,6 +15,8 @@
 #include <csignal>
 #endif
 
+#include "tests/platform/temporary_folder.h"
+
 namespace korvet {
 namespace {
 
@@ -24,16 +26,6 @@ using Copies = std::vector<std::string>;
 
 class RecoveryFolderTest : public testing::Test {
   protected:
-    RecoveryFolderTest() {
-        std::string name = (fs::temp_directory_path() / "recovery_XXXXXX").string();
-        base = ::mkdtemp(name.data());
-        folder = (base / "state" / "recovery").string();
-    }
-    ~RecoveryFolderTest() override {
-        std::error_code ignored;
-        fs::remove_all(base, ignored);
-    }
-
     /// What the next start finds; it stays for the one after.
     [[nodiscard]] Copies Left() const {
         RecoveryFolder next(folder);
@@ -58,8 +50,9 @@ class RecoveryFolderTest : public testing::Test {
         ASSERT_TRUE(WIFSIGNALED(status));
     }
 
-    fs::path base;
-    std::string folder;
+    const TemporaryFolder place;
+    const fs::path& base = place.Path();
+    const std::string folder = (base / "state" / "recovery").string();
 };
 
 TEST_F(RecoveryFolderTest, ARunWithoutCopiesMakesNoFolder) {
