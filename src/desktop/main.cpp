@@ -7,7 +7,7 @@
 #include "desktop/bindings.h"
 #include "desktop/command_line.h"
 #include "desktop/frame/application.h"
-#include "desktop/indicator_style.h"
+#include "desktop/program_style.h"
 #include "platform/file_requests.h"
 
 namespace {
@@ -44,7 +44,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(desktop::Text(std::string(ProductTitle)));
     QApplication::setApplicationVersion(desktop::Text(std::string(ProgramVersion)));
     QApplication::setDesktopFileName(QStringLiteral("korvet"));
-    QApplication::setStyle(new desktop::IndicatorStyle);
+    QApplication::setStyle(new desktop::ProgramStyle);
     const QStringList files = WholeNames(line.files);
     const auto requests = line.open && !files.isEmpty() ? HandOverOrListen(RequestFolder(), files)
                                                         : std::make_unique<FileRequests>(RequestFolder());

@@ -48,7 +48,6 @@ void LabelDialog::Load(const CLabels& labels, bool hasLabelPoint, bool labelSeen
             lblLabelItem.push_back(line);
         }
     }
-    frame3Height = static_cast<int>(EditableLines + lblLabelItem.size()) * 300 + 500;
 }
 
 void LabelDialog::ClickOK() {

@@ -43,7 +43,6 @@ struct LabelDialog {
     bool lblInstructionVisible = false;
     std::array<TextBox, EditableLines> txtLabelItem;  ///< the comments, lines 1 and 2 of the block
     std::vector<std::string> lblLabelItem;            ///< the lines behind them
-    int frame3Height = 0;                             ///< twips
     std::string lblStatus;
     bool visible = true;  ///< false ends the modal run
 

@@ -13,113 +13,14 @@
 #include <QScrollBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
-#include <map>
 
-#include "desktop/dialogs/about_dialogs.h"
-#include "dialogs/branch_additional_dialog.h"
-#include "dialogs/options_dialog.h"
-#include "dialogs/small_dialogs.h"
-#include "frame/about.h"
-#include "printing/printers_dialog.h"
+#include "tests/desktop/all_dialogs.h"
 #include "tests/desktop/desktop_test.h"
 #include "tests/desktop/dialogs_fixture.h"
 #include "tests/desktop/palettes.h"
 
 namespace korvet::desktop {
 namespace {
-
-CPatternSettings AllOffered() {
-    CPatternSettings settings;
-    settings.LapEnable = AllLaps;
-    settings.JoinType = 1;
-    settings.LapSize0 = settings.LapSize1 = settings.LapSize2 = 12.5;
-    settings.KerfEnabled = settings.TemplateTypeEnabled = true;
-    return settings;
-}
-
-CLabels LongBlock() {
-    CLabels labels;
-    for (int i = 1; i <= 9; ++i) {
-        labels.Add({"Diameter at the base of the cone = " + std::to_string(100 * i)});
-    }
-    return labels;
-}
-
-/// A way to show each dialog, under the name of its picture.
-std::map<QString, std::function<void(DialogDesk&)>> AllDialogs() {
-    std::map<QString, std::function<void(DialogDesk&)>> all;
-    all["settings"] = [](DialogDesk& desk) {
-        CPatternSettings settings = AllOffered();
-        (void)LoadDialog(desk.settings, settings, desk.ui, desk.options, '.');
-    };
-    all["settings-grey"] = [](DialogDesk& desk) {
-        CPatternSettings settings;
-        settings.HalfPatternDisable = settings.JoinAngleDisable = settings.MaterialDisable = true;
-        (void)LoadDialog(desk.settings, settings, desk.ui, desk.options, '.');
-    };
-    all["settings-branch"] = [](DialogDesk& desk) {
-        CPatternSettings settings = AllOffered();
-        settings.BranchMaterialEnable = true;
-        (void)LoadDialog(desk.settings, settings, desk.ui, desk.options, '.');
-    };
-    for (int tab = OptionsDialog::GeneralTab; tab <= OptionsDialog::DxfTab; ++tab) {
-        all[QStringLiteral("options-%1").arg(tab)] = [tab](DialogDesk& desk) {
-            OptionsDialog dialog(desk.options, desk.ui, desk.files, '.', tab);
-            desk.ui.RunModal(dialog);
-        };
-    }
-    all["dimension-options"] = [](DialogDesk& desk) {
-        DimensionOptionsDialog dialog;
-        desk.ui.RunModal(dialog);
-    };
-    all["label"] = [](DialogDesk& desk) {
-        LabelDialog dialog;
-        dialog.Load(LongBlock(), false, false);
-        desk.ui.RunModal(dialog);
-    };
-    all["export"] = [](DialogDesk& desk) {
-        DxfOptionsDialog dialog;
-        dialog.caption = "Exporting /home/user/flat.DXF";
-        dialog.lblExportType = "Exporting unfolded pattern";
-        desk.ui.RunModal(dialog);
-    };
-    all["export-plotter"] = [](DialogDesk& desk) {
-        DxfOptionsDialog dialog;
-        dialog.caption = "Exporting /home/user/.local/share/Korvet Development/Transfer.plt";
-        dialog.lblExportType = "Exporting unfolded pattern";
-        dialog.toPlotter = dialog.choosesPort = true;
-        dialog.optPolyMode.enabled = false;
-        dialog.cmbPlotterPort.list = {"/dev/ttyS0", "/dev/ttyS1"};
-        dialog.cmbPlotterPort.edit.text = "/dev/serial/by-id/usb-1a86_USB2.0-Serial-if00-port0";
-        desk.ui.RunModal(dialog);
-    };
-    all["rotate"] = [](DialogDesk& desk) {
-        RotateDialog dialog(desk.context.ui, desk.context.options, desk.context.decimalMark, 0.5);
-        desk.ui.RunModal(dialog);
-    };
-    for (std::size_t join = 0; join < 3; ++join) {
-        all[QStringLiteral("branch-%1").arg(join)] = [join](DialogDesk& desk) {
-            BranchAdditionalDialog dialog({static_cast<BranchJoin>(join), true});
-            desk.ui.RunModal(dialog);
-        };
-    }
-    for (const auto& [name, use] :
-         {std::pair{"print-setup", PrintersUse::Setup}, {"print", PrintersUse::Print}}) {
-        all[QString::fromLatin1(name)] = [use = use](DialogDesk& desk) {
-            desk.printDialog.TakePdf();
-            desk.printDialog.PrintScale = 1;
-            PrintersDialog dialog(use, desk.printDialog, desk.ui, desk.options, '.');
-            desk.ui.RunModal(dialog);
-        };
-    }
-    all["splash"] = [](DialogDesk& desk) { RunDialog(desk.ui.Host(), SplashDialog()); };
-    all["about"] = [](DialogDesk& desk) { RunDialog(desk.ui.Host(), AboutDialog()); };
-    all["disclaimer"] = [](DialogDesk& desk) { RunDialog(desk.ui.Host(), DisclaimerDialog()); };
-    all["message"] = [](DialogDesk& desk) {
-        desk.ui.Show({"This dimension must be greater than 0", ExclamationBox, "User Error"});
-    };
-    return all;
-}
 
 /// The controls that a user works with or reads, of the tab that is open.
 QList<QWidget*> ShownControls(const QDialog& window) {
@@ -169,7 +70,7 @@ class DialogLook : public QObject {
     Q_OBJECT
   private slots:
     void EveryControlHasANameOfItsOwn() {
-        ForEach([](const QString& dialog, QDialog& window) {
+        ForEachDialog([](const QString& dialog, QDialog& window) {
             QMap<QString, int> objects;
             QMap<QString, int> spoken;
             for (const QWidget* widget : ShownControls(window)) {
@@ -191,7 +92,7 @@ class DialogLook : public QObject {
     }
 
     void NoTwoControlsShareAMnemonic() {
-        ForEach([](const QString& dialog, QDialog& window) {
+        ForEachDialog([](const QString& dialog, QDialog& window) {
             QStringList captions;
             for (const QWidget* widget : ShownControls(window)) {
                 captions.append(CaptionOf(*widget));
@@ -214,7 +115,7 @@ class DialogLook : public QObject {
     }
 
     void EveryBoxAndTickHasAMnemonic() {
-        ForEach([](const QString& dialog, QDialog& window) {
+        ForEachDialog([](const QString& dialog, QDialog& window) {
             for (const QWidget* widget : ShownControls(window)) {
                 if (qobject_cast<const QRadioButton*>(widget) != nullptr ||
                     qobject_cast<const QCheckBox*>(widget) != nullptr) {
@@ -237,7 +138,7 @@ class DialogLook : public QObject {
         QFont font = usual;
         font.setPointSizeF(usual.pointSizeF() * fontScale);
         QApplication::setFont(font);
-        ForEach([](const QString& dialog, QDialog& window) {
+        ForEachDialog([](const QString& dialog, QDialog& window) {
             QApplication::processEvents();
             for (const QWidget* widget : ShownControls(window)) {
                 if (qobject_cast<QComboBox*>(widget->parentWidget()) != nullptr) {
@@ -258,7 +159,7 @@ class DialogLook : public QObject {
     }
 
     void EveryDialogFitsOnTheScreen() {
-        ForEach([](const QString& dialog, QDialog& window) {
+        ForEachDialog([](const QString& dialog, QDialog& window) {
             const QSize room = window.screen()->availableSize();
             QVERIFY2(window.width() <= room.width() && window.height() <= room.height(), qPrintable(dialog));
         });
@@ -270,7 +171,7 @@ class DialogLook : public QObject {
         font.setPointSizeF(usual.pointSizeF() * 3);
         QApplication::setFont(font);
         int scrolled = 0;
-        ForEach([&](const QString& dialog, QDialog& window) {
+        ForEachDialog([&](const QString& dialog, QDialog& window) {
             QApplication::processEvents();
             const auto* area = window.findChild<QScrollArea*>();
             if (area == nullptr) {
@@ -306,7 +207,7 @@ class DialogLook : public QObject {
         const QString folder = qEnvironmentVariable("KORVET_PICTURES", otherwise.path());
         QVERIFY(QDir().mkpath(folder));
         const auto take = [&](const QString& suffix) {
-            ForEach([&](const QString& dialog, QDialog& window) {
+            ForEachDialog([&](const QString& dialog, QDialog& window) {
                 QTest::qWait(50);  // for what scrolls to have its bars
                 QVERIFY(window.grab().save(QDir(folder).filePath(dialog + suffix)));
             });
@@ -316,21 +217,6 @@ class DialogLook : public QObject {
         QApplication::setPalette(DarkPalette());
         take("-dark.png");
         QApplication::setPalette(usual);
-    }
-
-  private:
-    static void ForEach(const std::function<void(const QString&, QDialog&)>& look) {
-        DialogDesk desk;
-        for (const auto& [name, show] : AllDialogs()) {
-            bool seen = false;
-            const QString dialog = name;
-            WhenShown([&](QDialog& window) {
-                seen = true;
-                look(dialog, window);
-            });
-            show(desk);
-            QVERIFY2(seen, qPrintable(dialog));
-        }
     }
 };
 

@@ -13,7 +13,7 @@
 #include <array>
 #include <cmath>
 
-#include "tests/desktop/contrast.h"
+#include "desktop/contrast.h"
 #include "tests/desktop/desktop_test.h"
 #include "tests/desktop/palettes.h"
 

@@ -14,7 +14,7 @@
 
 #include "desktop/bindings.h"
 #include "desktop/fitting/fitting_view.h"
-#include "desktop/indicator_style.h"
+#include "desktop/program_style.h"
 #include "tests/support/test_context.h"
 
 using namespace korvet;
@@ -91,7 +91,7 @@ QString Section(const CatalogueRow& row, const QDir& folder) {
 
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
-    QApplication::setStyle(new IndicatorStyle);
+    QApplication::setStyle(new ProgramStyle);
     const QDir folder(QCoreApplication::arguments().value(1));
     QFile guide(folder.filePath(QStringLiteral("fittings.md")));
     if (argc != 2 || !folder.mkpath(QStringLiteral("pictures")) || !guide.open(QIODevice::WriteOnly)) {

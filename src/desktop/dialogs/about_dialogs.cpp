@@ -17,9 +17,8 @@
 namespace korvet::desktop {
 namespace {
 
-// Sizes in twips.
-constexpr QSize AboutSize = {5600, 2800};
-constexpr QSize DisclaimerSize = {5600, 2400};
+constexpr QSize AboutSize = {5600, 0};       // twips
+constexpr QSize DisclaimerSize = {5600, 0};  // twips
 constexpr QSize LogoSize = {Pixels(2400), Pixels(1000)};
 
 /// Text that the user can select and copy, `larger` times the usual size.
@@ -106,7 +105,6 @@ void RunDialog(const DialogHost& host, const AboutDialog& dialog) {
     }
     AddText(window, "lblLibrary_" + std::to_string(line),
             QStringLiteral("Running on Qt %1").arg(QString::fromLatin1(qVersion())));
-    window.Body().addStretch();
     AddCloseButton(window, open, "btnOK", "OK");
     window.AddButton(ModelDialog::Role::Other, "cmdSysInfo", QStringLiteral("&System Info..."),
                      QStringLiteral("System information"), [&] {
@@ -119,7 +117,6 @@ void RunDialog(const DialogHost& host, const DisclaimerDialog& dialog) {
     bool open = true;
     ModelDialog window(host, "frmDisclaimer", dialog.caption, DisclaimerSize);
     AddText(window, "lblDisclaimer", Text(dialog.text));
-    window.Body().addStretch();
     AddCloseButton(window, open, "btnClose", dialog.btnClose);
     RunUntilLeft(window, open);
 }

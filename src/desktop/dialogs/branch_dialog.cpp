@@ -15,7 +15,7 @@
 namespace korvet::desktop {
 namespace {
 
-constexpr QSize BranchDialogTwips = {7600, 4300};
+constexpr QSize BranchDialogTwips = {7600, 0};
 
 using Description = BranchAdditionalDialog::Description;
 using Lines = std::span<const std::string_view>;

@@ -188,6 +188,7 @@ bool ModelDialog::eventFilter(QObject* watched, QEvent* event) {
 
 void ModelDialog::Run(DialogModel model) {
     model_ = std::move(model);
+    bodyLayout_->addStretch();  // a window that is drawn larger keeps its rows together
     Project();
     FitToScreen();
     ShowFocus();
@@ -232,13 +233,18 @@ void ModelDialog::FitToScreen() {
         margins.left() + margins.right(),
         margins.top() + margins.bottom() + layout()->spacing() + buttons_->minimumSizeHint().height());
     const QSize most = QSizeF(screen()->availableSize()).toSize() * ShareOfScreen - around;
-    const QSize wanted = body->minimumSizeHint().expandedTo(minimum_ - around);
+    const int width = std::max(body->minimumSizeHint().width(), minimum_.width() - around.width());
+    const int height = bodyLayout_->hasHeightForWidth()  // text that is broken into lines
+                           ? bodyLayout_->heightForWidth(std::min(width, most.width()))
+                           : body->minimumSizeHint().height();
+    const QSize wanted(width, std::max(height, minimum_.height() - around.height()));
     QSize shown = wanted.boundedTo(most);
     const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     if (shown.height() < wanted.height()) {
         shown.setWidth(std::min(shown.width() + bar, most.width()));
     }
     scroll_->setMinimumSize(shown);
+    resize(layout()->minimumSize());
 }
 
 void RunOptionsOnTop(const DialogHost& host, int tab) {

@@ -32,7 +32,7 @@ struct DialogModel {
 
 class ModelDialog final : public QDialog {
   public:
-    /// `minimum` in twips; the window grows with the font.
+    /// `minimum` in twips; the window grows with its contents and the font.
     ModelDialog(DialogHost host, const std::string& controlName, const std::string& caption, QSize minimum,
                 int helpContext = 0);
 

@@ -19,7 +19,7 @@
 namespace korvet::desktop {
 namespace {
 
-constexpr QSize OptionsDialogTwips = {7400, 4800};
+constexpr QSize OptionsDialogTwips = {7400, 0};
 
 /// Decimal places, a list of which one is always picked.
 void AddDecimals(ModelDialog& window, OptionsDialog& dialog, QFormLayout& form) {

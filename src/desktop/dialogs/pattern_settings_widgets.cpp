@@ -18,7 +18,7 @@
 namespace korvet::desktop {
 namespace {
 
-constexpr QSize SettingsDialogTwips = {7125, 6600};
+constexpr QSize SettingsDialogTwips = {7125, 0};
 constexpr int HelpContextID = 2020;
 
 /// A box whose text is tested as it is typed, and selected when the user goes to it.

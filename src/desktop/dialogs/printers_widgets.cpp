@@ -16,7 +16,7 @@
 namespace korvet::desktop {
 namespace {
 
-constexpr QSize PrintersSize = {5600, 3600};  // twips
+constexpr QSize PrintersSize = {5600, 0};  // twips
 constexpr int PatienceMilliseconds = 400;
 
 QGroupBox* MakePrinter(ModelDialog& window, PrintersDialog& dialog) {
@@ -69,7 +69,6 @@ void RunDialog(const DialogHost& host, PrintersDialog& dialog) {
     columns->addLayout(left, 1);
     columns->addLayout(right, 1);
     window.Body().addLayout(columns);
-    window.Body().addStretch();
     const auto caption = [&](std::size_t index) { return Text(dialog.btnPrint.at(index).caption); };
     window.AddButton(ModelDialog::Role::Accept, "btnPrint_1", caption(PrintersDialog::OkButton),
                      caption(PrintersDialog::OkButton), [&] { dialog.ClickOK(); });

@@ -13,7 +13,7 @@
 namespace korvet::desktop {
 namespace {
 
-constexpr QSize RecoverySize = {6400, 2600};  // twips
+constexpr QSize RecoverySize = {6400, 0};  // twips
 
 }  // namespace
 

@@ -18,11 +18,10 @@ namespace korvet::desktop {
 namespace {
 
 // Sizes in twips.
-constexpr QSize DimensionOptionsSize = {3900, 2600};
+constexpr QSize DimensionOptionsSize = {3900, 0};
 constexpr QSize LabelSize = {5200, 0};
-constexpr int BelowFrame = 500;
-constexpr QSize DxfOptionsSize = {4600, 3600};
-constexpr QSize RotateSize = {5340, 1935};
+constexpr QSize DxfOptionsSize = {4600, 0};
+constexpr QSize RotateSize = {5340, 0};
 
 QString Indexed(const char* text, std::size_t number) {
     return QString::fromLatin1(text).arg(number);
@@ -31,7 +30,6 @@ QString Indexed(const char* text, std::size_t number) {
 /// The comment lines, which can be edited, and the fixed lines behind them.
 QGroupBox* MakeLines(ModelDialog& window, LabelDialog& dialog) {
     QGroupBox* const frame = MakeFrame("Frame3", QStringLiteral("Text"), QStringLiteral("Label text"));
-    frame->setMinimumHeight(Pixels(dialog.frame3Height));
     auto* grid = new QGridLayout(frame);
     int row = 0;
     for (std::size_t i = 0; i < dialog.txtLabelItem.size(); ++i, ++row) {
@@ -48,7 +46,6 @@ QGroupBox* MakeLines(ModelDialog& window, LabelDialog& dialog) {
         label->setAccessibleDescription(label->text());
         grid->addWidget(label, row, 0, 1, 2);
     }
-    grid->setRowStretch(row, 1);
     return frame;
 }
 
@@ -85,7 +82,6 @@ void RunDialog(const DialogHost& host, DimensionOptionsDialog& dialog) {
     QLineEdit* const size = MakeEdit("txtTextSize", QStringLiteral("Text size"));
     window.Body().addWidget(size);
     size->hide();
-    window.Body().addStretch();
     AddOkAndCancel(window, dialog);
     window.AddHelpButton();
     window.AddOptionsButton();
@@ -93,8 +89,7 @@ void RunDialog(const DialogHost& host, DimensionOptionsDialog& dialog) {
 }
 
 void RunDialog(const DialogHost& host, LabelDialog& dialog) {
-    const QSize size(LabelSize.width(), LabelSize.height() + dialog.frame3Height + BelowFrame);
-    ModelDialog window(host, "frmLabelDialog", dialog.caption, size, LabelDialog::HelpContextID);
+    ModelDialog window(host, "frmLabelDialog", dialog.caption, LabelSize, LabelDialog::HelpContextID);
     if (dialog.chkDisplayLabel.caption.empty()) {
         dialog.chkDisplayLabel.caption = "Display the label";
     }
@@ -106,7 +101,7 @@ void RunDialog(const DialogHost& host, LabelDialog& dialog) {
     instruction->setAccessibleDescription(instruction->text());
     window.ShowBy([instruction, &dialog] { instruction->setVisible(dialog.lblInstructionVisible); });
     window.Body().addWidget(instruction);
-    window.Body().addWidget(MakeLines(window, dialog), 1);
+    window.Body().addWidget(MakeLines(window, dialog));
     AddOkAndCancel(window, dialog);
     RunUntilClosed(window, dialog);
 }
@@ -138,7 +133,6 @@ void RunDialog(const DialogHost& host, DxfOptionsDialog& dialog) {
     if (dialog.choosesPort) {
         window.Body().addWidget(MakePlotterPort(window, dialog));
     }
-    window.Body().addStretch();
     AddOkAndCancel(window, dialog);
     window.AddHelpButton();
     window.AddOptionsButton();
@@ -164,7 +158,6 @@ void RunDialog(const DialogHost& host, RotateDialog& dialog) {
     grid->addWidget(MakeLabel(QStringLiteral("&Angle:"), angle), 3, 0);
     grid->addWidget(angle, 3, 1);
     window.Bind(*angle, dialog.txtAngle[1], [&](const std::string& text) { dialog.Change(text); });
-    window.Body().addStretch();
     AddOkAndCancel(window, dialog);
     RunUntilClosed(window, dialog, &dialog.focus);
 }

@@ -1,14 +1,17 @@
-#include "desktop/indicator_style.h"
+#include "desktop/program_style.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QImage>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QRadioButton>
+#include <QStyle>
 #include <QTest>
 #include <algorithm>
 
 #include "desktop/bindings.h"
-#include "tests/desktop/contrast.h"
+#include "desktop/contrast.h"
 #include "tests/desktop/desktop_test.h"
 #include "tests/desktop/palettes.h"
 
@@ -33,9 +36,58 @@ double ContrastOf(QStyle& style, const QPalette& palette) {
     return greatest;
 }
 
+/// Two windows in an area, as the fitting windows are, of which the second one is in use.
+struct TwoWindows {
+    QMdiArea area;
+
+    TwoWindows() {
+        area.resize(700, 300);
+        for (const int left : {10, 350}) {
+            QMdiSubWindow* const window = area.addSubWindow(new QWidget);
+            window->setGeometry(left, 10, 320, 200);
+            window->setWindowTitle(QStringLiteral("Cone"));
+            window->show();
+        }
+        area.show();
+        area.activateWindow();
+        area.setActiveSubWindow(area.subWindowList().last());
+        QCoreApplication::processEvents();
+    }
+};
+
+/// How many signs stand on the right end of a window's title bar, each at least 3 to 1 against it.
+int SignsOnTitle(QMdiSubWindow& window) {
+    const int height = window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    const QImage bar = window.grab().toImage();
+    const qreal ratio = bar.devicePixelRatio();
+    const auto device = [&](int length) { return static_cast<int>(length * ratio); };
+    const int edge = 4;
+    int signs = 0;
+    bool inSign = false;
+    for (int x = device(window.width() - 4 * height); x < device(window.width() - edge); ++x) {
+        bool seen = false;
+        for (int y = device(edge); y < device(height - 2); ++y) {
+            // Of the same row, since the bar is shaded from its top to its foot.
+            const QColor ground = bar.pixelColor(device(window.width() - 4 * height), y);
+            seen = seen || Contrast(bar.pixelColor(x, y), ground) >= 3;
+        }
+        signs += seen && !inSign ? 1 : 0;
+        inSign = seen;
+    }
+    return signs;
+}
+
+/// A dark desktop whose highlight is so bright that its white text can hardly be read.
+QPalette BrightHighlight() {
+    QPalette palette = DarkPalette();
+    palette.setColor(QPalette::Highlight, QColor(61, 174, 233));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    return palette;
+}
+
 }  // namespace
 
-class IndicatorStyleTest : public QObject {
+class ProgramStyleTest : public QObject {
     Q_OBJECT
   private slots:
     void anEmptyIndicatorStandsOutOnADarkWindow() {
@@ -43,14 +95,30 @@ class IndicatorStyleTest : public QObject {
         dark.setColor(QPalette::Base, QColor(35, 38, 41));
         dark.setColor(QPalette::WindowText, QColor(239, 240, 241));
         dark.setColor(QPalette::Text, QColor(239, 240, 241));
-        IndicatorStyle style(QStringLiteral("Fusion"));
+        ProgramStyle style(QStringLiteral("Fusion"));
         QVERIFY(ContrastOf<QRadioButton>(style, dark) >= 3);
         QVERIFY(ContrastOf<QCheckBox>(style, dark) >= 3);
     }
 
+    void theButtonsOfAWindowStandOutOnItsTitle() {
+        const QPalette usual = QApplication::palette();
+        QApplication::setStyle(new ProgramStyle(QStringLiteral("Fusion")));
+        for (const QPalette& palette : {LightPalette(), DarkPalette(), BrightHighlight()}) {
+            QApplication::setPalette(palette);
+            TwoWindows windows;
+            for (QMdiSubWindow* window : windows.area.subWindowList()) {
+                QCOMPARE(SignsOnTitle(*window), 3);
+            }
+            windows.area.subWindowList().first()->showMinimized();
+            QCOMPARE(SignsOnTitle(*windows.area.subWindowList().first()), 3);
+        }
+        QApplication::setStyle(QStringLiteral("Fusion"));
+        QApplication::setPalette(usual);
+    }
+
     void iconsOfTheToolkitAreTheProgramsOwn() {
         const QPalette usual = QApplication::palette();
-        IndicatorStyle style(QStringLiteral("Fusion"));
+        ProgramStyle style(QStringLiteral("Fusion"));
         for (const QPalette& palette : {LightPalette(), DarkPalette()}) {
             QApplication::setPalette(palette);
             for (const auto asked : {QStyle::SP_MessageBoxQuestion, QStyle::SP_MessageBoxWarning,
@@ -84,15 +152,15 @@ class IndicatorStyleTest : public QObject {
 
     void onALightWindowTheDesktopsStyleStays() {
         const QPalette light(QColor(239, 239, 239));
-        IndicatorStyle style(QStringLiteral("Fusion"));
+        ProgramStyle style(QStringLiteral("Fusion"));
         QProxyStyle plain(QStringLiteral("Fusion"));
         QCOMPARE(ContrastOf<QRadioButton>(style, light), ContrastOf<QRadioButton>(plain, light));
         QVERIFY(ContrastOf<QRadioButton>(style, light) > 2);
     }
 };
 
-static const Registered<IndicatorStyleTest> registeredIndicatorStyleTest("IndicatorStyleTest");
+static const Registered<ProgramStyleTest> registeredProgramStyleTest("ProgramStyleTest");
 
 }  // namespace korvet::desktop
 
-#include "indicator_style_test.moc"
+#include "program_style_test.moc"

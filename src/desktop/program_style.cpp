@@ -1,11 +1,13 @@
-#include "desktop/indicator_style.h"
+#include "desktop/program_style.h"
 
+#include <QDialogButtonBox>
 #include <QStyleOption>
 #include <QWidget>
 #include <algorithm>
 #include <iterator>
 
 #include "desktop/frame/icons.h"
+#include "desktop/title_buttons.h"
 
 namespace korvet::desktop {
 namespace {
@@ -60,22 +62,48 @@ QIcon OwnIconOf(QStyle::StandardPixmap asked) {
 
 }  // namespace
 
-QIcon IndicatorStyle::standardIcon(StandardPixmap standardIcon, const QStyleOption* option,
-                                   const QWidget* widget) const {
+int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                            QStyleHintReturn* returned) const {
+    switch (hint) {
+        case SH_DialogButtonLayout:
+            return QDialogButtonBox::WinLayout;
+        case SH_DialogButtonBox_ButtonsHaveIcons:
+            return 0;
+        default:
+            return QProxyStyle::styleHint(hint, option, widget, returned);
+    }
+}
+
+QIcon ProgramStyle::standardIcon(StandardPixmap standardIcon, const QStyleOption* option,
+                                 const QWidget* widget) const {
     const QIcon own = OwnIconOf(standardIcon);
     return own.isNull() ? QProxyStyle::standardIcon(standardIcon, option, widget) : own;
 }
 
-QPixmap IndicatorStyle::standardPixmap(StandardPixmap standardPixmap, const QStyleOption* option,
-                                       const QWidget* widget) const {
+QPixmap ProgramStyle::standardPixmap(StandardPixmap standardPixmap, const QStyleOption* option,
+                                     const QWidget* widget) const {
     const QIcon own = OwnIconOf(standardPixmap);
     const int side = pixelMetric(PM_SmallIconSize, option, widget);
     return own.isNull() ? QProxyStyle::standardPixmap(standardPixmap, option, widget)
                         : own.pixmap(QSize(side, side), widget != nullptr ? widget->devicePixelRatioF() : 1);
 }
 
-void IndicatorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
-                                   const QWidget* widget) const {
+/// The desktop's own style leaves the buttons of a window that is not in use black, on dark bars too.
+void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                      QPainter* painter, const QWidget* widget) const {
+    const auto* const bar = qstyleoption_cast<const QStyleOptionTitleBar*>(option);
+    if (control != CC_TitleBar || bar == nullptr) {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        return;
+    }
+    QStyleOptionTitleBar bare = *bar;
+    bare.subControls &= ~TitleButtons;
+    QProxyStyle::drawComplexControl(control, &bare, painter, widget);
+    DrawTitleButtons(*painter, *bar, *this, widget);
+}
+
+void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                                 const QWidget* widget) const {
     const auto* const indicator = qstyleoption_cast<const QStyleOptionButton*>(option);
     const bool hasRim = element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton;
     if (indicator == nullptr || !hasRim || !IsDark(option->palette)) {
