@@ -44,6 +44,10 @@ struct Drawing {
     /// in it is drawn (ClipLineToPage), a text is drawn whole when the point that it stands on lies in it.
     std::optional<Bounds> PrinterPage = {};
 
+    /// Whether all that lies in the box is on other sheets of paper: with thousands of them this has to be
+    /// told at once.
+    [[nodiscard]] bool IsElsewhere(const Bounds& box) const;
+
     /// Whether there is a surface to draw on.
     [[nodiscard]] bool CanDraw() const;
 

@@ -41,14 +41,23 @@ C3DPoints BuildExtentFrame(const CRuleSurfs& surfaces, const CRuleSurfs& screenS
     return frame;
 }
 
+std::optional<Bounds> BoundsOf(const CRuleSurf& surface) {
+    std::optional<Bounds> bounds;
+    for (const PointList* list :
+         {&surface.List1, &surface.List2, &surface.List3, &surface.LapList1, &surface.LapList2}) {
+        for (const C3DPoint& point : PointsOf(*list)) {
+            TakeIn(bounds, point);
+        }
+    }
+    return bounds;
+}
+
 std::optional<Bounds> BoundsOfAll(const CRuleSurfs& surfaces) {
     std::optional<Bounds> bounds;
     for (const CRuleSurf& surface : surfaces) {
-        for (const PointList& list :
-             {surface.List1, surface.List2, surface.List3, surface.LapList1, surface.LapList2}) {
-            for (const C3DPoint& point : PointsOf(list)) {
-                TakeIn(bounds, point);
-            }
+        if (const auto box = BoundsOf(surface)) {
+            TakeIn(bounds, box->minX, box->minY);
+            TakeIn(bounds, box->maxX, box->maxY);
         }
     }
     return bounds;

@@ -18,7 +18,10 @@ const C3DPoints& PointsOf(const PointList& list);
 /// Empty when there is no point.
 C3DPoints BuildExtentFrame(const CRuleSurfs& surfaces, const CRuleSurfs& screenSurfaces);
 
-/// The box about the points of all lists, List3 and laps too; nothing when there is no point.
+/// The box about the points of all lists of a surface, List3 and laps too; nothing when there is no point.
+std::optional<Bounds> BoundsOf(const CRuleSurf& surface);
+
+/// The box about the same points of all surfaces.
 std::optional<Bounds> BoundsOfAll(const CRuleSurfs& surfaces);
 
 }  // namespace korvet

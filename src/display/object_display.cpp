@@ -46,12 +46,6 @@ CViewPoint ViewOf(const Bounds& area, double room, CViewPoint view, double world
     return view;
 }
 
-void DrawSurfaces(const Drawing& drawing, const CRuleSurfs& surfaces) {
-    for (const CRuleSurf& surface : surfaces) {
-        drawing.DrawSurface(surface);
-    }
-}
-
 bool NamesFrame(const CDimension& dimension) {
     return dimension.ListNo1 == ExtentFrameList || dimension.ListNo2 == ExtentFrameList;
 }
@@ -90,11 +84,12 @@ void CObjectDisplay::Show(Pass pass, Shown what) {
         Overlay->lay(pass.extentFrame);
     }
     const Drawing drawing = NewDrawing(device, pass.window);
-    DrawBelow(drawing, pass);
-    if (IsDrawnAgain(pass) && what == Shown::Built) {
+    const Content content = ContentOf(pass);
+    DrawBelow(drawing, content);
+    if (IsDrawnAgain(content) && what == Shown::Built) {
         Build(pass);
     }
-    DrawAbove(drawing, pass);
+    DrawAbove(drawing, content);
     Keep(std::move(pass));
     if (picture) {
         DisplayDevice->Cls(Colors.DisplayBackColor);
@@ -113,7 +108,7 @@ CObjectDisplay::Pass CObjectDisplay::NewPass() const {
 
 /// What the last pass showed.
 CObjectDisplay::Pass CObjectDisplay::KeptPass() const {
-    return {ViewPoint, WorldExtents, displayWindow_, Surfaces, screenSurfaces_, extentFrame_};
+    return {ViewPoint, WorldExtents, displayWindow_, Surfaces, screenSurfaces_, boxes_, extentFrame_};
 }
 
 /// Makes the surfaces of a pass and, where its annotations are drawn from it, the frame about them.
@@ -121,11 +116,13 @@ void CObjectDisplay::Build(Pass& pass) const {
     const bool pattern = pass.view.Patternview;
     pass.surfaces = MakeSurfaces(Fitting(), pattern ? FittingShape::Pattern : FittingShape::Model, Multiple);
     pass.screenSurfaces = {};
+    pass.boxes.clear();
     for (CRuleSurf& surface : pass.surfaces) {
         if (pattern) {
             PlacePattern(surface);
         }
-        pass.screenSurfaces.Add(pattern ? surface : ProjectSurface(surface, pass.view));
+        pass.boxes.push_back(
+            BoundsOf(pass.screenSurfaces.Add(pattern ? surface : ProjectSurface(surface, pass.view))));
     }
     TakeFrame(pass);
 }
@@ -165,23 +162,34 @@ bool CObjectDisplay::NeedsFrame() const {
            std::any_of(DimensionList->begin(), DimensionList->end(), NamesFrame);
 }
 
-bool CObjectDisplay::IsDrawnAgain(const Pass& pass) const {
-    return pass.view.Patternview && (FrameRequested || CoordGridRequested);
+bool CObjectDisplay::IsDrawnAgain(const Content& content) const {
+    return content.pattern && (FrameRequested || CoordGridRequested);
+}
+
+/// A sheet of paper passes over what lies on other sheets: there may be thousands of both.
+void CObjectDisplay::DrawSurfaces(const Drawing& drawing, const Content& content) {
+    for (std::size_t i = 1; i <= content.screenSurfaces.Count(); ++i) {
+        const CRuleSurf& surface = content.screenSurfaces.Item(i);
+        const std::optional<Bounds>& box = content.boxes.at(i - 1);
+        if (surface.RefPointDisplay || !box || !drawing.IsElsewhere(*box)) {
+            drawing.DrawSurface(surface);
+        }
+    }
 }
 
 /// Surfaces and annotations: what lies below the lines of a pattern that is drawn again.
-void CObjectDisplay::DrawBelow(const Drawing& drawing, const Pass& pass) const {
-    DrawSurfaces(drawing, pass.screenSurfaces);
-    if (pass.view.Patternview) {
-        DisplayAnnotations(drawing, pass);
+void CObjectDisplay::DrawBelow(const Drawing& drawing, const Content& content) const {
+    DrawSurfaces(drawing, content);
+    if (content.pattern) {
+        DisplayAnnotations(drawing, content);
     }
 }
 
-void CObjectDisplay::DrawAbove(const Drawing& drawing, const Pass& pass) const {
-    if (IsDrawnAgain(pass)) {
-        DrawSurfaces(drawing, pass.screenSurfaces);
+void CObjectDisplay::DrawAbove(const Drawing& drawing, const Content& content) const {
+    if (IsDrawnAgain(content)) {
+        DrawSurfaces(drawing, content);
     }
-    if (Overlay && pass.view.Patternview) {
+    if (Overlay && content.pattern) {
         Overlay->draw(drawing);
     }
     if (LabelPoint) {
@@ -194,6 +202,7 @@ void CObjectDisplay::Keep(Pass pass) {
     WorldExtents = pass.worldExtents;
     Surfaces = std::move(pass.surfaces);
     screenSurfaces_ = std::move(pass.screenSurfaces);
+    boxes_ = std::move(pass.boxes);
     extentFrame_ = std::move(pass.extentFrame);
     displayWindow_ = pass.window;
 }
@@ -219,23 +228,23 @@ Drawing CObjectDisplay::NewDrawing(DrawingDevice* device, const WorldWindow& win
     return drawing;
 }
 
-void CObjectDisplay::DisplayAnnotations(const Drawing& drawing, const Pass& pass) const {
-    const AnnotatedPattern pattern = {pass.screenSurfaces, pass.extentFrame};
+void CObjectDisplay::DisplayAnnotations(const Drawing& drawing, const Content& content) const {
+    const AnnotatedPattern pattern = {content.screenSurfaces, content.extentFrame};
     if (CoordGridRequested) {
         DisplayDimensionGrid(drawing, pattern);
     }
     DisplayDimensions(drawing, pattern, *DimensionList);
     if (TrueLengthsRequested) {
-        DisplayTrueLengths(drawing, pass.screenSurfaces);
+        DisplayTrueLengths(drawing, content.screenSurfaces);
     }
     if (DiagonalsRequested) {
-        DisplayDiagonals(drawing, pass.screenSurfaces);
+        DisplayDiagonals(drawing, content.screenSurfaces);
     }
     if (CoordTableRequested) {
-        DisplayCoordinates(drawing, pass.screenSurfaces, Multiple);
+        DisplayCoordinates(drawing, content.screenSurfaces, Multiple);
     }
     if (FrameRequested) {
-        DrawExtentFrame(drawing, pass.extentFrame, true);
+        DrawExtentFrame(drawing, content.extentFrame, true);
     }
 }
 
@@ -248,12 +257,11 @@ void CObjectDisplay::DrawPicture(DrawingDevice& picture) const {
 
 /// Leaves in the record all that the last pass showed.
 void CObjectDisplay::DrawWhole(DrawingRecord& record, bool onPaper, const ScaleFor& scaleFor) const {
-    const Pass pass = KeptPass();
     const auto draw = [&](DrawingRecord& device, const WorldWindow& window) {
         Drawing drawing = NewDrawing(&device, window);
         drawing.PrintRequested = onPaper;
-        DrawBelow(drawing, pass);
-        DrawAbove(drawing, pass);
+        DrawBelow(drawing, KeptContent());
+        DrawAbove(drawing, KeptContent());
     };
     std::optional<Bounds> points = BoundsOfAll(screenSurfaces_);
     if (LabelPoint) {
@@ -263,12 +271,11 @@ void CObjectDisplay::DrawWhole(DrawingRecord& record, bool onPaper, const ScaleF
 }
 
 void CObjectDisplay::DrawPage(DrawingDevice& sheet, const WorldWindow& window, const Bounds& page) const {
-    const Pass pass = KeptPass();
     Drawing drawing = NewDrawing(&sheet, window);
     drawing.PrintRequested = true;
     drawing.PrinterPage = page;
-    DrawBelow(drawing, pass);
-    DrawAbove(drawing, pass);
+    DrawBelow(drawing, KeptContent());
+    DrawAbove(drawing, KeptContent());
 }
 
 void CObjectDisplay::DrawToFit(DrawingDevice& sheet) const {

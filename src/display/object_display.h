@@ -130,6 +130,9 @@ class CObjectDisplay {
     [[nodiscard]] C3DPoints ShownExtents() const;
 
   private:
+    /// The box about each screen surface, nothing for one without points.
+    using SurfaceBoxes = std::vector<std::optional<Bounds>>;
+
     /// What one pass shows, and where.
     struct Pass {
         CViewPoint view;
@@ -137,9 +140,24 @@ class CObjectDisplay {
         WorldWindow window;
         CRuleSurfs surfaces;
         CRuleSurfs screenSurfaces;
+        SurfaceBoxes boxes;
         C3DPoints extentFrame;
     };
 
+    /// What is drawn of a pass, or of the last one.
+    struct Content {
+        bool pattern;
+        const CRuleSurfs& screenSurfaces;
+        const SurfaceBoxes& boxes;
+        const C3DPoints& extentFrame;
+    };
+
+    static Content ContentOf(const Pass& pass) {
+        return {pass.view.Patternview, pass.screenSurfaces, pass.boxes, pass.extentFrame};
+    }
+    [[nodiscard]] Content KeptContent() const {
+        return {ViewPoint.Patternview, screenSurfaces_, boxes_, extentFrame_};
+    }
     [[nodiscard]] Pass NewPass() const;
     [[nodiscard]] Pass KeptPass() const;
     void Build(Pass& pass) const;
@@ -147,14 +165,15 @@ class CObjectDisplay {
     void TakeFrame(Pass& pass) const;
     void PlacePattern(CRuleSurf& surface) const;
     [[nodiscard]] bool NeedsFrame() const;
-    [[nodiscard]] bool IsDrawnAgain(const Pass& pass) const;
+    [[nodiscard]] bool IsDrawnAgain(const Content& content) const;
     /// What a pass shows: a new build, the last one with its overlay laid anew, or the last one as it is.
     enum class Shown : std::uint8_t { Built, LaidAnew, AsItIs };
     void Show(Pass pass, Shown what);
-    void DrawBelow(const Drawing& drawing, const Pass& pass) const;
-    void DrawAbove(const Drawing& drawing, const Pass& pass) const;
+    static void DrawSurfaces(const Drawing& drawing, const Content& content);
+    void DrawBelow(const Drawing& drawing, const Content& content) const;
+    void DrawAbove(const Drawing& drawing, const Content& content) const;
     void DrawWhole(DrawingRecord& record, bool onPaper, const ScaleFor& scaleFor) const;
-    void DisplayAnnotations(const Drawing& drawing, const Pass& pass) const;
+    void DisplayAnnotations(const Drawing& drawing, const Content& content) const;
     void DrawLabel(const Drawing& drawing) const;
     void Keep(Pass pass);
     void ZoomToCorners(const C3DPoint& a, const C3DPoint& b, double room);
@@ -164,6 +183,7 @@ class CObjectDisplay {
     [[nodiscard]] Drawing NewDrawing(DrawingDevice* device, const WorldWindow& window) const;
 
     CRuleSurfs screenSurfaces_;
+    SurfaceBoxes boxes_;
     C3DPoints extentFrame_;      ///< of the latest pass that needed it
     WorldWindow displayWindow_;  ///< of DisplayDevice
 };

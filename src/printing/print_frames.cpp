@@ -35,12 +35,6 @@ double CountFrames(double start, double end, double size) {
     return at <= end ? std::floor((end - start) / size) + 1 : count;
 }
 
-/// Whether all that lies in the box between two corners is on other sheets: with thousands of them this has
-/// to be told at once.
-bool IsElsewhere(const Drawing& drawing, const C3DPoint& corner, const C3DPoint& opposite) {
-    return drawing.PrinterPage && LineMissesPage(corner, opposite, *drawing.PrinterPage);
-}
-
 /// Goes from one multiple of the ruler's step above `start` to the next, up to `limit`.
 template <typename Tick>
 void ForEachTick(double start, double limit, double step, Tick tick) {
@@ -83,7 +77,7 @@ void PrintFrames::Lay(const C3DPoints& extentFrame) {
 
 void PrintFrames::Draw(const Drawing& drawing) const {
     for (const CPrintPage& page : PrinterPages) {
-        if (IsElsewhere(drawing, page.BoundaryList->Item(1), page.BoundaryList->Item(3))) {
+        if (drawing.IsElsewhere(BoxOf(page))) {
             continue;
         }
         drawing.DrawPath(*page.BoundaryList, page.PrintMe ? LineType::FrameChosen : LineType::FrameNotChosen);
@@ -102,7 +96,7 @@ void PrintFrames::DrawTicks(const Drawing& drawing) const {
     const double right = Grid.columns * PrintFrameLength + corner.x;
     const double length = TickLength.In(PrintUnits);
     const auto draw = [&](const C3DPoint& point, TickSide side, double distance) {
-        if (!IsElsewhere(drawing, point, {point.x + length, point.y + length, 0, PlainStation})) {
+        if (!drawing.IsElsewhere({point.x, point.y, point.x + length, point.y + length})) {
             DrawRulerTick(drawing, point, side, NumberText(distance, drawing.DecimalMark), PrintUnits);
         }
     };

@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <random>
+
 #include "tests/display/display_fixture.h"
 
 namespace korvet {
@@ -84,6 +86,56 @@ TEST_F(DrawPage, ACrossHasTheArmOfThePaper) {
     const auto lines = LinesOn({-10, -10, 100, 100});
     EXPECT_EQ(lines.at(4), (std::vector<PixelPoint>{{50, 150}, {48, 150}}));  // 200 / 100
     EXPECT_EQ(lines.at(7), (std::vector<PixelPoint>{{50, 150}, {50, 148}}));
+}
+
+/// A piece with all its lines, some with a cross, none larger than a page of 40 by 40.
+CRuleSurf SmallPiece(std::mt19937& random) {
+    std::uniform_real_distribution<double> across(0, 400);
+    std::uniform_real_distribution<double> size(0, 40);
+    const C3DPoint corner = {across(random), across(random) / 2, 0, PlainStation};
+    CRuleSurf piece;
+    for (PointList* list : {&piece.List1, &piece.List2, &piece.List3, &piece.LapList1, &piece.LapList2}) {
+        *list = std::make_shared<C3DPoints>();
+        for (int i = 0; i < 4; ++i) {
+            (*list)->Add({corner.x + size(random), corner.y + size(random), 0, RuleStation});
+        }
+    }
+    piece.RefPoint = C3DPoint{across(random), across(random) / 2, 0, PlainStation};
+    piece.RefPointDisplay = size(random) < 10;
+    return piece;
+}
+
+TEST_F(DrawPage, HasOfManyPiecesAllThatLiesOnIt) {
+    constexpr double Page = 20;
+    std::mt19937 random(16);
+    display.Multiple = true;
+    for (int i = 0; i < 100; ++i) {
+        CRuleSurf& piece = fitting->canned.PatternSurfaceList.Add(SmallPiece(random));
+        piece.RefPointDisplay = i % 4 == 0;
+    }
+    fitting->canned.PatternSurfaceList.Add({});
+    display.DisplayObject();
+    RecordingDevice whole(400, 200);
+    Drawing drawing;
+    drawing.Device = &whole;
+    drawing.Window = PaperWindow;
+    drawing.PrintRequested = true;
+    drawing.CrossArm = PaperWindow.ScaleHeight / 100;
+    for (double x = 0; x < 400; x += Page) {
+        for (double y = 0; y < 200; y += Page) {
+            const Bounds page = {x, y, x + Page, y + Page};
+            whole.calls.clear();
+            drawing.PrinterPage = page;
+            for (const CRuleSurf& surface : display.ScreenSurfaces()) {
+                drawing.DrawSurface(surface);
+            }
+            std::vector<std::vector<PixelPoint>> lines;
+            for (const RecordingDevice::Call& line : whole.Lines()) {
+                lines.push_back(line.points);
+            }
+            EXPECT_EQ(LinesOn(page), lines) << x << " " << y;
+        }
+    }
 }
 
 TEST_F(DrawPage, FarOutALineIsAsTrueAsAtTheOrigin) {
