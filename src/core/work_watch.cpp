@@ -35,10 +35,12 @@ void WorkWatch::LookAtClock() {
     if (now < next_) {
         return;
     }
-    if (!goesOn_(now - start_)) {
+    next_ = Clock::time_point::max();  // whatever runs while the user is asked is not the work
+    const bool goesOn = goesOn_(now - start_);
+    next_ = goesOn ? Clock::now() + AskEvery : start_;
+    if (!goesOn) {
         throw WorkCancelled();
     }
-    next_ = Clock::now() + AskEvery;
 }
 
 }  // namespace korvet

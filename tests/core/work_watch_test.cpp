@@ -25,6 +25,17 @@ TEST(WorkWatch, EndsTheWorkWhenItIsTold) {
     EXPECT_THROW(WorkWatch::Look(), WorkCancelled);
 }
 
+TEST(WorkWatch, AsksNothingWhileItAsks) {
+    int asked = 0;
+    const WorkWatch watch(0ms, [&](auto) {
+        ++asked;
+        WorkWatch::Look();  // what a window that is painted meanwhile does
+        return false;
+    });
+    EXPECT_THROW(WorkWatch::Look(), WorkCancelled);
+    EXPECT_EQ(asked, 1);
+}
+
 TEST(WorkWatch, LetsALittleTimePassBetweenTwoQuestions) {
     int asked = 0;
     const WorkWatch watch(0ms, [&](auto) { return ++asked > 0; });
