@@ -50,10 +50,14 @@ void CheckReport(const std::string& bytes, bool isRefused) {
     Require(!report.at("refused").get<bool>() || !report.at("messages").empty(), "refused without a reason");
 }
 
-/// What was saved opens, and is saved as the same bytes.
+/// What was saved opens, and is saved as the same bytes, unless its fitting is refused.
 void CheckSaved(const Folder& folder, const std::string& bytes) {
     folder.Put("saved.Kvt", bytes);
-    if (RunInSilence({folder.File("saved.Kvt"), "--save", folder.File("again.Kvt")}) == korvet::batch::Done) {
+    std::string text;
+    const int status = RunInSilence({folder.File("saved.Kvt"), "--save", folder.File("again.Kvt")}, text);
+    Require(text.find("Error loading parameter file") == std::string::npos,
+            "a parameter file that cannot be read again");
+    if (status == korvet::batch::Done) {
         Require(folder.Take("again.Kvt") == bytes, "a parameter file that changes when it is saved again");
     }
 }

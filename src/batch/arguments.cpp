@@ -4,10 +4,9 @@
 #include <algorithm>
 #include <array>
 #include <filesystem>
-#include <map>
 #include <sstream>
-#include <system_error>
 
+#include "batch/claims.h"
 #include "batch/fittings_list.h"
 #include "core/constants.h"
 #include "core/number_text.h"
@@ -104,50 +103,6 @@ std::vector<std::string> ParseSheets(const std::string& text) {
     }
     return names;
 }
-
-/// Who reads or writes a file, so that no two do.
-class Claims {
-  public:
-    static constexpr std::size_t Reader = 0;  ///< in the place of the number of the output's input
-    static constexpr std::size_t Whole = std::string::npos;  ///< an output of all inputs together
-
-    /// Claims the file for `owner`, which belongs to the input with this number. What one reads it may write
-    /// too under the same name of owner. Throws UsageError when another has the file. Devices are for
-    /// everybody.
-    void Claim(const std::string& path, const std::string& owner, std::size_t input) {
-        std::error_code ignored;
-        std::filesystem::path whole = std::filesystem::weakly_canonical(path, ignored);
-        if (std::filesystem::exists(whole, ignored)) {
-            if (!std::filesystem::is_regular_file(whole, ignored)) {
-                return;
-            }
-            whole = FirstNameOf(whole);
-        }
-        const auto [place, isNew] = claims_.try_emplace(whole.string(), owner, input);
-        auto& [firstOwner, firstInput] = place->second;
-        if (firstOwner != owner || (firstInput != Reader && input != Reader && firstInput != input)) {
-            throw UsageError("\"" + path + "\" cannot be " + firstOwner + " and " + owner +
-                             "; {name} in the name of an output stands for the name of its input");
-        }
-        firstInput = input;
-    }
-
-  private:
-    /// The first name under which a file with several names (hard links) has been claimed.
-    std::filesystem::path FirstNameOf(const std::filesystem::path& file) {
-        std::error_code ignored;
-        if (std::filesystem::hard_link_count(file, ignored) < 2) {
-            return file;
-        }
-        const auto found = std::find_if(linked_.begin(), linked_.end(), [&](const auto& other) {
-            return std::filesystem::equivalent(file, other, ignored);
-        });
-        return found != linked_.end() ? *found : linked_.emplace_back(file);
-    }
-
-    std::vector<std::filesystem::path> linked_;  ///< claimed files that have further names
-    std::map<std::string, std::pair<std::string, std::size_t>> claims_;
-};
 
 /// No output may fall on another, nor on an input, but for a parameter file that is saved under its own name.
 void CheckOutputs(const Arguments& arguments) {

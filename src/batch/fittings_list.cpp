@@ -119,16 +119,16 @@ std::string TakeValue(const std::string& cell, BatchInput& input) {
     const std::size_t equals = cell.find('=');
     const std::string name(Trimmed(std::string_view(cell).substr(0, equals)));
     if (equals == std::string::npos || name.empty()) {
-        return "\"" + cell + "\" is not NAME=VALUE";
+        return InQuotes(cell) + " is not NAME=VALUE";
     }
     const std::string value(Trimmed(std::string_view(cell).substr(equals + 1)));
     if (name == "select") {
         const auto number = ParseWholeNumber(value, 1, MostTypes);
         input.select = number.value_or(0);
-        return number ? "" : "\"" + value + "\" is no pattern option";
+        return number ? "" : InQuotes(value) + " is no pattern option";
     }
     if (!IsSettableName(name)) {
-        return "there is no value " + name;
+        return "there is no value " + std::string(Excerpt(name));
     }
     input.sets.emplace_back(name, value);
     return {};
@@ -141,17 +141,17 @@ std::string TakeCells(const Record& record, BatchInput& input) {
         return "a quoted cell is not closed, or text follows it";
     }
     if (!IsSoundName(input.name)) {
-        return "\"" + input.name + "\" is no name for a file";
+        return InQuotes(input.name) + " is no name for a file";
     }
     const CatalogueRow* fitting = FindCategory(input.category);
     if (fitting == nullptr) {
-        return "there is no fitting \"" + input.category + "\"";
+        return "there is no fitting " + InQuotes(input.category);
     }
     const std::string type = cells.size() > TypeColumn ? cells[TypeColumn] : "";
     const auto types = static_cast<int>(fitting->table->pages.size());
     const auto number = type.empty() ? std::optional(0) : ParseWholeNumber(type, 1, types);
     if (!number) {
-        return "the type is to be 1 to " + std::to_string(types) + ", not \"" + type + "\"";
+        return "the type is to be 1 to " + std::to_string(types) + ", not " + InQuotes(type);
     }
     input.type = *number;
     for (std::size_t i = FirstValueColumn; i < cells.size(); ++i) {
@@ -190,8 +190,8 @@ std::vector<BatchInput> ReadFittingsList(std::string_view text, const std::strin
         input.fault = TakeCells(record, input);
         const auto [first, isNew] = lines.try_emplace(input.name, record.line);
         if (!isNew && input.fault.empty()) {
-            input.fault =
-                "the name \"" + input.name + "\" stands on line " + std::to_string(first->second) + " too";
+            input.fault = "the name " + InQuotes(input.name) + " stands on line " +
+                          std::to_string(first->second) + " too";
         }
         rows.push_back(std::move(input));
     }

@@ -7,6 +7,7 @@
 
 #include "batch/arguments.h"
 #include "core/number_text.h"
+#include "core/text_encoding.h"
 #include "core/thick_compensator.h"
 
 namespace korvet::batch {
@@ -73,7 +74,7 @@ bool ParseBoolean(const std::string& name, const std::string& value) {
     if (EqualIgnoringCase(value, "False") || value == "0") {
         return false;
     }
-    throw UsageError(name + " takes True or False, not \"" + value + "\"");
+    throw UsageError(name + " takes True or False, not " + InQuotes(value));
 }
 
 /// The value as it would stand in a box of the settings dialog, for the checks of boxes.
@@ -109,8 +110,8 @@ Outcome SetMember(CFittingWindow& window, const std::string& name, const std::st
         const auto& choice = std::get<ShortMember>(member);
         const auto index = ParseWholeNumber(value, 0, choice.highest);
         if (!index) {
-            throw UsageError(name + " takes 0 to " + std::to_string(choice.highest) + ", not \"" + value +
-                             "\"");
+            throw UsageError(name + " takes 0 to " + std::to_string(choice.highest) + ", not " +
+                             InQuotes(value));
         }
         window.settings.*choice.member = static_cast<std::int16_t>(*index);
         if (choice.member == &CPatternSettings::InOutMean) {
@@ -128,7 +129,8 @@ void SetOption(CFittingWindow& window, const std::string& name, const std::strin
     }
     const auto index = ParseWholeNumber(value, 0, static_cast<int>(group.captions.size()) - 1);
     if (!index) {
-        throw UsageError(std::string(window.Row().window) + " has no " + name + " " + value);
+        throw UsageError(std::string(window.Row().window) + " has no " + name + " " +
+                         std::string(Excerpt(value)));
     }
     group.selected = static_cast<std::size_t>(*index);
 }
@@ -148,12 +150,16 @@ void SetBranchOption(CFittingWindow& window, const std::string& name, const std:
     }
     const auto join = ParseWholeNumber(value, SetInJoin, MeanToMeanJoin);
     if (!join) {
-        throw UsageError(name + " takes 0 to 2, not \"" + value + "\"");
+        throw UsageError(name + " takes 0 to 2, not " + InQuotes(value));
     }
     window.branch.join = static_cast<BranchJoin>(*join);
 }
 
 }  // namespace
+
+std::string InQuotes(std::string_view value) {
+    return '"' + std::string(Excerpt(value)) + '"';
+}
 
 bool IsSettableName(const std::string& name) {
     return BoxIndex(name) || name == "comment1" || name == "comment2" || name == "textsize" ||

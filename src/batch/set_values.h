@@ -2,11 +2,15 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "window/fitting_window.h"
 
 namespace korvet::batch {
+
+/// A value, or a cell of a list, as messages quote it.
+std::string InQuotes(std::string_view value);
 
 /// Whether `name` can be set in some window. An unknown name is wrong usage whatever the input.
 bool IsSettableName(const std::string& name);

@@ -9,6 +9,22 @@
 #include "platform/system_clock.h"
 
 namespace korvet {
+namespace {
+
+QtMessageHandler usualHandler = nullptr;
+bool hasStarted = false;
+
+/// What the toolkit says of a missing desktop at its start is no concern of a program that only makes
+/// pictures. What ends the program is told where the user sees it, and not only in a log of the system.
+void HandleMessage(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (type == QtFatalMsg) {
+        std::cerr << "korvet: " << text.toStdString() << std::endl;
+    } else if (hasStarted) {
+        usualHandler(type, context, text);
+    }
+}
+
+}  // namespace
 
 void EnsureGraphicsApplication() {
     if (QCoreApplication::instance() != nullptr) {
@@ -23,14 +39,7 @@ void EnsureGraphicsApplication() {
     static int argumentCount = 1;
     static char programName[] = "korvet";
     static char* arguments[] = {programName, nullptr};
-    // What it says of a missing desktop at its start is no concern of a program that only makes pictures, but
-    // for what ends the program.
-    const auto handler =
-        qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
-            if (type == QtFatalMsg) {
-                std::cerr << "korvet: " << text.toStdString() << std::endl;
-            }
-        });
+    usualHandler = qInstallMessageHandler(HandleMessage);
     // Its letters are measured once before it counts as made: what the toolkit keeps for them goes at the end
     // of the program in reverse order, and the application takes it down.
     static const auto application = [] {
@@ -38,7 +47,7 @@ void EnsureGraphicsApplication() {
         static_cast<void>(QFontMetrics(QFont()).horizontalAdvance(QStringLiteral("0")));
         return made;
     }();
-    qInstallMessageHandler(handler);
+    hasStarted = true;
     HoldNumericLocale();
 }
 

@@ -84,6 +84,17 @@ TEST(FittingsList, ABadRowHasItsLineAndLeavesTheOthers) {
             "l.csv: line 14: ", "l.csv: line 15: a quoted cell is not closed, or text follows it"}));
 }
 
+TEST(FittingsList, AMessageShowsLittleOfTheList) {
+    const std::string text(5000, 'x');
+    for (const std::string& row : {"a," + text + ",1\n", "a,Elbow," + text + "\n", "a,Elbow,1," + text + "\n",
+                                   "a,Elbow,1,select=" + text + "\n", "a,Elbow,1," + text + "=1\n",
+                                   "/" + text + ",Elbow,1\n", text + ",Elbow,1\n" + text + ",Elbow,1\n"}) {
+        for (const std::string& fault : FaultsOf(row)) {
+            EXPECT_LT(fault.size(), 300U) << row.substr(0, 20);
+        }
+    }
+}
+
 TEST(FittingsList, AnEmptyListHasNoRows) {
     for (const char* text : {"", "\n\n", "name,fitting,type\n", ";;;\n"}) {
         EXPECT_TRUE(ReadFittingsList(text, "l.csv").empty()) << text;

@@ -140,6 +140,14 @@ class DxfTest(FolderTest):
                          "--dxf", self.folder / "a.dxf")
             self.assertEqual((result.status, result.errors), (DONE, ""))
 
+    def test_what_is_asked_for_and_not_there_is_a_failure(self):
+        for name in ("diagonals", "dimensions", "label"):
+            path = self.folder / "a.dxf"
+            result = run(*CONE, "--view", "model", f"--{name}", "--dxf", path)
+            self.assertEqual((result.status, result.lines),
+                             (REFUSED, [f'Right Cone: there is nothing for "{name.capitalize()}" in this view']))
+            self.assertTrue(path.exists(), "all else is written")
+
     def test_a_box_is_ticked_or_cleared(self):
         for name in ("diagonals", "dimensions", "label"):
             for pair in ((f"--{name}", f"--no-{name}"), (f"--no-{name}", f"--{name}")):

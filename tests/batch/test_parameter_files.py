@@ -8,6 +8,24 @@ import test_cones
 from batch_program import DONE, REFUSED, FolderTest, cone_file, run
 
 
+class BranchTest(FolderTest):
+    def test_a_file_without_thicknesses_and_join(self):
+        """Whether it was cut or comes from a program that knows none, it is read and told of, in the report too."""
+        whole = self.folder / "whole.Kvt"
+        self.assertEqual(run("--new", "Branch", "--sample", "--set", "ThicknessA=2", "--save", whole).status, DONE)
+        data = whole.read_bytes()
+        end = data.index(b"End Comments") + len(b"End Comments")
+        for length, status in ((len(data), DONE), (end, DONE), (end + 2, DONE), (end + 10, REFUSED), (end - 1, REFUSED)):
+            path = self.write("cut.Kvt", data[:length])
+            result = run(path, "--json", "-")
+            self.assertEqual(result.status, status, length)
+            said = ("The thicknesses and the join of the branch are not in this file: "
+                    "the settings of a new window are used")
+            told = status == DONE and length < len(data)
+            self.assertEqual([message["text"] for message in result.json["messages"]].count(said), int(told), length)
+            self.assertEqual(said in result.errors, told, length)
+
+
 class VersionTest(FolderTest):
     def laps(self, version, laps):
         path = self.write("in.Kvt", cone_file(product=f"Korvet Development-{version}", laps=laps, JoinType="1",

@@ -198,6 +198,10 @@ class WrongUsageTest(FolderTest):
         (self.folder / "b.dxf").hardlink_to(self.folder / "a.Kvt")
         self.wrong("a.Kvt", "--json", "one", "--dxf", "two", says="cannot be the DXF of a.Kvt and the JSON")
         self.wrong("a.Kvt", "--dxf", "b.dxf")
+        for name in ("c.dxf", "c.svg"):
+            (self.folder / name).symlink_to("not there yet")
+        self.wrong("a.Kvt", "--dxf", "c.dxf", "--svg", "c.svg", says="cannot be the DXF of a.Kvt and the SVG")
+        self.wrong("a.Kvt", "--dxf", "c.dxf", "--save", "not there yet")
 
 
 class SeveralInputsTest(FolderTest):

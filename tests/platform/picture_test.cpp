@@ -4,6 +4,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QRect>
+#include <QtGlobal>
 #include <algorithm>
 #include <string>
 
@@ -373,6 +374,11 @@ TEST(Picture, WithoutSizeTakesNothingAndIsNotWritten) {
         device.TextOut("A", {0, 0}, {-13, 0}, White);
         EXPECT_THROW((void)device.Bytes(), FileError);
     }
+}
+
+TEST(PictureDeathTest, WhatEndsTheToolkitIsTold) {
+    const PictureDevice device(PictureFormat::Png, 1, 1);
+    EXPECT_DEATH(qFatal("no letters"), "korvet: no letters");
 }
 
 TEST(ClipLine, KeepsWhatLiesInside) {

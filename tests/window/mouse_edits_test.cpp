@@ -62,6 +62,20 @@ TEST_F(MouseEditsTest, TwoPicksOfOnePointMakeNoDimension) {
     EXPECT_EQ(window->modes.dimensionMode, 1);
 }
 
+TEST_F(MouseEditsTest, TenThousandDimensionsAndNoMore) {
+    const auto window = Cone(PatternButton);
+    for (int i = 0; i < 9999; ++i) {
+        window->dimensions->Add({1, 1, 1, 1, 2, 1});
+    }
+    window->AddDimension(1);
+    DragRuling(*window, 6);
+    EXPECT_EQ(window->dimensions->Count(), 10000U);
+    EXPECT_TRUE(shell.ui.messages.empty());
+    DragRuling(*window, 12);
+    EXPECT_EQ(window->dimensions->Count(), 10000U);
+    EXPECT_EQ(shell.ui.Texts(), std::vector<std::string>{"A drawing holds at most 10000 dimensions"});
+}
+
 TEST_F(MouseEditsTest, RemovalTakesTheNearestDimensionAndEnds) {
     const auto window = Cone(PatternButton);
     window->AddDimension(1);
