@@ -87,8 +87,10 @@ def tasks():
 
 def contents_of(folder):
     """The files of a folder, but for its name and the time at which a PDF was made."""
-    return {str(path.relative_to(folder)): re.sub(rb"(?<=/CreationDate \(D:)\d{14}", b"TIME", path.read_bytes()).replace(
-                str(folder).encode(), b"FOLDER")
+    def comparable(contents):
+        return re.sub(rb"(?<=/CreationDate \(D:)\d{14}", b"TIME", contents.replace(str(folder).encode(), b"FOLDER"))
+
+    return {str(path.relative_to(folder)): comparable(path.read_bytes())
             for path in sorted(folder.rglob("*")) if path.is_file()}
 
 

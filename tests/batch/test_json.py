@@ -73,8 +73,8 @@ class JsonTest(FolderTest):
             old = self.write(name, "old")
             os.link(old, self.folder / f"other of {name}")
             result = run(*CONE, "--json", self.folder / pattern)
-            self.assertEqual((result.status, result.errors),
-                             (DONE, f"korvet-batch: {old} had further names (hard links): under those the file stays as it was\n"))
+            told = f"korvet-batch: {old} had further names (hard links): under those the file stays as it was\n"
+            self.assertEqual((result.status, result.errors), (DONE, told))
             self.assertEqual((self.folder / f"other of {name}").read_text("ascii"), "old")
             read_json(old.read_text("utf-8"))
 

@@ -15,7 +15,8 @@ class BranchTest(FolderTest):
         self.assertEqual(run("--new", "Branch", "--sample", "--set", "ThicknessA=2", "--save", whole).status, DONE)
         data = whole.read_bytes()
         end = data.index(b"End Comments") + len(b"End Comments")
-        for length, status in ((len(data), DONE), (end, DONE), (end + 2, DONE), (end + 10, REFUSED), (end - 1, REFUSED)):
+        for length, status in ((len(data), DONE), (end, DONE), (end + 2, DONE), (end + 10, REFUSED),
+                               (end - 1, REFUSED)):
             path = self.write("cut.Kvt", data[:length])
             result = run(path, "--json", "-")
             self.assertEqual(result.status, status, length)
