@@ -111,6 +111,17 @@ def sound(make, rng):
     raise AssertionError("no sound case")
 
 
+def sound_sizes(case, sizes, settings, rng, selects=()):
+    """A sound case of the sizes that `sizes(rng)` gives, {index: number}: the settings go by the first of them. `case` takes
+    boxes and settings, and one of the pattern options if there are some."""
+    def make(rng):
+        boxes = sizes(rng)
+        texts, chosen = typed(rng, boxes), settings(rng, boxes[min(boxes)])
+        return case(texts, chosen, select=rng.choice(selects) if selects else None)
+
+    return sound(make, rng)
+
+
 # ----------------------------------------------------------------------------------------- limits and faults
 
 

@@ -1,12 +1,13 @@
 """Segmented bends of korvet-batch against a second computation of them."""
 
 import unittest
+from functools import partial
 from dataclasses import replace
 
 import bend_oracle
 import fitting_cases
 from bend_oracle import BOX_COUNT, CATEGORY, FULL_LAYOUT, SHORT_LAYOUT
-from fitting_cases import pipe_settings, rng_of, sound, spoilt_case, thick_settings, typed
+from fitting_cases import pipe_settings, rng_of, sound_sizes, spoilt_case, thick_settings
 from fitting_maths import Settings
 from oracle_test import OracleTest
 from window_checks import NO_PATTERN, USER_ERROR
@@ -30,12 +31,8 @@ def sizes(dtype, rng):
 
 
 def sound_case(dtype, rng, settings=pipe_settings):
-    def make(rng):
-        boxes = sizes(dtype, rng)
-        return Case(CATEGORY, dtype, typed(rng, boxes), settings(rng, boxes[min(boxes)]),
-                    select=rng.choice([FULL_LAYOUT, SHORT_LAYOUT]))
-
-    return sound(make, rng)
+    return sound_sizes(partial(Case, CATEGORY, dtype), partial(sizes, dtype), settings, rng,
+                       [FULL_LAYOUT, SHORT_LAYOUT])
 
 
 def limit_case(dtype, rng):

@@ -1,11 +1,12 @@
 """Breeches of korvet-batch against a second computation of them."""
 
 import unittest
+from functools import partial
 
 import breech_oracle
 import fitting_cases
 from breech_oracle import BOX_COUNT, CATEGORY, FIRST_BOX, IN_A_COLUMN, IN_A_ROW
-from fitting_cases import pipe_settings, rng_of, sound, spoilt_case, thick_settings, typed
+from fitting_cases import pipe_settings, rng_of, sound_sizes, spoilt_case, thick_settings
 from fitting_maths import Settings
 from oracle_test import OracleTest
 from window_checks import NO_PATTERN, USER_ERROR
@@ -33,12 +34,7 @@ def sizes(dtype, rng):
 
 
 def sound_case(dtype, rng, settings=pipe_settings):
-    def make(rng):
-        boxes = sizes(dtype, rng)
-        return Case(CATEGORY, dtype, typed(rng, boxes), settings(rng, boxes[FIRST_BOX[dtype]]),
-                    select=rng.choice([IN_A_ROW, IN_A_COLUMN]))
-
-    return sound(make, rng)
+    return sound_sizes(partial(Case, CATEGORY, dtype), partial(sizes, dtype), settings, rng, [IN_A_ROW, IN_A_COLUMN])
 
 
 def plain_case(dtype, settings=Settings(segs=6), select=IN_A_ROW, view="pattern", diameter="100", length="150",

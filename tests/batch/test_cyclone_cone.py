@@ -2,12 +2,13 @@
 
 import math
 import unittest
+from functools import partial
 from dataclasses import replace
 
 import cyclone_cone_oracle
 import fitting_cases
 from cyclone_cone_oracle import BOX_COUNT, CATEGORY
-from fitting_cases import pipe_settings, rng_of, sound, spoilt_case, thick_settings, typed
+from fitting_cases import pipe_settings, rng_of, sound_sizes, spoilt_case, thick_settings
 from fitting_maths import Settings
 from oracle_test import OracleTest
 from pipe_to_cone_oracle import CONE, PIPE
@@ -29,12 +30,7 @@ def sizes(rng):
 
 
 def sound_case(rng, settings=pipe_settings, select=None):
-    def make(rng):
-        boxes = sizes(rng)
-        return Case(CATEGORY, 0, typed(rng, boxes), settings(rng, boxes[0]),
-                    select=rng.choice([CONE, PIPE]) if select is None else select)
-
-    return sound(make, rng)
+    return sound_sizes(partial(Case, CATEGORY, 0), sizes, settings, rng, [CONE, PIPE] if select is None else [select])
 
 
 def few_stations(rng, size):

@@ -2,12 +2,13 @@
 
 import math
 import unittest
+from functools import partial
 from dataclasses import replace
 
 import cylinder_oracle
 import fitting_cases
 from cylinder_oracle import BOX_COUNT, CATEGORY
-from fitting_cases import inside, pipe_settings, rng_of, sound, spoilt_case, thick_settings, typed
+from fitting_cases import inside, pipe_settings, rng_of, sound_sizes, spoilt_case, thick_settings
 from fitting_maths import Settings, rad_to_deg
 from oracle_test import OracleTest
 
@@ -44,11 +45,7 @@ def sizes(dtype, rng):
 
 
 def sound_case(dtype, rng, settings=pipe_settings):
-    def make(rng):
-        boxes = sizes(dtype, rng)
-        return Case(CATEGORY, dtype, typed(rng, boxes), settings(rng, boxes[min(boxes)]))
-
-    return sound(make, rng)
+    return sound_sizes(partial(Case, CATEGORY, dtype), partial(sizes, dtype), settings, rng)
 
 
 def thick_case(dtype, rng):

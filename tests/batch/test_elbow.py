@@ -2,11 +2,12 @@
 
 import math
 import unittest
+from functools import partial
 
 import elbow_oracle
 import fitting_cases
 from elbow_oracle import BOX_COUNT, CATEGORY
-from fitting_cases import inside, pipe_settings, rng_of, sound, spoilt_case, thick_settings, typed
+from fitting_cases import inside, pipe_settings, rng_of, sound_sizes, spoilt_case, thick_settings
 from fitting_maths import Settings
 from oracle_test import OracleTest
 
@@ -30,11 +31,7 @@ def sizes(dtype, rng):
 
 
 def sound_case(dtype, rng, settings=pipe_settings):
-    def make(rng):
-        boxes = sizes(dtype, rng)
-        return Case(CATEGORY, dtype, typed(rng, boxes), settings(rng, boxes[min(boxes)]))
-
-    return sound(make, rng)
+    return sound_sizes(partial(Case, CATEGORY, dtype), partial(sizes, dtype), settings, rng)
 
 
 def plain_case(dtype, settings, **boxes):

@@ -1,11 +1,12 @@
 """Elbows of a cone and a pipe of korvet-batch against a second computation of them."""
 
 import unittest
+from functools import partial
 
 import elbow_pipe_cone_oracle
 import fitting_cases
 from elbow_pipe_cone_oracle import ANY_ANGLE, BOX_COUNT, CONE, CONE_TO_PIPE, PIPE, PIPE_TO_CONE, SQUARE
-from fitting_cases import inside, pipe_settings, rng_of, sound, spoilt_case, thick_settings, typed
+from fitting_cases import inside, pipe_settings, rng_of, sound_sizes, spoilt_case, thick_settings
 from fitting_maths import SEAM_LAP, Settings
 from oracle_test import OracleTest
 from window_checks import NO_PATTERN, PRODUCT, USER_ERROR
@@ -28,12 +29,7 @@ def sizes(dtype, rng):
 
 
 def sound_case(category, dtype, rng, settings=pipe_settings):
-    def make(rng):
-        boxes = sizes(dtype, rng)
-        return Case(category, dtype, typed(rng, boxes), settings(rng, boxes[min(boxes)]),
-                    select=rng.choice([CONE, PIPE]))
-
-    return sound(make, rng)
+    return sound_sizes(partial(Case, category, dtype), partial(sizes, dtype), settings, rng, [CONE, PIPE])
 
 
 def plain_case(category, dtype, settings=Settings(segs=8), select=CONE, view="pattern", **changed):

@@ -2,10 +2,11 @@
 
 import math
 import unittest
+from functools import partial
 
 import fitting_cases
 import pipe_to_bend_oracle
-from fitting_cases import pipe_settings, rng_of, sound, spoilt_case, thick_settings, typed
+from fitting_cases import pipe_settings, rng_of, sound_sizes, spoilt_case, thick_settings
 from fitting_maths import Settings
 from oracle_test import OracleTest
 from pipe_to_bend_oracle import BOX_COUNT, CATEGORY
@@ -27,11 +28,7 @@ def sizes(rng):
 
 
 def sound_case(rng, settings=pipe_settings):
-    def make(rng):
-        boxes = sizes(rng)
-        return Case(CATEGORY, 0, typed(rng, boxes), settings(rng, boxes[0]))
-
-    return sound(make, rng)
+    return sound_sizes(partial(Case, CATEGORY, 0), sizes, settings, rng)
 
 
 def plain_case(settings, **boxes):

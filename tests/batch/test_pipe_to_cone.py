@@ -2,10 +2,11 @@
 
 import math
 import unittest
+from functools import partial
 
 import fitting_cases
 import pipe_to_cone_oracle
-from fitting_cases import inside, pipe_settings, rng_of, sound, spoilt_case, thick_settings, typed
+from fitting_cases import inside, pipe_settings, rng_of, sound_sizes, spoilt_case, thick_settings
 from fitting_maths import Settings
 from oracle_test import OracleTest
 from pipe_to_cone_oracle import BOX_COUNT, CATEGORY, CONE, PAGES, PIPE, SIDE, SLANT, TOP
@@ -49,12 +50,8 @@ def sizes(dtype, rng):
 
 
 def sound_case(dtype, rng, settings=pipe_settings, select=None):
-    def make(rng):
-        boxes = sizes(dtype, rng)
-        return Case(CATEGORY, dtype, typed(rng, boxes), settings(rng, boxes[min(boxes)]),
-                    select=rng.choice([CONE, PIPE]) if select is None else select)
-
-    return sound(make, rng)
+    return sound_sizes(partial(Case, CATEGORY, dtype), partial(sizes, dtype), settings, rng,
+                       [CONE, PIPE] if select is None else [select])
 
 
 def plain_case(dtype, settings=Settings(segs=8), select=CONE, view="pattern", **changed):

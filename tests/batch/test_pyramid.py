@@ -1,10 +1,11 @@
 """Pyramids of korvet-batch against a second computation of them."""
 
 import unittest
+from functools import partial
 
 import pyramid_oracle
 import sides_cases
-from fitting_cases import inside, random_settings, rng_of, sound, spoilt_case, thick_settings, typed
+from fitting_cases import inside, random_settings, rng_of, sound_sizes, spoilt_case, thick_settings
 from fitting_maths import Settings
 from pyramid_oracle import BOX_COUNT, CATEGORY
 from sides_cases import SidesTest
@@ -33,11 +34,7 @@ def sizes(dtype, rng):
 
 
 def sound_case(dtype, rng, settings=random_settings):
-    def make(rng):
-        boxes = sizes(dtype, rng)
-        return Case(CATEGORY, dtype, typed(rng, boxes), settings(rng, boxes[min(boxes)]))
-
-    return sound(make, rng)
+    return sound_sizes(partial(Case, CATEGORY, dtype), partial(sizes, dtype), settings, rng)
 
 
 def plain_case(dtype, settings=Settings(), **boxes):

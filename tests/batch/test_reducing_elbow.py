@@ -1,11 +1,12 @@
 """Reducing elbows of korvet-batch against a second computation of them."""
 
 import unittest
+from functools import partial
 
 import fitting_cases
 import reducing_elbow_oracle
 from cone_surfaces import TOP_LAP
-from fitting_cases import inside, piece_settings, pipe_settings, rng_of, sound, spoilt_case, thick_settings, typed
+from fitting_cases import inside, piece_settings, pipe_settings, rng_of, sound_sizes, spoilt_case, thick_settings
 from fitting_maths import SEAM_LAP, Settings
 from oracle_test import OracleTest
 from reducing_elbow_oracle import BOX_COUNT, CATEGORY
@@ -28,11 +29,7 @@ def sizes(dtype, rng):
 
 
 def sound_case(dtype, rng, settings=pipe_settings):
-    def make(rng):
-        boxes = sizes(dtype, rng)
-        return Case(CATEGORY, dtype, typed(rng, boxes), settings(rng, boxes[min(boxes)]))
-
-    return sound(make, rng)
+    return sound_sizes(partial(Case, CATEGORY, dtype), partial(sizes, dtype), settings, rng)
 
 
 def plain_case(dtype, settings, **boxes):

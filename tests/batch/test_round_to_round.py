@@ -1,10 +1,11 @@
 """Round to round and offset cylinders of korvet-batch against a second computation of them."""
 
 import unittest
+from functools import partial
 
 import fitting_cases
 import round_to_round_oracle
-from fitting_cases import inside, random_settings, rng_of, sound, spoilt_case, thick_settings, typed
+from fitting_cases import inside, random_settings, rng_of, sound_sizes, spoilt_case, thick_settings
 from fitting_maths import SEAM_LAP, Settings
 from oracle_test import OracleTest
 from round_to_round_oracle import BOX_COUNT, CYLINDER, ROUND, TYPES
@@ -41,11 +42,7 @@ def sizes(kind, rng):
 
 
 def sound_case(kind, rng, settings=random_settings):
-    def make(rng):
-        boxes = sizes(kind, rng)
-        return Case(*kind, typed(rng, boxes), settings(rng, boxes[min(boxes)]))
-
-    return sound(make, rng)
+    return sound_sizes(partial(Case, *kind), partial(sizes, kind), settings, rng)
 
 
 def plain_case(kind, settings, **boxes):

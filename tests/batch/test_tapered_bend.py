@@ -1,11 +1,12 @@
 """Tapered bends of korvet-batch against a second computation of them."""
 
 import unittest
+from functools import partial
 
 import fitting_cases
 import tapered_bend_oracle
 from cone_surfaces import TOP_LAP
-from fitting_cases import piece_settings, pipe_settings, rng_of, sound, spoilt_case, thick_settings, typed
+from fitting_cases import piece_settings, pipe_settings, rng_of, sound_sizes, spoilt_case, thick_settings
 from fitting_maths import SEAM_LAP, Settings
 from oracle_test import OracleTest
 from tapered_bend_oracle import BOX_COUNT, CATEGORY
@@ -28,11 +29,7 @@ def sizes(dtype, rng):
 
 
 def sound_case(dtype, rng, settings=pipe_settings):
-    def make(rng):
-        boxes = sizes(dtype, rng)
-        return Case(CATEGORY, dtype, typed(rng, boxes), settings(rng, boxes[min(boxes)]))
-
-    return sound(make, rng)
+    return sound_sizes(partial(Case, CATEGORY, dtype), partial(sizes, dtype), settings, rng)
 
 
 def limit_case(dtype, rng):
