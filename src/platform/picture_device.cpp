@@ -17,7 +17,7 @@ class PictureDevice::Canvas {
     Canvas(PictureFormat format, int width, int height) : format_(format), size_(width, height) {
         EnsureGraphicsApplication();
         if (format == PictureFormat::Png) {
-            image_ = QImage(size_, QImage::Format_RGB32);
+            image_ = QImage(size_, QImage::Format_RGB888);
             exists_ = !image_.isNull();
         } else {
             exists_ = width > 0 && height > 0;
