@@ -22,7 +22,6 @@
 #include "desktop/dialogs/recovery_widgets.h"
 #include "desktop/frame/category_menu_window.h"
 #include "desktop/frame/icons.h"
-#include "desktop/frame/tile_picture.h"
 #include "platform/file_lock.h"
 
 namespace korvet::desktop {
@@ -34,18 +33,6 @@ constexpr QMargins WindowFrame = {8, 36, 8, 8};
 /// Large enough for a fitting window with a fair drawing beside its panel.
 constexpr QSize ComfortableSize = {1280, 1000};
 
-/// A caption is shown as it stands: the toolkit's mark for unsaved windows is no part of it.
-QString Title(const std::string& caption) {
-    return Text(caption).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
-}
-
-int ShapeOf(Qt::WindowStates states) {
-    if (states.testFlag(Qt::WindowMinimized)) {
-        return MinimisedWindow;
-    }
-    return states.testFlag(Qt::WindowMaximized) ? MaximisedWindow : NormalWindow;
-}
-
 QStringList LocalFiles(const QMimeData& data) {
     QStringList paths;
     for (const QUrl& url : data.urls()) {
@@ -54,11 +41,6 @@ QStringList LocalFiles(const QMimeData& data) {
         }
     }
     return paths;
-}
-
-/// Whether a dialog is open: a window may be waiting for it and must not go under it.
-bool IsBusy() {
-    return QApplication::activeModalWidget() != nullptr;
 }
 
 }  // namespace
@@ -78,44 +60,6 @@ QRect OnScreen(QRect place, const QList<QRect>& screens) {
     place.moveLeft(std::clamp(place.left(), screen->left(), screen->right() + 1 - place.width()));
     place.moveTop(std::clamp(place.top(), screen->top(), screen->bottom() + 1 - place.height()));
     return place;
-}
-
-ChildWindow::ChildWindow(CFittingWindow& window, QWidget* parent)
-    : QMdiSubWindow(parent), view_(new FittingView(window, this)) {
-    setWidget(view_);
-    setWindowIcon(FittingIcon(window.Row()));
-    setAttribute(Qt::WA_DeleteOnClose, false);
-    for (QAction* action : systemMenu()->actions()) {
-        action->setShortcut({});  // File > Close has it
-    }
-    connect(this, &QMdiSubWindow::windowStateChanged, this, [this] { TakeShape(); });
-    view_->closeWindow = [this] { close(); };
-}
-
-/// The toolkit still changes the state of the part that is left while it takes the window down.
-ChildWindow::~ChildWindow() {
-    disconnect(this, &QMdiSubWindow::windowStateChanged, this, nullptr);
-}
-
-void ChildWindow::TakeShape() {
-    view_->TakeShape(ShapeOf(windowState()));
-}
-
-QSize ChildWindow::sizeHint() const {
-    return mdiArea() != nullptr ? mdiArea()->viewport()->size() * 2 / 3 : QMdiSubWindow::sizeHint();
-}
-
-void ChildWindow::Project() {
-    if (view_->Window() != nullptr) {
-        setWindowTitle(Title(view_->Window()->controls.caption));
-        view_->Project();
-    }
-}
-
-void ChildWindow::closeEvent(QCloseEvent* event) {
-    CFittingWindow* window = view_->Window();
-    const bool may = window == nullptr || (!IsBusy() && mayClose(*window));
-    event->setAccepted(may);
 }
 
 MainWindow::MainWindow(WindowContext& context, HelpViewer& help, SettingsStore& settings,

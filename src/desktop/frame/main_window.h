@@ -3,14 +3,13 @@
 
 #include <QMainWindow>
 #include <QMdiArea>
-#include <QMdiSubWindow>
 #include <chrono>
 #include <functional>
 #include <map>
 #include <string>
 
 #include "desktop/dialogs/dialog_host.h"
-#include "desktop/fitting/fitting_view.h"
+#include "desktop/frame/child_window.h"
 #include "frame/main_frame.h"
 
 class QAction;
@@ -21,32 +20,6 @@ class QToolBar;
 class QToolButton;
 
 namespace korvet::desktop {
-
-/// The frame of one fitting window. Closing it asks the main frame.
-class ChildWindow : public QMdiSubWindow {
-    Q_OBJECT
-  public:
-    ChildWindow(CFittingWindow& window, QWidget* parent);
-    ~ChildWindow() override;
-
-    [[nodiscard]] FittingView& View() const { return *view_; }
-
-    /// Caption and contents as the model has them.
-    void Project();
-
-    /// Two thirds of the area of windows each way, where it is not maximised.
-    [[nodiscard]] QSize sizeHint() const override;
-
-    std::function<bool(CFittingWindow&)> mayClose;
-
-  protected:
-    void closeEvent(QCloseEvent* event) override;
-
-  private:
-    void TakeShape();
-
-    FittingView* view_;
-};
 
 /// Where a window left at `place` comes up: within the screen that has most of it, or the first one when its
 /// screen is gone. Pixels.
