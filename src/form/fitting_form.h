@@ -34,7 +34,7 @@ struct FormState {
 /// user's unit and angles in degrees, as typed.
 class FittingForm {
   public:
-    FittingForm(FieldContext context, const FormState& state)
+    FittingForm(const FieldContext& context, const FormState& state)
         : settings(state.settings),
           options(state.options),
           branch(state.branch),
