@@ -73,6 +73,10 @@ void OptionsDialog::ChangeNumber(TextBox& box, const std::string& text) {
     CheckFieldChange(Fields(), box);
 }
 
+void OptionsDialog::ChangeSegs(const std::string& text) {
+    CmbDefaultSegs.edit.text = WithoutPastedBlanks(CmbDefaultSegs.edit.text, text);
+}
+
 void OptionsDialog::StoreColor(ColorSwatch& swatch, Color color) {
     options_.Colors.*(swatch.option) = color;
     swatch.backColor = color;
@@ -102,7 +106,11 @@ void OptionsDialog::ClickCalibAssist() {
 
 void OptionsDialog::ClickOK() {
     if (cmbLanguage.edit.text != "English") {
-        ShowPlain(ui_, cmbLanguage.edit.text + " is not yet available");
+        tab = GeneralTab;
+        ui_.Show({.text = cmbLanguage.edit.text + " is not yet available",
+                  .style = PlainBox,
+                  .title = std::string(ProductTitle),
+                  .control = cmbLanguage.edit.name});
         cmbLanguage.edit.text = "English";
         return;
     }
@@ -203,7 +211,7 @@ Outcome OptionsDialog::StoreTextSizes() {
 /// Says what is wrong with a box and puts the focus on it.
 Outcome OptionsDialog::Refuse(const TextBox& box, const std::string& text) {
     tab = TabOf(box.name);
-    ShowUserError(ui_, text);
+    ui_.Show({.text = text, .style = ExclamationBox, .title = "User Error", .control = box.name});
     focus = box.name;
     return Refused;
 }

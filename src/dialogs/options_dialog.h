@@ -64,9 +64,12 @@ struct OptionsDialog {
 
     // Events.
 
-    /// The text of a number box after an edit, tested as it is typed. Layer names and lists take any text and
-    /// are written to directly.
+    /// The text of a number box after an edit, tested as it is typed. Layer names take any text and are
+    /// written to directly.
     void ChangeNumber(TextBox& box, const std::string& text);
+
+    /// The text of CmbDefaultSegs after an edit or a choice, which is tested only when the dialog is left.
+    void ChangeSegs(const std::string& text);
 
     /// After the colour dialog: the colour is in the options at once, and Cancel does not take it back.
     void StoreColor(ColorSwatch& swatch, Color color);

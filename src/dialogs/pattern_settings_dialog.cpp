@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "core/checked.h"
+#include "core/constants.h"
 #include "core/number_text.h"
 #include "dialogs/options_dialog.h"
 #include "form/messages.h"
@@ -196,7 +197,12 @@ void PatternSettingsDialog::ClickOK() {
         hasSize = hasSize || FieldValue(fields, box) != 0;
     }
     if (optJoinType.IsOn(Lap) && !hasSize) {
-        ShowPlain(*ui, GetMessage(LapWithoutSize, options->Language));
+        const auto* const typed = std::find_if(txtLapSize.begin(), txtLapSize.end(),
+                                               [](const TextBox& box) { return box.enabled; });
+        ui->Show({.text = GetMessage(LapWithoutSize, options->Language),
+                  .style = PlainBox,
+                  .title = std::string(ProductTitle),
+                  .control = typed == txtLapSize.end() ? std::string() : typed->name});
         return;
     }
     if (CheckThicknesses(*this, fields) ||

@@ -3,22 +3,36 @@
 #include "core/fitting.h"
 
 namespace korvet {
+namespace {
+
+/// Shows a message as the user's error about a group of options; about none of the controls without a name.
+Outcome RefuseAbout(const FieldContext& context, const char* group, int messageId) {
+    context.boxes.Show({.text = GetMessage(messageId, context.options.Language),
+                        .style = ExclamationBox,
+                        .title = "User Error",
+                        .control = group});
+    return Refused;
+}
+
+}  // namespace
 
 Outcome FittingForm::Refuse(int messageId) {
-    ShowUserError(context_.boxes, GetMessage(messageId, context_.options.Language));
-    return Refused;
+    return RefuseAbout(context_, "", messageId);
 }
 
 Outcome FittingForm::CheckAxes(int topBox, int baseBox) {
     const bool topMissing = Value(topBox) != 0 && !options.optTopAngle.selected;
     const bool baseMissing = Value(baseBox) != 0 && !options.optBaseAngle.selected;
-    return topMissing || baseMissing ? Refuse(AxisMustBeSelected) : Passed;
+    if (!topMissing && !baseMissing) {
+        return Passed;
+    }
+    return RefuseAbout(context_, topMissing ? "optTopAngle" : "optBaseAngle", AxisMustBeSelected);
 }
 
 Outcome FittingForm::CheckPatternSelected() {
     const OptionGroup& patterns = options.optPatternSelect;
     const bool missing = patternView_ && !patterns.captions.empty() && !patterns.selected;
-    return missing ? Refuse(PatternMustBeSelected) : Passed;
+    return missing ? RefuseAbout(context_, "optPatternSelect", PatternMustBeSelected) : Passed;
 }
 
 void FittingForm::RefuseHalfPattern() {

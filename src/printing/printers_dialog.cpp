@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/constants.h"
 #include "core/number_text.h"
 #include "core/reason.h"
 #include "form/messages.h"
@@ -109,23 +110,30 @@ void PrintersDialog::ClickOK() {
     try {
         printer_ = Chosen();
     } catch (const std::exception& error) {
-        ShowPrintError(boxes_, options_, error);
+        ShowPrintError(boxes_, options_, error, (NamedPrinter() ? cmbPapersize : cmbPrinters).edit.name);
         return;
     }
     lblStatus = "OK";
     visible = false;
 }
 
-/// The printer as it is chosen now. Throws PrintError when there is none of that name, or it has no such
-/// paper.
-CPrintDialog PrintersDialog::Chosen() {
-    CPrintDialog chosen = printer_;
+/// The printer of the name that is chosen, as it calls itself; nothing when there is none any more.
+std::optional<std::string> PrintersDialog::NamedPrinter() const {
     const std::string name = TrimmedText(cmbPrinters.edit);
     const std::vector<std::string> printers = printer_.PrinterNames();
     const auto found = std::find_if(printers.begin(), printers.end(), [&](const std::string& each) {
         return EqualIgnoringCase(Trimmed(each), name);
     });
-    if (found == printers.end()) {
+    return found == printers.end() ? std::nullopt : std::optional(*found);
+}
+
+/// The printer as it is chosen now. Throws PrintError when there is none of that name, or it has no such
+/// paper.
+CPrintDialog PrintersDialog::Chosen() {
+    CPrintDialog chosen = printer_;
+    const std::optional<std::string> found = NamedPrinter();
+    if (!found) {
+        const std::string name = TrimmedText(cmbPrinters.edit);
         throw PrintError(name.empty() ? "No printer is chosen." : "There is no printer \"" + name + "\".");
     }
     chosen.CurrentPrinterName = *found;
@@ -151,8 +159,12 @@ bool PrintersDialog::IsChosen(Action action) const {
     return optAction.IsOn(action) && actionEnabled.at(action);
 }
 
-void ShowPrintError(MessageBoxes& boxes, const COptions& options, const std::exception& error) {
-    ShowPlain(boxes, GetMessage(PrinterProblem, options.Language) + " " + ReasonOf(error));
+void ShowPrintError(MessageBoxes& boxes, const COptions& options, const std::exception& error,
+                    const std::string& control) {
+    boxes.Show({.text = GetMessage(PrinterProblem, options.Language) + " " + ReasonOf(error),
+                .style = PlainBox,
+                .title = std::string(ProductTitle),
+                .control = control});
 }
 
 }  // namespace korvet

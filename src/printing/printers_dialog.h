@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -66,6 +67,7 @@ struct PrintersDialog {
 
   private:
     void ListPapers(const std::string& printer);
+    [[nodiscard]] std::optional<std::string> NamedPrinter() const;
     [[nodiscard]] CPrintDialog Chosen();
     [[nodiscard]] FieldContext Fields();
 
@@ -76,7 +78,8 @@ struct PrintersDialog {
     std::vector<Paper> papers_;  ///< numbers and names of the papers in the list
 };
 
-/// Tells that a document can't be printed, and why.
-void ShowPrintError(MessageBoxes& boxes, const COptions& options, const std::exception& error);
+/// Tells that a document can't be printed, and why; about a control, where it names one.
+void ShowPrintError(MessageBoxes& boxes, const COptions& options, const std::exception& error,
+                    const std::string& control = {});
 
 }  // namespace korvet

@@ -83,6 +83,7 @@ TEST_F(GlobalOptionsChecked, EveryBadBoxKeepsTheDialogOpenWithTheFocusOnIt) {
         EXPECT_EQ(tabUnderMessage, bad.tab);
         EXPECT_EQ(ui.Texts(), std::vector<std::string>{bad.message});
         EXPECT_EQ(ui.messages.at(0).title, bad.message == NotANumber ? "Korvet Development" : "User Error");
+        EXPECT_EQ(ui.messages.at(0).control, bad.focus);
         EXPECT_EQ(dialog.focus, bad.focus);
         EXPECT_EQ(dialog.tab, bad.tab);
         EXPECT_TRUE(dialog.visible);

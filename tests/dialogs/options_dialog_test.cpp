@@ -170,6 +170,7 @@ TEST_F(GlobalOptions, AnotherLanguageIsNotTakenByOk) {
     ASSERT_EQ(ui.messages.size(), 1U);
     EXPECT_EQ(ui.messages[0].text, "French is not yet available");
     EXPECT_EQ(ui.messages[0].style, PlainBox);
+    EXPECT_EQ(ui.messages[0].control, "cmbLanguage");
     EXPECT_EQ(dialog.cmbLanguage.edit.text, "English");
     EXPECT_TRUE(dialog.visible);
     EXPECT_EQ(options.DefaultSegs, 24);

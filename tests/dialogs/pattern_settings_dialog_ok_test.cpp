@@ -198,6 +198,7 @@ TEST_F(PatternSettings, ALapNeedsASize) {
         ASSERT_EQ(ui.messages.size(), 1U);
         EXPECT_EQ(ui.messages[0].text, "A lap join has been requested but no 'Lap Size' is specified");
         EXPECT_EQ(ui.messages[0].style, PlainBox);
+        EXPECT_EQ(ui.messages[0].control, "txtLapSize_0");
         EXPECT_EQ(ui.messages[0].title, "Korvet Development");
         EXPECT_TRUE(d.visible);
         d.Change(d.cboSegs.edit, "24");

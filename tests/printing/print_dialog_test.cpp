@@ -275,6 +275,7 @@ TEST_F(PrintDialogTest, APrinterThatIsGoneIsToldOfAndTheDialogStays) {
     printers.queues.clear();
     dialog.ClickOK();
     EXPECT_EQ(Said(), "Printer Error There is no printer \"Laser\".");
+    EXPECT_EQ(ui.messages.back().control, "cmbPrinters");
     EXPECT_TRUE(dialog.visible);
     dialog.cmbPrinters.edit.text = "";
     dialog.ClickOK();

@@ -88,6 +88,7 @@ TEST_F(WindowKindsTest, APatternMustBeSelectedBeforeOneIsDrawn) {
     window->ClickView(PatternButton);
     EXPECT_FALSE(window->hasModel);
     EXPECT_EQ(shell.ui.Texts(), std::vector<std::string>{"A pattern must be selected"});
+    EXPECT_EQ(shell.ui.messages[0].control, "optPatternSelect");
     EXPECT_EQ(window->controls.focus, "txtParameter_4");
     EXPECT_EQ(window->views->Count(), 1U);
     window->SelectPattern(0);
@@ -115,6 +116,7 @@ TEST_F(WindowKindsTest, AnAngleNeedsAnAxis) {
     window->ChangeBox(0, "-5");
     EXPECT_EQ(window->BuildFitting(), Refused);
     EXPECT_EQ(shell.ui.Texts(), std::vector<std::string>{"X or Y axis of rotation must be selected"});
+    EXPECT_EQ(shell.ui.messages[0].control, "optTopAngle");
     EXPECT_EQ(window->controls.focus, "txtParameter_3");
     options.optTopAngle.selected = 0;
     EXPECT_EQ(window->BuildFitting(), Passed);

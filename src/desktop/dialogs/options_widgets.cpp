@@ -107,8 +107,7 @@ QWidget* MakeGeneralTab(ModelDialog& window, OptionsDialog& dialog) {
     AddDecimals(window, dialog, *form);
     QComboBox* const segs = MakeCombo("CmbDefaultSegs", QStringLiteral("Default number of fold lines"), true);
     form->addRow(MakeLabel(QStringLiteral("Default number of &fold lines:"), segs), segs);
-    window.Bind(*segs, dialog.CmbDefaultSegs,
-                [&](const std::string& text) { dialog.CmbDefaultSegs.edit.text = text; });
+    window.Bind(*segs, dialog.CmbDefaultSegs, [&](const std::string& text) { dialog.ChangeSegs(text); });
     return page;
 }
 

@@ -37,6 +37,15 @@ QWidget* VisibleControl(QWidget& window, const QString& name) {
     return nullptr;
 }
 
+/// A group of options is the frame that its buttons stand in.
+QWidget* ControlOrGroup(QWidget& window, const QString& name) {
+    if (QWidget* const control = VisibleControl(window, name)) {
+        return control;
+    }
+    QWidget* const button = VisibleControl(window, name + QStringLiteral("_0"));
+    return button != nullptr ? button->parentWidget() : nullptr;
+}
+
 /// The window of the area of windows that is worked in; the window itself when it has no such area.
 QWidget& WorkedIn(QWidget& window) {
     const auto* const area = window.findChild<QMdiArea*>();
@@ -44,20 +53,32 @@ QWidget& WorkedIn(QWidget& window) {
     return child != nullptr ? *child : window;
 }
 
+/// The innermost of the widgets from `parent` outwards that a place in it does not run over; the place is
+/// then one in that widget.
+QWidget& WithRoomFor(QRect& place, QWidget& parent) {
+    QWidget* room = &parent;
+    while (!room->rect().contains(place) && !room->isWindow()) {
+        place.translate(room->pos());
+        room = room->parentWidget();
+    }
+    return *room;
+}
+
 }  // namespace
 
 RefusalFrame::RefusalFrame(QWidget* over, const QString& control) {
     QWidget* const refused =
-        over == nullptr || control.isEmpty() ? nullptr : VisibleControl(WorkedIn(*over), control);
+        over == nullptr || control.isEmpty() ? nullptr : ControlOrGroup(WorkedIn(*over), control);
     if (refused == nullptr || refused->parentWidget() == nullptr) {
         return;
     }
     RevealWidget(*refused);
-    frame_ = new Frame(refused->parentWidget());
+    constexpr int Around = Away + Thickness;
+    QRect place = refused->geometry().adjusted(-Around, -Around, Around, Around);
+    frame_ = new Frame(&WithRoomFor(place, *refused->parentWidget()));
     NameWidget(*frame_, "refusalFrame", QString());
     frame_->setAttribute(Qt::WA_TransparentForMouseEvents);
-    constexpr int Around = Away + Thickness;
-    frame_->setGeometry(refused->geometry().adjusted(-Around, -Around, Around, Around));
+    frame_->setGeometry(place);
     frame_->show();
 }
 
