@@ -103,8 +103,9 @@ void CFittingWindow::EditTextSize(const std::string& text) {
     ChangeTextSize(WithoutPastedBlanks(controls.txtTextSize.text, text));
 }
 
+/// The views of a window that is opened with sizes to be mended are not seen yet.
 std::string CFittingWindow::Hint() const {
-    if (views->Count() > 0) {
+    if (display.DisplayWindow().ScaleWidth != 0) {
         return {};
     }
     const std::string first = Table().sampleMesh != nullptr ? "Import a mesh" : "Type the sizes";

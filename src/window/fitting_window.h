@@ -193,7 +193,7 @@ class CFittingWindow {
 
     void CancelMouseModes();
 
-    /// What an empty drawing area says: what to do for a first view. Empty from the first view on.
+    /// What an empty drawing area says: what to do for a first picture. Empty from the first one on.
     [[nodiscard]] std::string Hint() const;
 
     [[nodiscard]] const CatalogueRow& Row() const { return *row_; }

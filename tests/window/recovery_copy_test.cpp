@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "frame/catalogue.h"
+#include "tests/support/recording_device.h"
 #include "tests/support/saved_fittings.h"
 #include "window/parameter_file.h"
 
@@ -46,6 +47,22 @@ TEST_F(RecoveryCopyTest, EveryWindowComesBackUnbuiltRedAndUnsaved) {
         ExpectSameSurfaces(AllSurfaces(*restored), AllSurfaces(*window));
     }
     EXPECT_TRUE(shell.ui.messages.empty());
+}
+
+TEST_F(RecoveryCopyTest, TheEmptyDrawingSaysWhatToDoUntilItIsBuilt) {
+    const auto window = shell.OpenSample("Right Cone", 2);
+    window->ClickView(0);
+    RecordingDevice area{400, 200};
+    const auto restored = shell.Open("Right Cone", &area);
+    Restore(*restored, CopyOf(*window));
+    EXPECT_EQ(restored->views->Count(), 1U);
+    EXPECT_EQ(restored->Hint(), "Type the sizes, then press the pattern button.");
+    restored->Redraw();
+    EXPECT_EQ(restored->Hint(), "");
+    restored->ChangeBox(4, "400");
+    restored->Redraw();
+    EXPECT_FALSE(restored->hasModel);
+    EXPECT_EQ(restored->Hint(), "") << "the picture before the refusal stands";
 }
 
 TEST_F(RecoveryCopyTest, TextsThatAreNoNumbersComeBackWithoutAWord) {

@@ -142,6 +142,8 @@ TEST_F(SaveLoadTest, ABuildThatIsRefusedIsNoFailedLoad) {
     EXPECT_EQ(shell.ui.Texts(),
               (std::vector<std::string>{"This dimension must be less than 100", "The item has no extents"}));
     EXPECT_EQ(window->controls.caption, "refused.Kvt");
+    EXPECT_EQ(window->views->Count(), 1U);
+    EXPECT_EQ(window->Hint(), "Type the sizes, then press the pattern button.") << "nothing is seen yet";
 }
 
 TEST_F(SaveLoadTest, AFileWithAThicknessBelowNothingIsReadAndItsBuildRefused) {

@@ -86,7 +86,7 @@ void DrawingArea::ShowPointer() {
 }
 
 QString DrawingArea::Description() const {
-    if (window_->views->Count() == 0) {
+    if (!window_->Hint().empty()) {
         return tr("Empty");
     }
     return InPatternView(*window_->views) ? tr("Flat pattern") : tr("Model");
