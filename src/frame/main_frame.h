@@ -113,6 +113,7 @@ class CMainFrame {
 
     // Commands on the active fitting window that are more than a call of its member.
     void FileClose(CFittingWindow& child);
+    Outcome RequireSavable(CFittingWindow& child);
     void FileSave(CFittingWindow& child);
     void FileSaveAs(CFittingWindow& child);
     void ExportDxf(CFittingWindow& child);

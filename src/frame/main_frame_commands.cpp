@@ -154,8 +154,13 @@ void CMainFrame::FileClose(CFittingWindow& child) {
     (void)CloseChild(child);
 }
 
+/// What has been typed since the last build is built first: sizes that are refused ask for no name.
+Outcome CMainFrame::RequireSavable(CFittingWindow& child) {
+    return RefusedIf(child.RequireModel() || (child.edited && child.RequireBuild()));
+}
+
 void CMainFrame::FileSave(CFittingWindow& child) {
-    if (child.RequireModel()) {
+    if (RequireSavable(child)) {
         return;
     }
     if (const auto path = HasNoFile(child) ? ChooseSaveName(child) : child.controls.caption) {
@@ -166,7 +171,7 @@ void CMainFrame::FileSave(CFittingWindow& child) {
 /// The caption is the name that later saves write to, so it goes back to what it was unless the file was
 /// written.
 void CMainFrame::FileSaveAs(CFittingWindow& child) {
-    if (child.RequireModel()) {
+    if (RequireSavable(child)) {
         return;
     }
     const auto path = ChooseSaveName(child);

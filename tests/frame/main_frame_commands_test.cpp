@@ -8,6 +8,7 @@
 
 #include "frame/frame_menu.h"
 #include "tests/frame/main_frame_fixture.h"
+#include "window/parameter_file.h"
 
 namespace korvet {
 namespace {
@@ -191,6 +192,31 @@ TEST(MainFrameCommandsTest, AnUntickedSwitchTakesTheFramesAway) {
     EXPECT_EQ(rig->Said(), "");
     EXPECT_EQ(rig->Did(), "drew");  // neither tick nor tool 7 are left
     EXPECT_FALSE(rig->shell.frame.menuEnabled["mnuSelectFrames"]);
+}
+
+TEST(MainFrameCommandsTest, SizesThatAreRefusedAskForNoName) {
+    for (const std::string_view menu : {"mnuFileSave", "mnuFileSaveAs"}) {
+        const auto rig = Ready(FrameState::Pattern, menu);
+        rig->frame.ActiveChild()->ChangeBox(4, "400");
+        rig->Forget();
+        rig->frame.RunMenu(menu);
+        EXPECT_EQ(rig->Said(), Bad);
+        EXPECT_EQ(rig->Did(), "");
+        EXPECT_TRUE(rig->shell.files.files.empty());
+        EXPECT_TRUE(HasChanges(*rig->frame.ActiveChild()));
+    }
+}
+
+TEST(MainFrameCommandsTest, SizesThatAreNotBuiltYetAreSaved) {
+    for (const std::string_view menu : {"mnuFileSave", "mnuFileSaveAs"}) {
+        const auto rig = Ready(FrameState::Pattern, menu);
+        rig->frame.ActiveChild()->ChangeBox(4, "110");
+        rig->Forget();
+        rig->frame.RunMenu(menu);
+        EXPECT_EQ(rig->Said(), "");
+        EXPECT_EQ(rig->Did(), Saves);
+        EXPECT_NE(rig->shell.files.files["part"].find("\r\n110\r\n"), std::string::npos);
+    }
 }
 
 TEST(MainFrameCommandsTest, BarsComeBackAtTheSecondClick) {
