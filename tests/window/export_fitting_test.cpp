@@ -1,6 +1,7 @@
 // The choices of an export, and what it writes.
 #include <gtest/gtest.h>
 
+#include "frame/catalogue.h"
 #include "tests/support/test_context.h"
 #include "window/export_fitting.h"
 #include "window/saving.h"
@@ -77,6 +78,28 @@ TEST_F(ExportTest, TellsWhichPieceIsDrawn) {
     window->ClickView(0);
     EXPECT_EQ(Shown(*window).lblExportType, "Exporting wire-frame model");
     EXPECT_EQ(DrawnPiece(*window), "");
+}
+
+TEST_F(ExportTest, EveryPieceThatCanBeChosenIsNamed) {
+    int pieces = 0;
+    for (const CatalogueRow& row : Catalogue) {
+        const WindowTable& table = *row.table;
+        for (std::size_t i = 0; !table.patternSurface.empty() && i < table.patternSelect.size(); ++i) {
+            SCOPED_TRACE(row.category);
+            const std::string category(row.category);
+            const std::string piece(table.patternSelect[i]);
+            const auto window = shell.OpenSample(category, 1);
+            window->SelectPattern(i);
+            window->ClickView(PatternButton);
+            ASSERT_TRUE(window->hasModel);
+            EXPECT_EQ(Shown(*window).lblExportType, "Exporting unfolded pattern: " + piece);
+            shell.ui.fileDialogs.clear();
+            (void)ChooseDrawingName(*window);
+            EXPECT_EQ(shell.ui.fileDialogs.at(0).name, category + " " + piece + ".DXF");
+            ++pieces;
+        }
+    }
+    EXPECT_EQ(pieces, 15);
 }
 
 TEST_F(ExportTest, AChoiceOfLayoutIsNoPiece) {
