@@ -188,10 +188,11 @@ std::vector<BatchInput> ReadFittingsList(std::string_view text, const std::strin
             .sets = {},
             .isRow = true};
         input.fault = TakeCells(record, input);
-        const auto [first, isNew] = lines.try_emplace(input.name, record.line);
-        if (!isNew && input.fault.empty()) {
-            input.fault = "the name " + InQuotes(input.name) + " stands on line " +
-                          std::to_string(first->second) + " too";
+        if (input.fault.empty()) {  // a bad row writes nothing that another one could meet
+            const auto [first, isNew] = lines.try_emplace(input.name, record.line);
+            input.fault = isNew ? ""
+                                : "the name " + InQuotes(input.name) + " stands on line " +
+                                      std::to_string(first->second) + " too";
         }
         rows.push_back(std::move(input));
     }

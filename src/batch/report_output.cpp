@@ -40,14 +40,20 @@ void ReportOutput::Place(GrowingFile& file, const std::string& path) const {
     }
 }
 
-void ReportOutput::AddEntry(const InputReport& report) {
-    if (!begun_ && pattern_ != "-") {
+void ReportOutput::Begin() {
+    if (pattern_ != "-") {
         file_.emplace(pattern_);
     }
-    if (several_ || begun_) {
-        Put(begun_ ? ",\n" : "[");
-    }
+    Put(several_ ? "[" : "");
     begun_ = true;
+}
+
+void ReportOutput::AddEntry(const InputReport& report) {
+    if (begun_) {
+        Put(",\n");
+    } else {
+        Begin();
+    }
     WriteReport(report, [this](std::string_view text) { Put(text); });
     Flush();
 }
@@ -67,8 +73,11 @@ void ReportOutput::Flush() {
 }
 
 void ReportOutput::Finish() {
-    if (!begun_ || failed_) {
+    if (aFileEach_ || failed_) {
         return;
+    }
+    if (!begun_) {
+        Begin();  // a list without rows
     }
     Put(several_ ? "]\n" : "\n");
     Flush();

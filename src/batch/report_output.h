@@ -22,7 +22,7 @@ class ReportOutput {
     /// FileError; what would follow in the same file is then left out, and the file is not made.
     void Add(const std::string& name, const InputReport& report);
 
-    /// Ends what has been begun; a file takes its place only now. Throws FileError.
+    /// Ends the report, an empty one too; a file takes its place only now. Throws FileError.
     void Finish();
 
     /// Called behind the replacement of a file that had further names (hard links).
@@ -31,6 +31,7 @@ class ReportOutput {
   private:
     void AddFile(const std::string& name, const InputReport& report) const;
     void Place(GrowingFile& file, const std::string& path) const;
+    void Begin();
     void AddEntry(const InputReport& report);
     void Put(std::string_view text);
     void Flush();

@@ -95,6 +95,15 @@ TEST(FittingsList, AMessageShowsLittleOfTheList) {
     }
 }
 
+TEST(FittingsList, TheNameOfABadRowIsFree) {
+    EXPECT_EQ(
+        FaultsOf("a,Elbow,9\n"
+                 "a,Elbow,1\n"
+                 "a,Elbow,2\n"),
+        (std::vector<std::string>{"l.csv: line 1: the type is to be 1 to 3, not \"9\"",
+                                  "l.csv: line 2: ", "l.csv: line 3: the name \"a\" stands on line 2 too"}));
+}
+
 TEST(FittingsList, AnEmptyListHasNoRows) {
     for (const char* text : {"", "\n\n", "name,fitting,type\n", ";;;\n"}) {
         EXPECT_TRUE(ReadFittingsList(text, "l.csv").empty()) << text;
