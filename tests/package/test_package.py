@@ -181,6 +181,25 @@ class CompletionTest(UnpackedTest):
         self.assertEqual(self.complete("--po"), ["--polylines"])
         self.assertLessEqual({"--new", "--dxf", "--no-label", "--help"}, set(self.complete("--")))
 
+    def test_every_option(self):
+        """Each is offered; behind one with a value stand its values, files or nothing, behind a switch the inputs."""
+        (self.folder / "job.csv").touch()
+        (self.folder / "one.Kvt").touch()
+        heads = re.findall(r"(?m)^  (?:-.,)?(--[a-z-]+)(?: (TEXT|INT)\S*)?", call(self.batch, "--help"))
+        self.assertGreater(len(heads), 35)
+        files = ("--fittings", "--mesh-file", "--settings", "--json", "--dxf", "--save", "--png", "--svg", "--table",
+                 "--pdf", "--hpgl")
+        for option, kind in heads:
+            with self.subTest(option):
+                self.assertIn(option, self.complete(option))
+                offered = self.complete(option, "")
+                if option in files:
+                    self.assertEqual(set(offered), {"job.csv", "one.Kvt"})
+                elif not kind:
+                    self.assertEqual(offered, ["one.Kvt"])
+                else:
+                    self.assertNotIn("job.csv", offered)
+
     def test_values(self):
         self.assertEqual(self.complete("--view", ""), ["model", "pattern"])
         self.assertEqual(self.complete("--units", "i"), ["inch"])
