@@ -57,7 +57,8 @@ class ListTest(FolderTest):
         self.assertEqual(read_json((self.folder / "all.json").read_text(encoding="utf-8")), [])
 
     def test_a_cell_may_hold_line_ends_marks_and_quotes(self):
-        rows = self.write("list.csv", 'a;Right Cone;1;"comment1=4"" pipe;\r\nleft"\r\nTrichter Ü;Elbow;1;Thickness=1,5\r\n')
+        rows = self.write("list.csv", 'a;Right Cone;1;"comment1=4"" pipe;\r\nleft"\r\n'
+                          "Trichter Ü;Elbow;1;Thickness=1,5\r\n")
         report = run("--fittings", rows, "--sample", "--json", "-").json
         self.assertEqual(report[0]["labels"][0], '4" pipe;\r\nleft')
         self.assertEqual((report[1]["name"], report[1]["refused"]), ("Trichter Ü", True))  # 1,5 is no number here
