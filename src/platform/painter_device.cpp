@@ -38,6 +38,8 @@ constexpr std::size_t WidthsKept = 5000;
 
 /// Width of the rim of texts: narrower than the space between two digits.
 constexpr double TextRim = 1;  // pixels
+/// Letters of a font below this can't be read, rim or not, and a large fitting has a million of them.
+constexpr int SmallestRimmedFont = 6;  // pixels
 
 /// A line of one pixel along a row or a column of pixels covers them whole: the same picture, but for dots
 /// that stay sharp, is drawn many times faster without smoothing. The leaders of a dimension grid are such
@@ -183,10 +185,11 @@ void PainterDevice::TextOut(const std::string& text, PixelPoint corner, const Te
     painter->save();
     painter->translate(corner.x, corner.y);
     painter->rotate(-font.lfEscapement / 10.0);
-    if (textRim_ && painter->paintEngine()->type() != QPaintEngine::SVG) {
+    const bool rimmed = textRim_ && std::labs(font.lfHeight) >= SmallestRimmedFont;
+    if (rimmed && painter->paintEngine()->type() != QPaintEngine::SVG) {
         DrawRimmed(*painter, drawn, text, color, *textRim_);
     } else {
-        if (textRim_) {
+        if (rimmed) {
             // The text stays a text, so that a program that opens the picture can find and change it.
             StrokeOutline(*painter, start, drawn.font, text, QPen(ColorOf(*textRim_), 2 * TextRim));
         }

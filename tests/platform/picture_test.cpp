@@ -251,6 +251,16 @@ TEST(PngText, HasARimOfTheGroundOverLines) {
     }
 }
 
+TEST(SvgText, HasARimWhereItCanBeRead) {
+    for (const auto& [height, rims] : {std::pair{-5, 0}, {-6, 1}, {5, 0}, {6, 1}}) {
+        PictureDevice device(PictureFormat::Svg, 200, 200);
+        device.TextOut("40.25", {60, 100}, {height, 0}, Red);
+        const QString picture = QString::fromStdString(device.Bytes());
+        EXPECT_EQ(picture.count("<path"), rims) << height;
+        EXPECT_EQ(picture.count("<text"), 1) << height;
+    }
+}
+
 TEST(PaperText, HasNoRim) {
     EnsureGraphicsApplication();
     QImage sheet(200, 200, QImage::Format_RGB32);

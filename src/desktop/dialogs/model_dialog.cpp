@@ -17,6 +17,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "core/reason.h"
 #include "desktop/bindings.h"
 #include "dialogs/options_dialog.h"
 #include "window/context.h"
@@ -112,7 +113,7 @@ void ModelDialog::Do(const std::function<void()>& event) {
     try {
         event();
     } catch (const std::exception& error) {
-        ShowPlain(host_.ui, error.what());
+        ShowPlain(host_.ui, ReasonOf(error));
     }
     Project();
     ShowFocus();
