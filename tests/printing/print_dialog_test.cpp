@@ -274,8 +274,9 @@ TEST_F(PrintDialogTest, APrinterThatIsGoneIsToldOfAndTheDialogStays) {
     PrintersDialog dialog = Open();
     printers.queues.clear();
     dialog.ClickOK();
+    ASSERT_EQ(ui.messages.size(), 1U);
+    EXPECT_EQ(ui.messages[0].control, "cmbPrinters");
     EXPECT_EQ(Said(), "Printer Error There is no printer \"Laser\".");
-    EXPECT_EQ(ui.messages.back().control, "cmbPrinters");
     EXPECT_TRUE(dialog.visible);
     dialog.cmbPrinters.edit.text = "";
     dialog.ClickOK();

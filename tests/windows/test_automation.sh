@@ -21,9 +21,9 @@ compile() {
         -lole32 -loleaut32 -luuid
 }
 cd "$sources/src"
-set -- platform/com_automation.cpp window/auto_cad.cpp window/transfer.cpp exchange/transfer_file.cpp exchange/dxf_lines.cpp \
-    core/number_text.cpp core/text_encoding.cpp core/checked.cpp core/math_module.cpp core/points.cpp form/messages.cpp \
-    form/message_boxes.cpp
+set -- platform/com_automation.cpp window/auto_cad.cpp window/transfer.cpp exchange/transfer_file.cpp exchange/dxf_groups.cpp \
+    exchange/dxf_lines.cpp core/number_text.cpp core/text_encoding.cpp core/checked.cpp core/math_module.cpp core/points.cpp \
+    core/reason.cpp form/messages.cpp form/message_boxes.cpp
 compile "$folder/client.exe" "$@" ../tests/windows/automation_client.cpp
 compile "$folder/server.exe" core/number_text.cpp core/checked.cpp ../tests/windows/fake_drawing_server.cpp
 for source in $(grep -rl --include='*.cpp' _WIN32 .); do
