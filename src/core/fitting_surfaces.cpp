@@ -14,12 +14,14 @@ CRuleSurfs OneSurface(const CRuleSurf& surface) {
 }  // namespace
 
 CRuleSurfs MakeSurfaces(const FittingHandle& fitting, FittingShape shape, bool multiple) {
-    const FittingResults& results = fitting.Results();
+    FittingResults& results = fitting.Results();
     if (shape == FittingShape::Model) {
         fitting.ConstructModel();
         return multiple ? results.ModelSurfaceList : OneSurface(results.ModelSurface);
     }
     fitting.DevelopModel();
+    results.ModelSurface = {};  // has served: of a large bend it takes as much memory as the pattern
+    results.ModelSurfaceList = {};
     return multiple ? results.PatternSurfaceList : OneSurface(results.PatternSurface);
 }
 

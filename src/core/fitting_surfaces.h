@@ -12,8 +12,9 @@ enum class FittingShape : std::uint8_t { Model, Pattern };
 
 /// Builds the fitting, by one ConstructModel for its model or one DevelopModel for its pattern, and gives the
 /// surfaces: the list of a fitting of many pieces (`multiple`), else its single surface, or none when the
-/// build made none. The lists of points are shared with the fitting, so move and rotate them, but edit none.
-/// The warnings of the build stand in fitting.Results(), also when it throws: ArithmeticError or ListError.
+/// build made none. The model that a pattern was developed from is let go. The lists of points are shared
+/// with the fitting, so move and rotate them, but edit none. The warnings of the build stand in
+/// fitting.Results(), also when it throws: ArithmeticError or ListError.
 CRuleSurfs MakeSurfaces(const FittingHandle& fitting, FittingShape shape, bool multiple);
 
 }  // namespace korvet

@@ -10,6 +10,13 @@
 #include "platform/graphics_application.h"
 
 namespace korvet {
+namespace {
+
+/// Of the toolkit's scale of 0 to 100, on which 0 is packed most: a line drawing packs well all the same, and
+/// a large picture is written in a third of the time.
+constexpr int FastPng = 85;
+
+}  // namespace
 
 /// What the painter draws on: an image, or the bytes of a vector file.
 class PictureDevice::Canvas {
@@ -57,7 +64,7 @@ class PictureDevice::Canvas {
         }
         QBuffer file;
         file.open(QIODevice::WriteOnly);
-        return exists_ && image_.save(&file, "PNG") ? file.data().toStdString() : std::string();
+        return exists_ && image_.save(&file, "PNG", FastPng) ? file.data().toStdString() : std::string();
     }
 
   private:
