@@ -125,10 +125,11 @@ void PainterDevice::Polyline(const Pen& pen, std::span<const PixelPoint> points)
         return;
     }
     painter->setPen(PenOf(pen, PixelRatio()));
+    const double place = PlaceInPixel();
     for (const std::vector<ClippedPoint>& part : ClipLine(points, ScaleSize(), ClipMargin)) {
         QPolygonF line;
         for (const ClippedPoint& point : part) {
-            line.append(QPointF(point.x + 0.5, point.y + 0.5));  // the middle of the pixel
+            line.append(QPointF(point.x + place, point.y + place));
         }
         painter->setRenderHint(QPainter::Antialiasing, !IsCrisp(line, painter->pen().widthF()));
         painter->drawPolyline(line);

@@ -44,6 +44,9 @@ class PainterDevice : public DrawingDevice {
     /// Pixels of the device to a logical pixel.
     [[nodiscard]] virtual double PixelRatio() const { return 1; }
 
+    /// Where in a pixel a line runs, across and down: in its middle.
+    [[nodiscard]] virtual double PlaceInPixel() const { return 0.5; }
+
     /// From now on every text has a thin rim of this colour under its letters, so that a number that stands
     /// on a line can be read. Without it, as on paper, letters alone are drawn.
     void RimTexts(Color ground) { textRim_ = ground; }

@@ -23,6 +23,9 @@ class PaperDevice final : public PainterDevice {
     [[nodiscard]] QPainter* Painter() override { return painter_; }
     [[nodiscard]] double PixelRatio() const override { return PaperDotsPerInch / 300.0; }
 
+    /// A dot is too small to have a middle, and whole numbers halve the file of a large fitting.
+    [[nodiscard]] double PlaceInPixel() const override { return 0; }
+
   private:
     QPainter* painter_;
     PixelSize size_;
