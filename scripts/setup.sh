@@ -32,11 +32,11 @@ install_missing() {
         --no-install-recommends $missing >/dev/null
 }
 
-# build PRESET [OPTION...]: configures and builds one preset.
+# build PRESET [OPTION...]: configures and builds one preset, as a whole most of the time.
 build() {
     preset=$1
     shift
     say "Building ($preset)"
-    cmake --preset "$preset" "$@" >/dev/null
+    cmake --preset "$preset" -DKORVET_ROOMS_TOGETHER=ON "$@" >/dev/null
     cmake --build --preset "$preset" -- --quiet
 }
