@@ -32,7 +32,8 @@ install_missing() {
         --no-install-recommends $missing >/dev/null
 }
 
-# build PRESET [OPTION...]: configures and builds one preset, as a whole most of the time.
+# build PRESET [OPTION...]: configures and builds one preset. The sources of a room are compiled together, as most of the
+# time all of them are to be built.
 build() {
     preset=$1
     shift

@@ -107,10 +107,7 @@ void OptionsDialog::ClickCalibAssist() {
 void OptionsDialog::ClickOK() {
     if (cmbLanguage.edit.text != "English") {
         tab = GeneralTab;
-        ui_.Show({.text = cmbLanguage.edit.text + " is not yet available",
-                  .style = PlainBox,
-                  .title = std::string(ProductTitle),
-                  .control = cmbLanguage.edit.name});
+        ShowPlain(ui_, cmbLanguage.edit.text + " is not yet available", {}, cmbLanguage.edit.name);
         cmbLanguage.edit.text = "English";
         return;
     }
@@ -211,7 +208,7 @@ Outcome OptionsDialog::StoreTextSizes() {
 /// Says what is wrong with a box and puts the focus on it.
 Outcome OptionsDialog::Refuse(const TextBox& box, const std::string& text) {
     tab = TabOf(box.name);
-    ui_.Show({.text = text, .style = ExclamationBox, .title = "User Error", .control = box.name});
+    ShowUserError(ui_, text, box.name);
     focus = box.name;
     return Refused;
 }

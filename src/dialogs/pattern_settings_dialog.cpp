@@ -4,7 +4,6 @@
 #include <stdexcept>
 
 #include "core/checked.h"
-#include "core/constants.h"
 #include "core/number_text.h"
 #include "dialogs/options_dialog.h"
 #include "form/messages.h"
@@ -199,10 +198,8 @@ void PatternSettingsDialog::ClickOK() {
     if (optJoinType.IsOn(Lap) && !hasSize) {
         const auto* const typed = std::find_if(txtLapSize.begin(), txtLapSize.end(),
                                                [](const TextBox& box) { return box.enabled; });
-        ui->Show({.text = GetMessage(LapWithoutSize, options->Language),
-                  .style = PlainBox,
-                  .title = std::string(ProductTitle),
-                  .control = typed == txtLapSize.end() ? std::string() : typed->name});
+        ShowPlain(*ui, GetMessage(LapWithoutSize, options->Language), {},
+                  typed == txtLapSize.end() ? std::string() : typed->name);
         return;
     }
     if (CheckThicknesses(*this, fields) ||

@@ -5,12 +5,8 @@
 namespace korvet {
 namespace {
 
-/// Shows a message as the user's error about a group of options; about none of the controls without a name.
 Outcome RefuseAbout(const FieldContext& context, const char* group, int messageId) {
-    context.boxes.Show({.text = GetMessage(messageId, context.options.Language),
-                        .style = ExclamationBox,
-                        .title = "User Error",
-                        .control = group});
+    ShowUserError(context.boxes, GetMessage(messageId, context.options.Language), group);
     return Refused;
 }
 

@@ -11,12 +11,17 @@ MessageBox NotMakeable(const std::string& reason) {
             .detail = reason};
 }
 
-void ShowPlain(MessageBoxes& boxes, const std::string& text, const std::string& detail) {
-    boxes.Show({.text = text, .style = PlainBox, .title = std::string(ProductTitle), .detail = detail});
+void ShowPlain(MessageBoxes& boxes, const std::string& text, const std::string& detail,
+               const std::string& control) {
+    boxes.Show({.text = text,
+                .style = PlainBox,
+                .title = std::string(ProductTitle),
+                .detail = detail,
+                .control = control});
 }
 
-void ShowUserError(MessageBoxes& boxes, const std::string& text) {
-    boxes.Show({.text = text, .style = ExclamationBox, .title = "User Error"});
+void ShowUserError(MessageBoxes& boxes, const std::string& text, const std::string& control) {
+    boxes.Show({.text = text, .style = ExclamationBox, .title = "User Error", .control = control});
 }
 
 }  // namespace korvet

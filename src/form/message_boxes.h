@@ -44,10 +44,12 @@ class MessageBoxes {
 /// What is said of sizes that pass every check and yet have no shape, with the reason below it.
 MessageBox NotMakeable(const std::string& reason);
 
-/// The plain box with the product's name as its title.
-void ShowPlain(MessageBoxes& boxes, const std::string& text, const std::string& detail = {});
+/// The plain box with the product's name as its title; about a control, where it names one.
+void ShowPlain(MessageBoxes& boxes, const std::string& text, const std::string& detail = {},
+               const std::string& control = {});
 
-/// The "User Error" box, for limits and for commands that can't be carried out.
-void ShowUserError(MessageBoxes& boxes, const std::string& text);
+/// The "User Error" box, for limits and for commands that can't be carried out; about a control, where it
+/// names one.
+void ShowUserError(MessageBoxes& boxes, const std::string& text, const std::string& control = {});
 
 }  // namespace korvet

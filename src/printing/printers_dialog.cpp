@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "core/constants.h"
 #include "core/number_text.h"
 #include "core/reason.h"
 #include "form/messages.h"
@@ -161,10 +160,7 @@ bool PrintersDialog::IsChosen(Action action) const {
 
 void ShowPrintError(MessageBoxes& boxes, const COptions& options, const std::exception& error,
                     const std::string& control) {
-    boxes.Show({.text = GetMessage(PrinterProblem, options.Language) + " " + ReasonOf(error),
-                .style = PlainBox,
-                .title = std::string(ProductTitle),
-                .control = control});
+    ShowPlain(boxes, GetMessage(PrinterProblem, options.Language) + " " + ReasonOf(error), {}, control);
 }
 
 }  // namespace korvet
