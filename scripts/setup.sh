@@ -1,6 +1,6 @@
 # Sourced by ./run and ./test: installs what a fresh Debian 12 lacks.
 
-BUILD_PACKAGES="g++ cmake ninja-build ccache qt6-base-dev qt6-serialport-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-documentation-tools libqt6sql6-sqlite libcli11-dev nlohmann-json3-dev fonts-liberation fonts-dejavu-core"
+BUILD_PACKAGES="g++ cmake ninja-build ccache qt6-base-dev qt6-serialport-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-documentation-tools libqt6sql6-sqlite libcli11-dev nlohmann-json3-dev libpng-dev fonts-liberation fonts-dejavu-core"
 TEST_PACKAGES="libgtest-dev libgmock-dev libbenchmark-dev python3 python3-ezdxf librecad hp2xx socat clang clang-format libclang-rt-14-dev \
     xvfb xauth openbox xdotool x11-utils imagemagick dbus dbus-x11 at-spi2-core python3-pyatspi gir1.2-atspi-2.0 \
     qpdf poppler-utils cups-daemon cups-client cups-filters printer-driver-cups-pdf \

@@ -1,5 +1,6 @@
 #include "display/drawing.h"
 
+#include <array>
 #include <cmath>
 
 #include "core/checked.h"
@@ -54,6 +55,10 @@ bool Drawing::Shows(const C3DPoint& point) const {
 }
 
 void Drawing::DrawPath(const C3DPoints& points, LineType lineType) const {
+    DrawPoints({points.begin(), points.end()}, lineType);
+}
+
+void Drawing::DrawPoints(std::span<const C3DPoint> points, LineType lineType) const {
     if (!CanDraw()) {
         return;
     }
@@ -73,7 +78,7 @@ void Drawing::DrawPath(const C3DPoints& points, LineType lineType) const {
 /// A call for each stretch of the path that runs on the page without a break. Single precision holds best
 /// what lies near the origin, so that a sheet counts from its own corner: a line is as true on the last sheet
 /// as on the first.
-void Drawing::DrawClipped(const C3DPoints& points, LineType lineType) const {
+void Drawing::DrawClipped(std::span<const C3DPoint> points, LineType lineType) const {
     WorldWindow fromCorner = Window;
     fromCorner.ScaleLeft -= PrinterPage->minX;
     fromCorner.ScaleTop -= PrinterPage->minY;
@@ -85,9 +90,9 @@ void Drawing::DrawClipped(const C3DPoints& points, LineType lineType) const {
                    static_cast<float>(point.y - PrinterPage->minY));
     };
     bool goesOn = false;  // the line so far ends where the next part begins
-    for (std::size_t i = 1; i < points.Count(); ++i) {
-        const C3DPoint& a = points.Item(i);
-        const C3DPoint& b = points.Item(i + 1);
+    for (std::size_t i = 1; i < points.size(); ++i) {
+        const C3DPoint& a = points[i - 1];
+        const C3DPoint& b = points[i];
         const std::optional<LinePart> part = ClipLineToPage(a, b, *PrinterPage);
         if (part) {
             if (!goesOn) {
@@ -111,10 +116,8 @@ void Drawing::DrawLine(const C3DPoint& a, const C3DPoint& b, LineType lineType) 
     if (PrinterPage && LineMissesPage(a, b, *PrinterPage)) {
         return;  // most lines are on other sheets
     }
-    C3DPoints ends;
-    ends.Add(a);
-    ends.Add(b);
-    DrawPath(ends, lineType);
+    const std::array<C3DPoint, 2> ends = {a, b};
+    DrawPoints(ends, lineType);
 }
 
 void Drawing::DrawCross(const C3DPoint& point, LineType lineType) const {

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 
 #include "core/display_colors.h"
@@ -80,7 +81,8 @@ struct Drawing {
     [[nodiscard]] double LineSpacing() const;
 
   private:
-    void DrawClipped(const C3DPoints& points, LineType lineType) const;
+    void DrawPoints(std::span<const C3DPoint> points, LineType lineType) const;
+    void DrawClipped(std::span<const C3DPoint> points, LineType lineType) const;
     [[nodiscard]] bool Shows(const C3DPoint& point) const;
     [[nodiscard]] CText NewText(const std::string& text) const;
 };

@@ -121,8 +121,9 @@ void CObjectDisplay::Build(Pass& pass) const {
         if (pattern) {
             PlacePattern(surface);
         }
-        pass.boxes.push_back(
-            BoundsOf(pass.screenSurfaces.Add(pattern ? surface : ProjectSurface(surface, pass.view))));
+        const CRuleSurf& shown =
+            pass.screenSurfaces.Add(pattern ? surface : ProjectSurface(surface, pass.view));
+        pass.boxes.push_back(shown.RefPointDisplay ? std::nullopt : BoundsOf(shown));
     }
     TakeFrame(pass);
 }
@@ -169,10 +170,9 @@ bool CObjectDisplay::IsDrawnAgain(const Content& content) const {
 /// A sheet of paper passes over what lies on other sheets: there may be thousands of both.
 void CObjectDisplay::DrawSurfaces(const Drawing& drawing, const Content& content) {
     for (std::size_t i = 1; i <= content.screenSurfaces.Count(); ++i) {
-        const CRuleSurf& surface = content.screenSurfaces.Item(i);
         const std::optional<Bounds>& box = content.boxes.at(i - 1);
-        if (surface.RefPointDisplay || !box || !drawing.IsElsewhere(*box)) {
-            drawing.DrawSurface(surface);
+        if (!box || !drawing.IsElsewhere(*box)) {
+            drawing.DrawSurface(content.screenSurfaces.Item(i));
         }
     }
 }

@@ -130,7 +130,8 @@ class CObjectDisplay {
     [[nodiscard]] C3DPoints ShownExtents() const;
 
   private:
-    /// The box about each screen surface, nothing for one without points.
+    /// The box about each screen surface; nothing for one without points, or whose reference cross may lie
+    /// outside.
     using SurfaceBoxes = std::vector<std::optional<Bounds>>;
 
     /// What one pass shows, and where.

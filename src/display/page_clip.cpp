@@ -17,6 +17,12 @@ struct Edge {
     double room;     ///< from its start to the edge
 };
 
+/// Whether `value` is not less than `limit` when both are rounded; which keeps their order, so that few need
+/// to be.
+bool Reaches(double value, double limit) {
+    return value >= limit || RoundPlaces(value, Places) >= RoundPlaces(limit, Places);
+}
+
 C3DPoint PointAt(const C3DPoint& a, const C3DPoint& b, double part, const Bounds& page) {
     return {std::clamp(a.x + part * (b.x - a.x), page.minX, page.maxX),
             std::clamp(a.y + part * (b.y - a.y), page.minY, page.maxY), 0, PlainStation};
@@ -25,11 +31,8 @@ C3DPoint PointAt(const C3DPoint& a, const C3DPoint& b, double part, const Bounds
 }  // namespace
 
 bool IsWithinPage(const C3DPoint& point, const Bounds& page) {
-    const auto rounded = [](double value) { return RoundPlaces(value, Places); };
-    const double x = rounded(point.x);
-    const double y = rounded(point.y);
-    return x >= rounded(page.minX) && x <= rounded(page.maxX) && y >= rounded(page.minY) &&
-           y <= rounded(page.maxY);
+    return Reaches(point.x, page.minX) && Reaches(page.maxX, point.x) && Reaches(point.y, page.minY) &&
+           Reaches(page.maxY, point.y);
 }
 
 bool LineMissesPage(const C3DPoint& a, const C3DPoint& b, const Bounds& page) {

@@ -57,11 +57,10 @@ bool Same(ClippedPoint a, ClippedPoint b) {
 
 }  // namespace
 
-std::vector<std::vector<ClippedPoint>> ClipLine(std::span<const PixelPoint> points, PixelSize size,
-                                                double margin) {
+std::vector<ClippedLine> ClipLine(std::span<const PixelPoint> points, PixelSize size, double margin) {
     const ClippedPoint low = {-margin, -margin};
     const ClippedPoint high = {size.width + margin, size.height + margin};
-    std::vector<std::vector<ClippedPoint>> parts;
+    std::vector<ClippedLine> parts;
     for (std::size_t i = 1; i < points.size(); ++i) {
         const Segment whole = {{static_cast<double>(points[i - 1].x), static_cast<double>(points[i - 1].y)},
                                {static_cast<double>(points[i].x), static_cast<double>(points[i].y)}};

@@ -13,9 +13,11 @@ struct ClippedPoint {
     double y = 0;
 };
 
+/// A line of two or more points.
+using ClippedLine = std::vector<ClippedPoint>;
+
 /// The parts of the line through the points that lie within `margin` pixels about the rectangle from (0, 0)
-/// to the size, as lines of two or more points each.
-std::vector<std::vector<ClippedPoint>> ClipLine(std::span<const PixelPoint> points, PixelSize size,
-                                                double margin);
+/// to the size.
+std::vector<ClippedLine> ClipLine(std::span<const PixelPoint> points, PixelSize size, double margin);
 
 }  // namespace korvet

@@ -1,38 +1,54 @@
 #include "platform/lines_once.h"
 
-#include <algorithm>
-#include <iterator>
-
 namespace korvet {
+namespace {
 
-std::size_t LinesOnce::HashOfEnds::operator()(const Ends& ends) const {
+/// Whether b lies on the straight way from a to c.
+bool IsOnTheWay(PixelPoint a, PixelPoint b, PixelPoint c) {
+    const double x1 = static_cast<double>(b.x) - a.x;
+    const double y1 = static_cast<double>(b.y) - a.y;
+    const double x2 = static_cast<double>(c.x) - b.x;
+    const double y2 = static_cast<double>(c.y) - b.y;
+    return x1 * y2 == x2 * y1 && x1 * x2 + y1 * y2 >= 0;
+}
+
+}  // namespace
+
+std::size_t LinesOnce::HashOfKey::operator()(const Key& key) const {
     constexpr std::uint64_t Prime = 0x100000001B3;
     constexpr unsigned Half = 32;
     std::uint64_t hash = 0xCBF29CE484222325;
-    for (const std::int32_t end : ends) {
-        hash = (hash ^ static_cast<std::uint32_t>(end)) * Prime;
+    for (const std::int32_t number : key) {
+        hash = (hash ^ static_cast<std::uint32_t>(number)) * Prime;
         hash ^= hash >> Half;
     }
     return static_cast<std::size_t>(hash);
 }
 
-std::span<const PixelPoint> LinesOnce::Take(const Pen& pen, std::span<const PixelPoint> points) {
-    if (pen != pen_) {
-        pen_ = pen;
-        taken_.clear();
-    }
+void LinesOnce::Straighten(std::span<const PixelPoint> points) {
     line_.clear();
-    std::unique_copy(points.begin(), points.end(), std::back_inserter(line_));
-    if (line_.size() == 1 && points.size() > 1) {
-        line_.push_back(line_.front());  // a dot
-    }
-    if (line_.size() == 2) {
-        const Ends ends = {line_[0].x, line_[0].y, line_[1].x, line_[1].y};
-        if (!taken_.insert(ends).second) {
-            return {};
+    for (const PixelPoint point : points) {
+        const std::size_t count = line_.size();
+        if (count > 1 && IsOnTheWay(line_[count - 2], line_[count - 1], point)) {
+            line_.back() = point;
+        } else {
+            line_.push_back(point);
         }
     }
-    return line_;
+}
+
+std::span<const PixelPoint> LinesOnce::Take(const Pen& pen, std::span<const PixelPoint> points) {
+    if (pen.ForeColor != color_) {
+        color_ = pen.ForeColor;
+        taken_.clear();
+    }
+    Straighten(points);
+    key_ = {static_cast<std::int32_t>(pen.Style), pen.DrawWidth};
+    for (const PixelPoint point : line_) {
+        key_.push_back(point.x);
+        key_.push_back(point.y);
+    }
+    return taken_.insert(key_).second ? std::span<const PixelPoint>(line_) : std::span<const PixelPoint>();
 }
 
 }  // namespace korvet

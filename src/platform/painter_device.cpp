@@ -4,6 +4,7 @@
 #include <QPaintEngine>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPen>
 #include <QPolygonF>
 #include <QTextLayout>
 #include <QTransform>
@@ -11,26 +12,13 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "platform/line_clip.h"
-
 namespace korvet {
 namespace {
 
 constexpr int PointsPerInch = 72;
 constexpr int LargestFont = 20000;  // pixels
 constexpr double ClipMargin = 32;   // pixels, beyond the width of every pen
-
-QPen PenOf(const Pen& pen, double pixelRatio) {
-    QPen drawn(ColorOf(pen.ForeColor), std::max(pen.DrawWidth, 1) * pixelRatio);
-    if (pen.Style == DrawStyle::Dotted) {
-        drawn.setStyle(Qt::DotLine);
-        drawn.setCapStyle(Qt::FlatCap);
-    } else {
-        drawn.setCapStyle(Qt::RoundCap);
-        drawn.setJoinStyle(Qt::RoundJoin);
-    }
-    return drawn;
-}
+constexpr double MiddleOfPixel = 0.5;
 
 /// A drawing has one size of texts and one to measure by.
 constexpr std::size_t FontsKept = 4;
@@ -119,17 +107,33 @@ PixelSize PainterDevice::TextExtent(const std::string& text, double points) cons
     return {width->second, font.metrics.height()};
 }
 
+QPen PainterDevice::PenOf(const Pen& pen) const {
+    QPen drawn(ColorOf(pen.ForeColor), std::max(pen.DrawWidth, 1) * PixelRatio());
+    if (pen.Style == DrawStyle::Dotted) {
+        drawn.setStyle(Qt::DotLine);
+        drawn.setCapStyle(Qt::FlatCap);
+    } else {
+        drawn.setCapStyle(Qt::RoundCap);
+        drawn.setJoinStyle(Qt::RoundJoin);
+    }
+    return drawn;
+}
+
+std::vector<ClippedLine> PainterDevice::PartsOnDevice(std::span<const PixelPoint> points) const {
+    return ClipLine(points, ScaleSize(), ClipMargin);
+}
+
 void PainterDevice::Polyline(const Pen& pen, std::span<const PixelPoint> points) {
     QPainter* painter = Painter();
     if (painter == nullptr) {
         return;
     }
-    painter->setPen(PenOf(pen, PixelRatio()));
-    const double place = PlaceInPixel();
-    for (const std::vector<ClippedPoint>& part : ClipLine(points, ScaleSize(), ClipMargin)) {
+    painter->setPen(PenOf(pen));
+    for (const ClippedLine& part : PartsOnDevice(points)) {
         QPolygonF line;
+        line.reserve(static_cast<qsizetype>(part.size()));
         for (const ClippedPoint& point : part) {
-            line.append(QPointF(point.x + place, point.y + place));
+            line.append(QPointF(point.x + MiddleOfPixel, point.y + MiddleOfPixel));
         }
         painter->setRenderHint(QPainter::Antialiasing, !IsCrisp(line, painter->pen().widthF()));
         painter->drawPolyline(line);

@@ -12,9 +12,11 @@
 #include <vector>
 
 #include "display/drawing_device.h"
+#include "platform/line_clip.h"
 
 class QColor;
 class QPainter;
+class QPen;
 
 namespace korvet {
 
@@ -44,8 +46,12 @@ class PainterDevice : public DrawingDevice {
     /// Pixels of the device to a logical pixel.
     [[nodiscard]] virtual double PixelRatio() const { return 1; }
 
-    /// Where in a pixel a line runs, across and down: in its middle.
-    [[nodiscard]] virtual double PlaceInPixel() const { return 0.5; }
+    /// The pen as the painter takes it.
+    [[nodiscard]] QPen PenOf(const Pen& pen) const;
+
+    /// What of a line lies on the device or close to it, in its pixels: a painter takes no coordinates of
+    /// millions.
+    [[nodiscard]] std::vector<ClippedLine> PartsOnDevice(std::span<const PixelPoint> points) const;
 
     /// From now on every text has a thin rim of this colour under its letters, so that a number that stands
     /// on a line can be read. Without it, as on paper, letters alone are drawn.

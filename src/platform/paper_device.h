@@ -1,6 +1,9 @@
 // A sheet of paper to draw on.
 #pragma once
 
+#include <QPainterPath>
+
+#include "platform/lines_once.h"
 #include "platform/painter_device.h"
 
 namespace korvet {
@@ -9,26 +12,32 @@ namespace korvet {
 inline constexpr int PaperDotsPerInch = 7200;
 
 /// The printable part of a sheet. Widths of pens count in dots of 300 to the inch, as wide as an ordinary
-/// printer can draw them.
+/// printer can draw them. Lines wait to be drawn many at a time, which a large fitting needs: the sheet is
+/// whole when the device has ended, and that has to be before its painter goes on to the next sheet.
 class PaperDevice final : public PainterDevice {
   public:
     /// `size` in dots of PaperDotsPerInch, as the painter counts too. Without a painter it only measures.
     PaperDevice(QPainter* painter, PixelSize size) : painter_(painter), size_(size) {}
+    ~PaperDevice() override { DrawWaiting(); }
 
     void Cls(Color /*backColor*/) override {}  // paper has its colour
     [[nodiscard]] PixelSize ScaleSize() const override { return size_; }
     [[nodiscard]] double LogicalDpiY() const override { return PaperDotsPerInch; }
+    void Polyline(const Pen& pen, std::span<const PixelPoint> points) override;
+    void TextOut(const std::string& text, PixelPoint corner, const TextFont& font, Color color) override;
 
   protected:
     [[nodiscard]] QPainter* Painter() override { return painter_; }
     [[nodiscard]] double PixelRatio() const override { return PaperDotsPerInch / 300.0; }
 
-    /// A dot is too small to have a middle, and whole numbers halve the file of a large fitting.
-    [[nodiscard]] double PlaceInPixel() const override { return 0; }
-
   private:
+    void DrawWaiting();
+
     QPainter* painter_;
     PixelSize size_;
+    LinesOnce lines_;
+    QPainterPath waiting_;  ///< lines to be drawn with pen_
+    Pen pen_;
 };
 
 }  // namespace korvet

@@ -81,6 +81,7 @@ class PdfJob final : public PrintJob {
     }
 
     DrawingDevice& NewPage() override {
+        sheet_.reset();
         const bool begun = painter_.isActive() ? writer_->newPage() : painter_.begin(&*writer_);
         if (!begun || device_.Fault()) {
             Fail();
@@ -91,6 +92,7 @@ class PdfJob final : public PrintJob {
 
     /// Without it the file stays as it was.
     void EndDoc() override {
+        sheet_.reset();
         const bool drawn = painter_.isActive() && painter_.end();
         writer_.reset();
         if (!drawn) {
