@@ -11,8 +11,17 @@
 namespace korvet {
 namespace {
 
-std::string SpacedNumber(const Drawing& drawing, double value) {
-    return "  " + RoundedText(value, drawing.Decimals, drawing.DecimalMark) + "  ";
+/// How a coordinate is drawn at the end of its leader.
+using DrawCoordinate = void (Drawing::*)(const C3DPoint&, const std::string&, Justification) const;
+
+/// A line from a station to an edge of the frame, with the coordinate behind its end.
+void DrawLeader(const Drawing& drawing, const C3DPoint& station, const C3DPoint& end, double coordinate,
+                DrawCoordinate draw, bool isLow) {
+    drawing.DrawLine(station, end, LineType::GridLeader);
+    if (drawing.Shows(end)) {  // most ends are on other sheets, and a number takes longer to write
+        (drawing.*draw)(end, "  " + RoundedText(coordinate, drawing.Decimals, drawing.DecimalMark) + "  ",
+                        isLow ? Justification::MiddleRight : Justification::MiddleLeft);
+    }
 }
 
 void DisplayGridLines(const Drawing& drawing, const C3DPoints& stations, const C3DPoints& extentFrame) {
@@ -21,15 +30,11 @@ void DisplayGridLines(const Drawing& drawing, const C3DPoints& stations, const C
     for (const C3DPoint& p : stations) {
         const bool left = high.x - p.x >= p.x - low.x;
         const C3DPoint side = {left ? low.x : high.x, p.y, 0, PlainStation};
-        drawing.DrawLine(p, side, LineType::GridLeader);
-        drawing.DrawHorizontalText(side, SpacedNumber(drawing, p.y - low.y),
-                                   left ? Justification::MiddleRight : Justification::MiddleLeft);
+        DrawLeader(drawing, p, side, p.y - low.y, &Drawing::DrawHorizontalText, left);
 
         const bool down = high.y - p.y >= p.y - low.y;
         const C3DPoint foot = {p.x, down ? low.y : high.y, 0, PlainStation};
-        drawing.DrawLine(p, foot, LineType::GridLeader);
-        drawing.DrawVerticalText(foot, SpacedNumber(drawing, p.x - low.x),
-                                 down ? Justification::MiddleRight : Justification::MiddleLeft);
+        DrawLeader(drawing, p, foot, p.x - low.x, &Drawing::DrawVerticalText, down);
     }
 }
 

@@ -49,7 +49,6 @@ bool Drawing::IsElsewhere(const Bounds& box) const {
     return PrinterPage && LineMissesPage({box.minX, box.minY}, {box.maxX, box.maxY}, *PrinterPage);
 }
 
-/// Whether a text that stands on the point is drawn.
 bool Drawing::Shows(const C3DPoint& point) const {
     return CanDraw() && (!PrinterPage || IsWithinPage(point, *PrinterPage));
 }

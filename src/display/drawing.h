@@ -52,6 +52,9 @@ struct Drawing {
     /// Whether there is a surface to draw on.
     [[nodiscard]] bool CanDraw() const;
 
+    /// Whether a text that stands on the point is drawn.
+    [[nodiscard]] bool Shows(const C3DPoint& point) const;
+
     void DrawPath(const C3DPoints& points, LineType lineType) const;
     void DrawLine(const C3DPoint& a, const C3DPoint& b, LineType lineType) const;
 
@@ -83,7 +86,6 @@ struct Drawing {
   private:
     void DrawPoints(std::span<const C3DPoint> points, LineType lineType) const;
     void DrawClipped(std::span<const C3DPoint> points, LineType lineType) const;
-    [[nodiscard]] bool Shows(const C3DPoint& point) const;
     [[nodiscard]] CText NewText(const std::string& text) const;
 };
 

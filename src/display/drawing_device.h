@@ -31,6 +31,9 @@ struct PixelSize {
 
 enum class FontFace : std::uint8_t { Arial, CourierNew };
 
+/// Letters of a font that is lower can't be read, in pixels.
+inline constexpr int SmallestReadableFont = 6;
+
 /// The font of a text: upright, and in a drawing always Arial and not bold.
 struct TextFont {
     int lfHeight = 0;      ///< of the characters in pixels; negative: without their leading

@@ -11,10 +11,15 @@ namespace {
 
 constexpr double PointsPerInch = 72;
 
+bool IsReadable(const TextFont& font) {
+    return std::abs(font.lfHeight) >= SmallestReadableFont;
+}
+
 }  // namespace
 
 void DrawingRecord::Clear() {
     lines_.clear();
+    textsInOrder_.clear();
     texts_.clear();
     points_.clear();
 }
@@ -27,7 +32,29 @@ void DrawingRecord::Polyline(const Pen& pen, std::span<const PixelPoint> points)
 
 void DrawingRecord::TextOut(const std::string& text, PixelPoint corner, const TextFont& font, Color color) {
     WorkWatch::Look();
-    texts_.push_back({text, corner, font, color});
+    const auto [place, isNew] = texts_.insert({text, corner, font, color});
+    if (isNew) {
+        textsInOrder_.push_back(&*place);
+    }
+}
+
+std::size_t DrawingRecord::HashOfText::operator()(const Text& text) const {
+    constexpr std::size_t Prime = 0x9E3779B97F4A7C15;
+    constexpr unsigned Half = 32;
+    std::size_t hash = text.text.size();
+    if (IsReadable(text.font)) {
+        hash = std::hash<std::string>()(text.text);
+    }
+    for (const std::int32_t number : {text.corner.x, text.corner.y, text.font.lfEscapement}) {
+        hash = (hash ^ static_cast<std::uint32_t>(number)) * Prime;
+        hash ^= hash >> Half;
+    }
+    return hash;
+}
+
+bool DrawingRecord::LooksTheSame::operator()(const Text& a, const Text& b) const {
+    return a.corner == b.corner && a.font == b.font && a.color == b.color &&
+           (IsReadable(a.font) ? a.text == b.text : a.text.size() == b.text.size());
 }
 
 void DrawingRecord::PlayOn(DrawingDevice& device) const {
@@ -36,8 +63,8 @@ void DrawingRecord::PlayOn(DrawingDevice& device) const {
         device.Polyline(line.pen, points.first(line.count));
         points = points.subspan(line.count);
     }
-    for (const Text& text : texts_) {
-        device.TextOut(text.text, text.corner, text.font, text.color);
+    for (const Text* const text : textsInOrder_) {
+        device.TextOut(text->text, text->corner, text->font, text->color);
     }
 }
 

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <optional>
+#include <string>
+#include <unordered_set>
 #include <vector>
 
 #include "display/bounds.h"
@@ -17,7 +19,9 @@ class DrawingRecord final : public DrawingDevice {
     explicit DrawingRecord(const DrawingDevice& device) : device_(&device) {}
 
     /// Repeats on a device all lines in their order, and then all texts, so that no line runs over a text
-    /// that was drawn before it. Clearing and pages are the caller's matter.
+    /// that was drawn before it. A text that would lie on the same one is left out, and where letters are too
+    /// small to be read one that would lie on as many others: a grid has thousands of both. Clearing and
+    /// pages are the caller's matter.
     void PlayOn(DrawingDevice& device) const;
 
     /// The box about all lines and the boxes of all texts, in pixels; nothing when there are none.
@@ -47,10 +51,17 @@ class DrawingRecord final : public DrawingDevice {
         TextFont font;
         Color color;
     };
+    struct HashOfText {
+        std::size_t operator()(const Text& text) const;
+    };
+    struct LooksTheSame {
+        bool operator()(const Text& a, const Text& b) const;
+    };
 
     const DrawingDevice* device_;
     std::vector<Line> lines_;
-    std::vector<Text> texts_;
+    std::unordered_set<Text, HashOfText, LooksTheSame> texts_;
+    std::vector<const Text*> textsInOrder_;
     std::vector<PixelPoint> points_;  ///< of all lines, in one block
 };
 

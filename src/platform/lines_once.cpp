@@ -3,6 +3,9 @@
 namespace korvet {
 namespace {
 
+/// Lines that lie on one another mostly come soon after one another.
+constexpr std::size_t LinesKept = 100000;
+
 /// Whether b lies on the straight way from a to c.
 bool IsOnTheWay(PixelPoint a, PixelPoint b, PixelPoint c) {
     const double x1 = static_cast<double>(b.x) - a.x;
@@ -38,7 +41,7 @@ void LinesOnce::Straighten(std::span<const PixelPoint> points) {
 }
 
 std::span<const PixelPoint> LinesOnce::Take(const Pen& pen, std::span<const PixelPoint> points) {
-    if (pen.ForeColor != color_) {
+    if (pen.ForeColor != color_ || taken_.size() == LinesKept) {
         color_ = pen.ForeColor;
         taken_.clear();
     }

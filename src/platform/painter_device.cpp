@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <limits>
 
 namespace korvet {
 namespace {
@@ -26,14 +27,16 @@ constexpr std::size_t WidthsKept = 5000;
 
 /// Width of the rim of texts: narrower than the space between two digits.
 constexpr double TextRim = 1;  // pixels
-/// Letters of a font below this can't be read, rim or not, and a large fitting has a million of them.
-constexpr int SmallestRimmedFont = 6;  // pixels
 
 /// A line of one pixel along a row or a column of pixels covers them whole: the same picture, but for dots
 /// that stay sharp, is drawn many times faster without smoothing. The leaders of a dimension grid are such
 /// lines.
 bool IsCrisp(const QPolygonF& line, double penWidth) {
     return penWidth == 1 && line.size() == 2 && (line[0].x() == line[1].x() || line[0].y() == line[1].y());
+}
+
+bool IsNumber(const std::string& text) {
+    return text.find_first_not_of(NumberCharacters) == std::string::npos;
 }
 
 QFont MakeFont(int pixels, FontFace face, bool bold) {
@@ -74,7 +77,13 @@ void PrepareDrawing(QPainter& painter) {
 }
 
 PainterDevice::MeasuredFont::MeasuredFont(int size, FontFace itsFace, bool isBold)
-    : pixels(size), face(itsFace), bold(isBold), font(MakeFont(size, itsFace, isBold)), metrics(font) {}
+    : pixels(size),
+      face(itsFace),
+      bold(isBold),
+      font(MakeFont(size, itsFace, isBold)),
+      metrics(font),
+      steps((NumberCharacters.size() + 1) * NumberCharacters.size(),
+            std::numeric_limits<double>::quiet_NaN()) {}
 
 PainterDevice::MeasuredFont& PainterDevice::FontOf(int pixels, FontFace face, bool bold) const {
     const int size = std::clamp(pixels, 1, LargestFont);
@@ -97,14 +106,35 @@ double PainterDevice::LogicalDpiY() const {
 PixelSize PainterDevice::TextExtent(const std::string& text, double points) const {
     const double pixels = std::min(std::fabs(points) * LogicalDpiY() / PointsPerInch, double{LargestFont});
     MeasuredFont& font = FontOf(static_cast<int>(pixels));
-    if (font.widths.size() == WidthsKept) {
-        font.widths.clear();
+    return {IsNumber(text) ? font.WidthOfNumber(text) : font.WidthOf(text), font.metrics.height()};
+}
+
+double PainterDevice::MeasuredFont::WidthOf(const std::string& text) {
+    if (widths.size() == WidthsKept) {
+        widths.clear();
     }
-    const auto [width, isNew] = font.widths.try_emplace(text, 0);
+    const auto [width, isNew] = widths.try_emplace(text, 0);
     if (isNew) {
-        width->second = font.metrics.horizontalAdvance(DrawnText(text));
+        width->second = metrics.horizontalAdvance(DrawnText(text));
     }
-    return {width->second, font.metrics.height()};
+    return width->second;
+}
+
+/// How far a character of a number is from the one before it depends on these two alone.
+double PainterDevice::MeasuredFont::WidthOfNumber(const std::string& text) {
+    double width = 0;
+    std::size_t before = NumberCharacters.size();  // none
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const std::size_t here = NumberCharacters.find(text[i]);
+        double& step = steps.at(before * NumberCharacters.size() + here);
+        if (std::isnan(step)) {
+            step = i == 0 ? WidthOf(text.substr(0, 1))
+                          : WidthOf(text.substr(i - 1, 2)) - WidthOf(text.substr(i - 1, 1));
+        }
+        width += step;
+        before = here;
+    }
+    return width;
 }
 
 QPen PainterDevice::PenOf(const Pen& pen) const {
@@ -190,7 +220,7 @@ void PainterDevice::TextOut(const std::string& text, PixelPoint corner, const Te
     painter->save();
     painter->translate(corner.x, corner.y);
     painter->rotate(-font.lfEscapement / 10.0);
-    const bool rimmed = textRim_ && std::labs(font.lfHeight) >= SmallestRimmedFont;
+    const bool rimmed = textRim_ && std::labs(font.lfHeight) >= SmallestReadableFont;
     if (rimmed && painter->paintEngine()->type() != QPaintEngine::SVG) {
         DrawRimmed(*painter, drawn, text, color, *textRim_);
     } else {

@@ -8,6 +8,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -22,6 +23,9 @@ namespace korvet {
 
 /// Logical pixels to the inch, on screens and in pictures.
 inline constexpr int DotsPerInch = 96;
+
+/// What numbers consist of. A large pattern has millions of them, and few twice.
+inline constexpr std::string_view NumberCharacters = "0123456789.,- ";
 
 /// A colour of the drawing as the toolkit has it.
 QColor ColorOf(Color color);
@@ -63,12 +67,16 @@ class PainterDevice : public DrawingDevice {
     struct MeasuredFont {
         MeasuredFont(int pixels, FontFace face, bool bold);
 
+        double WidthOf(const std::string& text);
+        double WidthOfNumber(const std::string& text);  ///< of NumberCharacters alone
+
         int pixels;
         FontFace face;
         bool bold;
         QFont font;
         QFontMetricsF metrics;
         std::unordered_map<std::string, double> widths;
+        std::vector<double> steps;  ///< to each of NumberCharacters from each, and from none; NaN: not known
         std::unordered_map<std::string, QList<QGlyphRun>> letters;  ///< of texts that have a rim, set
     };
 

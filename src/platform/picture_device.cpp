@@ -107,9 +107,6 @@ class PictureDevice::Canvas {
 
 PictureDevice::PictureDevice(PictureFormat format, int width, int height)
     : canvas_(std::make_unique<Canvas>(format, width, height)) {
-    if (format == PictureFormat::Svg) {
-        lines_.emplace();
-    }
     Cls(Black);
 }
 
@@ -118,16 +115,11 @@ PictureDevice::~PictureDevice() = default;
 void PictureDevice::Cls(Color backColor) {
     canvas_->Clear(backColor);
     RimTexts(backColor);
-    if (lines_) {
-        lines_.emplace();
-    }
+    lines_ = {};
 }
 
 void PictureDevice::Polyline(const Pen& pen, std::span<const PixelPoint> points) {
-    const std::span<const PixelPoint> drawn = lines_ ? lines_->Take(pen, points) : points;
-    if (!drawn.empty()) {
-        PainterDevice::Polyline(pen, drawn);
-    }
+    PainterDevice::Polyline(pen, lines_.Take(pen, points));
 }
 
 PixelSize PictureDevice::ScaleSize() const {

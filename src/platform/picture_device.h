@@ -24,7 +24,7 @@ class PictureDevice final : public PainterDevice {
 
     void Cls(Color backColor) override;
 
-    /// A vector file holds lines that lie on one another once.
+    /// Lines that lie on one another are drawn once.
     void Polyline(const Pen& pen, std::span<const PixelPoint> points) override;
     [[nodiscard]] PixelSize ScaleSize() const override;
 
@@ -41,7 +41,7 @@ class PictureDevice final : public PainterDevice {
   private:
     class Canvas;
     std::unique_ptr<Canvas> canvas_;
-    std::optional<LinesOnce> lines_;  ///< of a vector file
+    LinesOnce lines_;
 };
 
 }  // namespace korvet

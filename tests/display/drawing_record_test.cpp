@@ -38,6 +38,48 @@ TEST(DrawingRecord, PlaysLinesInTheirOrderAndThenTexts) {
     EXPECT_EQ(device.calls[4].text, "two");
 }
 
+/// The texts that a record plays, after all of them have been drawn at (4, 5).
+std::vector<std::string> Played(const TextFont& font, const std::vector<std::string>& texts) {
+    RecordingDevice device;
+    DrawingRecord record(device);
+    for (const std::string& text : texts) {
+        record.TextOut(text, {4, 5}, font, 77);
+    }
+    record.PlayOn(device);
+    std::vector<std::string> played;
+    for (const RecordingDevice::Call& call : device.calls) {
+        played.push_back(call.text);
+    }
+    return played;
+}
+
+TEST(DrawingRecord, PlaysATextOnceThatLiesOnTheSame) {
+    EXPECT_THAT(Played({-6, 900}, {"12", "13", "12", "123", "13"}), testing::ElementsAre("12", "13", "123"));
+}
+
+TEST(DrawingRecord, OfTextsThatCannotBeReadItPlaysOneOfEachLength) {
+    EXPECT_THAT(Played({-5, 900}, {"12", "13", "12", "123", "13"}), testing::ElementsAre("12", "123"));
+}
+
+TEST(DrawingRecord, ATextElsewhereOrOfAnotherLookIsAnother) {
+    RecordingDevice device;
+    DrawingRecord record(device);
+    for (int i = 0; i < 2; ++i) {
+        record.TextOut("12", {4, 5}, {-3, 0}, 77);
+        record.TextOut("12", {5, 5}, {-3, 0}, 77);
+        record.TextOut("12", {4, 6}, {-3, 0}, 77);
+        record.TextOut("12", {4, 5}, {-4, 0}, 77);
+        record.TextOut("12", {4, 5}, {-3, 900}, 77);
+        record.TextOut("12", {4, 5}, {-3, 0}, 78);
+    }
+    record.PlayOn(device);
+    EXPECT_EQ(device.calls.size(), 6U);
+    record.Clear();
+    record.TextOut("12", {4, 5}, {-3, 0}, 77);
+    record.PlayOn(device);
+    EXPECT_EQ(device.calls.size(), 7U);
+}
+
 TEST(DrawingRecord, IsAsLargeAsTheNextPicture) {
     RecordingDevice device(400, 200);
     device.nextSize = PixelSize{100, 50};

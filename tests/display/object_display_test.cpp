@@ -58,13 +58,13 @@ TEST_F(ObjectDisplay, WholeOrderOfAPattern) {
                              "mark 200,100 230,100 230,60 200,60 200,100"};  // frame
     expected.insert(expected.end(), annotations.begin(), annotations.end());
     expected.insert(expected.end(), SheetLines.begin(), SheetLines.end());
-    const Log texts = {"text   40  ", "text   0  ", "text   40  ",      "text   30  ",  // grid
-                       "text   0  ",  "text   0  ", "text   0  ",       "text   30  ",
-                       "text 50",                                                   // dimension
-                       "text 30",     "text 30",    "text 40",          "text 40",  // true lengths
-                       "text 50",                                                   // diagonal
-                       "text A1",     "text B1",    "text A2",          "text B2",  // coordinates
-                       "text 30",     "text 40",    "text Area = 1200",             // frame
+    const Log texts = {"text   40  ", "text   0  ", "text   40  ", "text   30  ",  // grid
+                       "text   0  ", "text   0  ", "text   0  ", "text   30  ",
+                       "text 50",                                   // dimension
+                       "text 30", "text 30", "text 40", "text 40",  // true lengths
+                       // The diagonal's would lie on the dimension's.
+                       "text A1", "text B1", "text A2", "text B2",  // coordinates
+                       "text 30", "text 40", "text Area = 1200",    // frame
                        "text note"};
     expected.insert(expected.end(), texts.begin(), texts.end());
     EXPECT_EQ(LogOf(screen), expected);

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QFontMetricsF>
 #include <QImage>
 #include <QPainter>
 #include <algorithm>
@@ -95,6 +96,21 @@ TEST_F(PaperDeviceTest, WithoutAPainterItOnlyMeasures) {
     Level(sheet, BlackLine, 1000);
     sheet.TextOut("H", {0, 0}, {-200, 0}, Black);
     EXPECT_GT(sheet.TextExtent("H", 10).width, 0);
+}
+
+TEST_F(PaperDeviceTest, NumbersAreAsWideAsTheyAreDrawn) {
+    const PaperDevice sheet(nullptr, {Side, Side});
+    for (const int pixels : {1, 7, 40, 333, 1000}) {
+        QFont font(QStringLiteral("Arial"));
+        font.setPixelSize(pixels);
+        font.setHintingPreference(QFont::PreferNoHinting);
+        const QFontMetricsF metrics(font);
+        for (const char* const text :
+             {"  1 ", "-11.17", "7,4", "0", "1111111", "  123456.7890  ", "1-1", "74 mm"}) {
+            EXPECT_EQ(sheet.TextExtent(text, pixels / 100.0).width, metrics.horizontalAdvance(QString(text)))
+                << text << " " << pixels;
+        }
+    }
 }
 
 }  // namespace
