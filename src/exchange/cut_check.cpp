@@ -21,7 +21,7 @@ std::string PlaceText(const C3DPoint& place) {
 }
 
 bool IsNear(const C3DPoint& a, const C3DPoint& b) {
-    return std::hypot(a.x - b.x, a.y - b.y) <= LargestGap;
+    return Distance3D(a, b) <= LargestGap;
 }
 
 bool IsFoldOfLap(CutPart part) {

@@ -76,8 +76,7 @@ double NearestPart(const CutCurve& curve, const C3DPoint& point) {
 }
 
 double DistanceOf(const CutCurve& curve, const C3DPoint& point) {
-    const C3DPoint nearest = PointAt(curve, NearestPart(curve, point));
-    return std::hypot(nearest.x - point.x, nearest.y - point.y);
+    return Distance3D(PointAt(curve, NearestPart(curve, point)), point);
 }
 
 CutCurve SectionOf(const CutCurve& curve, double fromPart, double toPart) {

@@ -13,28 +13,43 @@ namespace {
 /// About how many points of an edge are compared to lay one pattern on another.
 constexpr std::size_t EdgeSamples = 400;
 
-/// The lines of each list of each surface, to measure from.
-class Lines {
-  public:
-    explicit Lines(const PieceCurves& lines) {
-        std::map<Key, std::vector<CutCurve>> curves;
-        for (const PieceCurve& line : lines) {
-            curves[{line.piece, line.part}].push_back(line.curve);
+bool IsRuling(CutPart part) {
+    return part == CutPart::FirstEnd || part == CutPart::LastEnd || part == CutPart::Bend;
+}
+
+/// The numbers of the lines along the lists of each piece, in order.
+std::vector<std::vector<std::size_t>> LinesByPiece(const PieceCurves& lines, std::size_t pieces) {
+    std::vector<std::vector<std::size_t>> numbers(pieces);
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (!IsRuling(lines[i].part)) {
+            numbers.at(lines[i].piece - 1).push_back(i);
         }
-        for (auto& [key, own] : curves) {
+    }
+    return numbers;
+}
+
+/// The lines of each list of a surface, to measure from.
+class DrawnLists {
+  public:
+    DrawnLists(const PieceCurves& lines, const std::vector<std::size_t>& numbers) {
+        std::map<CutPart, std::vector<CutCurve>> curves;
+        for (const std::size_t i : numbers) {
+            curves[lines[i].part].push_back(lines[i].curve);
+        }
+        for (auto& [part, own] : curves) {
             std::vector<Bounds> boxes;
             boxes.reserve(own.size());
             std::transform(own.begin(), own.end(), std::back_inserter(boxes), BoundsOf);
-            lists_.emplace(key, OneList{std::move(own), BoxTree(std::move(boxes))});
+            lists_.emplace(part, OneList{std::move(own), BoxTree(std::move(boxes))});
         }
     }
 
     /// The largest distance of a point that `place` makes of those of the surface.
     template <typename Place>
-    [[nodiscard]] double Farthest(std::size_t piece, const CRuleSurf& surface, Place place) const {
+    [[nodiscard]] double Farthest(const CRuleSurf& surface, Place place) const {
         double farthest = 0;
         for (const auto& [list, part] : PathsOf(surface)) {
-            const auto found = lists_.find({piece, part});
+            const auto found = lists_.find(part);
             if (found == lists_.end() || !IsPresent(*list)) {
                 continue;
             }
@@ -46,8 +61,6 @@ class Lines {
     }
 
   private:
-    using Key = std::pair<std::size_t, CutPart>;
-
     struct OneList {
         std::vector<CutCurve> curves;
         BoxTree tree;
@@ -58,7 +71,7 @@ class Lines {
         }
     };
 
-    std::map<Key, OneList> lists_;
+    std::map<CutPart, OneList> lists_;
 };
 
 /// How far along the list each of its points stands.
@@ -154,11 +167,12 @@ class Fit {
 }  // namespace
 
 double DistanceFromPoints(const CRuleSurfs& surfaces, const PieceCurves& lines) {
-    const Lines drawn(lines);
+    const auto numbers = LinesByPiece(lines, surfaces.Count());
     double farthest = 0;
     for (std::size_t piece = 1; piece <= surfaces.Count(); ++piece) {
-        farthest = std::max(farthest, drawn.Farthest(piece, surfaces.Item(piece),
-                                                     [](const C3DPoint& point) { return point; }));
+        const DrawnLists drawn(lines, numbers[piece - 1]);
+        farthest = std::max(
+            farthest, drawn.Farthest(surfaces.Item(piece), [](const C3DPoint& point) { return point; }));
     }
     return farthest;
 }
@@ -167,12 +181,12 @@ double DistanceFromFiner(const CRuleSurfs& surfaces, const PieceCurves& lines, c
     if (surfaces.Count() != finer.Count()) {
         throw ArithmeticError("the finer pattern has other pieces");
     }
-    const Lines drawn(lines);
+    const auto numbers = LinesByPiece(lines, surfaces.Count());
     double farthest = 0;
     for (std::size_t piece = 1; piece <= surfaces.Count(); ++piece) {
+        const DrawnLists drawn(lines, numbers[piece - 1]);
         const Pairs pairs = PairsOf(surfaces.Item(piece), finer.Item(piece));
-        farthest =
-            std::max(farthest, drawn.Farthest(piece, finer.Item(piece), Fit(pairs.finer, pairs.coarse)));
+        farthest = std::max(farthest, drawn.Farthest(finer.Item(piece), Fit(pairs.finer, pairs.coarse)));
     }
     return farthest;
 }

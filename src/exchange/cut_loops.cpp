@@ -8,12 +8,10 @@
 #include <optional>
 #include <tuple>
 
+#include "core/math_module.h"
+
 namespace korvet {
 namespace {
-
-double DistanceBetween(const C3DPoint& a, const C3DPoint& b) {
-    return std::hypot(a.x - b.x, a.y - b.y);
-}
 
 BoxTree TreeOf(const CutNodes& nodes, const std::vector<std::size_t>& places) {
     std::vector<Bounds> boxes;
@@ -72,7 +70,7 @@ class Ends {
                 const C3DPoint& place = nodes_.places[loose[i]];
                 const double toNext = tree.Nearest(place.x, place.y, [&](std::size_t j) {
                     return i == j ? std::numeric_limits<double>::infinity()
-                                  : DistanceBetween(place, nodes_.places[loose[j]]);
+                                  : Distance3D(place, nodes_.places[loose[j]]);
                 });
                 joined.openEnds.push_back({place, toNext});
             }
@@ -95,7 +93,7 @@ class Ends {
             tree.Find([&](const Bounds& box) { return DistanceOf(box, place.x, place.y) <= LargestGap; },
                       [&](std::size_t j) {
                           if (i < j) {
-                              gaps.emplace_back(DistanceBetween(place, nodes_.places[loose[j]]), i, j);
+                              gaps.emplace_back(Distance3D(place, nodes_.places[loose[j]]), i, j);
                           }
                       });
         }

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <map>
 #include <numeric>
 #include <tuple>
 #include <unordered_map>
 
+#include "core/math_module.h"
 #include "exchange/box_tree.h"
 
 namespace korvet {
@@ -26,7 +26,7 @@ class Places {
                 const auto [first, last] = cells_.equal_range(Key(i, j));
                 for (auto place = first; place != last; ++place) {
                     const C3DPoint& known = places_[place->second];
-                    if (std::hypot(known.x - point.x, known.y - point.y) <= SamePlace) {
+                    if (Distance3D(known, point) <= SamePlace) {
                         return place->second;
                     }
                 }
@@ -59,7 +59,7 @@ bool Reaches(const CutCurve& curve, const Bounds& ofCurve, const Bounds& box) {
     }
     const double x = (box.minX + box.maxX) / 2;
     const double y = (box.minY + box.maxY) / 2;
-    const double halfDiagonal = std::hypot(box.maxX - box.minX, box.maxY - box.minY) / 2;
+    const double halfDiagonal = Distance3D({box.minX, box.minY}, {box.maxX, box.maxY}) / 2;
     return DistanceOf(curve, {x, y}) <= halfDiagonal + SamePlace;
 }
 
@@ -118,16 +118,26 @@ class Divider {
 
 /// Finds for each stretch the first one with the same ends and the same middle.
 void FindSame(std::vector<CutStretch>& stretches) {
-    std::map<std::pair<std::size_t, std::size_t>, std::vector<std::size_t>> firsts;
+    std::vector<std::tuple<std::size_t, std::size_t, std::size_t>> byEnds;  // and by number
+    byEnds.reserve(stretches.size());
     for (std::size_t i = 0; i < stretches.size(); ++i) {
-        CutStretch& stretch = stretches[i];
-        const C3DPoint middle = PointAt(stretch.shape, 0.5);
-        std::vector<std::size_t>& known = firsts[std::minmax(stretch.a, stretch.b)];
+        const auto [low, high] = std::minmax(stretches[i].a, stretches[i].b);
+        byEnds.emplace_back(low, high, i);
+    }
+    std::sort(byEnds.begin(), byEnds.end());
+    std::vector<std::size_t> known;  // between the same ends
+    for (std::size_t k = 0; k < byEnds.size(); ++k) {
+        const auto& [low, high, i] = byEnds[k];
+        if (k == 0 ||
+            std::tie(low, high) != std::tie(std::get<0>(byEnds[k - 1]), std::get<1>(byEnds[k - 1]))) {
+            known.clear();
+        }
+        const C3DPoint middle = PointAt(stretches[i].shape, 0.5);
         const auto same = std::find_if(known.begin(), known.end(), [&](std::size_t other) {
             return DistanceOf(stretches[other].shape, middle) <= SamePlace;
         });
         if (same != known.end()) {
-            stretch.same = *same;
+            stretches[i].same = *same;
         } else {
             known.push_back(i);
         }
