@@ -1,9 +1,11 @@
 #include "display/drawing_record.h"
 
+#include <array>
 #include <cmath>
 #include <cstdlib>
 
 #include "core/math_module.h"
+#include "core/number_hash.h"
 #include "core/work_watch.h"
 
 namespace korvet {
@@ -39,17 +41,8 @@ void DrawingRecord::TextOut(const std::string& text, PixelPoint corner, const Te
 }
 
 std::size_t DrawingRecord::HashOfText::operator()(const Text& text) const {
-    constexpr std::size_t Prime = 0x9E3779B97F4A7C15;
-    constexpr unsigned Half = 32;
-    std::size_t hash = text.text.size();
-    if (IsReadable(text.font)) {
-        hash = std::hash<std::string>()(text.text);
-    }
-    for (const std::int32_t number : {text.corner.x, text.corner.y, text.font.lfEscapement}) {
-        hash = (hash ^ static_cast<std::uint32_t>(number)) * Prime;
-        hash ^= hash >> Half;
-    }
-    return hash;
+    const std::size_t ofText = IsReadable(text.font) ? std::hash<std::string>()(text.text) : text.text.size();
+    return HashOfNumbers(std::array{text.corner.x, text.corner.y, text.font.lfEscapement}, ofText);
 }
 
 bool DrawingRecord::LooksTheSame::operator()(const Text& a, const Text& b) const {

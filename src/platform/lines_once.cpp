@@ -1,5 +1,7 @@
 #include "platform/lines_once.h"
 
+#include "core/number_hash.h"
+
 namespace korvet {
 namespace {
 
@@ -18,14 +20,7 @@ bool IsOnTheWay(PixelPoint a, PixelPoint b, PixelPoint c) {
 }  // namespace
 
 std::size_t LinesOnce::HashOfKey::operator()(const Key& key) const {
-    constexpr std::uint64_t Prime = 0x100000001B3;
-    constexpr unsigned Half = 32;
-    std::uint64_t hash = 0xCBF29CE484222325;
-    for (const std::int32_t number : key) {
-        hash = (hash ^ static_cast<std::uint32_t>(number)) * Prime;
-        hash ^= hash >> Half;
-    }
-    return static_cast<std::size_t>(hash);
+    return HashOfNumbers(key);
 }
 
 void LinesOnce::Straighten(std::span<const PixelPoint> points) {
