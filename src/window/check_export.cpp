@@ -15,6 +15,13 @@ namespace {
 /// Places of lengths and areas in the sentences.
 constexpr int TextPlaces = 3;
 
+/// What the text of the drawing holds, which itself is let go: that of a large fitting takes as much memory.
+PieceCurves LinesOf(const CDXF& drawing) {
+    std::vector<DxfPart> parts;
+    const std::string text = drawing.Text(parts);
+    return ReadPieceCurves(text, parts);
+}
+
 std::optional<double> DistanceFromMoreSegments(const CFittingWindow& window, const CDXF& drawing,
                                                const PieceCurves& lines, int segs) {
     try {
@@ -92,9 +99,7 @@ std::optional<ExportCheck> CheckExport(const CFittingWindow& window, const CDXF&
     if (!drawing.Pattern || !drawing.OutlinesRequested || !window.fitting) {
         return std::nullopt;
     }
-    std::vector<DxfPart> parts;
-    const std::string text = drawing.Text(parts);
-    const PieceCurves lines = ReadPieceCurves(text, parts);
+    const PieceCurves lines = LinesOf(drawing);
     ExportCheck check;
     check.cut = CheckCutFile(drawing.SurfaceList, lines, drawing.PolyMode == ArcEdges);
     check.finerSegs = std::min(FinerTimes * window.fitting->Inputs().segs, MaxSegs);
