@@ -271,11 +271,13 @@ void CObjectDisplay::DrawWhole(DrawingRecord& record, bool onPaper, const ScaleF
 }
 
 void CObjectDisplay::DrawPage(DrawingDevice& sheet, const WorldWindow& window, const Bounds& page) const {
-    Drawing drawing = NewDrawing(&sheet, window);
+    DrawingRecord record(sheet);
+    Drawing drawing = NewDrawing(&record, window);
     drawing.PrintRequested = true;
     drawing.PrinterPage = page;
     DrawBelow(drawing, KeptContent());
     DrawAbove(drawing, KeptContent());
+    record.PlayOn(sheet);
 }
 
 void CObjectDisplay::DrawToFit(DrawingDevice& sheet) const {

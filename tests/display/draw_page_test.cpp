@@ -67,6 +67,19 @@ TEST_F(DrawPage, KeepsAPathInOnePieceAsLongAsItStaysInside) {
     EXPECT_EQ(lines.back(), (std::vector<PixelPoint>{{50, 175}, {15, 175}, {15, 165}}));
 }
 
+TEST_F(DrawPage, ATextThatLiesOnTheSameIsDrawnOnce) {
+    display.CoordGridRequested = true;
+    display.TextSize = 1;
+    display.DisplayObject();
+    (void)LinesOn({-10, -10, 50, 50});
+    const auto once = paper.Strings();
+    EXPECT_EQ(once.size(), 8U);
+    fitting->canned.PatternSurface.List3 = fitting->canned.PatternSurface.List1;  // stations on stations
+    display.DisplayObject();
+    (void)LinesOn({-10, -10, 50, 50});
+    EXPECT_EQ(paper.Strings(), once);
+}
+
 TEST_F(DrawPage, DrawsATextWhereItsPointLies) {
     display.TrueLengthsRequested = true;
     display.TextSize = 1;
