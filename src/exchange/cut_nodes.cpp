@@ -4,8 +4,8 @@
 #include <cmath>
 #include <cstdint>
 #include <numeric>
-#include <tuple>
 #include <unordered_map>
+#include <utility>
 
 #include "core/math_module.h"
 #include "exchange/box_tree.h"
@@ -118,18 +118,16 @@ class Divider {
 
 /// Finds for each stretch the first one with the same ends and the same middle.
 void FindSame(std::vector<CutStretch>& stretches) {
-    std::vector<std::tuple<std::size_t, std::size_t, std::size_t>> byEnds;  // and by number
+    std::vector<std::pair<std::pair<std::size_t, std::size_t>, std::size_t>> byEnds;  // and by number
     byEnds.reserve(stretches.size());
     for (std::size_t i = 0; i < stretches.size(); ++i) {
-        const auto [low, high] = std::minmax(stretches[i].a, stretches[i].b);
-        byEnds.emplace_back(low, high, i);
+        byEnds.emplace_back(std::minmax(stretches[i].a, stretches[i].b), i);
     }
     std::sort(byEnds.begin(), byEnds.end());
     std::vector<std::size_t> known;  // between the same ends
     for (std::size_t k = 0; k < byEnds.size(); ++k) {
-        const auto& [low, high, i] = byEnds[k];
-        if (k == 0 ||
-            std::tie(low, high) != std::tie(std::get<0>(byEnds[k - 1]), std::get<1>(byEnds[k - 1]))) {
+        const std::size_t i = byEnds[k].second;
+        if (k == 0 || byEnds[k].first != byEnds[k - 1].first) {
             known.clear();
         }
         const C3DPoint middle = PointAt(stretches[i].shape, 0.5);

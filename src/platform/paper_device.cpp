@@ -17,7 +17,7 @@ void PaperDevice::Polyline(const Pen& pen, std::span<const PixelPoint> points) {
         return;
     }
     if (pen != pen_) {
-        DrawWaiting();
+        Finish();
         pen_ = pen;
     }
     for (const ClippedLine& part : PartsOnDevice(lines_.Take(pen, points))) {
@@ -27,16 +27,16 @@ void PaperDevice::Polyline(const Pen& pen, std::span<const PixelPoint> points) {
         }
     }
     if (waiting_.elementCount() >= LongestPath) {
-        DrawWaiting();
+        Finish();
     }
 }
 
 void PaperDevice::TextOut(const std::string& text, PixelPoint corner, const TextFont& font, Color color) {
-    DrawWaiting();
+    Finish();
     PainterDevice::TextOut(text, corner, font, color);
 }
 
-void PaperDevice::DrawWaiting() {
+void PaperDevice::Finish() {
     if (painter_ != nullptr && !waiting_.isEmpty()) {
         painter_->strokePath(waiting_, PenOf(pen_));
     }

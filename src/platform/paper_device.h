@@ -13,12 +13,15 @@ inline constexpr int PaperDotsPerInch = 7200;
 
 /// The printable part of a sheet. Widths of pens count in dots of 300 to the inch, as wide as an ordinary
 /// printer can draw them. Lines wait to be drawn many at a time, which a large fitting needs: the sheet is
-/// whole when the device has ended, and that has to be before its painter goes on to the next sheet.
+/// whole when it has been finished.
 class PaperDevice final : public PainterDevice {
   public:
     /// `size` in dots of PaperDotsPerInch, as the painter counts too. Without a painter it only measures.
     PaperDevice(QPainter* painter, PixelSize size) : painter_(painter), size_(size) {}
-    ~PaperDevice() override { DrawWaiting(); }
+
+    /// Draws the lines that wait, before the painter goes on to the next sheet. It may run out of memory, as
+    /// a destructor may not.
+    void Finish();
 
     void Cls(Color /*backColor*/) override {}  // paper has its colour
     [[nodiscard]] PixelSize ScaleSize() const override { return size_; }
@@ -31,8 +34,6 @@ class PaperDevice final : public PainterDevice {
     [[nodiscard]] double PixelRatio() const override { return PaperDotsPerInch / 300.0; }
 
   private:
-    void DrawWaiting();
-
     QPainter* painter_;
     PixelSize size_;
     LinesOnce lines_;

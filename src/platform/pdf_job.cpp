@@ -81,7 +81,7 @@ class PdfJob final : public PrintJob {
     }
 
     DrawingDevice& NewPage() override {
-        sheet_.reset();
+        FinishSheet();
         const bool begun = painter_.isActive() ? writer_->newPage() : painter_.begin(&*writer_);
         if (!begun || device_.Fault()) {
             Fail();
@@ -92,7 +92,7 @@ class PdfJob final : public PrintJob {
 
     /// Without it the file stays as it was.
     void EndDoc() override {
-        sheet_.reset();
+        FinishSheet();
         const bool drawn = painter_.isActive() && painter_.end();
         writer_.reset();
         if (!drawn) {
@@ -106,6 +106,12 @@ class PdfJob final : public PrintJob {
     }
 
   private:
+    void FinishSheet() {
+        if (sheet_) {
+            sheet_->Finish();
+        }
+    }
+
     [[noreturn]] void Fail() const {
         throw PrintError(device_.Fault().value_or(path_ + " cannot be written"));
     }

@@ -102,6 +102,7 @@ class QueueJob final : public PrintJob {
             PrepareDrawing(painter);
             PaperDevice sheet(&painter, paper_.ScaleSize());
             sheets_[i].PlayOn(sheet);
+            sheet.Finish();
         }
         if (!painter.end() || printer->printerState() == QPrinter::Error) {
             throw PrintError("The printer \"" + setup_.printer + "\" did not take the document.");

@@ -27,6 +27,7 @@ class PaperDeviceTest : public testing::Test {
         QPainter painter(&image_);
         PaperDevice sheet(&painter, {Side, Side});
         draw(sheet);
+        sheet.Finish();
     }
 
     [[nodiscard]] unsigned At(int x, int y) const { return image_.pixel(x, y) & 0xFFFFFFU; }
@@ -46,7 +47,7 @@ class PaperDeviceTest : public testing::Test {
     QImage image_ = QImage(Side, Side, QImage::Format_RGB32);
 };
 
-TEST_F(PaperDeviceTest, AllLinesAreThereWhenItHasEnded) {
+TEST_F(PaperDeviceTest, AllLinesAreThereWhenItIsFinished) {
     // More points than wait at a time, each line on rows of its own.
     OnTheSheet([](PaperDevice& sheet) {
         for (int y = 1; y < Side; y += 2) {

@@ -70,6 +70,25 @@ TEST_F(PdfJobTest, EverySheetIsAPage) {
     EXPECT_EQ(place.Entries(), 1);
 }
 
+TEST_F(PdfJobTest, EverySheetHasItsLinesWithoutATextBehindThem) {
+    const auto lengthWith = [this](bool onFirst, bool onSecond) {
+        const auto job = Start();
+        for (const bool lines : {onFirst, onSecond}) {
+            DrawingDevice& sheet = job->NewPage();
+            for (int x = 0; lines && x < 200; ++x) {
+                const PixelPoint line[] = {{x * x, 7 * x}, {x, 300 + x * x}};
+                sheet.Polyline({}, line);
+            }
+        }
+        job->EndDoc();
+        return Contents().size();
+    };
+    const std::size_t packedLines = 200 * 4;  // bytes at least
+    const std::size_t empty = lengthWith(false, false);
+    EXPECT_GT(lengthWith(true, false), empty + packedLines);
+    EXPECT_GT(lengthWith(false, true), empty + packedLines);
+}
+
 TEST_F(PdfJobTest, ASheetIsThePaperInFineDots) {
     const PrintableArea area = printers.AreaOf(setup);
     EXPECT_NEAR(area.width, 210, 25.4 / 144);  // whole points
