@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QPainterPath>
+#include <cstddef>
+#include <memory>
 
 #include "platform/lines_once.h"
 #include "platform/painter_device.h"
@@ -39,6 +41,16 @@ class PaperDevice final : public PainterDevice {
     LinesOnce lines_;
     QPainterPath waiting_;  ///< lines to be drawn with pen_
     Pen pen_;
+};
+
+/// Memory for the end of a document that is given up because there is no more. Its painter packs what was
+/// drawn before it goes, and throws from its destructor when it cannot, which would end the program. It is to
+/// stand behind the painter, so that it is let go first.
+class EndingReserve {
+    /// Twice the ten million bytes that the toolkit packs at a time, and some for the rest.
+    static constexpr std::size_t Bytes = std::size_t{32} * 1024 * 1024;
+
+    std::unique_ptr<std::byte[]> memory_ = std::make_unique_for_overwrite<std::byte[]>(Bytes);
 };
 
 }  // namespace korvet

@@ -121,6 +121,7 @@ class PdfJob final : public PrintJob {
     PieceDevice device_;
     std::optional<QPdfWriter> writer_;
     QPainter painter_;  // behind what it paints on, so that it ends first
+    EndingReserve reserve_;
     std::optional<PaperDevice> sheet_;
 };
 

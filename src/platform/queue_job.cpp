@@ -89,6 +89,7 @@ class QueueJob final : public PrintJob {
         printer->setCreator(QString::fromUtf8(ProductTitle.data(), ProductTitle.size()));
         ForbidScaling(*printer);
         QPainter painter;
+        const EndingReserve reserve;
         if (sheets_.empty() || !painter.begin(printer.get())) {
             throw PrintError("The printer \"" + setup_.printer + "\" does not begin the document.");
         }

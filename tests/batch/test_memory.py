@@ -34,6 +34,23 @@ class MemoryTest(FolderTest):
         self.assertTrue((self.folder / "first.dxf").exists() and (self.folder / "last.dxf").exists())
         self.assertFalse((self.folder / "bend.dxf").exists())
 
+    def test_a_document_that_the_memory_ends_in_ends_one_input(self):
+        """From where a small fitting has room, up to where a large one has."""
+        step = 4 * MEBIBYTE
+        to_fit = ("--sample", "--pdf", "sheet.pdf", "--fit")
+        limit = 64 * MEBIBYTE
+        while self.run_within(limit, "--new", "Right Cone", *to_fit)[0] != DONE:
+            limit += step
+        statuses = []
+        while DONE not in statuses:
+            status, errors = self.run_within(limit, "--new", "Segmented Bend", "--set", "box2=500", "--set", "segs=96",
+                                             "--set", "box1=300000", *to_fit)
+            self.assertIn(status, (DONE, REFUSED), limit)
+            self.assertEqual("there is not enough memory" in errors, status == REFUSED, limit)
+            statuses.append(status)
+            limit += step
+        self.assertIn(REFUSED, statuses)
+
     def test_the_largest_bend_takes_less_than_a_gigabyte(self):
         """The limit counts what is only mapped too: the program itself maps a third of a gigabyte."""
         outputs = [word for option in ("--dxf", "--hpgl", "--svg") for word in (option, "/dev/null")]
