@@ -55,13 +55,14 @@ class PictureDevice::Canvas {
         }
         End();
         if (format_ == PictureFormat::Png) {
+            image_.fill(ColorOf(backColor));  // a painter would wait for threads that have no memory
             painter_ = std::make_unique<QPainter>(&image_);
         } else {
             BeginVectors();
             painter_ = std::make_unique<QPainter>(generator_.get());
+            painter_->fillRect(QRect(QPoint(0, 0), size_), ColorOf(backColor));
         }
         PrepareDrawing(*painter_);
-        painter_->fillRect(QRect(QPoint(0, 0), size_), ColorOf(backColor));
     }
 
     /// The painter of the picture; null when there is no picture or it has ended.
