@@ -60,6 +60,12 @@ class Folder {
     fs::path path_;
 };
 
+/// Whether the program said these words of its own: a message quotes its input, and a fuzzer soon writes
+/// there what it sees a text compared with.
+inline bool SaysByItself(const std::string& text, const char* words, const std::string& input) {
+    return text.find(words) != std::string::npos && input.find(words) == std::string::npos;
+}
+
 /// Runs a command line in silence; its exit status. What it said stands in `text`.
 inline int RunInSilence(const std::vector<std::string>& words, std::string& text) {
     std::vector<const char*> arguments = {"korvet-batch"};

@@ -55,7 +55,7 @@ void CheckSaved(const Folder& folder, const std::string& bytes) {
     folder.Put("saved.Kvt", bytes);
     std::string text;
     const int status = RunInSilence({folder.File("saved.Kvt"), "--save", folder.File("again.Kvt")}, text);
-    Require(text.find("Error loading parameter file") == std::string::npos,
+    Require(!SaysByItself(text, "Error loading parameter file", bytes),
             "a parameter file that cannot be read again");
     if (status == korvet::batch::Done) {
         Require(folder.Take("again.Kvt") == bytes, "a parameter file that changes when it is saved again");
