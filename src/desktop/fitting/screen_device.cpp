@@ -16,9 +16,9 @@ void ScreenDevice::Cls(Color backColor) {
         return;
     }
     image_.setDevicePixelRatio(1);  // the drawing counts device pixels
+    image_.fill(ColorOf(backColor));
     painter_.begin(&image_);
     PrepareDrawing(painter_);
-    painter_.fillRect(image_.rect(), ColorOf(backColor));
     image_.setDevicePixelRatio(ratio);
     RimTexts(backColor);
     changed();
