@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 #include <set>
+#include <tuple>
+#include <utility>
 
 #include "core/math_module.h"
 #include "core/number_text.h"
@@ -73,12 +75,16 @@ struct FoldsOfSurface {
 /// One check, step by step.
 class Checker {
   public:
-    Checker(const CRuleSurfs& surfaces, const PieceCurves& lines, bool arcs)
-        : surfaces_(surfaces), arcs_(arcs), outlines_(surfaces.Count()), thirdLines_(surfaces.Count()) {
+    Checker(const CRuleSurfs& surfaces, PieceCurves lines, bool arcs)
+        : surfaces_(surfaces),
+          arcs_(arcs),
+          lines_(std::move(lines)),
+          outlines_(surfaces.Count()),
+          thirdLines_(surfaces.Count()) {
         for (const CRuleSurf& surface : surfaces) {
             folds_.emplace_back(surface);
         }
-        TakeLines(lines);
+        TakeLines();
     }
 
     CutCheck Run() {
@@ -107,14 +113,13 @@ class Checker {
 
     [[nodiscard]] const PieceCurve& LineOf(const CutStretch& stretch) const { return lines_[stretch.curve]; }
 
-    /// Whether the stretch is all of its line.
-    [[nodiscard]] bool IsWhole(const CutStretch& stretch) const {
-        return LengthOf(stretch.shape) == LengthOf(LineOf(stretch).curve);
+    [[nodiscard]] C3DPoint MiddleOf(const CutStretch& stretch) const {
+        return PointAt(ShapeOf(lines_, stretch), 0.5);
     }
 
-    void TakeLines(const PieceCurves& lines);
-    [[nodiscard]] bool IsLastSegmentAgain(const PieceCurves& lines, std::size_t begin, std::size_t end) const;
-    void TakeEntity(const PieceCurves& lines, std::size_t begin, std::size_t end);
+    void TakeLines();
+    [[nodiscard]] bool IsLastSegmentAgain(std::size_t begin, std::size_t end) const;
+    void TakeEntity(std::size_t begin, std::size_t end, std::size_t& taken);
     bool TakePoint(const PieceCurve& line);
     void FindDoubled();
     void TakeDoubled(const CutStretch& stretch, const PieceCurve& other);
@@ -140,37 +145,40 @@ class Checker {
     std::set<std::size_t> doubled_;
 };
 
-/// Takes the lines part by part, and of each part entity by entity.
-void Checker::TakeLines(const PieceCurves& lines) {
-    for (std::size_t begin = 0; begin < lines.size();) {
+/// Takes the lines part by part, and of each part entity by entity. Those that stay close up.
+void Checker::TakeLines() {
+    std::size_t taken = 0;
+    for (std::size_t begin = 0; begin < lines_.size();) {
         std::size_t end = begin;
-        while (end < lines.size() && lines[end].piece == lines[begin].piece &&
-               lines[end].part == lines[begin].part) {
+        while (end < lines_.size() && lines_[end].piece == lines_[begin].piece &&
+               lines_[end].part == lines_[begin].part) {
             ++end;
         }
-        const bool again = IsLastSegmentAgain(lines, begin, end);
+        const bool again = IsLastSegmentAgain(begin, end);
         const bool lapped =
-            again && ListOf(surfaces_.Item(lines[begin].piece), lines[begin].part)->Last().Flag == LapClosure;
+            again &&
+            ListOf(surfaces_.Item(lines_[begin].piece), lines_[begin].part)->Last().Flag == LapClosure;
         const std::size_t left = again ? end - (lapped ? 2U : 1U) : end;
         for (std::size_t i = begin; i < end;) {
             std::size_t next = i;
-            while (next < end && lines[next].entity == lines[i].entity) {
+            while (next < end && lines_[next].entity == lines_[i].entity) {
                 ++next;
             }
             if (i != left) {
-                TakeEntity(lines, i, next);
+                TakeEntity(i, next, taken);
             }
             i = next;
         }
         check_.onPurpose.lastSegments += again ? 1U : 0U;
         begin = end;
     }
+    lines_.resize(taken);
 }
 
 /// An edge goes out two segments at a time. Where its number of points is even, the last segment is the
 /// second half of the last step, and comes once more behind it: before the line to the end of a seam lap.
-bool Checker::IsLastSegmentAgain(const PieceCurves& lines, std::size_t begin, std::size_t end) const {
-    const C3DPoints* list = ListOf(surfaces_.Item(lines[begin].piece), lines[begin].part);
+bool Checker::IsLastSegmentAgain(std::size_t begin, std::size_t end) const {
+    const C3DPoints* list = ListOf(surfaces_.Item(lines_[begin].piece), lines_[begin].part);
     if (!arcs_ || list == nullptr || list->Count() <= 2) {
         return false;
     }
@@ -179,25 +187,26 @@ bool Checker::IsLastSegmentAgain(const PieceCurves& lines, std::size_t begin, st
     if (n % 2 == 1 || n < 4 || end - begin < 2 + tab) {
         return false;
     }
-    const CutCurve& last = lines[end - tab - 1].curve;
-    const CutCurve& before = lines[end - tab - 2].curve;
+    const CutCurve& last = lines_[end - tab - 1].curve;
+    const CutCurve& before = lines_[end - tab - 2].curve;
     return RunsAlongLastSegment(last, *list, n) &&
            (IsNear(before.start, list->Item(n)) || IsNear(before.end, list->Item(n)));
 }
 
-void Checker::TakeEntity(const PieceCurves& lines, std::size_t begin, std::size_t end) {
+void Checker::TakeEntity(std::size_t begin, std::size_t end, std::size_t& taken) {
     double length = 0;
     for (std::size_t i = begin; i < end; ++i) {
-        length += LengthOf(lines[i].curve);
+        length += LengthOf(lines_[i].curve);
     }
     if (length > SamePlace) {
-        lines_.insert(lines_.end(), lines.begin() + static_cast<std::ptrdiff_t>(begin),
-                      lines.begin() + static_cast<std::ptrdiff_t>(end));
-    } else if (TakePoint(lines[begin])) {
+        for (std::size_t i = begin; i < end; ++i) {
+            lines_[taken++] = lines_[i];
+        }
+    } else if (TakePoint(lines_[begin])) {
         ++check_.onPurpose.points;
     } else {
         ++check_.zeroLength;
-        Fault(lines[begin].piece, "a line without length at " + PlaceText(lines[begin].curve.start));
+        Fault(lines_[begin].piece, "a line without length at " + PlaceText(lines_[begin].curve.start));
     }
 }
 
@@ -228,7 +237,8 @@ void Checker::FindDoubled() {
         const CutStretch& first = nodes_.stretches[stretch.same];
         const PieceCurve& other = LineOf(first);
         // Neighbours on a curve may overlap by less than a gap between them may be wide.
-        const bool counts = LengthOf(stretch.shape) > LargestGap || IsWhole(stretch) || IsWhole(first);
+        const bool counts =
+            LengthOf(ShapeOf(lines_, stretch)) > LargestGap || stretch.IsWhole() || first.IsWhole();
         if (counts && LineOf(stretch).entity != other.entity) {
             TakeDoubled(stretch, other);
         }
@@ -251,7 +261,7 @@ void Checker::TakeDoubled(const CutStretch& stretch, const PieceCurve& other) {
     } else if (isEnd(own.part) && isEnd(other.part) && own.part != other.part) {
         seams_.insert(own.entity);
     } else if (doubled_.insert(own.entity).second) {
-        Fault(own.piece, "a doubled line at " + PlaceText(PointAt(stretch.shape, 0.5)));
+        Fault(own.piece, "a doubled line at " + PlaceText(MiddleOf(stretch)));
     }
 }
 
@@ -267,21 +277,22 @@ void Checker::TakeRepeatedFold(const CutStretch& stretch) {
         ++check_.onPurpose.repeatedFolds;
     } else {
         doubled_.insert(own.entity);
-        Fault(own.piece, "a doubled fold at " + PlaceText(PointAt(stretch.shape, 0.5)));
+        Fault(own.piece, "a doubled fold at " + PlaceText(MiddleOf(stretch)));
     }
 }
 
 void Checker::Measure() {
     std::set<std::size_t> folds;
-    std::set<std::size_t> cuts;
+    std::vector<bool> isMeasured(nodes_.stretches.size());
     std::set<std::pair<std::size_t, CutPart>> lapFolds;
     for (const CutStretch& stretch : nodes_.stretches) {
         const PieceCurve& line = LineOf(stretch);
         if (IsCut(line.part)) {
-            check_.cutLength += cuts.insert(stretch.same).second ? LengthOf(stretch.shape) : 0;
+            check_.cutLength += isMeasured[stretch.same] ? 0 : LengthOf(ShapeOf(lines_, stretch));
+            isMeasured[stretch.same] = true;
         } else if (IsFoldOfLap(line.part)) {
             lapFolds.insert({line.piece, line.part});
-            check_.lapFoldLength += LengthOf(stretch.shape);
+            check_.lapFoldLength += LengthOf(ShapeOf(lines_, stretch));
         } else if (foldsOnEdges_.count(line.entity) + repeatedFolds_.count(line.entity) == 0) {
             folds.insert(line.entity);
         }
@@ -293,10 +304,14 @@ void Checker::Measure() {
 /// Sorts out the stretches that bound each piece and those of its third line. What an edge has twice is taken
 /// once; the two sides of a seam stay two.
 void Checker::SortOutPieces() {
-    std::set<std::pair<std::size_t, std::pair<std::size_t, CutPart>>> taken;
+    std::set<std::tuple<std::size_t, std::size_t, CutPart>> again;  // of the few that lie on another one
     for (std::size_t i = 0; i < nodes_.stretches.size(); ++i) {
-        const PieceCurve& line = LineOf(nodes_.stretches[i]);
-        if (IsCut(line.part) && taken.insert({nodes_.stretches[i].same, {line.piece, line.part}}).second) {
+        const CutStretch& stretch = nodes_.stretches[i];
+        const PieceCurve& line = LineOf(stretch);
+        const PieceCurve& first = LineOf(nodes_.stretches[stretch.same]);
+        const bool isFirst = stretch.same == i || ((line.piece != first.piece || line.part != first.part) &&
+                                                   again.emplace(stretch.same, line.piece, line.part).second);
+        if (IsCut(line.part) && isFirst) {
             (IsOutline(line.part) ? outlines_ : thirdLines_)[line.piece - 1].push_back(i);
         }
     }
@@ -305,7 +320,7 @@ void Checker::SortOutPieces() {
 /// The area of the piece without its holes, as far as that can be said.
 double Checker::CheckPiece(std::size_t piece) {
     ++check_.pieces;
-    const JoinedLoops joined = JoinLoops(nodes_, outlines_[piece - 1]);
+    const JoinedLoops joined = JoinLoops(lines_, nodes_, outlines_[piece - 1]);
     check_.widestGap = std::max(check_.widestGap, joined.widestGap);
     for (const OpenEnd& end : joined.openEnds) {
         const bool hasNext = std::isfinite(end.toNext);
@@ -335,7 +350,7 @@ double Checker::CheckThirdLine(std::size_t piece, const std::vector<CutLoop>& ou
     if (stretches.empty()) {
         return 0;
     }
-    const JoinedLoops joined = JoinLoops(nodes_, stretches);
+    const JoinedLoops joined = JoinLoops(lines_, nodes_, stretches);
     check_.widestGap = std::max(check_.widestGap, joined.widestGap);
     if (!joined.openEnds.empty()) {
         if (joined.openEnds.size() == 2 && EndOnOutline(piece, joined.openEnds)) {
@@ -357,16 +372,17 @@ double Checker::CheckThirdLine(std::size_t piece, const std::vector<CutLoop>& ou
 bool Checker::EndOnOutline(std::size_t piece, const std::vector<OpenEnd>& ends) const {
     return std::all_of(ends.begin(), ends.end(), [&](const OpenEnd& end) {
         return std::any_of(outlines_[piece - 1].begin(), outlines_[piece - 1].end(), [&](std::size_t i) {
-            return DistanceOf(nodes_.stretches[i].shape, end.place) <= LargestGap;
+            return DistanceOf(ShapeOf(lines_, nodes_.stretches[i]), end.place) <= LargestGap;
         });
     });
 }
 
 }  // namespace
 
-CutCheck CheckCutFile(const CRuleSurfs& surfaces, const PieceCurves& lines, bool arcs) {
-    CutCheck check = Checker(surfaces, lines, arcs).Run();
-    check.fromPoints = DistanceFromPoints(surfaces, lines);
+CutCheck CheckCutFile(const CRuleSurfs& surfaces, PieceCurves lines, bool arcs) {
+    const double fromPoints = DistanceFromPoints(surfaces, lines);
+    CutCheck check = Checker(surfaces, std::move(lines), arcs).Run();
+    check.fromPoints = fromPoints;
     return check;
 }
 

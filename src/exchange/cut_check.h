@@ -45,6 +45,6 @@ struct CutCheck {
 /// Checks the lines of a drawing against the surfaces that they were written from; `arcs` when curved edges
 /// went out as arcs. What is a cut, a fold or a piece stands in `lines`, which a fault of the file may have
 /// changed; what may stand twice is read off the surfaces.
-CutCheck CheckCutFile(const CRuleSurfs& surfaces, const PieceCurves& lines, bool arcs);
+CutCheck CheckCutFile(const CRuleSurfs& surfaces, PieceCurves lines, bool arcs);
 
 }  // namespace korvet

@@ -109,8 +109,9 @@ class Ends {
 /// Walks along stretches until all are used up, and takes out a loop wherever the way meets itself.
 class LoopWalk {
   public:
-    LoopWalk(const CutNodes& nodes, const std::vector<std::size_t>& stretches, const Ends& ends)
-        : nodes_(nodes), stretches_(stretches), ends_(ends), isUsed_(stretches.size()) {
+    LoopWalk(const PieceCurves& curves, const CutNodes& nodes, const std::vector<std::size_t>& stretches,
+             const Ends& ends)
+        : curves_(curves), nodes_(nodes), stretches_(stretches), ends_(ends), isUsed_(stretches.size()) {
         for (std::size_t i = 0; i < stretches.size(); ++i) {
             const CutStretch& stretch = nodes.stretches[stretches[i]];
             ways_[ends.At(stretch.a)].push_back(i);
@@ -171,7 +172,7 @@ class LoopWalk {
         const C3DPoint origin = nodes_.places[path_[first].node];
         for (std::size_t i = first; i < path_.size(); ++i) {
             const Step& step = path_[i];
-            const CutCurve& shape = nodes_.stretches[step.stretch].shape;
+            const CutCurve shape = ShapeOf(curves_, nodes_.stretches[step.stretch]);
             loop.curves.push_back(shape);
             length += LengthOf(shape);
             loop.area += SweptArea(shape, origin) * (step.forward ? 1 : -1);
@@ -184,6 +185,7 @@ class LoopWalk {
         }
     }
 
+    const PieceCurves& curves_;
     const CutNodes& nodes_;
     const std::vector<std::size_t>& stretches_;
     const Ends& ends_;
@@ -196,12 +198,13 @@ class LoopWalk {
 
 }  // namespace
 
-JoinedLoops JoinLoops(const CutNodes& nodes, const std::vector<std::size_t>& stretches) {
+JoinedLoops JoinLoops(const PieceCurves& curves, const CutNodes& nodes,
+                      const std::vector<std::size_t>& stretches) {
     JoinedLoops joined;
     Ends ends(nodes, stretches);
     ends.Bridge(joined);
     if (joined.openEnds.empty()) {
-        joined.loops = LoopWalk(nodes, stretches, ends).Loops();
+        joined.loops = LoopWalk(curves, nodes, stretches, ends).Loops();
     }
     return joined;
 }
@@ -225,6 +228,7 @@ C3DPoint PointOf(const CutLoop& loop) {
 
 double AreaOf(const std::vector<CutLoop>& loops) {
     std::vector<LoopRegion> insides;
+    insides.reserve(loops.size());
     for (const CutLoop& loop : loops) {
         insides.emplace_back(std::span(&loop, 1));
     }

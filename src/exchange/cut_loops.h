@@ -30,9 +30,10 @@ struct JoinedLoops {
     double widestGap = 0;  ///< of those that were bridged
 };
 
-/// Joins stretches (by their numbers) into closed loops, over gaps of up to LargestGap, nearest ends first. A
-/// loop no longer than there and back over such a gap is none.
-JoinedLoops JoinLoops(const CutNodes& nodes, const std::vector<std::size_t>& stretches);
+/// Joins stretches of curves (by their numbers) into closed loops, over gaps of up to LargestGap, nearest
+/// ends first. A loop no longer than there and back over such a gap is none.
+JoinedLoops JoinLoops(const PieceCurves& curves, const CutNodes& nodes,
+                      const std::vector<std::size_t>& stretches);
 
 /// Loops as boundaries: a point is inside when an odd number of them goes round it.
 class LoopRegion {

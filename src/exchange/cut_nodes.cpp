@@ -1,10 +1,10 @@
 #include "exchange/cut_nodes.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <cstdint>
-#include <numeric>
-#include <unordered_map>
+#include <limits>
 #include <utility>
 
 #include "core/math_module.h"
@@ -13,43 +13,72 @@
 namespace korvet {
 namespace {
 
-/// Gives each end the number of the first end that lies within SamePlace of it.
+/// Gives each end the number of the nearest end before it that lies within SamePlace. The places stand in
+/// chains, one for all those cells of the plan that fall together.
 class Places {
   public:
-    explicit Places(std::vector<C3DPoint>& places) : places_(places) {}
+    Places(std::vector<C3DPoint>& places, std::size_t mostPlaces)
+        : places_(places), heads_(std::bit_ceil(mostPlaces + 1), None) {}
 
     std::size_t NumberOf(const C3DPoint& point) {
-        const std::int64_t column = Cell(point.x);
-        const std::int64_t row = Cell(point.y);
-        for (std::int64_t i = column - 1; i <= column + 1; ++i) {
-            for (std::int64_t j = row - 1; j <= row + 1; ++j) {
-                const auto [first, last] = cells_.equal_range(Key(i, j));
-                for (auto place = first; place != last; ++place) {
-                    const C3DPoint& known = places_[place->second];
-                    if (Distance3D(known, point) <= SamePlace) {
-                        return place->second;
+        std::size_t found = None;
+        double least = SamePlace;
+        for (std::int64_t i = Cell(point.x - SamePlace); i <= Cell(point.x + SamePlace); ++i) {
+            for (std::int64_t j = Cell(point.y - SamePlace); j <= Cell(point.y + SamePlace); ++j) {
+                for (std::size_t place = HeadOf(i, j); place != None; place = next_[place]) {
+                    const double distance = Distance3D(places_[place], point);
+                    if (distance <= least) {
+                        least = distance;
+                        found = place;
                     }
                 }
             }
         }
-        cells_.emplace(Key(column, row), places_.size());
-        places_.push_back(point);
-        return places_.size() - 1;
+        if (found == None) {
+            std::size_t& head = HeadOf(Cell(point.x), Cell(point.y));
+            found = places_.size();
+            next_.push_back(head);
+            head = found;
+            places_.push_back(point);
+        }
+        return found;
     }
 
   private:
+    static constexpr std::size_t None = std::numeric_limits<std::size_t>::max();
+
+    /// So wide that hardly a place lies near the rim of its cell.
+    static constexpr double CellSize = 64 * SamePlace;
+
     static std::int64_t Cell(double coordinate) {
-        return static_cast<std::int64_t>(std::floor(coordinate / SamePlace));
+        return static_cast<std::int64_t>(std::floor(coordinate / CellSize));
     }
 
-    static std::uint64_t Key(std::int64_t column, std::int64_t row) {
-        return static_cast<std::uint64_t>(column) * 0x9E3779B97F4A7C15U ^
-               static_cast<std::uint64_t>(row) * 0xC2B2AE3D27D4EB4FU;
+    /// The last place of the chain of a cell.
+    std::size_t& HeadOf(std::int64_t column, std::int64_t row) {
+        const std::uint64_t key = static_cast<std::uint64_t>(column) * 0x9E3779B97F4A7C15U ^
+                                  static_cast<std::uint64_t>(row) * 0xC2B2AE3D27D4EB4FU;
+        return heads_[(key ^ key >> 32U) & (heads_.size() - 1)];
     }
 
     std::vector<C3DPoint>& places_;
-    std::unordered_multimap<std::uint64_t, std::size_t> cells_;
+    std::vector<std::size_t> heads_;
+    std::vector<std::size_t> next_;  ///< by place: the one before it in its chain
 };
+
+/// The nodes at the start and at the end of each curve; those of one without length do not count.
+std::vector<std::pair<std::size_t, std::size_t>> EndsOf(const PieceCurves& curves,
+                                                        std::vector<C3DPoint>& places) {
+    Places known(places, 2 * curves.size());
+    std::vector<std::pair<std::size_t, std::size_t>> ends;
+    ends.reserve(curves.size());
+    for (const PieceCurve& own : curves) {
+        const bool isThere = LengthOf(own.curve) > SamePlace;
+        const std::size_t a = isThere ? known.NumberOf(own.curve.start) : 0;
+        ends.emplace_back(a, isThere ? known.NumberOf(own.curve.end) : 0);
+    }
+    return ends;
+}
 
 /// Whether the curve may come as near as SamePlace to a point in the box.
 bool Reaches(const CutCurve& curve, const Bounds& ofCurve, const Bounds& box) {
@@ -73,11 +102,11 @@ class Divider {
         double from = 0;
         std::size_t last = a;
         for (const auto& [part, node] : on_) {
-            Add(curve, number, {from, part}, {last, node});
+            Add(number, {from, part}, {last, node});
             from = part;
             last = node;
         }
-        Add(curve, number, {from, 1}, {last, b});
+        Add(number, {from, 1}, {last, b});
     }
 
   private:
@@ -104,11 +133,9 @@ class Divider {
         std::sort(on_.begin(), on_.end());
     }
 
-    void Add(const CutCurve& curve, std::size_t number, std::pair<double, double> parts,
-             std::pair<std::size_t, std::size_t> ends) {
-        const auto whole = parts.first == 0 && parts.second == 1;
-        const CutCurve shape = whole ? curve : SectionOf(curve, parts.first, parts.second);
-        nodes_.stretches.push_back({shape, number, ends.first, ends.second, nodes_.stretches.size()});
+    void Add(std::size_t number, std::pair<double, double> parts, std::pair<std::size_t, std::size_t> ends) {
+        nodes_.stretches.push_back(
+            {parts.first, parts.second, number, ends.first, ends.second, nodes_.stretches.size()});
     }
 
     CutNodes& nodes_;
@@ -117,7 +144,7 @@ class Divider {
 };
 
 /// Finds for each stretch the first one with the same ends and the same middle.
-void FindSame(std::vector<CutStretch>& stretches) {
+void FindSame(const PieceCurves& curves, std::vector<CutStretch>& stretches) {
     std::vector<std::pair<std::pair<std::size_t, std::size_t>, std::size_t>> byEnds;  // and by number
     byEnds.reserve(stretches.size());
     for (std::size_t i = 0; i < stretches.size(); ++i) {
@@ -130,9 +157,9 @@ void FindSame(std::vector<CutStretch>& stretches) {
         if (k == 0 || byEnds[k].first != byEnds[k - 1].first) {
             known.clear();
         }
-        const C3DPoint middle = PointAt(stretches[i].shape, 0.5);
+        const C3DPoint middle = PointAt(ShapeOf(curves, stretches[i]), 0.5);
         const auto same = std::find_if(known.begin(), known.end(), [&](std::size_t other) {
-            return DistanceOf(stretches[other].shape, middle) <= SamePlace;
+            return DistanceOf(ShapeOf(curves, stretches[other]), middle) <= SamePlace;
         });
         if (same != known.end()) {
             stretches[i].same = *same;
@@ -144,24 +171,22 @@ void FindSame(std::vector<CutStretch>& stretches) {
 
 }  // namespace
 
+CutCurve ShapeOf(const PieceCurves& curves, const CutStretch& stretch) {
+    const CutCurve& curve = curves[stretch.curve].curve;
+    return stretch.IsWhole() ? curve : SectionOf(curve, stretch.from, stretch.to);
+}
+
 CutNodes NodesOf(const PieceCurves& curves) {
     CutNodes nodes;
     nodes.stretches.reserve(curves.size());
-    Places places(nodes.places);
-    std::vector<std::pair<std::size_t, std::size_t>> ends;
-    ends.reserve(curves.size());
-    for (const PieceCurve& own : curves) {
-        const bool isThere = LengthOf(own.curve) > SamePlace;
-        const std::size_t a = isThere ? places.NumberOf(own.curve.start) : 0;
-        ends.emplace_back(a, isThere ? places.NumberOf(own.curve.end) : 0);
-    }
+    const auto ends = EndsOf(curves, nodes.places);
     Divider divider(nodes);
     for (std::size_t i = 0; i < curves.size(); ++i) {
         if (LengthOf(curves[i].curve) > SamePlace) {
             divider.Divide(curves[i].curve, i, ends[i].first, ends[i].second);
         }
     }
-    FindSame(nodes.stretches);
+    FindSame(curves, nodes.stretches);
     return nodes;
 }
 

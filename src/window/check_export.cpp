@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 #include "core/constants.h"
 #include "core/fitting_surfaces.h"
@@ -99,11 +100,11 @@ std::optional<ExportCheck> CheckExport(const CFittingWindow& window, const CDXF&
     if (!drawing.Pattern || !drawing.OutlinesRequested || !window.fitting) {
         return std::nullopt;
     }
-    const PieceCurves lines = LinesOf(drawing);
+    PieceCurves lines = LinesOf(drawing);
     ExportCheck check;
-    check.cut = CheckCutFile(drawing.SurfaceList, lines, drawing.PolyMode == ArcEdges);
     check.finerSegs = std::min(FinerTimes * window.fitting->Inputs().segs, MaxSegs);
     check.fromFiner = DistanceFromMoreSegments(window, drawing, lines, check.finerSegs);
+    check.cut = CheckCutFile(drawing.SurfaceList, std::move(lines), drawing.PolyMode == ArcEdges);
     return check;
 }
 
