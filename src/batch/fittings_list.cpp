@@ -63,7 +63,7 @@ class Records {
         while (end < rest_.size() && rest_[end] != mark_ && rest_[end] != '\n' && rest_[end] != '\r') {
             ++end;
         }
-        const std::string cell(Trimmed(rest_.substr(0, end)));
+        std::string cell(Trimmed(rest_.substr(0, end)));
         rest_.remove_prefix(end);
         return cell;
     }

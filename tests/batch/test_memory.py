@@ -13,10 +13,15 @@ SCARCE = 400 * MEBIBYTE  # enough for the program and a small fitting
 
 
 class MemoryTest(FolderTest):
-    def run_within(self, limit, *words):
+    def run_within(self, limit, *words, stack=None):
+        def limit_it():
+            resource.setrlimit(resource.RLIMIT_AS, (limit, limit))
+            if stack:
+                resource.setrlimit(resource.RLIMIT_STACK, (stack, stack))
+
         result = subprocess.run([PROGRAM, *words], cwd=self.folder, stdin=subprocess.DEVNULL, capture_output=True,
                                 check=False, timeout=300, env=environment_of(),
-                                preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_AS, (limit, limit)))
+                                preexec_fn=limit_it)
         return result.returncode, result.stderr.decode()
 
     def test_no_memory_ends_one_input(self):
@@ -33,6 +38,18 @@ class MemoryTest(FolderTest):
         self.assertEqual([report["refused"] for report in reports], [False, True, False])
         self.assertTrue((self.folder / "first.dxf").exists() and (self.folder / "last.dxf").exists())
         self.assertFalse((self.folder / "bend.dxf").exists())
+
+    def test_fewer_threads_do_the_work_too(self):
+        """A thread takes a gigabyte for its stack here: the system gives none, or two of the six."""
+        names = [f"cone{number}.Kvt" for number in range(8)]
+        for name in names:
+            self.write(name, cone_file())
+        gibibyte = 1024 * MEBIBYTE
+        for limit in (gibibyte, 3 * gibibyte):
+            self.assertEqual(self.run_within(limit, *names, "--jobs", "6", "--json", "out.json", stack=gibibyte),
+                             (DONE, ""))
+            reports = read_json((self.folder / "out.json").read_text())
+            self.assertEqual([report["refused"] for report in reports], [False] * len(names))
 
     def test_a_document_that_the_memory_ends_in_ends_one_input(self):
         """From where a small fitting has room, up to where a large one has."""
