@@ -77,7 +77,7 @@ void CObjectDisplay::Show(Pass pass, Shown what) {
         picture.emplace(*DisplayDevice);
     }
     DrawingRecord* const device = picture ? &*picture : nullptr;
-    if (NewDrawing(device, {}).CanDraw()) {
+    if (device != nullptr && NewDrawing(device, {}).CanDraw()) {
         pass.window = FitScaleWindow(pass.view, pass.worldExtents, DisplayDevice->OuterSize());
     }
     if (Overlay && pass.view.Patternview && what != Shown::AsItIs) {

@@ -95,7 +95,8 @@ DxfMesh ReadDxfMesh(std::string_view text) {
         return found;
     }
     // A count that the rest of the file can't hold must not be made room for; its last line may lack its end.
-    if (*columns > static_cast<double>((lines.BytesLeft() + 1) / (2 * LeastVertex))) {
+    const std::size_t mostColumns = (lines.BytesLeft() + 1) / (2 * LeastVertex);
+    if (*columns > static_cast<double>(mostColumns)) {
         found.fault = lines.Here() + "the file is too short for the vertices of the mesh";
         return found;
     }

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <ranges>
 
 #include "core/constants.h"
 #include "core/number_text.h"
@@ -189,9 +190,9 @@ void CMainFrame::RemoveAll() {
     leaving_ = std::move(children_);
     children_.clear();
     active_ = nullptr;
-    for (auto window = leaving_.rbegin(); window != leaving_.rend(); ++window) {
-        (*window)->closed = true;
-        desktop_.RemoveWindow(**window);
+    for (const auto& window : leaving_ | std::views::reverse) {
+        window->closed = true;
+        desktop_.RemoveWindow(*window);
     }
     active_ = nullptr;
     context_.frame.statusText.clear();

@@ -19,11 +19,11 @@ bool CanBeWritten(const QString& folder) {
 }
 
 QString FolderOf(const std::string& programFolder, const std::string& userFolder) {
-    const QString program = QString::fromStdString(programFolder);
+    QString program = QString::fromStdString(programFolder);
     if (!program.isEmpty() && CanBeWritten(program)) {
         return program;
     }
-    const QString user = QString::fromStdString(userFolder);
+    QString user = QString::fromStdString(userFolder);
     QDir().mkpath(user);  // where that fails, so does the first file
     return user;
 }

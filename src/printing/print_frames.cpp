@@ -38,9 +38,12 @@ double CountFrames(double start, double end, double size) {
 /// Goes from one multiple of the ruler's step above `start` to the next, up to `limit`.
 template <typename Tick>
 void ForEachTick(double start, double limit, double step, Tick tick) {
+    double at = start + step;
     double distance = step;
-    for (double at = start + step; at <= limit; at += step, distance += step) {
+    while (at <= limit) {
         tick(at, distance);
+        at += step;
+        distance += step;
     }
 }
 

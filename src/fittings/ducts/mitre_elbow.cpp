@@ -21,7 +21,7 @@ constexpr double Rounding = 1e-12;
 using Stations = std::array<std::size_t, 3>;
 
 PointList PointsAt(const C3DPoints& line, const Stations& stations) {
-    const auto points = std::make_shared<C3DPoints>();
+    auto points = std::make_shared<C3DPoints>();
     for (const std::size_t station : stations) {
         points->Add(line.Item(station));
     }
