@@ -14,6 +14,9 @@ void Claims::Claim(const std::string& path, const std::string& owner, std::size_
     std::error_code ignored;
     // A link to a file that is still to be made leads there all the same.
     fs::path whole = fs::weakly_canonical(FollowLinks(path), ignored);
+    if (whole.empty()) {  // a name that can't be followed is told of where the file is opened
+        whole = fs::absolute(path, ignored).lexically_normal();
+    }
     if (fs::exists(whole, ignored)) {
         if (!fs::is_regular_file(whole, ignored)) {
             return;
@@ -22,7 +25,9 @@ void Claims::Claim(const std::string& path, const std::string& owner, std::size_
     }
     const auto [place, isNew] = claims_.try_emplace(whole.string(), owner, input);
     auto& [firstOwner, firstInput] = place->second;
-    if (firstOwner != owner || (firstInput != Reader && input != Reader && firstInput != input)) {
+    const bool areRead = firstInput == Reader && input == Reader;
+    const bool areOfOne = firstInput == Reader || input == Reader || firstInput == input;
+    if (!areRead && (firstOwner != owner || !areOfOne)) {
         throw UsageError("\"" + path + "\" cannot be " + firstOwner + " and " + owner +
                          "; {name} in the name of an output stands for the name of its input");
     }

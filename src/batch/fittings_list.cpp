@@ -177,7 +177,7 @@ std::vector<BatchInput> ReadFittingsList(std::string_view text, const std::strin
     for (bool isFirst = true; records.Next(record); isFirst = false) {
         const bool isEmpty = std::all_of(record.cells.begin(), record.cells.end(),
                                          [](const std::string& cell) { return cell.empty(); });
-        if (isEmpty || (isFirst && NamesTheColumns(record.cells))) {
+        if ((isEmpty && !record.isTorn) || (isFirst && NamesTheColumns(record.cells))) {
             continue;
         }
         BatchInput input = {

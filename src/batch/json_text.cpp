@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <optional>
 #include <utility>
 
@@ -130,7 +131,7 @@ std::string CountsJson(const std::vector<std::pair<std::string_view, std::size_t
 }
 
 std::string NumberJson(std::string_view name, const std::optional<double>& value) {
-    return ", " + Quoted(name) + ": " + (value ? ShortestText(*value) : "null");
+    return ", " + Quoted(name) + ": " + (value && std::isfinite(*value) ? ShortestText(*value) : "null");
 }
 
 void PutCheck(Gathered& text, const ExportCheck& check) {

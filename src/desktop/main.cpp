@@ -9,6 +9,7 @@
 #include "desktop/frame/application.h"
 #include "desktop/program_style.h"
 #include "platform/file_requests.h"
+#include "platform/standard_streams.h"
 
 namespace {
 
@@ -26,6 +27,7 @@ QStringList WholeNames(QStringList files) {
 
 int main(int argc, char** argv) {
     using namespace korvet;
+    HoldStandardStreams();
     QStringList given;
     for (int i = 1; i < argc; ++i) {
         given.append(QString::fromLocal8Bit(argv[i]));

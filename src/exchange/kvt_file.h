@@ -105,7 +105,7 @@ struct CKvtFile {
     /// HeaderError and ParameterFileError.
     void LoadFile(const FileStore& files, int defaultSegs);
 
-    /// The same from the text of a file.
+    /// The same from the text of a file. What is wrong in one of a later version names that version.
     void Parse(const std::string& text, int defaultSegs);
 
     /// Sees to it that the bytes can be loaded into a file with the controls and sections of this one. Throws

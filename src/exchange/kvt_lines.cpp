@@ -27,7 +27,7 @@ double Snapped(double value) {
 
 std::string QuotedLine(std::string_view line) {
     constexpr std::size_t LongestQuote = 60;
-    return '"' + std::string(Beginning(line, LongestQuote)) + '"';
+    return '"' + Printable(Beginning(line, LongestQuote)) + '"';
 }
 
 std::string_view KvtLines::ReadLine() {

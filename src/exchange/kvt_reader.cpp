@@ -1,7 +1,14 @@
 #include <algorithm>
+#include <charconv>
+#include <cmath>
 #include <limits>
+#include <string_view>
+#include <system_error>
+#include <vector>
 
 #include "core/constants.h"
+#include "core/number_text.h"
+#include "core/rule_surf.h"
 #include "core/text_encoding.h"
 #include "exchange/kvt_file.h"
 #include "exchange/kvt_lines.h"
@@ -102,13 +109,24 @@ void ReadOptions(KvtLines& lines, const std::string& name,
     }
 }
 
+/// A place that the pattern is turned about or moved to. Farther out its coordinates would lose their places.
+C3DPoint ReadPlace(KvtLines& lines) {
+    const C3DPoint place = lines.ReadPoint();
+    for (const double coordinate : {place.x, place.y, place.z}) {
+        if (std::fabs(coordinate) > LargestSize) {
+            lines.RefuseLine("the point lies beyond " + NumberText(LargestSize));
+        }
+    }
+    return place;
+}
+
 void ReadPlacement(KvtLines& lines, CKvtFile& file) {
     lines.SkipTo("Start Rotation");
-    file.RotationPoint = lines.ReadPoint();
+    file.RotationPoint = ReadPlace(lines);
     file.RotationAngle = lines.ReadNumber();
     lines.SkipTo("Start Move");
-    file.MovePoint1 = lines.ReadPoint();
-    file.MovePoint2 = lines.ReadPoint();
+    file.MovePoint1 = ReadPlace(lines);
+    file.MovePoint2 = ReadPlace(lines);
 }
 
 void ReadRequests(KvtLines& lines, CKvtFile& file) {
@@ -206,6 +224,42 @@ void ReadMesh(KvtLines& lines, ImportedMesh& mesh) {
     mesh.DXFMeshOK = true;
 }
 
+/// All that follows the header.
+void ReadSections(KvtLines& lines, CKvtFile& file) {
+    ReadView(lines, file);
+    ReadSettings(lines, file);
+    ReadParameters(lines, file);
+    KvtControls& controls = file.Controls;
+    ReadOptions(lines, "Angle Option Buttons", {&controls.optTopAngle, &controls.optBaseAngle});
+    ReadOptions(lines, "Pattern Select Option Buttons", {&controls.optPatternSelect});
+    ReadOptions(lines, "Flush Side Option Buttons", {&controls.optFlushSide});
+    ReadPlacement(lines, file);
+    ReadRequests(lines, file);
+    ReadLabel(lines, file);
+    ReadDimensions(lines, file);
+    ReadComments(lines, file);
+    file.BranchMissing = file.Branch && !ReadBranchMaterial(lines, file.PatternSettings, *file.Branch);
+    if (file.Mesh) {
+        ReadMesh(lines, *file.Mesh);
+    }
+}
+
+/// The numbers of a version between its points, 0 for what is none.
+std::vector<int> VersionNumbers(std::string_view version) {
+    std::vector<int> numbers;
+    while (true) {
+        const std::size_t point = std::min(version.find('.'), version.size());
+        int number = 0;
+        const auto end = std::from_chars(version.data(), version.data() + point, number);
+        numbers.push_back(end.ec == std::errc::result_out_of_range ? std::numeric_limits<int>::max()
+                                                                   : number);
+        if (point == version.size()) {
+            return numbers;
+        }
+        version.remove_prefix(point + 1);
+    }
+}
+
 }  // namespace
 
 void CKvtFile::ParseHeader(const std::string& text) {
@@ -223,20 +277,14 @@ void CKvtFile::Parse(const std::string& text, int defaultSegs) {
     PatternSettings.segs = defaultSegs;
     ViewPoint = CViewPoint();
     korvet::ReadHeader(lines, *this);
-    ReadView(lines, *this);
-    ReadSettings(lines, *this);
-    ReadParameters(lines, *this);
-    ReadOptions(lines, "Angle Option Buttons", {&Controls.optTopAngle, &Controls.optBaseAngle});
-    ReadOptions(lines, "Pattern Select Option Buttons", {&Controls.optPatternSelect});
-    ReadOptions(lines, "Flush Side Option Buttons", {&Controls.optFlushSide});
-    ReadPlacement(lines, *this);
-    ReadRequests(lines, *this);
-    ReadLabel(lines, *this);
-    ReadDimensions(lines, *this);
-    ReadComments(lines, *this);
-    BranchMissing = Branch && !ReadBranchMaterial(lines, PatternSettings, *Branch);
-    if (Mesh) {
-        ReadMesh(lines, *Mesh);
+    try {
+        ReadSections(lines, *this);
+    } catch (const ParameterFileError& error) {
+        if (IsOfLaterVersion()) {
+            throw ParameterFileError("the file is of the later version " + std::string(Excerpt(Version)) +
+                                     ", " + error.what());
+        }
+        throw;
     }
 }
 
@@ -253,11 +301,7 @@ void CKvtFile::RequireReadable(const std::string& bytes) const {
 }
 
 bool CKvtFile::IsOfLaterVersion() const {
-    std::string digits;
-    for (const int digit : {VersionNo, SubVersion, SubVersionIndex}) {
-        digits += (digits.empty() ? "" : ".") + std::to_string(digit);
-    }
-    return digits > ProgramVersion;
+    return VersionNumbers(Version) > VersionNumbers(ProgramVersion);
 }
 
 void CKvtFile::LoadFile(const FileStore& files, int defaultSegs) {

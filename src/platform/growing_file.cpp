@@ -43,6 +43,12 @@ bool IsStill(int opened, const fs::path& name) {
            here.st_ino == there.st_ino;
 }
 
+/// Whether what is opened is a file of one name: another one is not ours, and keeps what it holds.
+bool IsOneFile(int opened) {
+    struct ::stat here {};
+    return ::fstat(opened, &here) == 0 && S_ISREG(here.st_mode) && here.st_nlink == 1;
+}
+
 /// Opens the part and holds it. It is emptied only when it is certain that nobody else writes to it.
 OpenFile OpenPart(const std::string& path, const fs::path& part, int& held) {
     constexpr ::mode_t ForAll = 0666;
@@ -65,6 +71,9 @@ OpenFile OpenPart(const std::string& path, const fs::path& part, int& held) {
         }
         if (!IsStill(opened, part)) {
             continue;
+        }
+        if (!IsOneFile(opened)) {
+            CannotWrite(path, part.string() + " is in its way");
         }
         if (::ftruncate(opened, 0) != 0) {
             const std::error_code reason = LastError();

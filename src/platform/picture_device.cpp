@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <QSvgGenerator>
 #include <memory>
+#include <system_error>
+#include <thread>
 
 #include <png.h>
 
@@ -31,6 +33,15 @@ std::string PngOf(const QImage& image) {
     const bool written =
         png_image_write_to_memory(&png, bytes.get(), &size, 0, image.constBits(), stride, nullptr) != 0;
     return written ? std::string(bytes.get(), size) : std::string();
+}
+
+/// The toolkit draws large parts of a picture in threads, and waits for ever where the system gives none.
+void RequireThread() {
+    try {
+        const std::jthread trial([] {});
+    } catch (const std::system_error&) {
+        throw FileError("the system gives no thread to draw the picture with");
+    }
 }
 
 }  // namespace
@@ -108,6 +119,9 @@ class PictureDevice::Canvas {
 
 PictureDevice::PictureDevice(PictureFormat format, int width, int height)
     : canvas_(std::make_unique<Canvas>(format, width, height)) {
+    if (format == PictureFormat::Png) {
+        RequireThread();
+    }
     Cls(Black);
 }
 

@@ -40,7 +40,7 @@ template <typename Tick>
 void ForEachTick(double start, double limit, double step, Tick tick) {
     double at = start + step;
     double distance = step;
-    while (at <= limit) {
+    while (at <= limit && at < at + step) {  // far out a step changes nothing
         tick(at, distance);
         at += step;
         distance += step;

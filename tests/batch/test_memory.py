@@ -51,6 +51,13 @@ class MemoryTest(FolderTest):
             reports = read_json((self.folder / "out.json").read_text())
             self.assertEqual([report["refused"] for report in reports], [False] * len(names))
 
+    def test_a_picture_needs_a_thread(self):
+        gibibyte = 1024 * MEBIBYTE
+        self.write("a.Kvt", cone_file())
+        status, errors = self.run_within(gibibyte, "a.Kvt", "--png", "a.png", stack=gibibyte)
+        self.assertEqual(status, REFUSED)
+        self.assertIn("the system gives no thread", errors)
+
     def test_a_document_that_the_memory_ends_in_ends_one_input(self):
         """From where a small fitting has room, up to where a large one has."""
         step = 4 * MEBIBYTE

@@ -33,6 +33,35 @@ TEST(KvtReader, GivesBackEverything) {
     EXPECT_EQ(SplitLines(again.Compose('.')), FullFileLines);
 }
 
+TEST(KvtReader, AFaultInAFileOfALaterVersionNamesTheVersion) {
+    for (const std::string version : {"4.0.0", "3.10.0", "3.3.30", "10.0"}) {
+        KvtLines lines = WithLine(1, "Korvet Development-" + version);
+        lines.resize(12);
+        try {
+            (void)Parsed(lines);
+            ADD_FAILURE() << version;
+        } catch (const ParameterFileError& error) {
+            EXPECT_EQ(
+                std::string(error.what()).find("the file is of the later version " + version + ", line "), 0U)
+                << error.what();
+        }
+    }
+    for (const char* version : {"3.3.3", "3.3.2", "3.2.10", "2.14", "3", "x"}) {
+        CKvtFile file;
+        file.ParseHeader(JoinedLines(WithLine(1, std::string("Korvet Development-") + version)));
+        EXPECT_FALSE(file.IsOfLaterVersion()) << version;
+    }
+}
+
+TEST(KvtReader, AQuoteOfAFileEndsNoMessage) {
+    try {
+        (void)Parsed(WithLine(1, std::string("K\0o\0r", 5)));
+        ADD_FAILURE();
+    } catch (const ForeignProductError& error) {
+        EXPECT_EQ(std::string(error.what()).find("line 1: \"K?o?r\" is not "), 0U) << error.what();
+    }
+}
+
 TEST(KvtReader, AnAngleOfTheProgramComesBackToTheLastBit) {
     const CKvtFile file = Parsed(FullFileLines);
     EXPECT_EQ(file.ViewPoint.FromXY, QuarterTurn);
