@@ -348,12 +348,18 @@ void ReadOptionsFile(COptions& options, const FileStore& files, MessageBoxes& bo
 }
 
 void ReadIniFile(COptions& options, FileStore& files, MessageBoxes& boxes, char decimalMark) {
+    if (options.IniFileName.empty()) {
+        return;
+    }
     if (MakeIniFile(options, files, boxes, decimalMark) == Passed) {
         ReadOptionsFile(options, files, boxes);
     }
 }
 
 void SaveIniFile(const COptions& options, FileStore& files, char decimalMark) {
+    if (options.IniFileName.empty()) {
+        throw FileError("there is no folder that the settings can be kept in");
+    }
     if (files.Exists(options.IniFileName)) {
         const std::string bytes = BytesOf(options, files);
         if (!CanBeRead(bytes, options)) {

@@ -41,11 +41,12 @@ void ReadOptionsFile(COptions& options, const FileStore& files, MessageBoxes& bo
 /// `options` has; one that another version has written too, after message 116, and the old one is kept under
 /// its name with ".bak" behind, ".bak2" and so on when there is one. When that can't be done, a plain box
 /// says why and `options` keeps its values for this run. Programs that start at once lose nothing.
+/// Without a name there is nowhere to keep settings, and `options` stays as it is.
 void ReadIniFile(COptions& options, FileStore& files, MessageBoxes& boxes, char decimalMark);
 
 /// Writes the current values when the user asks for it. A file that this version can't read, as one that
-/// could not be kept at the start, is first kept as ReadIniFile would. Throws FileError; the file is then as
-/// it was.
+/// could not be kept at the start, is first kept as ReadIniFile would. Throws FileError, also where there is
+/// no name; the file is then as it was.
 void SaveIniFile(const COptions& options, FileStore& files, char decimalMark);
 
 /// Keeps the settings file under its name with ".bad" behind, ".bad2" and so on when there is one, and writes

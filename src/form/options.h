@@ -27,7 +27,8 @@ struct COptions {
     double PrintXCalibration = 1.0;
     double PrintYCalibration = 1.0;
     std::int16_t WindowState = -1;  ///< state for new fitting windows: -1 not known yet; not saved
-    std::string IniFileName;        ///< settings.ini in the folder that was current at the start
+    std::string IniFileName;        ///< settings.ini in the folder that was current at the start, or
+                                    ///< in the user's; empty where there is no place for one
 };
 
 }  // namespace korvet

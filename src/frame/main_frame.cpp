@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <ranges>
 
 #include "core/constants.h"
 #include "core/number_text.h"
@@ -190,10 +189,10 @@ void CMainFrame::RemoveAll() {
     leaving_ = std::move(children_);
     children_.clear();
     active_ = nullptr;
-    for (const auto& window : leaving_ | std::views::reverse) {
+    std::for_each(leaving_.rbegin(), leaving_.rend(), [this](const auto& window) {
         window->closed = true;
         desktop_.RemoveWindow(*window);
-    }
+    });
     active_ = nullptr;
     context_.frame.statusText.clear();
     (void)KeepCopies();

@@ -30,8 +30,8 @@ class CMainFrame {
     void Activate();
 
     /// Keeps copies of the windows that hold anything unsaved; to be called every few seconds. Refused when
-    /// one could not be written.
-    Outcome KeepCopies();
+    /// one could not be written, which is told once, as soon as the user `canBeTold`.
+    Outcome KeepCopies(bool canBeTold = true);
 
     /// Offers what an earlier run has left, once.
     void OfferCopies();
@@ -113,7 +113,7 @@ class CMainFrame {
 
     // Commands on the active fitting window that are more than a call of its member.
     void FileClose(CFittingWindow& child);
-    Outcome RequireSavable(CFittingWindow& child);
+    void Save(CFittingWindow& child, bool underNewName);
     void FileSave(CFittingWindow& child);
     void FileSaveAs(CFittingWindow& child);
     void ExportDxf(CFittingWindow& child);

@@ -13,6 +13,7 @@
 #include "window/armed_modes.h"
 #include "window/auto_cad.h"
 #include "window/export_fitting.h"
+#include "window/parameter_file.h"
 #include "window/saving.h"
 #include "window/transfer.h"
 #include "window/transfer_place.h"
@@ -154,35 +155,27 @@ void CMainFrame::FileClose(CFittingWindow& child) {
     (void)CloseChild(child);
 }
 
-/// What has been typed since the last build is built first: sizes that are refused ask for no name.
-Outcome CMainFrame::RequireSavable(CFittingWindow& child) {
-    return RefusedIf(child.RequireModel() || (child.edited && child.RequireBuild()));
+/// What is typed and not built is built before a name is asked for. Sizes that a build has refused are asked
+/// for again once something is mended. The caption is the name that later saves write to, and stays what it
+/// was unless the file was written.
+void CMainFrame::Save(CFittingWindow& child, bool underNewName) {
+    const bool isNew = child.views->Count() == 0 && child.saved;
+    const bool isToBuild = child.hasModel ? child.edited : !isNew && child.refused != StateOf(child);
+    if (isToBuild ? child.RequireBuild() : child.RequireModel()) {
+        return;
+    }
+    const auto path = underNewName || HasNoFile(child) ? ChooseSaveName(child) : child.controls.caption;
+    if (path) {
+        (void)(isToBuild ? SaveFitting(child, *path) : child.SaveFile(*path));
+    }
 }
 
 void CMainFrame::FileSave(CFittingWindow& child) {
-    if (RequireSavable(child)) {
-        return;
-    }
-    if (const auto path = HasNoFile(child) ? ChooseSaveName(child) : child.controls.caption) {
-        (void)child.SaveFile(*path);
-    }
+    Save(child, false);
 }
 
-/// The caption is the name that later saves write to, so it goes back to what it was unless the file was
-/// written.
 void CMainFrame::FileSaveAs(CFittingWindow& child) {
-    if (RequireSavable(child)) {
-        return;
-    }
-    const auto path = ChooseSaveName(child);
-    if (!path) {
-        return;
-    }
-    const std::string oldCaption = child.controls.caption;
-    child.controls.caption = *path;
-    if (child.SaveFile(*path)) {
-        child.controls.caption = oldCaption;
-    }
+    Save(child, true);
 }
 
 void CMainFrame::ExportDxf(CFittingWindow& child) {

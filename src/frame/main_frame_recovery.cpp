@@ -7,7 +7,7 @@
 namespace korvet {
 
 /// A failure is told once: the disk that is full now will be full in two seconds.
-Outcome CMainFrame::KeepCopies() {
+Outcome CMainFrame::KeepCopies(bool canBeTold) {
     if (!recovery_) {
         return Passed;
     }
@@ -15,7 +15,7 @@ Outcome CMainFrame::KeepCopies() {
         recovery_->Keep(children_);
         return Passed;
     } catch (const std::exception& error) {
-        if (!copiesFailed_) {
+        if (!copiesFailed_ && canBeTold) {
             copiesFailed_ = true;
             ShowPlain(context_.ui, "What is typed cannot be kept for the case that the program ends badly",
                       ReasonOf(error));

@@ -1,5 +1,6 @@
 #include "frame/start_up.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <system_error>
 
@@ -21,11 +22,30 @@ std::string IniFileOfCurrentFolder() {
     return error ? IniName : (folder / IniName).string();
 }
 
+constexpr std::size_t MostRead = std::size_t{16} * 1024 * 1024;
+
+/// Why what bears the name can be no settings file of ours; nothing when it may be one, or is not there.
+std::string WhyNoSettings(const std::filesystem::path& path) {
+    std::error_code error;
+    const std::filesystem::file_status status = std::filesystem::status(path, error);
+    if (!std::filesystem::exists(status)) {
+        return std::filesystem::is_symlink(path, error) ? path.string() + " is a link that leads nowhere"
+                                                        : "";
+    }
+    if (!std::filesystem::is_regular_file(status)) {
+        return path.string() + " is no file";
+    }
+    const std::uintmax_t size = std::filesystem::file_size(path, error);
+    return !error && size > MostRead ? path.string() + " belongs to another program" : "";
+}
+
 /// Why the settings can't be kept in the current folder; nothing when they can. A missing file is made.
 /// Throws FileError for a file that can't be read: it may hold the user's settings.
 std::string WhyNotInCurrentFolder(const WindowContext& context) {
-    constexpr std::size_t MostRead = std::size_t{16} * 1024 * 1024;
     const COptions& options = context.options;
+    if (std::string why = WhyNoSettings(options.IniFileName); !why.empty()) {
+        return why;
+    }
     if (context.files.Exists(options.IniFileName)) {
         const bool mayBeOurs = MayBeOptionsFile(context.files.Read(options.IniFileName, MostRead));
         return mayBeOurs ? "" : options.IniFileName + " belongs to another program";
@@ -38,7 +58,13 @@ std::string WhyNotInCurrentFolder(const WindowContext& context) {
     }
 }
 
-/// Finds the settings file, and tells in the status line when it is not the one of the current folder.
+bool IsThere(const WindowContext& context) {
+    const std::string& path = context.options.IniFileName;
+    return context.files.Exists(path) || !WhyNoSettings(path).empty();
+}
+
+/// Finds the settings file, and tells in the status line when it is not the one of the current folder. What
+/// is there already is left alone, also when there is no other place.
 void FindIniFile(WindowContext& context, const std::function<std::string()>& configurationFolder) {
     context.options.IniFileName = IniFileOfCurrentFolder();
     const std::string why = WhyNotInCurrentFolder(context);
@@ -49,6 +75,9 @@ void FindIniFile(WindowContext& context, const std::function<std::string()>& con
     if (!folder.empty()) {
         context.options.IniFileName = (std::filesystem::path(folder) / IniName).string();
         context.frame.statusText = why + "; the settings are in " + context.options.IniFileName;
+    } else if (IsThere(context)) {
+        context.options.IniFileName.clear();
+        context.frame.statusText = why + "; settings are kept for this run only";
     }
 }
 

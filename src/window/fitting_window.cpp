@@ -263,11 +263,7 @@ Outcome CFittingWindow::RequireBuild() {
 }
 
 Outcome CFittingWindow::SaveFile(const std::string& path) {
-    if (RequireModel()) {
-        return Refused;
-    }
-    UpdateFitting();
-    return SaveFitting(*this, path);
+    return RefusedIf(RequireModel() || UpdateUnlessCancelled() || SaveFitting(*this, path));
 }
 
 Outcome CFittingWindow::WriteTable(const std::string& path) {

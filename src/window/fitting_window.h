@@ -118,7 +118,7 @@ class CFittingWindow {
     /// build, when there is no model then.
     Outcome RequireBuild();
 
-    /// Updates and writes the parameter file; the caption becomes its path.
+    /// Updates, and unless that is cancelled writes the parameter file; the caption becomes its path.
     Outcome SaveFile(const std::string& path);
 
     /// Fills the window from a parameter file, shows it and zooms to it; the caption becomes its path.
@@ -234,12 +234,14 @@ class CFittingWindow {
 
     /// As it was last saved or loaded, or as a new one; nothing: all that it holds is yet to be saved.
     std::optional<SavedState> saved;
+    std::optional<SavedState> refused;  ///< what the last build refused, if it did
     std::optional<KnownFile> knownFile;
 
   private:
     void InitialiseFitting();
     void RevealBox(const TextBox& box);
     Outcome RequireMesh();
+    Outcome UpdateUnlessCancelled();
     void Rebuild();
     Outcome AddViewOfExtents();
     void BringIntoSight();

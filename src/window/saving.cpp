@@ -11,11 +11,11 @@
 namespace korvet {
 namespace {
 
-/// What is wrong with a file, behind its name; the errors of the disk name it themselves.
+/// What is wrong with a file, behind its name; the errors of the disk begin with it themselves.
 std::string FaultOf(const std::string& path, const std::exception& error) {
-    const std::string name = path + ": ";
     const std::string fault = ReasonOf(error);
-    return Printable(fault.starts_with(name) ? fault : name + fault);
+    const bool isNamed = dynamic_cast<const FileError*>(&error) != nullptr && fault.starts_with(path);
+    return Printable(isNamed ? fault : path + ": " + fault);
 }
 
 /// Asks before a file is replaced that is no longer as the window has read or written it.

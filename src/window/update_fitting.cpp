@@ -9,6 +9,7 @@
 #include "core/reason.h"
 #include "window/fitting_types.h"
 #include "window/fitting_window.h"
+#include "window/parameter_file.h"
 #include "window/views.h"
 #include "window/watched_work.h"
 #include "window/window_layout.h"
@@ -41,13 +42,23 @@ std::vector<FittingWarning> EachOnce(std::vector<FittingWarning> ofModel,
 }  // namespace
 
 void CFittingWindow::UpdateFitting() {
+    (void)UpdateUnlessCancelled();
+}
+
+Outcome CFittingWindow::UpdateUnlessCancelled() {
+    refused.reset();
     try {
         Rebuild();
     } catch (const WorkCancelled&) {
         hasModel = false;  // as after a build that fails, but there is nothing to tell
+        return Refused;
     } catch (const std::exception& error) {
         RefuseBuild(error);
     }
+    if (!hasModel) {
+        refused = StateOf(*this);
+    }
+    return Passed;
 }
 
 /// UpdateFitting without its message. Throws when the arithmetic ends, and when the user has cancelled it.

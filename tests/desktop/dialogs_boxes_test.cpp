@@ -73,6 +73,21 @@ class DialogBoxes : public QObject {
         }
     }
 
+    void LongWordsGoOnInTheNextLine() {
+        const std::string name = "/jobs/" + std::string(250, 'x') + ".Kvt";
+        WhenShown([&](QDialog& window) {
+            auto& box = static_cast<QMessageBox&>(window);
+            QCOMPARE(box.text().remove(QChar(0x200B)), QString::fromStdString("Saved to " + name));
+            QCOMPARE(box.informativeText(), QStringLiteral("short words"));
+            QVERIFY(box.width() < 800);
+            for (const auto* label : box.findChildren<QLabel*>()) {
+                QVERIFY(label->width() >= label->minimumSizeHint().width());
+                QVERIFY(label->height() >= label->heightForWidth(label->width()));
+            }
+        });
+        desk_.ui.Show({.text = "Saved to " + name, .style = PlainBox, .title = "t", .detail = "short words"});
+    }
+
     void EachButtonIsItsAnswer() {
         QStringList texts;
         AnswerNextBox(texts, QMessageBox::Yes);

@@ -219,6 +219,19 @@ TEST(MainFrameCommandsTest, SizesThatAreNotBuiltYetAreSaved) {
     }
 }
 
+TEST(MainFrameCommandsTest, RefusedSizesAreSavedOnceTheyAreMended) {
+    for (const std::string_view menu : {"mnuFileSave", "mnuFileSaveAs"}) {
+        const auto rig = Ready(FrameState::Invalid, menu);
+        rig->frame.RunMenu(menu);
+        EXPECT_EQ(rig->Said(), NotNow);
+        rig->frame.ActiveChild()->ChangeBox(4, "110");
+        rig->Forget();
+        rig->frame.RunMenu(menu);
+        EXPECT_EQ(rig->Said(), "");
+        EXPECT_EQ(rig->Did(), Saves) << "and built once";
+    }
+}
+
 TEST(MainFrameCommandsTest, BarsComeBackAtTheSecondClick) {
     const auto rig = Ready(FrameState::NoChild, "");
     for (const std::string_view menu : {"mnuViewToolbar", "mnuViewStatusBar"}) {

@@ -160,6 +160,35 @@ TEST_F(MainFrameStartTest, AFileOfAnotherProgramIsLeftAlone) {
     EXPECT_FALSE(shell.files.files.contains(ini + ".bak"));
 }
 
+TEST_F(MainFrameStartTest, AFileOfAnotherProgramIsLeftAloneWithoutAnotherPlaceToo) {
+    shell.files.files[ini] = "[General]\nvolume=11\n";
+    configurationFolder.clear();
+    EXPECT_EQ(Start(), Passed);
+    EXPECT_TRUE(shell.ui.messages.empty());
+    EXPECT_TRUE(shell.files.writes.empty());
+    EXPECT_EQ(shell.frame.statusText,
+              ini + " belongs to another program; settings are kept for this run only");
+    EXPECT_THROW(SaveIniFile(shell.options, shell.files, '.'), FileError);
+}
+
+TEST_F(MainFrameStartTest, WhatIsNoFileIsNotOurs) {
+    const std::filesystem::path before = std::filesystem::current_path();
+    const std::filesystem::path folder = std::filesystem::path(testing::TempDir()) / "korvet-start";
+    std::filesystem::remove_all(folder);
+    std::filesystem::create_directories(folder / "settings.ini");
+    std::filesystem::current_path(folder);
+    EXPECT_EQ(Start(), Passed);
+    EXPECT_EQ(shell.options.IniFileName, iniOfUser);
+    EXPECT_NE(shell.frame.statusText.find("is no file; the settings are in"), std::string::npos);
+    std::filesystem::remove(folder / "settings.ini");
+    std::filesystem::create_symlink("gone", folder / "settings.ini");
+    EXPECT_EQ(Start(), Passed);
+    EXPECT_EQ(shell.options.IniFileName, iniOfUser);
+    EXPECT_NE(shell.frame.statusText.find("is a link that leads nowhere"), std::string::npos);
+    std::filesystem::current_path(before);
+    std::filesystem::remove_all(folder);
+}
+
 TEST_F(MainFrameStartTest, AnOldFileInAFolderThatCannotBeWrittenToIsOurs) {
     shell.files.files[ini] = "3.a\r\n";
     shell.files.unwritable = {ini, ini + ".bak"};

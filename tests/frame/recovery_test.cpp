@@ -115,6 +115,8 @@ TEST_F(RecoveryTest, ADiskThatIsFullIsToldOnce) {
     OpenCone().ChangeBox(3, "300");
     OpenCone().ChangeBox(3, "310");
     store.full = true;
+    EXPECT_EQ(frame.KeepCopies(false), Refused);
+    EXPECT_TRUE(rig.shell.ui.messages.empty()) << "in the middle of work";
     EXPECT_EQ(frame.KeepCopies(), Refused);
     EXPECT_EQ(frame.KeepCopies(), Refused);
     ASSERT_EQ(rig.shell.ui.messages.size(), 1U);

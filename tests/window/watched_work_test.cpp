@@ -85,6 +85,17 @@ TEST_F(WatchedWorkTest, AFileWhosePictureIsCancelledLeavesANewWindow) {
     EXPECT_TRUE(shell.ui.messages.empty());
 }
 
+TEST_F(WatchedWorkTest, ACancelledSaveLeavesTheOldFile) {
+    const auto window = OpenBend();
+    window->ClickView(PatternButton);
+    shell.files.files["a.Kvt"] = "old";
+    WaitImpatiently(false);
+    EXPECT_EQ(window->SaveFile("a.Kvt"), Refused);
+    EXPECT_EQ(shell.files.files["a.Kvt"], "old");
+    EXPECT_FALSE(window->hasModel);
+    EXPECT_FALSE(window->refused) << "so that a save builds it again";
+}
+
 TEST_F(WatchedWorkTest, ACancelledExportLeavesTheOldFile) {
     const auto window = OpenBend();
     window->ClickView(PatternButton);

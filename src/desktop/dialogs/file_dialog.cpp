@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "desktop/bindings.h"
+#include "desktop/dialogs/message_box.h"
 
 namespace korvet::desktop {
 namespace {
@@ -68,14 +69,15 @@ bool MayWrite(QWidget& parent, const QString& path) {
     box.setIcon(QMessageBox::Warning);
     box.setTextFormat(Qt::PlainText);
     if (!file.dir().exists()) {
-        box.setText(QStringLiteral("The folder %1 does not exist.").arg(file.absolutePath()));
+        box.setText(TextInLines(QStringLiteral("The folder %1 does not exist.").arg(file.absolutePath())));
         box.exec();
         return false;
     }
     if (!file.exists()) {
         return true;
     }
-    box.setText(QStringLiteral("%1 already exists.\nDo you want to replace it?").arg(file.fileName()));
+    box.setText(
+        TextInLines(QStringLiteral("%1 already exists.\nDo you want to replace it?").arg(file.fileName())));
     box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
     box.setDefaultButton(QMessageBox::No);
     return box.exec() == QMessageBox::Yes;

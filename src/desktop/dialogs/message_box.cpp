@@ -76,12 +76,23 @@ void LeaveRoomForTitle(QMessageBox& box) {
     }
 }
 
-/// A text with the line breaks of the toolkit.
-QString TextInLines(const std::string& text) {
-    return Text(text).replace(QLatin1String("\r\n"), QLatin1String("\n"));
-}
-
 }  // namespace
+
+QString TextInLines(QString text) {
+    constexpr int LongestWord = 60;
+    constexpr char16_t Break = 0x200B;
+    QString lines;
+    int length = 0;
+    for (const QChar unit : text.replace(QLatin1String("\r\n"), QLatin1String("\n"))) {
+        length = unit.isSpace() ? 0 : length + 1;
+        if (length > LongestWord && !unit.isLowSurrogate() && !unit.isMark()) {
+            lines += QChar(Break);
+            length = 1;
+        }
+        lines += unit;
+    }
+    return lines;
+}
 
 Answer RunMessageBox(QWidget* parent, const MessageBox& message) {
     QMessageBox box(parent);
@@ -89,8 +100,8 @@ Answer RunMessageBox(QWidget* parent, const MessageBox& message) {
     box.setWindowTitle(Text(message.title));
     box.setIcon(IconOf(message.style));
     box.setTextFormat(Qt::PlainText);
-    box.setText(TextInLines(message.text));
-    box.setInformativeText(TextInLines(message.detail));
+    box.setText(TextInLines(Text(message.text)));
+    box.setInformativeText(TextInLines(Text(message.detail)));
     for (QLabel* label : box.findChildren<QLabel*>()) {
         label->setTextFormat(Qt::PlainText);
     }

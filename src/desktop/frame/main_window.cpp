@@ -77,7 +77,8 @@ MainWindow::MainWindow(WindowContext& context, HelpViewer& help, SettingsStore& 
     area_->setActivationOrder(QMdiArea::ActivationHistoryOrder);  // Ctrl+Tab goes by the last use
     setCentralWidget(area_);
     connect(area_, &QMdiArea::subWindowActivated, this, &MainWindow::TakeActive);
-    connect(copying_, &QTimer::timeout, this, [this] { (void)frame_.KeepCopies(); });
+    // A box in the middle of work would lie over its Cancel.
+    connect(copying_, &QTimer::timeout, this, [this] { (void)frame_.KeepCopies(!IsBusy()); });
     MakeMenus();
     MakeToolBar();
     MakeStatusBar();
